@@ -1,0 +1,24 @@
+# The warnings every target of ours is built with; linked PRIVATE, so that no consumer inherits them.
+# Errors only where a preset asks for it (VASKER_WARNINGS_AS_ERRORS), never for packagers.
+option(VASKER_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+
+add_library(vasker_warnings INTERFACE)
+target_compile_options(
+    vasker_warnings
+    INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
+              -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion -Wimplicit-fallthrough
+              $<$<BOOL:${VASKER_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# Qt code: no implicit texts from bytes, no keyword macros.
+add_library(vasker_qt_rules INTERFACE)
+target_compile_definitions(vasker_qt_rules INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                                                     QT_NO_KEYWORDS)
+
+# A target's code that Qt's tools generate is not ours to mend.
+function(vasker_quiet_generated_code target)
+    foreach(generated IN ITEMS ${target}_qmlcache ${target}plugin ${target}plugin_init)
+        if(TARGET ${generated})
+            target_compile_options(${generated} PRIVATE -w)
+        endif()
+    endforeach()
+endfunction()

@@ -1,0 +1,16 @@
+#pragma once
+// Records to JSON: every field under its key, in the order of the fields; an absent company has no
+// key. Numbers are written so that they read back to the same value. Compact, UTF-8, no BOM.
+
+#include "data/OpenMapRelease.h"
+
+#include <string>
+
+namespace vasker {
+
+[[nodiscard]] std::string encode(const OpenMapRelease& release);
+[[nodiscard]] std::string encode(const OpenMapRelease::Source& source);
+[[nodiscard]] std::string encode(const OpenMapRelease::Asset& asset);
+[[nodiscard]] std::string encode(const OpenMapRelease::Fact& fact);
+
+} // namespace vasker

@@ -1,0 +1,39 @@
+#pragma once
+// What the catalogue and the map show: a loaded release and the records of it that pass the filter.
+// A small immutable value; copies share the data.
+
+#include "data/ReleaseIndex.h"
+#include "map/geometry/Camera.h"
+#include "map/records/RecordGeometry.h"
+
+#include <QMetaType>
+#include <QtQmlIntegration>
+
+#include <memory>
+#include <vector>
+
+namespace vasker {
+
+/// A release with everything that views need of it, made in the load task.
+struct LoadedRelease {
+    ReleaseIndex index;
+    RecordGeometry geometry;
+
+    explicit LoadedRelease(std::shared_ptr<const OpenMapRelease> release, TextLocale locale)
+        : index(release, std::move(locale)), geometry(*release) {}
+};
+
+struct RecordSet {
+    Q_GADGET
+    QML_VALUE_TYPE(recordSet)
+
+  public:
+    std::shared_ptr<const LoadedRelease> loaded;              ///< null before anything is loaded
+    std::shared_ptr<const std::vector<AssetIndex>> filtered;  ///< in name order; null with `loaded`
+
+    friend bool operator==(const RecordSet&, const RecordSet&) = default;
+};
+
+} // namespace vasker
+
+Q_DECLARE_METATYPE(vasker::CameraPosition)
