@@ -9,6 +9,7 @@ Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 int main(int argc, char* argv[]) {
     const QGuiApplication application(argc, argv);
     QQmlApplicationEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Vasker/App/Main.qml")));
     return QGuiApplication::exec();
 }
