@@ -1,9 +1,9 @@
 #pragma once
-// The records of one packaged release of the Canadian energy infrastructure map, and how its file is
-// loaded: whole and checked, or not at all.
+// The records of one packaged release of the Canadian energy infrastructure map, and how its file
+// is loaded: whole and checked, or not at all.
 //
-// All records are plain values that nobody changes after decode(); they may be read from any thread.
-// Texts are UTF-8. Coordinates are WGS-84 decimal degrees.
+// All records are plain values that nobody changes after decode(); they may be read from any
+// thread. Texts are UTF-8. Coordinates are WGS-84 decimal degrees.
 
 #include "data/Text.h"
 
@@ -25,8 +25,8 @@ struct OpenMapRelease {
     /// The fixed, user-facing message of a refusal.
     [[nodiscard]] static std::string_view errorDescription(Invalid invalid) noexcept;
 
-    /// A refusal as decode() throws it: what() is errorDescription(); place() says which rule failed
-    /// and where, for people who package releases
+    /// A refusal as decode() throws it: what() is errorDescription(); place() says which rule
+    /// failed and where, for people who package releases
     /// ("assets[12].routes[0][3]: longitude 200 is outside -180 to 180").
     class Refusal;
 

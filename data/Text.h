@@ -22,14 +22,16 @@ class TextLocale {
     std::string m_id; ///< without encoding and modifier
 };
 
-/// The number of extended grapheme clusters in `text`, or `limit + 1` as soon as it exceeds `limit`.
+/// The number of extended grapheme clusters in `text`, or `limit + 1` as soon as it exceeds
+/// `limit`.
 [[nodiscard]] std::size_t characterCount(std::string_view text, std::size_t limit);
 
 /// `text` without differences of letter case (full case folding in `locale`: dotted and dotless i
 /// in Turkish) and of canonical encoding; what containsFolded() compares.
 [[nodiscard]] std::string folded(std::string_view text, const TextLocale& locale);
 
-/// Whether `query` stands in `text`, both folded, as whole characters: "montre" is not in "montréal".
+/// Whether `query` stands in `text`, both folded, as whole characters: "montre" is not in
+/// "montréal".
 [[nodiscard]] bool containsFolded(std::string_view text, std::string_view query);
 
 /// The order of names in lists: locale-aware, case and width decide last, digit runs by value.

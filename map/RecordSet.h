@@ -28,8 +28,8 @@ struct RecordSet {
     QML_VALUE_TYPE(recordSet)
 
   public:
-    std::shared_ptr<const LoadedRelease> loaded;              ///< null before anything is loaded
-    std::shared_ptr<const std::vector<AssetIndex>> filtered;  ///< in name order; null with `loaded`
+    std::shared_ptr<const LoadedRelease> loaded;             ///< null before anything is loaded
+    std::shared_ptr<const std::vector<AssetIndex>> filtered; ///< in name order; null with `loaded`
 
     friend bool operator==(const RecordSet&, const RecordSet&) = default;
 };

@@ -19,7 +19,8 @@ struct MapPoint {
 };
 
 /// Side of the projected world in map points.
-inline constexpr double worldSize = 268'435'456.0; // 2^28: one map point is one pixel at zoom 20 of 256-px tiles
+inline constexpr double worldSize =
+    268'435'456.0; // 2^28: one map point is one pixel at zoom 20 of 256-px tiles
 
 /// The latitude at which the projected world becomes a square: atan(sinh(pi)), in degrees.
 inline constexpr double maximumLatitude = 85.051128779806604;
