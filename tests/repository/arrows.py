@@ -1,0 +1,169 @@
+#!/usr/bin/env python3
+"""The arrows between the folders: who may include whom, and which file alone knows a library.
+
+Reads every #include and every QML import below a root folder and prints one line for each that
+breaks a rule. The rules are the tables below; docs/architecture.md draws them.
+"""
+
+import re
+import sys
+from pathlib import Path
+
+FOLDERS = ("data", "platform", "map", "detail", "app", "tools", "bench", "fuzz", "tests")
+
+# What a folder may include. The innermost folder that a file stands in decides. A name that ends in
+# a stroke is a folder, any other the beginning of a header's name.
+ARROWS = {
+    "data/": {"data/"},
+    "platform/": {"platform/"},
+    "map/": {"map/", "data/", "platform/"},
+    "map/geometry/": {"map/geometry/"},
+    "map/basemap/": {"map/basemap/", "map/geometry/"},
+    "map/records/": {"map/records/", "map/RecordSet", "map/geometry/", "data/"},
+    "map/catalogue/": {"map/catalogue/", "map/RecordSet", "map/Symbols", "data/", "platform/"},
+    "detail/": {"detail/", "data/", "platform/"},
+    "app/": {"app/", "map/", "detail/", "data/", "platform/"},
+    "tools/": {"tools/", "data/"},
+    "bench/": {folder + "/" for folder in FOLDERS},
+    "fuzz/": {folder + "/" for folder in FOLDERS},
+    "tests/": {folder + "/" for folder in FOLDERS},
+}
+
+# The folders of the product; tests, tools and benches may look behind any curtain.
+PRODUCT = ("data/", "platform/", "map/", "detail/", "app/")
+
+# Headers that only some files of the product may include: pattern, who may, what to call it.
+PRIVATE_HEADERS = (
+    (r"simdjson", ("data/ReleaseReader",), "simdjson"),
+    (r"unicode/", ("data/Text",), "ICU"),
+    (r"openssl/", ("data/Digest",), "libcrypto"),
+    (r"uriparser/", ("data/WebAddress",), "the URL parser"),
+    (r"sqlite3", ("map/basemap/",), "SQLite"),
+    (r"protozero/", ("map/basemap/",), "protozero"),
+    (r"QSGNode$", ("map/scene/", "map/view/MapView", "platform/ui/Icon"), "the scene graph"),
+    # An icon is one picture in one tint: the stock node draws it.
+    (r"QSGImageNode$", ("map/scene/", "platform/ui/Icon"), "the scene graph"),
+    (
+        r"QSG(?!(Image)?Node$)|QRhi|private/(qsg|qrhi)|rhi/|QOpenGL|GL/|GLES|EGL/|vulkan/",
+        ("map/scene/",),
+        "the GPU",
+    ),
+)
+
+QT = re.compile(r"Q[A-Z]|Qt|private/q")
+STANDARD = re.compile(r"[a-z_0-9]+$")
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
+QML_IMPORT = re.compile(r'^\s*import\s+(?:"([^"]+)"|([A-Za-z][\w.]*))')
+QML_MODULE = re.compile(r"^\s*URI\s+([\w.]+)", re.MULTILINE)
+
+# Lines after which a file's job is looked at again; nothing has grown that far.
+MOST_LINES = {".qml": 150, ".cpp": 400, ".h": 400, ".vert": 400, ".frag": 400}
+
+
+def within(path, places):
+    """Whether the file at `path` stands in one of the folders or bears one of the names."""
+    return any(
+        path.startswith(place)
+        if place.endswith("/")
+        else re.fullmatch(re.escape(place) + r"\w*\.(h|cpp)", path)
+        for place in places
+    )
+
+
+def allowed_for(path):
+    """What the file at `path` may include."""
+    return ARROWS[max((room for room in ARROWS if path.startswith(room)), key=len)]
+
+
+def include_faults(root, path, own, system):
+    """What is wrong with one include of the file at `path`, in words."""
+    header = own or system
+    if own:
+        if own.endswith(".moc") or own.startswith("moc_"):
+            return
+        if not (root / own).is_file():
+            yield f'"{own}" is not a file, seen from the root of the repository'
+        elif not within(own, allowed_for(path)):
+            yield f'"{own}" is not below {path.rsplit("/", 1)[0]}'
+    if not path.startswith(PRODUCT):
+        return
+    for pattern, places, name in PRIVATE_HEADERS:
+        if re.match(pattern, header) and not within(path, places):
+            yield f"<{header}>: only {' and '.join(places)} may know {name}"
+    if system and path.startswith("data/") and QT.match(system):
+        yield f"<{system}>: data knows no Qt"
+    if system and path.startswith("map/geometry/") and not (
+        STANDARD.match(system) and not QT.match(system)
+    ):
+        yield f"<{system}>: map/geometry knows the standard library only"
+
+
+def qml_modules(root):
+    """The folder in which each of our QML modules is made."""
+    modules = {}
+    for folder in FOLDERS:
+        for recipe in sorted((root / folder).rglob("CMakeLists.txt")):
+            for uri in QML_MODULE.findall(recipe.read_text(encoding="utf-8")):
+                modules[uri] = recipe.parent.relative_to(root).as_posix()
+    return modules
+
+
+def import_faults(root, path, folder, module, modules):
+    """What is wrong with one import of the QML file at `path`, in words."""
+    if folder:
+        target = (root / path).parent.joinpath(folder).resolve()
+        if not target.is_relative_to(root) or not target.exists():
+            yield f'"{folder}" is not in the repository'
+            return
+        target = target.relative_to(root).as_posix()
+    elif module in modules:
+        target = modules[module]
+    elif module.startswith("Vasker."):
+        yield f"{module} is made nowhere"
+        return
+    else:
+        return
+    # A module may be wider than a room of it: all of map is one module.
+    if not path.startswith(target + "/") and not within(target + "/", allowed_for(path)):
+        yield f"{target} is not below {path.rsplit('/', 1)[0]}"
+
+
+def source_files(root):
+    for folder in FOLDERS:
+        for file in sorted((root / folder).rglob("*")):
+            if file.suffix in MOST_LINES and file.is_file():
+                yield file
+
+
+def faults(root):
+    """Every broken rule below `root`: (path, line number, what is wrong)."""
+    root = Path(root).resolve()
+    modules = qml_modules(root)
+    for file in source_files(root):
+        path = file.relative_to(root).as_posix()
+        lines = file.read_text(encoding="utf-8").splitlines()
+        if len(lines) > MOST_LINES[file.suffix]:
+            yield path, len(lines), f"longer than {MOST_LINES[file.suffix]} lines: split its job"
+        for number, line in enumerate(lines, start=1):
+            if file.suffix == ".qml":
+                found = QML_IMPORT.match(line)
+                wrong = found and import_faults(root, path, *found.groups(), modules)
+            else:
+                found = INCLUDE.match(line)
+                wrong = found and include_faults(root, path, *found.groups())
+            for what in wrong or ():
+                yield path, number, what
+
+
+def main():
+    root = Path(sys.argv[1])
+    if not any(source_files(root)):
+        sys.exit(f"no sources below {root}")
+    broken = [f"{path}:{number}: {what}" for path, number, what in faults(root)]
+    print("\n".join(broken))
+    sys.exit(1 if broken else 0)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,159 @@
+#!/usr/bin/env python3
+"""Small made-up trees, to see that a broken arrow is found and a whole one is not."""
+
+import tempfile
+import unittest
+from pathlib import Path
+
+import arrows
+
+
+def faults(files):
+    """The broken rules of a tree given as {path: text}, as "path:line: what"."""
+    with tempfile.TemporaryDirectory() as folder:
+        for path, text in files.items():
+            file = Path(folder, path)
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_text(text, encoding="utf-8")
+        return [f"{path}:{number}: {what}" for path, number, what in arrows.faults(folder)]
+
+
+class Folders(unittest.TestCase):
+    def test_includes_that_point_down_pass(self):
+        tree = {
+            "data/Text.h": "#pragma once\n#include <string>\n",
+            "platform/Locale.h": "#include <QString>\n",
+            "map/geometry/Camera.h": "#include <cmath>\n",
+            "map/RecordSet.h": '#include "data/Text.h"\n#include "map/geometry/Camera.h"\n',
+            "app/main.cpp": '#include "map/RecordSet.h"\n#include "platform/Locale.h"\n',
+        }
+        self.assertEqual(faults(tree), [])
+
+    def test_every_arrow_that_points_up_or_across_is_found(self):
+        headers = {
+            "data/Text.h": "",
+            "platform/Locale.h": "",
+            "map/Symbols.h": "",
+            "map/view/MapView.h": "",
+            "detail/Credit.h": "",
+            "app/Workspace.h": "",
+        }
+        for user, header in (
+            ("data/Text.cpp", "platform/Locale.h"),
+            ("data/Text.cpp", "map/Symbols.h"),
+            ("platform/Locale.cpp", "data/Text.h"),
+            ("platform/Locale.cpp", "app/Workspace.h"),
+            ("map/Symbols.cpp", "detail/Credit.h"),
+            ("map/Symbols.cpp", "app/Workspace.h"),
+            ("map/geometry/Camera.cpp", "data/Text.h"),
+            ("map/records/Layout.cpp", "map/view/MapView.h"),
+            ("map/catalogue/Rows.cpp", "map/view/MapView.h"),
+            ("detail/Credit.cpp", "map/Symbols.h"),
+            ("tools/pack.cpp", "app/Workspace.h"),
+        ):
+            with self.subTest(user=user, header=header):
+                found = faults({**headers, user: f'\n#include "{header}"\n'})
+                self.assertEqual(len(found), 1, found)
+                self.assertIn(f'{user}:2: "{header}" is not below', found[0])
+
+    def test_tests_and_benches_may_include_every_folder(self):
+        tree = {
+            "app/Workspace.h": "",
+            "data/Text.h": "",
+            "tests/app/WorkspaceTest.cpp": '#include "app/Workspace.h"\n#include <simdjson.h>\n',
+            "bench/kit.cpp": '#include "data/Text.h"\n#include <simdjson.h>\n',
+        }
+        self.assertEqual(faults(tree), [])
+
+    def test_an_include_that_is_not_seen_from_the_root_is_found(self):
+        tree = {"data/Text.h": "", "data/Text.cpp": '#include "Text.h"\n'}
+        self.assertIn("data/Text.cpp:1", faults(tree)[0])
+
+
+class Libraries(unittest.TestCase):
+    def found(self, path, header):
+        return faults({path: f"#include <{header}>\n"})
+
+    def test_each_library_has_its_one_door(self):
+        for door, header in (
+            ("data/ReleaseReader.cpp", "simdjson.h"),
+            ("data/Text.cpp", "unicode/coll.h"),
+            ("data/Digest.cpp", "openssl/evp.h"),
+            ("data/WebAddress.cpp", "uriparser/Uri.h"),
+            ("map/basemap/TileArchive.cpp", "sqlite3.h"),
+            ("map/basemap/VectorTile.cpp", "protozero/pbf_reader.hpp"),
+            ("map/scene/MarkerNode.h", "QSGGeometryNode"),
+            ("map/scene/MarkerNode.cpp", "rhi/qrhi.h"),
+            ("map/view/MapView.cpp", "QSGNode"),
+        ):
+            with self.subTest(door=door, header=header):
+                self.assertEqual(self.found(door, header), [])
+
+    def test_a_library_behind_any_other_door_is_found(self):
+        for door, header in (
+            ("data/ReleaseRules.cpp", "simdjson.h"),
+            ("data/ReleaseIndex.cpp", "unicode/coll.h"),
+            ("app/Workspace.cpp", "openssl/evp.h"),
+            ("data/ReleaseRules.h", "uriparser/Uri.h"),
+            ("app/Workspace.cpp", "sqlite3.h"),
+            ("map/view/MapView.cpp", "QSGGeometryNode"),
+            ("map/view/Gestures.h", "QSGNode"),
+            ("map/view/MapView.cpp", "private/qsgnode_p.h"),
+            ("app/Frame.cpp", "QOpenGLContext"),
+        ):
+            with self.subTest(door=door, header=header):
+                self.assertEqual(len(self.found(door, header)), 1)
+
+    def test_qt_in_the_kit_is_found(self):
+        for header in ("QString", "QtCore/QString", "private/qstringlist_p.h"):
+            with self.subTest(header=header):
+                self.assertEqual(len(self.found("data/Text.h", header)), 1)
+
+    def test_anything_but_the_standard_library_in_the_geometry_is_found(self):
+        self.assertEqual(self.found("map/geometry/Camera.h", "numbers"), [])
+        for header in ("QPointF", "sys/mman.h", "unistd.h"):
+            with self.subTest(header=header):
+                self.assertEqual(len(self.found("map/geometry/Camera.h", header)), 1)
+
+
+class Qml(unittest.TestCase):
+    modules = {
+        "platform/CMakeLists.txt": "qt_add_qml_module(P\n    URI Vasker.Platform\n)",
+        "map/CMakeLists.txt": "qt_add_qml_module(M\n    URI Vasker.Map\n)",
+        "detail/CMakeLists.txt": "qt_add_qml_module(D\n    URI Vasker.Detail\n)",
+    }
+
+    def found(self, path, line):
+        return faults({**self.modules, path: f"{line}\n"})
+
+    def test_imports_that_point_down_pass(self):
+        for path, line in (
+            ("app/Main.qml", "import Vasker.Map"),
+            ("map/view/MapView.qml", "import Vasker.Platform as Platform"),
+            ("map/catalogue/Catalogue.qml", "import Vasker.Map"),
+            ("platform/ui/Sheet.qml", "import QtQuick.Controls"),
+        ):
+            with self.subTest(path=path, line=line):
+                self.assertEqual(self.found(path, line), [])
+
+    def test_imports_that_point_up_or_across_are_found(self):
+        for path, line in (
+            ("map/view/MapView.qml", "import Vasker.Detail"),
+            ("detail/Inspector.qml", "import Vasker.Map 1.0"),
+            ("platform/ui/Sheet.qml", "import Vasker.Map"),
+            ("detail/Inspector.qml", 'import "../map"'),
+            ("app/Main.qml", "import Vasker.Nowhere"),
+        ):
+            with self.subTest(path=path, line=line):
+                self.assertEqual(len(self.found(path, line)), 1)
+
+
+class Length(unittest.TestCase):
+    def test_a_file_that_has_grown_too_long_is_found(self):
+        self.assertEqual(faults({"data/Long.cpp": "\n" * 400, "app/Long.qml": "\n" * 150}), [])
+        self.assertEqual(len(faults({"data/Long.cpp": "\n" * 401})), 1)
+        self.assertEqual(len(faults({"app/Long.qml": "\n" * 151})), 1)
+
+
+if __name__ == "__main__":
+    unittest.main()

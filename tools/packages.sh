@@ -1,0 +1,58 @@
+# The Debian 12 packages that the project needs, and the step that installs those that are missing.
+# Sourced by ./run and ./test.
+
+# To configure and build everything.
+build_packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools
+    qt6-shadertools-dev qt6-shader-baker qt6-svg-dev
+    qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools linguist-qt6
+    libgl-dev libvulkan-dev
+    libsimdjson-dev libssl-dev libicu-dev libsqlite3-dev libprotozero-dev libcsv-dev liburiparser-dev
+    libbenchmark-dev
+)
+
+# To open the window: what is loaded when the program runs, which linking alone does not bring.
+run_packages=(
+    qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+    qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-layouts
+    qml6-module-qtquick-controls qml6-module-qtquick-templates
+    qt6-qpa-plugins qt6-wayland
+    libgl1 libegl1 libopengl0 libgl1-mesa-dri
+    fonts-inter fonts-dejavu-core
+)
+
+# To test without a screen: test libraries, linters, a virtual display and the accessibility bus.
+test_packages=(
+    libgtest-dev libgmock-dev qml6-module-qttest
+    clang-format clang-tidy
+    xvfb xauth dbus-daemon at-spi2-core python3 python3-pyatspi
+)
+
+# Installs those of the packages given that are missing, and touches no other package.
+install_missing() {
+    if ! command -v dpkg-query >/dev/null; then
+        echo "This is not a Debian system. Needed, by their Debian names: $*" >&2
+        return 1
+    fi
+    local package missing=()
+    for package in "$@"; do
+        if ! dpkg-query -W -f '${Status}\n' "$package" 2>/dev/null | grep -qx 'install ok installed'; then
+            missing+=("$package")
+        fi
+    done
+    if [[ ${#missing[@]} -eq 0 ]]; then
+        return 0
+    fi
+    echo "Installing what is missing: ${missing[*]}" >&2
+    local as_root=(env DEBIAN_FRONTEND=noninteractive)
+    if [[ $EUID -ne 0 ]]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Neither root nor sudo: install these packages, then run this again." >&2
+            return 1
+        fi
+        as_root=(sudo "${as_root[@]}")
+    fi
+    "${as_root[@]}" apt-get update
+    "${as_root[@]}" apt-get install -y --no-install-recommends --no-remove "${missing[@]}"
+}
