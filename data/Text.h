@@ -38,6 +38,8 @@ class TextLocale {
 class NameOrder {
   public:
     explicit NameOrder(const TextLocale& locale);
+    NameOrder(const NameOrder&) = delete;
+    NameOrder& operator=(const NameOrder&) = delete;
     NameOrder(NameOrder&&) noexcept;
     NameOrder& operator=(NameOrder&&) noexcept;
     ~NameOrder();
