@@ -1,0 +1,59 @@
+#pragma once
+// How the desktop wants programs to look: light or dark, contrast, motion, text size. Read from the
+// desktop's settings portal and followed live; without a portal the system palette decides. One
+// object serves all windows.
+
+#include "platform/ui/Palette.h"
+
+#include <QDBusConnection>
+#include <QDBusVariant>
+#include <QObject>
+#include <QtQmlIntegration>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace vasker {
+
+class Appearance : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool dark READ isDark NOTIFY changed)
+    Q_PROPERTY(bool highContrast READ highContrast NOTIFY changed)
+    Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed)
+    Q_PROPERTY(double textScale READ textScale NOTIFY changed)
+
+  public:
+    /// Starts with the system palette's answer and asks the portal on `bus` without waiting for it.
+    /// A bus that is not connected is fine.
+    explicit Appearance(const QDBusConnection& bus, QObject* parent = nullptr);
+    /// The session's bus if there is one; never starts one.
+    [[nodiscard]] static QDBusConnection sessionBus();
+    /// The one object of the process, made on first use.
+    static Appearance* create(QQmlEngine*, QJSEngine*);
+
+    [[nodiscard]] bool isDark() const noexcept { return m_scheme == ColorScheme::dark; }
+    [[nodiscard]] ColorScheme scheme() const noexcept { return m_scheme; }
+    [[nodiscard]] bool highContrast() const noexcept { return m_highContrast; }
+    [[nodiscard]] bool reducedMotion() const noexcept { return m_reducedMotion; }
+    /// What the sizes of texts are multiplied with, 1 to 2.
+    [[nodiscard]] double textScale() const noexcept { return m_textScale; }
+
+  Q_SIGNALS:
+    void changed();
+
+  private Q_SLOTS:
+    void apply(const QString& group, const QString& key, const QDBusVariant& value);
+
+  private:
+    void askPortal();
+
+    QDBusConnection m_bus;
+    ColorScheme m_scheme;
+    bool m_highContrast = false;
+    bool m_reducedMotion = false;
+    double m_textScale = 1;
+};
+
+} // namespace vasker

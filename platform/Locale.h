@@ -1,0 +1,18 @@
+#pragma once
+// The language of the application's own texts.
+
+#include <QString>
+
+class QCoreApplication;
+
+namespace vasker {
+
+/// The locale of messages in the environment, as in "fr_CA": the first of LC_ALL, LC_MESSAGES and
+/// LANG that is set, without encoding and modifier; "C", "POSIX" and nothing at all mean "en".
+[[nodiscard]] QString messagesLocale();
+
+/// Shows the application's texts in the language of `locale` from here on; English where there is
+/// no translation. Called once, before the first text is shown.
+void installTranslation(QCoreApplication& application, const QString& locale);
+
+} // namespace vasker

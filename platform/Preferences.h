@@ -1,0 +1,50 @@
+#pragma once
+// The per-user settings: texts under keys, kept in one small file that survives the application.
+// One object serves all windows; a change, whoever makes it, reaches every window through
+// changed().
+//
+// The file has one "key=value" a line. A later line for the same key counts. Lines that are not
+// understood, and keys that nobody here knows, stay as they are when another value is written.
+
+#include <QByteArray>
+#include <QFileSystemWatcher>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+namespace vasker {
+
+class Preferences : public QObject {
+    Q_OBJECT
+
+  public:
+    /// The settings in the file at `path`, which need not exist.
+    explicit Preferences(QString path, QObject* parent = nullptr);
+    /// "vasker-open-map/preferences" in the user's XDG configuration folder.
+    [[nodiscard]] static QString userPath();
+
+    /// The text stored under `key`, as it stands in the file, or nothing.
+    [[nodiscard]] std::optional<QString> text(const QString& key) const;
+    /// Stores `value` under `key`: other programs see the old file or the new one, never a part.
+    /// Where the file cannot be written, the value still counts until this object ends.
+    /// Neither text may hold a line break, nor the key an equals sign.
+    void setText(const QString& key, const QString& value);
+
+  Q_SIGNALS:
+    void changed();
+
+  private:
+    using Lines = QList<QByteArray>;
+    [[nodiscard]] Lines readLines() const;
+    [[nodiscard]] bool writeLines(const Lines& lines) const;
+    void reload();
+    void watch();
+
+    QString m_path;
+    Lines m_lines;
+    QFileSystemWatcher m_watcher;
+};
+
+} // namespace vasker

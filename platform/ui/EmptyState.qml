@@ -1,0 +1,53 @@
+import QtQuick
+
+// What stands where a search has found nothing.
+Item {
+    id: root
+
+    required property string title
+    required property string advice
+
+    implicitHeight: column.y + column.height
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.title
+    Accessible.description: root.advice
+
+    Column {
+        id: column
+
+        x: 28
+        y: 72
+        width: root.width - 56
+        spacing: 0
+
+        Icon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: "search"
+            size: 44 * Theme.iconScale
+            color: Theme.ink3
+        }
+        Item {
+            width: 1
+            height: 12
+        }
+        Label {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            textStyle: Theme.emptyTitle
+            text: root.title
+        }
+        Item {
+            width: 1
+            height: 4
+        }
+        Label {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            textStyle: Theme.footnote
+            color: Theme.ink2
+            text: root.advice
+        }
+    }
+}

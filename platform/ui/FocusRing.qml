@@ -1,0 +1,16 @@
+import QtQuick
+
+// The mark of keyboard focus around its parent, one pixel off it; inside it for rows of a list.
+Rectangle {
+    property real around: Theme.controlRadius
+    property bool inside: false
+    property bool shown: parent.activeFocus && FocusVisibility.visible
+
+    anchors.fill: parent
+    anchors.margins: inside ? 0 : -3
+    radius: inside ? around : around + 3
+    color: "transparent"
+    border.width: 2
+    border.color: Theme.accent
+    visible: shown
+}

@@ -1,0 +1,10 @@
+#pragma once
+// The typeface of all texts.
+
+namespace vasker {
+
+/// Makes Inter, or the nearest to it that is installed, the application's font. Needs a
+/// QGuiApplication; called before the first window.
+void installInterfaceFont();
+
+} // namespace vasker

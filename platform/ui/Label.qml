@@ -1,0 +1,17 @@
+import QtQuick
+
+// A text in one of the theme's styles, taken literally: never markup unless a view says so.
+Text {
+    id: root
+
+    property TextStyle textStyle: Theme.body
+
+    font: root.textStyle.font
+    color: Theme.ink
+    textFormat: Text.PlainText
+    lineHeightMode: Text.FixedHeight
+    lineHeight: root.textStyle.lineHeight
+    topPadding: root.textStyle.halfLeading
+    bottomPadding: -root.textStyle.halfLeading
+    Accessible.ignored: true
+}

@@ -1,0 +1,108 @@
+import QtQuick
+
+// A one-line field for a search text. What the user types leaves as `edited`; `text` comes in.
+Rectangle {
+    id: root
+
+    required property string prompt
+    property string text
+
+    signal edited(string text)
+    signal leaveDown
+
+    function focusText(): void {
+        input.forceActiveFocus(Qt.ShortcutFocusReason);
+        input.selectAll();
+    }
+
+    implicitHeight: Theme.controlHeight
+    radius: Theme.controlRadius
+    color: Theme.control
+    border.width: 1
+    border.color: Theme.controlLine
+
+    onTextChanged: if (input.text !== text) {
+        input.text = text;
+    }
+
+    FocusRing {
+        shown: input.activeFocus
+    }
+    Icon {
+        id: magnifier
+
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        name: "search"
+        size: 16 * Theme.iconScale
+        color: Theme.ink2
+    }
+    TextInput {
+        id: input
+
+        anchors.left: magnifier.right
+        anchors.leftMargin: 7
+        anchors.right: clear.visible ? clear.left : parent.right
+        anchors.rightMargin: clear.visible ? 2 : 10
+        anchors.verticalCenter: parent.verticalCenter
+        font: Theme.field.font
+        color: Theme.ink
+        selectionColor: Theme.accent
+        selectedTextColor: Theme.onAccent
+        selectByMouse: true
+        clip: true
+        activeFocusOnTab: true
+        inputMethodHints: Qt.ImhNoPredictiveText
+
+        Accessible.role: Accessible.EditableText
+        Accessible.name: root.prompt
+        Accessible.searchEdit: true
+        Keys.onEscapePressed: event => {
+            event.accepted = input.length > 0;
+            input.clear();
+        }
+        Keys.onDownPressed: root.leaveDown()
+
+        onTextChanged: if (text !== root.text) {
+            root.edited(text);
+        }
+    }
+    Label {
+        visible: input.length === 0 && input.preeditText.length === 0
+        anchors.left: input.left
+        anchors.right: input.right
+        anchors.verticalCenter: parent.verticalCenter
+        textStyle: Theme.footnote
+        color: Theme.ink2
+        elide: Text.ElideRight
+        text: root.prompt
+    }
+    Item {
+        id: clear
+
+        visible: input.length > 0
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        width: height
+        Accessible.role: Accessible.Button
+        Accessible.name: qsTr("Clear search")
+        Accessible.onPressAction: input.clear()
+
+        Icon {
+            anchors.centerIn: parent
+            name: "xmark"
+            size: 16 * Theme.iconScale
+            color: Theme.ink2
+        }
+        HoverHandler {
+            cursorShape: Qt.ArrowCursor
+        }
+        TapHandler {
+            onTapped: input.clear()
+        }
+    }
+    HoverHandler {
+        cursorShape: Qt.IBeamCursor
+    }
+}

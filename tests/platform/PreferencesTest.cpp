@@ -1,0 +1,115 @@
+#include "platform/Preferences.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace vasker {
+namespace {
+
+const QString key = QStringLiteral("open-map.basemap");
+
+bool comesTrue(const std::function<bool()>& condition) {
+    QElapsedTimer waited;
+    waited.start();
+    while (!condition() && waited.elapsed() < 5000) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    }
+    return condition();
+}
+
+class PreferencesIn : public testing::Test {
+  protected:
+    [[nodiscard]] QString path() const {
+        return m_folder.filePath(QStringLiteral("vasker-open-map/preferences"));
+    }
+    void write(const QByteArray& bytes) const {
+        QDir(m_folder.path()).mkpath(QStringLiteral("vasker-open-map"));
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    [[nodiscard]] QByteArray written() const {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(PreferencesIn, NothingIsStoredAndNothingIsMadeAtFirst) {
+    const Preferences preferences(path());
+    EXPECT_EQ(preferences.text(key), std::nullopt);
+    EXPECT_FALSE(QFile::exists(m_folder.filePath(QStringLiteral("vasker-open-map"))));
+}
+
+TEST_F(PreferencesIn, AStoredTextOutlivesTheObject) {
+    Preferences(path()).setText(key, QStringLiteral("hybrid"));
+    EXPECT_EQ(Preferences(path()).text(key), QStringLiteral("hybrid"));
+    EXPECT_EQ(written(), "open-map.basemap=hybrid\n");
+}
+
+TEST_F(PreferencesIn, ATextIsReadExactlyAsItStands) {
+    write("open-map.basemap= hybrid \n");
+    EXPECT_EQ(Preferences(path()).text(key), QStringLiteral(" hybrid "));
+}
+
+TEST_F(PreferencesIn, TheLaterOfTwoLinesCounts) {
+    write("open-map.basemap=hybrid\nopen-map.basemap=satellite");
+    EXPECT_EQ(Preferences(path()).text(key), QStringLiteral("satellite"));
+}
+
+TEST_F(PreferencesIn, ReadingLeavesAnUnknownValueAndADamagedFileAsTheyAre) {
+    const QByteArray damaged("\x00\xFF\xFE[[[\nopen-map.basemap=globe\n==\n\n", 32);
+    write(damaged);
+    EXPECT_EQ(Preferences(path()).text(key), QStringLiteral("globe"));
+    EXPECT_EQ(written(), damaged);
+}
+
+TEST_F(PreferencesIn, WritingLeavesOtherLinesAsTheyAre) {
+    write("# mine\nother=1\nopen-map.basemap=globe\n\xFF=\xFE");
+    Preferences(path()).setText(key, QStringLiteral("standard"));
+    EXPECT_EQ(written(), "# mine\nother=1\n\xFF=\xFE\nopen-map.basemap=standard\n");
+}
+
+TEST_F(PreferencesIn, AFolderInPlaceOfTheFileIsNoValueAndTheChoiceStillCounts) {
+    QDir(m_folder.path()).mkpath(QStringLiteral("vasker-open-map/preferences"));
+    Preferences preferences(path());
+    EXPECT_EQ(preferences.text(key), std::nullopt);
+    preferences.setText(key, QStringLiteral("hybrid"));
+    EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
+}
+
+TEST_F(PreferencesIn, AChangeIsToldOnceAndTheSameTextAgainIsNone) {
+    Preferences preferences(path());
+    int told = 0;
+    QObject::connect(&preferences, &Preferences::changed, [&] { ++told; });
+    preferences.setText(key, QStringLiteral("hybrid"));
+    preferences.setText(key, QStringLiteral("hybrid"));
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(PreferencesIn, AChangeByAnotherProgramIsSeen) {
+    const Preferences preferences(path());
+    Preferences other(path());
+    other.setText(key, QStringLiteral("satellite"));
+    EXPECT_TRUE(comesTrue([&] { return preferences.text(key) == QStringLiteral("satellite"); }));
+    other.setText(key, QStringLiteral("hybrid"));
+    EXPECT_TRUE(comesTrue([&] { return preferences.text(key) == QStringLiteral("hybrid"); }));
+}
+
+TEST_F(PreferencesIn, AFileThatGoesAwayTakesItsValuesAlong) {
+    write("open-map.basemap=hybrid\n");
+    const Preferences preferences(path());
+    QFile::remove(path());
+    EXPECT_TRUE(comesTrue([&] { return !preferences.text(key); }));
+}
+
+} // namespace
+} // namespace vasker
