@@ -35,7 +35,8 @@ struct OpenMapRelease {
     /// library's text, unchanged.
     class Located;
 
-    /// A position of a route. The file has longitude first.
+    /// A position of a route. The file has longitude first. One that the file gives with more or
+    /// fewer than two numbers is read as {NaN, NaN}, which no file can say otherwise, and refused.
     struct Position {
         double longitude; ///< degrees, -180 to 180 once validated
         double latitude;  ///< degrees, -90 to 90 once validated

@@ -2,6 +2,7 @@
 // A release made ready for views, once, in the load task: name order, folded search texts, kinds.
 // Answers exactly as the definitions in Classification.h do. Immutable; any thread.
 
+#include "data/FoldedTexts.h"
 #include "data/OpenMapRelease.h"
 
 #include <cstddef>
@@ -10,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace vasker {
@@ -34,10 +36,17 @@ class ReleaseIndex {
     /// The first record with exactly this id, or nothing.
     [[nodiscard]] std::optional<AssetIndex> find(std::string_view id) const;
 
+    /// The folded texts that filtered() searches, in name order.
+    [[nodiscard]] const FoldedTexts& texts() const noexcept { return m_texts; }
+
   private:
-    std::shared_ptr<const OpenMapRelease> m_release;
+    std::shared_ptr<const OpenMapRelease> m_release; ///< the views below are of its texts
     TextLocale m_locale;
     std::vector<std::string> m_kinds;
+    std::vector<AssetIndex> m_nameOrder;
+    std::vector<std::uint32_t> m_kindsInNameOrder; ///< places in m_kinds
+    FoldedTexts m_texts;                           ///< its records are in name order
+    std::unordered_map<std::string_view, AssetIndex> m_byID;
 };
 
 } // namespace vasker

@@ -1,6 +1,8 @@
 #pragma once
 // Records to JSON: every field under its key, in the order of the fields; an absent company has no
-// key. Numbers are written so that they read back to the same value. Compact, UTF-8, no BOM.
+// key. Numbers are written so that they read back to the same value, and what the reader takes for
+// no pair is written as a position without numbers. Compact, UTF-8, no BOM. Texts have to be UTF-8;
+// an infinite or undefined coordinate throws std::domain_error.
 
 #include "data/OpenMapRelease.h"
 

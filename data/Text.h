@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vasker {
 
@@ -14,17 +15,34 @@ class TextLocale {
   public:
     /// `id` as in "fr_CA" or "tr"; "C", "POSIX" and the empty text mean English.
     explicit TextLocale(std::string_view id);
-    /// The locale of the environment: the first of LC_ALL, LC_COLLATE and LANG that is set.
+    /// The locale of the environment: the first of LC_ALL, LC_COLLATE and LANG that is set and not
+    /// empty. The C library's locale is left alone and does not have to be installed; a locale that
+    /// ICU does not know compares by ICU's root.
     [[nodiscard]] static TextLocale fromEnvironment();
     [[nodiscard]] const std::string& id() const noexcept { return m_id; }
+    /// Whether its letters are those of Turkish and Azerbaijani: I is the capital of dotless i, and
+    /// the capital of i keeps its dot.
+    [[nodiscard]] bool hasDotlessI() const noexcept { return m_hasDotlessI; }
 
   private:
     std::string m_id; ///< without encoding and modifier
+    bool m_hasDotlessI = false;
 };
 
 /// The number of extended grapheme clusters in `text`, or `limit + 1` as soon as it exceeds
 /// `limit`.
 [[nodiscard]] std::size_t characterCount(std::string_view text, std::size_t limit);
+
+/// A character of a text that is made of several code points, such as a letter with a combining
+/// mark, a family of emoji or a carriage return with its line feed.
+struct JoinedCharacter {
+    std::size_t begin; ///< in bytes
+    std::size_t end;
+    friend bool operator==(const JoinedCharacter&, const JoinedCharacter&) = default;
+};
+
+/// The joined characters of `text`, in order; all others are single code points.
+[[nodiscard]] std::vector<JoinedCharacter> joinedCharacters(std::string_view text);
 
 /// `text` without differences of letter case (full case folding in `locale`: dotted and dotless i
 /// in Turkish) and of canonical encoding; what containsFolded() compares.

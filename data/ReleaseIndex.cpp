@@ -1,0 +1,90 @@
+#include "data/ReleaseIndex.h"
+
+#include "data/Classification.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace vasker {
+
+namespace {
+
+using Asset = OpenMapRelease::Asset;
+
+std::vector<AssetIndex> nameOrderOf(const std::vector<Asset>& assets, const TextLocale& locale) {
+    const NameOrder order(locale);
+    std::vector<std::pair<std::string, AssetIndex>> keyed;
+    keyed.reserve(assets.size());
+    for (const Asset& asset : assets) {
+        keyed.emplace_back(order.sortKey(asset.name), static_cast<AssetIndex>(keyed.size()));
+    }
+    std::ranges::sort(keyed); // the place in the file decides between equal keys
+    std::vector<AssetIndex> sorted(assets.size());
+    std::ranges::transform(keyed, sorted.begin(), [](const auto& each) { return each.second; });
+    return sorted;
+}
+
+void addTexts(FoldedTexts& texts, const Asset& asset) {
+    texts.addText(asset.name);
+    texts.addText(asset.id);
+    if (asset.reportedCompany) {
+        texts.addText(*asset.reportedCompany);
+    }
+    texts.addText(asset.jurisdiction);
+    for (const OpenMapRelease::Fact& fact : asset.facts) {
+        texts.addText(fact.value);
+    }
+    texts.endRecord();
+}
+
+} // namespace
+
+ReleaseIndex::ReleaseIndex(std::shared_ptr<const OpenMapRelease> release, TextLocale locale)
+    : m_release(std::move(release)), m_locale(std::move(locale)),
+      m_kinds(vasker::kinds(*m_release)), m_nameOrder(nameOrderOf(m_release->assets, m_locale)),
+      m_texts(m_locale) {
+    const std::vector<Asset>& assets = m_release->assets;
+
+    std::unordered_map<std::string_view, std::uint32_t> placeOfKind;
+    for (const std::string& kind : m_kinds) {
+        placeOfKind.emplace(kind, static_cast<std::uint32_t>(placeOfKind.size()));
+    }
+    m_kindsInNameOrder.reserve(assets.size());
+    for (const AssetIndex each : m_nameOrder) {
+        m_kindsInNameOrder.push_back(placeOfKind.at(assets[each].kind));
+        addTexts(m_texts, assets[each]);
+    }
+    m_texts.finish();
+
+    m_byID.reserve(assets.size());
+    for (const Asset& asset : assets) {
+        m_byID.emplace(asset.id, static_cast<AssetIndex>(&asset - assets.data()));
+    }
+}
+
+std::vector<AssetIndex> ReleaseIndex::filtered(std::string_view query,
+                                               std::string_view kind) const {
+    std::vector<std::uint32_t> ranks;
+    if (query.empty()) {
+        ranks.resize(m_nameOrder.size());
+        std::iota(ranks.begin(), ranks.end(), 0U);
+    } else {
+        ranks = m_texts.holders(query);
+    }
+    if (kind != "all") {
+        const auto place =
+            static_cast<std::uint32_t>(std::ranges::find(m_kinds, kind) - m_kinds.begin());
+        std::erase_if(ranks, [&](std::uint32_t rank) { return m_kindsInNameOrder[rank] != place; });
+    }
+    std::ranges::transform(
+        ranks, ranks.begin(), [this](std::uint32_t rank) { return m_nameOrder[rank]; });
+    return ranks;
+}
+
+std::optional<AssetIndex> ReleaseIndex::find(std::string_view id) const {
+    const auto found = m_byID.find(id);
+    return found == m_byID.end() ? std::nullopt : std::optional(found->second);
+}
+
+} // namespace vasker
