@@ -36,6 +36,7 @@ class Characters {
     ~Characters() { utext_close(&m_text); }
 
     /// The end of the next character in bytes; nothing at the end of the text.
+    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): walks this object's text
     std::optional<std::size_t> next() {
         const int32_t end = iterator().next();
         return end == icu::BreakIterator::DONE ? std::nullopt
@@ -52,7 +53,7 @@ class Characters {
             requireSuccess(status);
             return made;
         }();
-        return *characters;
+        return *characters; // NOLINT(clang-analyzer-cplusplus.NewDelete): moved, not freed
     }
 
     UText m_text = UTEXT_INITIALIZER;
