@@ -9,7 +9,7 @@
 namespace vasker {
 
 class RandomSequence {
-public:
+  public:
     explicit RandomSequence(std::uint64_t seed) : m_engine(seed) {}
 
     /// A whole number below `bound`, which is at least 1. The bias is below bound / 2^64.
@@ -32,7 +32,7 @@ public:
     /// True once in `times` draws on average.
     [[nodiscard]] bool onceIn(std::size_t times) { return below(times) == 0; }
 
-private:
+  private:
     std::mt19937_64 m_engine;
 };
 

@@ -48,36 +48,48 @@ OpenMapRelease unfilledRelease(const SynthesisOptions& options, RandomSequence& 
     return release;
 }
 
+/// The text without filling, refused where it is longer than a release may be.
+std::size_t unfilledBytes(const OpenMapRelease& release, std::size_t limit) {
+    const std::size_t bytes = encode(release).size();
+    if (bytes > limit) {
+        refuse("these records and route points take " + std::to_string(bytes) +
+               " bytes, more than " + std::to_string(limit));
+    }
+    return bytes;
+}
+
+/// A few short facts for each record, as far as the largest file has room for them.
 void addUsualFacts(OpenMapRelease& release, RandomSequence& random) {
+    std::size_t bytes = unfilledBytes(release, OpenMapRelease::maximumFileSize);
     for (OpenMapRelease::Asset& asset : release.assets) {
         const std::size_t count = 3 + random.below(7);
         for (std::size_t place = 0; place < count; ++place) {
-            SyntheticFact fact = syntheticFact(random);
-            asset.facts.push_back(
-                {std::move(fact.label), std::move(fact.value), asset.sourceID, asset.asOf});
+            SyntheticFact drawn = syntheticFact(random);
+            OpenMapRelease::Fact fact{
+                std::move(drawn.label), std::move(drawn.value), asset.sourceID, asset.asOf};
+            bytes += encode(fact).size() + 1;
+            if (bytes > OpenMapRelease::maximumFileSize) {
+                return;
+            }
+            asset.facts.push_back(std::move(fact));
         }
     }
 }
 
 /// Adds facts to the records in turn until the JSON text is a given length.
 class Filling {
-public:
+  public:
     Filling(OpenMapRelease& release, RandomSequence& random)
         : m_release(release), m_random(random) {}
 
     void fillTo(std::size_t bytes) {
-        const std::size_t start = encode(m_release).size();
-        if (start > bytes) {
-            refuse("these records and route points take " + std::to_string(start) +
-                   " bytes, more than " + std::to_string(bytes));
-        }
-        m_left = bytes - start;
+        m_left = bytes - unfilledBytes(m_release, bytes);
         addShortFactsInTurn();
         addRemarksInTurn();
         padTheRest();
     }
 
-private:
+  private:
     /// Short facts first, as long as every record can have one more and half of its share is left
     /// for remarks.
     void addShortFactsInTurn() {

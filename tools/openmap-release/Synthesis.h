@@ -20,7 +20,7 @@ struct SynthesisOptions {
 
 /// No release has the numbers asked for; what() says why in one sentence.
 class ImpossibleSynthesis final : public std::runtime_error {
-public:
+  public:
     using std::runtime_error::runtime_error;
 };
 

@@ -1,0 +1,139 @@
+#include "tools/openmap-release/packing/CsvTable.h"
+
+#include <csv.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace vasker {
+namespace {
+
+bool isUtf8(std::string_view text) {
+    std::size_t place = 0;
+    while (place < text.size()) {
+        const auto lead = static_cast<unsigned char>(text[place]);
+        const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || place + length > text.size()) {
+            return false;
+        }
+        std::uint32_t point = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+        for (std::size_t next = 1; next < length; ++next) {
+            const auto byte = static_cast<unsigned char>(text[place + next]);
+            if ((byte & 0xC0U) != 0x80U) {
+                return false;
+            }
+            point = (point << 6U) | (byte & 0x3FU);
+        }
+        const bool isOverlong = (length == 3 && point < 0x800) || (length == 4 && point < 0x10000);
+        if (isOverlong || (point >= 0xD800 && point <= 0xDFFF) || point > 0x10FFFF) {
+            return false;
+        }
+        place += length;
+    }
+    return true;
+}
+
+/// libcsv's parser with the rows it has read; fed line by line, so that it knows the line.
+class Parser {
+  public:
+    explicit Parser(const std::string& file) : m_file(file) {
+        if (csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI) != 0) {
+            throw std::bad_alloc();
+        }
+        // Blanks around a field belong to it (RFC 4180).
+        csv_set_space_func(&m_parser, [](unsigned char) { return 0; });
+    }
+    Parser(const Parser&) = delete;
+    Parser& operator=(const Parser&) = delete;
+    Parser(Parser&&) = delete;
+    Parser& operator=(Parser&&) = delete;
+    ~Parser() { csv_free(&m_parser); }
+
+    std::vector<CsvTable::Row> read(std::string_view bytes) {
+        while (!bytes.empty()) {
+            ++m_line;
+            const std::string_view line = bytes.substr(0, bytes.find('\n')).size() == bytes.size()
+                                              ? bytes
+                                              : bytes.substr(0, bytes.find('\n') + 1);
+            if (!isUtf8(line)) {
+                throw InputError(m_file, m_line, "the text is not UTF-8");
+            }
+            if (csv_parse(&m_parser, line.data(), line.size(), onField, onRow, this) !=
+                line.size()) {
+                throw InputError(m_file, m_line, "a quote stands where none belongs");
+            }
+            bytes.remove_prefix(line.size());
+        }
+        if (csv_fini(&m_parser, onField, onRow, this) != 0) {
+            throw InputError(m_file, m_rowLine == 0 ? m_line : m_rowLine, "a quote is not closed");
+        }
+        return std::move(m_rows);
+    }
+
+  private:
+    static void onField(void* text, std::size_t length, void* self) {
+        auto& parser = *static_cast<Parser*>(self);
+        if (parser.m_cells.empty()) {
+            parser.m_rowLine = parser.m_line;
+        }
+        parser.m_cells.emplace_back(static_cast<const char*>(text), length);
+    }
+    static void onRow(int /*terminator*/, void* self) {
+        auto& parser = *static_cast<Parser*>(self);
+        parser.m_rows.push_back({parser.m_rowLine, std::exchange(parser.m_cells, {})});
+        parser.m_rowLine = 0;
+    }
+
+    const std::string& m_file;
+    csv_parser m_parser{};
+    std::size_t m_line = 0;
+    std::size_t m_rowLine = 0;
+    std::vector<std::string> m_cells;
+    std::vector<CsvTable::Row> m_rows;
+};
+
+} // namespace
+
+CsvTable::CsvTable(std::string file, std::string_view bytes) : m_file(std::move(file)) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(byteOrderMark)) {
+        bytes.remove_prefix(byteOrderMark.size());
+    }
+    m_rows = Parser(m_file).read(bytes);
+    if (m_rows.empty()) {
+        throw InputError(m_file, 1, "there is no heading line");
+    }
+    const Row headings = std::move(m_rows.front());
+    m_rows.erase(m_rows.begin());
+    for (std::size_t column = 0; column < headings.cells.size(); ++column) {
+        const std::string& heading = headings.cells[column];
+        m_columns.emplace(heading, column);
+        m_columns.emplace(heading.substr(0, heading.find(" / ")), column);
+    }
+    for (const Row& row : m_rows) {
+        if (row.cells.size() != headings.cells.size()) {
+            refuse(row,
+                   std::to_string(row.cells.size()) + " fields, but " +
+                       std::to_string(headings.cells.size()) + " headings");
+        }
+    }
+}
+
+void CsvTable::requireColumns(std::initializer_list<std::string_view> headings) const {
+    for (const std::string_view heading : headings) {
+        if (m_columns.find(heading) == m_columns.end()) {
+            throw InputError(m_file, 1, "there is no column \"" + std::string(heading) + "\"");
+        }
+    }
+}
+
+std::string_view CsvTable::cell(const Row& row, std::string_view heading) const {
+    return row.cells[m_columns.find(heading)->second];
+}
+
+void CsvTable::refuse(const Row& row, std::string_view message) const {
+    throw InputError(m_file, row.line, message);
+}
+
+} // namespace vasker

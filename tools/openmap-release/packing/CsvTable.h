@@ -1,0 +1,42 @@
+#pragma once
+// A CSV file with a heading line, as UTF-8 text. The only door to libcsv.
+
+#include "tools/openmap-release/packing/InputError.h"
+
+#include <cstddef>
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vasker {
+
+class CsvTable {
+  public:
+    struct Row {
+        std::size_t line; ///< the line on which the row begins, 1 is the headings'
+        std::vector<std::string> cells;
+    };
+
+    /// The rows of `bytes` (RFC 4180, LF or CRLF, a byte order mark is passed over); `file` is the
+    /// name for messages. Throws InputError for a row that has another number of fields than the
+    /// headings, a stray or missing quote, text that is not UTF-8, and a file without headings.
+    CsvTable(std::string file, std::string_view bytes);
+
+    /// Throws InputError unless every one of `headings` names a column. A heading in two languages,
+    /// "City / Ville", goes by its first part as well.
+    void requireColumns(std::initializer_list<std::string_view> headings) const;
+
+    [[nodiscard]] const std::vector<Row>& rows() const noexcept { return m_rows; }
+    /// The cell under `heading`, as it stands. Lives as long as the table.
+    [[nodiscard]] std::string_view cell(const Row& row, std::string_view heading) const;
+    [[noreturn]] void refuse(const Row& row, std::string_view message) const;
+
+  private:
+    std::string m_file;
+    std::map<std::string, std::size_t, std::less<>> m_columns;
+    std::vector<Row> m_rows;
+};
+
+} // namespace vasker

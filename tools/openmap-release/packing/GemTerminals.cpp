@@ -1,0 +1,112 @@
+#include "tools/openmap-release/packing/GemTerminals.h"
+
+#include "tools/openmap-release/packing/Provinces.h"
+
+#include <set>
+
+namespace vasker {
+namespace {
+
+std::string jurisdictionOf(const RowReader& row) {
+    const std::optional<std::string> province = row.text("State/Province");
+    if (!province) {
+        return row.requiredText("Country/Area");
+    }
+    if (!isProvince(*province)) {
+        row.refuse("\"" + *province + "\" is no province");
+    }
+    return *province;
+}
+
+std::optional<std::string> capacityOf(const RowReader& row) {
+    return row.quantity("Capacity", row.text("CapacityUnits").value_or(""));
+}
+
+GemTerminal readTerminal(const RowReader& row) {
+    GemTerminal terminal;
+    terminal.id = row.requiredText("UnitID");
+    terminal.name = row.requiredText("TerminalName");
+    terminal.status = row.requiredText("Status");
+    terminal.jurisdiction = jurisdictionOf(row);
+    terminal.owner = row.text("Owner");
+    terminal.position = row.position("Latitude", "Longitude");
+
+    FactList facts;
+    facts.add("Reported unit", row.text("UnitName"));
+    facts.add("Facility type", row.text("FacilityType"));
+    facts.add("Capacity", capacityOf(row));
+    facts.add("Owner", row.text("Owner"));
+    facts.add("Parent", row.text("Parent"));
+    facts.add("Operator", row.text("Operator"));
+    facts.add("Location",
+              row.joined({"Location", "Prefecture/District", "State/Province", "Country/Area"}));
+    facts.add("Coordinate accuracy", row.text("Accuracy"));
+    facts.add("Proposal year", row.text("ProposalYear"));
+    facts.add("Construction year", row.text("ConstructionYear"));
+    facts.add("Planned start year", row.text("LatestPlannedStartYear"));
+    facts.add("Start year",
+              row.joined({"ActualStartYear", "ActualStartYear2", "ActualStartYear3"}));
+    facts.add("Shelved year", row.text("ShelvedYear"));
+    facts.add("Cancelled year", row.text("CancelledYear"));
+    facts.add("Stop year", row.text("StopYear"));
+    facts.add("Investment decision", row.joined({"FIDStatus", "FIDYear"}));
+    facts.add("Cost", row.quantity("Cost", row.text("CostUnits").value_or("")));
+    facts.add("Also known as", row.joined({"OtherNames", "LocalNames"}));
+    facts.add("GEM unit ID", row.text("UnitID"));
+    facts.add("GEM terminal ID", row.text("ProjectID"));
+    facts.add("GEM wiki page", row.text("Wiki"));
+    facts.add("Last updated", row.text("LastUpdated"));
+    terminal.facts = std::move(facts).take();
+    return terminal;
+}
+
+} // namespace
+
+std::vector<GemTerminal> readTerminals(const CsvTable& table) {
+    table.requireColumns({"ProjectID",
+                          "UnitID",
+                          "Country/Area",
+                          "Wiki",
+                          "TerminalName",
+                          "UnitName",
+                          "FacilityType",
+                          "Status",
+                          "OtherNames",
+                          "LocalNames",
+                          "Owner",
+                          "Parent",
+                          "Operator",
+                          "Capacity",
+                          "CapacityUnits",
+                          "ProposalYear",
+                          "ConstructionYear",
+                          "LatestPlannedStartYear",
+                          "ActualStartYear",
+                          "ActualStartYear2",
+                          "ActualStartYear3",
+                          "ShelvedYear",
+                          "CancelledYear",
+                          "StopYear",
+                          "Location",
+                          "Prefecture/District",
+                          "State/Province",
+                          "Latitude",
+                          "Longitude",
+                          "Accuracy",
+                          "Cost",
+                          "CostUnits",
+                          "FIDStatus",
+                          "FIDYear",
+                          "LastUpdated"});
+    std::vector<GemTerminal> terminals;
+    std::set<std::string> ids;
+    for (const CsvTable::Row& cells : table.rows()) {
+        terminals.push_back(readTerminal(RowReader(table, cells)));
+        if (!ids.insert(terminals.back().id).second) {
+            table.refuse(cells, "UnitID " + terminals.back().id + " stands twice");
+        }
+    }
+    return terminals;
+}
+
+} // namespace vasker
