@@ -44,14 +44,27 @@ const char* BytePattern::find(const char* from, const char* textEnd) const noexc
     const auto equal = [](const char* bytes, __m128i byte) {
         return _mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes)), byte);
     };
-    // The pattern ends inside the text, so that a load reads at most sixteen bytes behind it.
+    const auto rareAt = [&](const char* place) {
+        return _mm_and_si128(equal(place + probe0, wanted0), equal(place + probe1, wanted1));
+    };
+    const auto commonAt = [&](const char* place) {
+        return _mm_and_si128(equal(place + probe2, wanted2), equal(place + probe3, wanted3));
+    };
+    // A place is at most the last one that the pattern fits in, so that a load reads at most two
+    // blocks behind the text.
+    constexpr std::size_t block = sizeof(__m128i);
     const char* const lastPlace = textEnd - m_pattern.size();
-    for (; from <= lastPlace; from += sizeof(__m128i)) {
-        const __m128i first =
-            _mm_and_si128(equal(from + probe0, wanted0), equal(from + probe1, wanted1));
-        const __m128i second =
-            _mm_and_si128(equal(from + probe2, wanted2), equal(from + probe3, wanted3));
-        auto candidates = static_cast<unsigned>(_mm_movemask_epi8(_mm_and_si128(first, second)));
+    for (; from <= lastPlace; from += 2 * block) {
+        const __m128i here = rareAt(from);
+        const __m128i next = rareAt(from + block);
+        if (_mm_movemask_epi8(_mm_or_si128(here, next)) == 0) {
+            continue;
+        }
+        const auto bitsOf = [](__m128i equality) {
+            return static_cast<unsigned>(_mm_movemask_epi8(equality));
+        };
+        unsigned candidates = bitsOf(_mm_and_si128(here, commonAt(from))) |
+                              bitsOf(_mm_and_si128(next, commonAt(from + block))) << block;
         for (; candidates != 0; candidates &= candidates - 1) {
             const char* const place = from + std::countr_zero(candidates);
             if (place > lastPlace) {
