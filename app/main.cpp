@@ -1,5 +1,9 @@
+#include "app/OpenMapApp.h"
+#include "platform/Locale.h"
+#include "platform/ui/Fonts.h"
+
 #include <QGuiApplication>
-#include <QQmlApplicationEngine>
+#include <QIcon>
 #include <QQmlExtensionPlugin>
 
 Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
@@ -7,9 +11,15 @@ Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 int main(int argc, char* argv[]) {
-    const QGuiApplication application(argc, argv);
-    QQmlApplicationEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Vasker/App/Main.qml")));
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("vasker-open-map"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Vasker Beta"));
+    vasker::installInterfaceFont();
+    vasker::installTranslation(application, vasker::messagesLocale());
+
+    vasker::OpenMapApp windows(vasker::Bundle::ofApplication(),
+                               vasker::TextLocale::fromEnvironment(),
+                               vasker::Preferences::userPath());
+    windows.openWindow();
     return QGuiApplication::exec();
 }

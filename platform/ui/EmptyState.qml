@@ -1,4 +1,5 @@
 import QtQuick
+import Vasker.Platform
 
 // What stands where a search has found nothing.
 Item {

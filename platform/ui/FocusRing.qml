@@ -1,4 +1,5 @@
 import QtQuick
+import Vasker.Platform
 
 // The mark of keyboard focus around its parent, one pixel off it; inside it for rows of a list.
 Rectangle {

@@ -1,4 +1,5 @@
 import QtQuick
+import Vasker.Platform
 
 // A button of the header bar: an icon and, where there is room, its label.
 Item {

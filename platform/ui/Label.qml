@@ -1,4 +1,5 @@
 import QtQuick
+import Vasker.Platform
 
 // A text in one of the theme's styles, taken literally: never markup unless a view says so.
 Text {

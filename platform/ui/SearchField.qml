@@ -1,4 +1,5 @@
 import QtQuick
+import Vasker.Platform
 
 // A one-line field for a search text. What the user types leaves as `edited`; `text` comes in.
 Rectangle {

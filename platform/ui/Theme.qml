@@ -1,5 +1,6 @@
 pragma Singleton
 import QtQuick
+import Vasker.Platform
 
 // Colours by role, text styles and measures of the whole application.
 QtObject {

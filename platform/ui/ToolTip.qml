@@ -1,4 +1,5 @@
 import QtQuick
+import Vasker.Platform
 
 // What a control without a visible label is called, below it, once the pointer rests there.
 Rectangle {

@@ -1,0 +1,49 @@
+import QtQuick
+import Vasker.Platform
+
+// Shown while the release is read and checked; a quick load never shows it.
+Item {
+    id: root
+
+    opacity: 0
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: label.text
+
+    Timer {
+        interval: 150
+        running: true
+        onTriggered: root.opacity = 1
+    }
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Theme.menuDuration
+        }
+    }
+    Column {
+        anchors.centerIn: parent
+        spacing: 16
+
+        ProgressRing {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 36
+            height: 36
+            track: Theme.line
+            quarter: Theme.accent
+
+            RotationAnimator on rotation {
+                from: 0
+                to: 360
+                duration: Theme.spinnerTurn
+                loops: Animation.Infinite
+                running: root.visible && !Theme.still
+            }
+        }
+        Label {
+            id: label
+
+            textStyle: Theme.body
+            color: Theme.ink2
+            text: qsTr("Opening the bundled map…")
+        }
+    }
+}

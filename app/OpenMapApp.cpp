@@ -1,0 +1,47 @@
+#include "app/OpenMapApp.h"
+
+#include "app/OpenMapRoot.h"
+
+#include <QQuickWindow>
+
+#include <memory>
+
+namespace vasker {
+
+OpenMapApp::OpenMapApp(Bundle bundle, TextLocale locale, const QString& preferencesPath)
+    : m_bundle(std::move(bundle)), m_locale(std::move(locale)), m_preferences(preferencesPath),
+      m_component(&m_engine) {
+    m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+}
+
+OpenMapApp::~OpenMapApp() {
+    for (const QPointer<QQuickWindow>& window : m_windows) {
+        delete window;
+    }
+}
+
+QQuickWindow* OpenMapApp::openWindow() {
+    // Loading starts first: it goes on while the window is being made.
+    auto root = std::make_unique<OpenMapRoot>(m_bundle, m_locale, m_preferences, m_threads);
+    root->load();
+    if (m_component.isNull()) {
+        m_component.loadUrl(QUrl(QStringLiteral("qrc:/qt/qml/Vasker/App/Main.qml")));
+    }
+    if (m_component.isError()) {
+        qFatal("%s", qPrintable(m_component.errorString()));
+    }
+    auto* window = qobject_cast<QQuickWindow*>(m_component.createWithInitialProperties(
+        {{QStringLiteral("root"), QVariant::fromValue(root.get())},
+         {QStringLiteral("application"), QVariant::fromValue(this)}}));
+    Q_ASSERT(window != nullptr);
+    // Items go before the root that they are bound to: a window's children are the last it loses.
+    root.release()->setParent(window);
+    QQmlEngine::setObjectOwnership(window, QQmlEngine::CppOwnership);
+    // By name: the event's type is not public.
+    connect(window, SIGNAL(closing(QQuickCloseEvent*)), window, SLOT(deleteLater()));
+    m_windows.removeIf([](const QPointer<QQuickWindow>& each) { return each.isNull(); });
+    m_windows.append(window);
+    return window;
+}
+
+} // namespace vasker

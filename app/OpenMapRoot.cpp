@@ -1,0 +1,85 @@
+#include "app/OpenMapRoot.h"
+
+#include "app/LoadTask.h"
+#include "data/OpenMapRelease.h"
+
+#include <QFile>
+#include <QJsonValue>
+
+#include <system_error>
+
+namespace vasker {
+
+namespace {
+
+const QString resourceName = QStringLiteral("OpenMap");
+const QString resourceExtension = QStringLiteral("json");
+const QString digestKey = QStringLiteral("VaskerOpenMapSHA256");
+
+// Never translated: it continues a message that is shown as it stands.
+const QString reassurance = QStringLiteral(
+    " Reinstall this beta from its original distributor. Your private Vasker library "
+    "has not been opened.");
+
+} // namespace
+
+OpenMapRoot::OpenMapRoot(Bundle bundle,
+                         TextLocale locale,
+                         Preferences& preferences,
+                         BackgroundThreads& threads,
+                         QObject* parent)
+    : QObject(parent), m_bundle(std::move(bundle)), m_locale(std::move(locale)),
+      m_preferences(preferences), m_threads(threads) {}
+
+void OpenMapRoot::load() {
+    if (m_workspace != nullptr || m_failed || m_task != nullptr) {
+        return;
+    }
+    const auto resource = m_bundle.resource(resourceName, resourceExtension);
+    const QString digest = m_bundle.information(digestKey).toString();
+    if (!resource || digest.isEmpty()) {
+        fail(std::string(OpenMapRelease::errorDescription(OpenMapRelease::Invalid::provenance)));
+        return;
+    }
+    try {
+        m_task = new LoadTask(
+            m_threads,
+            [path = QFile::encodeName(*resource).toStdString(),
+             expected = digest.toStdString(),
+             locale = m_locale] { return loadRelease(path, expected, locale); },
+            this);
+        connect(m_task, &LoadTask::finished, this, &OpenMapRoot::finish);
+    } catch (const std::system_error& error) {
+        fail(error.code().message());
+    }
+}
+
+OpenMapRoot::Screen OpenMapRoot::screen() const noexcept {
+    if (m_workspace != nullptr) {
+        return Screen::Ready;
+    }
+    return m_failed ? Screen::Failed : Screen::Loading;
+}
+
+QString OpenMapRoot::failureText() const {
+    return m_failed ? QString::fromStdString(m_error) + reassurance : QString();
+}
+
+void OpenMapRoot::fail(std::string description) {
+    m_error = std::move(description);
+    m_failed = true;
+    Q_EMIT screenChanged();
+}
+
+void OpenMapRoot::finish(const LoadOutcome& outcome) {
+    m_task->deleteLater();
+    if (const auto* failure = std::get_if<LoadFailure>(&outcome)) {
+        fail(failure->description);
+        return;
+    }
+    m_workspace = new OpenMapWorkspace(
+        std::get<std::shared_ptr<const LoadedRelease>>(outcome), m_preferences, this);
+    Q_EMIT screenChanged();
+}
+
+} // namespace vasker

@@ -1,0 +1,66 @@
+#pragma once
+// What a window shows: the release is being opened, cannot be shown, or is there. It loads once;
+// the first outcome stays for the life of the window.
+
+#include "app/BackgroundThreads.h"
+#include "app/OpenMapWorkspace.h"
+#include "app/ReleaseLoading.h"
+#include "platform/Bundle.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+
+#include <string>
+
+namespace vasker {
+
+class LoadTask;
+class Preferences;
+
+class OpenMapRoot : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the application for each window")
+    Q_PROPERTY(Screen screen READ screen NOTIFY screenChanged)
+    Q_PROPERTY(QString failureText READ failureText NOTIFY screenChanged)
+    Q_PROPERTY(vasker::OpenMapWorkspace* workspace READ workspace NOTIFY screenChanged)
+
+  public:
+    enum class Screen { Loading, Failed, Ready };
+    Q_ENUM(Screen)
+
+    /// All references outlive the root.
+    OpenMapRoot(Bundle bundle,
+                TextLocale locale,
+                Preferences& preferences,
+                BackgroundThreads& threads,
+                QObject* parent = nullptr);
+
+    /// Starts loading; does nothing when that has been done before, however it went.
+    void load();
+
+    [[nodiscard]] Screen screen() const noexcept;
+    /// The description of the failure screen; empty on the others. Shown as it stands.
+    [[nodiscard]] QString failureText() const;
+    /// Null until the release is there.
+    [[nodiscard]] OpenMapWorkspace* workspace() const noexcept { return m_workspace; }
+
+  Q_SIGNALS:
+    void screenChanged();
+
+  private:
+    void fail(std::string description);
+    void finish(const LoadOutcome& outcome);
+
+    Bundle m_bundle;
+    TextLocale m_locale;
+    Preferences& m_preferences;
+    BackgroundThreads& m_threads;
+    LoadTask* m_task = nullptr;
+    OpenMapWorkspace* m_workspace = nullptr;
+    std::string m_error;
+    bool m_failed = false;
+};
+
+} // namespace vasker

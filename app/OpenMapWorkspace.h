@@ -1,0 +1,125 @@
+#pragma once
+// The state of one window's workspace and what follows from it. Views read it and write `query`,
+// `kind`, `selection`, `camera` and `basemap`; everything else they see is derived here.
+// User-interface thread only.
+
+#include "map/RecordSet.h"
+#include "map/geometry/Camera.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QtQmlIntegration>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace vasker {
+
+class Preferences;
+
+class OpenMapWorkspace : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the root view when the release is there")
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
+    Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY kindChanged)
+    Q_PROPERTY(QString selection READ selection WRITE setSelection NOTIFY selectionChanged)
+    Q_PROPERTY(QString inspector READ inspector NOTIFY inspectorChanged)
+    Q_PROPERTY(bool showingSources READ showingSources WRITE setShowingSources NOTIFY
+                   showingSourcesChanged)
+    Q_PROPERTY(bool showingRecords READ showingRecords WRITE setShowingRecords NOTIFY
+                   showingRecordsChanged)
+    Q_PROPERTY(QString basemap READ basemap WRITE setBasemap NOTIFY basemapChanged)
+    Q_PROPERTY(vasker::CameraPosition camera READ camera WRITE setCamera NOTIFY cameraChanged)
+    Q_PROPERTY(vasker::RecordSet records READ records NOTIFY recordsChanged)
+    Q_PROPERTY(QStringList kinds READ kinds CONSTANT)
+
+  public:
+    /// `loaded` is not null; `preferences` outlive the workspace.
+    OpenMapWorkspace(std::shared_ptr<const LoadedRelease> loaded,
+                     Preferences& preferences,
+                     QObject* parent = nullptr);
+
+    [[nodiscard]] const OpenMapRelease& release() const noexcept {
+        return m_loaded->index.release();
+    }
+
+    /// The search text; not trimmed.
+    [[nodiscard]] const QString& query() const noexcept { return m_query; }
+    void setQuery(const QString& query);
+    /// The kind to show, or "all".
+    [[nodiscard]] const QString& kind() const noexcept { return m_kind; }
+    void setKind(const QString& kind);
+
+    /// The id of the picked record; empty: none. A new value frames its record and opens the
+    /// inspector on it, after the records sheet has closed if that is up. An id that no record has
+    /// does neither.
+    [[nodiscard]] const QString& selection() const noexcept { return m_selection; }
+    void setSelection(const QString& selection);
+
+    /// The id of the record in the inspector; empty while that is closed.
+    [[nodiscard]] QString inspector() const { return idOf(m_inspector); }
+    /// The id of the record that waits for the records sheet to close; empty: none.
+    [[nodiscard]] QString pendingInspector() const { return idOf(m_pendingInspector); }
+    [[nodiscard]] bool showingSources() const noexcept { return m_showingSources; }
+    void setShowingSources(bool showing);
+    [[nodiscard]] bool showingRecords() const noexcept { return m_showingRecords; }
+    void setShowingRecords(bool showing);
+
+    /// The stored preference as it stands, known or not; "standard" where nothing is stored.
+    [[nodiscard]] QString basemap() const;
+    void setBasemap(const QString& basemap);
+
+    [[nodiscard]] const CameraPosition& camera() const noexcept { return m_camera; }
+    void setCamera(const CameraPosition& camera);
+
+    /// The records that pass `kind` and `query`, in name order.
+    [[nodiscard]] const std::vector<AssetIndex>& filtered() const noexcept { return *m_filtered; }
+    [[nodiscard]] RecordSet records() const { return {m_loaded, m_filtered}; }
+    /// The kinds of all records, each once, in code-point order.
+    [[nodiscard]] QStringList kinds() const;
+
+    /// Sets the camera so that it frames `asset`; changes nothing else.
+    void focus(const OpenMapRelease::Asset& asset);
+    /// Back to the overview of Canada; changes nothing else.
+    Q_INVOKABLE void resetCamera();
+    /// The inspector has closed, by whatever means: nothing is picked any more.
+    Q_INVOKABLE void dismissInspector();
+    /// The records sheet has closed, by whatever means: a waiting record goes to the inspector.
+    Q_INVOKABLE void dismissRecords();
+
+  Q_SIGNALS:
+    void queryChanged();
+    void kindChanged();
+    void selectionChanged();
+    void inspectorChanged();
+    void showingSourcesChanged();
+    void showingRecordsChanged();
+    void basemapChanged();
+    void cameraChanged();
+    void recordsChanged();
+
+  private:
+    using Picked = std::optional<AssetIndex>;
+    void filter();
+    void open(AssetIndex record);
+    void setInspector(Picked record);
+    [[nodiscard]] QString idOf(Picked record) const;
+
+    std::shared_ptr<const LoadedRelease> m_loaded;
+    Preferences& m_preferences;
+    QString m_query;
+    QString m_kind;
+    QString m_selection;
+    Picked m_inspector;
+    Picked m_pendingInspector;
+    bool m_showingSources = false;
+    bool m_showingRecords = false;
+    QString m_basemap;
+    CameraPosition m_camera = canadaOverview;
+    std::shared_ptr<const std::vector<AssetIndex>> m_filtered;
+};
+
+} // namespace vasker

@@ -1,0 +1,26 @@
+#pragma once
+// The work of the load task: from a file's path to a release that is ready for views, or to the
+// reason why there is none. Touches nothing but its arguments; any thread.
+
+#include "map/RecordSet.h"
+
+#include <memory>
+#include <string>
+#include <variant>
+
+namespace vasker {
+
+/// The user-facing description of a failure: a refusal's message, the operating system's own words
+/// for a file that cannot be read, the JSON library's for a file it cannot decode.
+struct LoadFailure {
+    std::string description;
+    friend bool operator==(const LoadFailure&, const LoadFailure&) = default;
+};
+
+using LoadOutcome = std::variant<std::shared_ptr<const LoadedRelease>, LoadFailure>;
+
+/// Reads the file at `path` whole and decodes it against `expectedSHA256`.
+[[nodiscard]] LoadOutcome
+loadRelease(const std::string& path, const std::string& expectedSHA256, const TextLocale& locale);
+
+} // namespace vasker

@@ -1,0 +1,84 @@
+import QtQuick
+import Vasker.App
+import Vasker.Map
+import Vasker.Platform
+
+// The workspace: search field and catalogue, a divider, and the map below its header.
+FocusScope {
+    id: root
+
+    required property OpenMapWorkspace workspace
+
+    Rectangle {
+        id: column
+
+        width: Theme.columnWidth
+        height: parent.height
+        color: Theme.window
+
+        SearchField {
+            id: search
+
+            x: 12
+            y: Math.round((Theme.headerHeight - height) / 2)
+            width: parent.width - 24
+            prompt: qsTr("Facility, pipeline or reporting company")
+            text: root.workspace.query
+            onEdited: text => root.workspace.query = text
+            onLeaveDown: catalogue.enterList()
+        }
+        Catalogue {
+            id: catalogue
+
+            anchors.top: parent.top
+            anchors.topMargin: Theme.headerHeight
+            anchors.bottom: parent.bottom
+            width: parent.width
+            records: root.workspace.records
+            query: root.workspace.query
+            kind: root.workspace.kind
+            kinds: root.workspace.kinds
+            selection: root.workspace.selection
+            onKindPicked: kind => root.workspace.kind = kind
+            onRecordPicked: id => root.workspace.selection = id
+            onSelectionCleared: root.workspace.dismissInspector()
+        }
+    }
+    Rectangle {
+        id: divider
+
+        anchors.left: column.right
+        width: 1
+        height: parent.height
+        color: Theme.line
+    }
+    HeaderBar {
+        id: header
+
+        anchors.left: divider.right
+        anchors.right: parent.right
+        onCameraReset: root.workspace.resetCamera()
+    }
+    MapView {
+        id: map
+
+        anchors.left: divider.right
+        anchors.right: parent.right
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        objectName: "open-map-canvas"
+        records: root.workspace.records
+        selection: root.workspace.selection
+        camera: root.workspace.camera
+        dark: Theme.dark
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("Canadian energy infrastructure map")
+        onPicked: id => id.length > 0 ? root.workspace.selection = id : root.workspace.dismissInspector()
+        onMoved: camera => root.workspace.camera = camera
+        Keys.onEscapePressed: root.workspace.dismissInspector()
+    }
+    Shortcut {
+        sequences: [StandardKey.Find]
+        onActivated: search.focusText()
+    }
+}

@@ -1,0 +1,95 @@
+import QtQuick
+import Vasker.Map
+import Vasker.Platform
+
+// The catalogue: category picker, count line, and the records or what stands in their place.
+Item {
+    id: root
+
+    required property recordSet records
+    required property string query
+    required property string kind
+    required property list<string> kinds
+    required property string selection
+
+    signal kindPicked(string kind)
+    signal recordPicked(string id)
+    signal selectionCleared
+
+    function enterList(): void {
+        list.item?.enter();
+    }
+
+    RecordListModel {
+        id: recordModel
+
+        records: root.records
+        query: root.query
+        selection: root.selection
+    }
+    KindListModel {
+        id: kindModel
+
+        kinds: root.kinds
+        kind: root.kind
+    }
+    Rectangle {
+        id: head
+
+        width: parent.width
+        height: countLine.y + countLine.height + 6 + 1
+        color: Theme.window
+
+        KindPicker {
+            id: picker
+
+            x: 12
+            y: 8
+            width: parent.width - 24
+            kinds: kindModel
+            onPicked: kind => root.kindPicked(kind)
+        }
+        Label {
+            id: countLine
+
+            x: 16
+            y: picker.y + picker.height + 6
+            width: parent.width - 32
+            wrapMode: Text.Wrap
+            textStyle: Theme.caption
+            color: Theme.ink2
+            text: recordModel.countText
+            Accessible.ignored: false
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.line
+        }
+    }
+    Rectangle {
+        anchors.top: head.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        color: Theme.surface
+
+        Loader {
+            id: list
+
+            anchors.fill: parent
+            active: !recordModel.empty
+            sourceComponent: RecordList {
+                records: recordModel
+                onPicked: id => root.recordPicked(id)
+                onCleared: root.selectionCleared()
+            }
+        }
+        EmptyState {
+            anchors.fill: parent
+            visible: recordModel.empty
+            title: recordModel.emptyTitle
+            advice: qsTr("Check the spelling or try a new search.")
+        }
+    }
+}

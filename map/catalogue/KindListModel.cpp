@@ -1,0 +1,93 @@
+#include "map/catalogue/KindListModel.h"
+
+#include "map/CategoryText.h"
+
+#include <algorithm>
+
+namespace vasker {
+
+namespace {
+
+const QString allKinds = QStringLiteral("all");
+
+} // namespace
+
+KindListModel::KindListModel(QObject* parent) : QAbstractListModel(parent), m_kind(allKinds) {}
+
+int KindListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : 1 + static_cast<int>(m_kinds.size());
+}
+
+QVariant KindListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+        return {};
+    }
+    switch (role) {
+    case ValueRole:
+        return valueAt(index.row());
+    case LabelRole:
+    case Qt::DisplayRole:
+        return labelAt(index.row());
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> KindListModel::roleNames() const {
+    return {{ValueRole, "value"}, {LabelRole, "label"}};
+}
+
+void KindListModel::setKinds(const QStringList& kinds) {
+    if (m_kinds != kinds) {
+        beginResetModel();
+        m_kinds = kinds;
+        endResetModel();
+        Q_EMIT kindsChanged();
+        Q_EMIT currentChanged();
+    }
+}
+
+void KindListModel::setKind(const QString& kind) {
+    if (m_kind != kind) {
+        m_kind = kind;
+        Q_EMIT kindChanged();
+        Q_EMIT currentChanged();
+    }
+}
+
+int KindListModel::currentRow() const {
+    if (m_kind == allKinds) {
+        return 0;
+    }
+    const auto place = m_kinds.indexOf(m_kind);
+    return place < 0 ? -1 : static_cast<int>(place) + 1;
+}
+
+QString KindListModel::currentLabel() const {
+    const int row = currentRow();
+    return row < 0 ? categoryText(m_kind.toStdString()) : labelAt(row);
+}
+
+QString KindListModel::valueAt(int row) const {
+    if (row < 0 || row >= rowCount()) {
+        return {};
+    }
+    return row == 0 ? allKinds : m_kinds.at(row - 1);
+}
+
+int KindListModel::rowStartingWith(const QString& typed, int row) const {
+    const int count = rowCount();
+    for (int step = 0; step < count; ++step) {
+        const int each = (std::max(row, 0) + step) % count;
+        if (labelAt(each).startsWith(typed, Qt::CaseInsensitive)) {
+            return each;
+        }
+    }
+    return -1;
+}
+
+QString KindListModel::labelAt(int row) const {
+    return row == 0 ? tr("All categories") : categoryText(m_kinds.at(row - 1).toStdString());
+}
+
+} // namespace vasker

@@ -1,0 +1,58 @@
+#pragma once
+// The entries of the category picker: "All categories", then one per kind, in the order given.
+
+#include <QAbstractListModel>
+#include <QString>
+#include <QStringList>
+#include <QtQmlIntegration>
+
+namespace vasker {
+
+class KindListModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QStringList kinds READ kinds WRITE setKinds NOTIFY kindsChanged)
+    /// The value of the entry that is chosen.
+    Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY kindChanged)
+    /// The chosen entry's row, -1 where the kind has none.
+    Q_PROPERTY(int currentRow READ currentRow NOTIFY currentChanged)
+    Q_PROPERTY(QString currentLabel READ currentLabel NOTIFY currentChanged)
+
+  public:
+    enum Role {
+        ValueRole = Qt::UserRole, ///< `value`: what `kind` becomes
+        LabelRole,                ///< `label`: what is shown
+    };
+
+    explicit KindListModel(QObject* parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] const QStringList& kinds() const noexcept { return m_kinds; }
+    void setKinds(const QStringList& kinds);
+    [[nodiscard]] const QString& kind() const noexcept { return m_kind; }
+    void setKind(const QString& kind);
+    [[nodiscard]] int currentRow() const;
+    [[nodiscard]] QString currentLabel() const;
+
+    /// The value of the entry in `row`, empty outside the list.
+    Q_INVOKABLE QString valueAt(int row) const;
+    /// The first row from `row` on, and then from the start, whose label begins with `typed`,
+    /// whatever the case; -1 where none does.
+    Q_INVOKABLE int rowStartingWith(const QString& typed, int row) const;
+
+  Q_SIGNALS:
+    void kindsChanged();
+    void kindChanged();
+    void currentChanged();
+
+  private:
+    [[nodiscard]] QString labelAt(int row) const;
+
+    QStringList m_kinds;
+    QString m_kind;
+};
+
+} // namespace vasker

@@ -1,0 +1,101 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vasker.Map
+import Vasker.Platform
+
+// The rows of the catalogue. Arrows, Page Up and Down, Home and End move through it, Enter picks.
+ListView {
+    id: root
+
+    required property RecordListModel records
+
+    signal picked(string id)
+    signal cleared
+
+    objectName: "open-map-records"
+    model: root.records
+    clip: true
+    reuseItems: true
+    cacheBuffer: 320
+    boundsBehavior: Flickable.StopAtBounds
+    pixelAligned: true
+    keyNavigationEnabled: true
+    highlightFollowsCurrentItem: true
+    highlightMoveDuration: 0
+    highlightResizeDuration: 0
+    currentIndex: -1
+    activeFocusOnTab: true
+    topMargin: 4
+    bottomMargin: 4
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Records")
+
+    function enter(): void {
+        root.forceActiveFocus(Qt.TabFocusReason);
+    }
+    function go(row: int): void {
+        root.currentIndex = Math.max(0, Math.min(root.count - 1, row));
+    }
+    function pageRows(): int {
+        return Math.max(1, Math.floor(root.height / (root.currentItem?.height ?? root.height)) - 1);
+    }
+
+    onActiveFocusChanged: if (activeFocus && currentIndex < 0) {
+        go(Math.max(0, root.records.selectedRow));
+    }
+    Keys.onReturnPressed: root.picked(root.records.idAt(root.currentIndex))
+    Keys.onEnterPressed: root.picked(root.records.idAt(root.currentIndex))
+    Keys.onSpacePressed: root.picked(root.records.idAt(root.currentIndex))
+    Keys.onEscapePressed: root.cleared()
+    Keys.onPressed: event => {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Home:
+            return root.go(0);
+        case Qt.Key_End:
+            return root.go(root.count - 1);
+        case Qt.Key_PageDown:
+            return root.go(root.currentIndex + root.pageRows());
+        case Qt.Key_PageUp:
+            return root.go(root.currentIndex - root.pageRows());
+        }
+        event.accepted = false;
+    }
+
+    delegate: RecordRow {
+        width: ListView.view.width
+        selected: index === root.records.selectedRow
+        current: root.activeFocus && ListView.isCurrentItem
+        separatorVisible: index < root.count - 1 && index + 1 !== root.records.selectedRow
+        onPicked: {
+            root.currentIndex = index;
+            root.picked(recordId);
+        }
+    }
+
+    Connections {
+        target: root.records
+
+        property string currentId
+
+        function onModelAboutToBeReset(): void {
+            currentId = root.records.idAt(root.currentIndex);
+        }
+        function onModelReset(): void {
+            const row = root.records.rowOf(currentId);
+            root.currentIndex = row;
+            if (row < 0) {
+                root.positionViewAtBeginning();
+            }
+        }
+        function onSelectedRowChanged(): void {
+            if (root.records.selectedRow >= 0) {
+                root.currentIndex = root.records.selectedRow;
+                root.positionViewAtIndex(root.currentIndex, ListView.Contain);
+            }
+        }
+    }
+    ScrollThumb {
+        flickable: root
+    }
+}

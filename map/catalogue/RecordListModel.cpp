@@ -1,0 +1,166 @@
+#include "map/catalogue/RecordListModel.h"
+
+#include "map/CategoryText.h"
+#include "map/Symbols.h"
+#include "map/catalogue/NameMatch.h"
+
+#include <algorithm>
+
+namespace vasker {
+
+namespace {
+
+constexpr std::string_view unitLabel = "Reported unit";
+
+QString text(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString unit(const OpenMapRelease::Asset& asset) {
+    const auto fact = std::ranges::find(asset.facts, unitLabel, &OpenMapRelease::Fact::label);
+    return fact == asset.facts.end() ? QString() : text(fact->value);
+}
+
+QString categoryLine(const OpenMapRelease::Asset& asset) {
+    return categoryText(asset.kind) + QStringLiteral(" · ") + text(asset.asOf);
+}
+
+} // namespace
+
+RecordListModel::RecordListModel(QObject* parent) : QAbstractListModel(parent) {}
+
+int RecordListModel::rowCount(const QModelIndex& parent) const {
+    const bool isList = !parent.isValid() && m_records.filtered;
+    return isList ? static_cast<int>(m_records.filtered->size()) : 0;
+}
+
+QVariant RecordListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+        return {};
+    }
+    const OpenMapRelease::Asset& record = asset(index.row());
+    switch (role) {
+    case IdRole:
+        return text(record.id);
+    case NameRole:
+    case Qt::DisplayRole:
+        return text(record.name);
+    case MarkupRole:
+        return markup(record);
+    case UnitRole:
+        return unit(record);
+    case CategoryRole:
+        return categoryLine(record);
+    case SymbolRole:
+        return text(symbol(record.kind));
+    case TintRole:
+        return static_cast<int>(color(record.kind));
+    case AccessibleRole:
+        return tr("%1, %2, source period %3")
+            .arg(text(record.name), categoryText(record.kind), text(record.asOf));
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> RecordListModel::roleNames() const {
+    return {{IdRole, "recordId"},
+            {NameRole, "name"},
+            {MarkupRole, "markup"},
+            {UnitRole, "unit"},
+            {CategoryRole, "category"},
+            {SymbolRole, "symbol"},
+            {TintRole, "tint"},
+            {AccessibleRole, "accessibleText"}};
+}
+
+void RecordListModel::setRecords(const RecordSet& records) {
+    if (m_records == records) {
+        return;
+    }
+    beginResetModel();
+    m_records = records;
+    foldQuery();
+    m_selectedRow = rowOf(m_selection);
+    endResetModel();
+    Q_EMIT recordsChanged();
+    Q_EMIT selectedRowChanged();
+}
+
+void RecordListModel::setQuery(const QString& query) {
+    if (m_query == query) {
+        return;
+    }
+    m_query = query;
+    foldQuery();
+    Q_EMIT queryChanged();
+    if (!isEmpty()) {
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {MarkupRole});
+    }
+}
+
+void RecordListModel::setSelection(const QString& selection) {
+    if (m_selection != selection) {
+        m_selection = selection;
+        Q_EMIT selectionChanged();
+        updateSelectedRow();
+    }
+}
+
+QString RecordListModel::countText() const {
+    const std::size_t total =
+        m_records.loaded ? m_records.loaded->index.release().assets.size() : std::size_t{0};
+    //: %n: how many records are shown, %1: how many there are
+    return tr("%n of %1 records", nullptr, rowCount()).arg(total);
+}
+
+QString RecordListModel::emptyTitle() const {
+    return m_query.isEmpty() ? tr("No results") : tr("No results for “%1”").arg(m_query);
+}
+
+QString RecordListModel::idAt(int row) const {
+    return row < 0 || row >= rowCount() ? QString() : text(asset(row).id);
+}
+
+int RecordListModel::rowOf(const QString& id) const {
+    if (!m_records.loaded || id.isEmpty()) {
+        return -1;
+    }
+    const auto record = m_records.loaded->index.find(id.toStdString());
+    if (!record) {
+        return -1;
+    }
+    const auto& filtered = *m_records.filtered;
+    const auto place = std::ranges::find(filtered, *record);
+    return place == filtered.end() ? -1 : static_cast<int>(place - filtered.begin());
+}
+
+const OpenMapRelease::Asset& RecordListModel::asset(int row) const {
+    const AssetIndex record = (*m_records.filtered)[static_cast<std::size_t>(row)];
+    return m_records.loaded->index.release().assets[record];
+}
+
+QString RecordListModel::markup(const OpenMapRelease::Asset& asset) const {
+    if (m_foldedQuery.empty()) {
+        return {};
+    }
+    const QString name = text(asset.name);
+    const auto part = matchedPart(name, m_foldedQuery, m_records.loaded->index.locale());
+    return part ? nameMarkup(name, *part) : QString();
+}
+
+void RecordListModel::foldQuery() {
+    m_foldedQuery = m_records.loaded
+                        ? folded(m_query.toStdString(), m_records.loaded->index.locale())
+                        : std::string();
+}
+
+void RecordListModel::updateSelectedRow() {
+    const int row = rowOf(m_selection);
+    if (m_selectedRow != row) {
+        m_selectedRow = row;
+        Q_EMIT selectedRowChanged();
+    }
+}
+
+} // namespace vasker

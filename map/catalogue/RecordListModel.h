@@ -1,0 +1,82 @@
+#pragma once
+// The rows of the catalogue: one per record that passes the filter, in its order.
+
+#include "map/RecordSet.h"
+
+#include <QAbstractListModel>
+#include <QString>
+#include <QtQmlIntegration>
+
+#include <string>
+
+namespace vasker {
+
+class RecordListModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(vasker::RecordSet records READ records WRITE setRecords NOTIFY recordsChanged)
+    /// What was searched for; decides which part of a name is set in bold.
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
+    /// The id of the picked record; empty: none.
+    Q_PROPERTY(QString selection READ selection WRITE setSelection NOTIFY selectionChanged)
+    /// The row of the picked record, -1 where it has none.
+    Q_PROPERTY(int selectedRow READ selectedRow NOTIFY selectedRowChanged)
+    Q_PROPERTY(bool empty READ isEmpty NOTIFY recordsChanged)
+    Q_PROPERTY(QString countText READ countText NOTIFY recordsChanged)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY queryChanged)
+
+  public:
+    enum Role {
+        IdRole = Qt::UserRole, ///< `recordId`: the record's id
+        NameRole,              ///< `name`: verbatim, to be shown as plain text
+        MarkupRole,     ///< `markup`: the name as styled text with the match in bold, or empty
+        UnitRole,       ///< `unit`: the first "Reported unit", verbatim, or empty
+        CategoryRole,   ///< `category`: the category's label and the source period
+        SymbolRole,     ///< `symbol`: the icon's name
+        TintRole,       ///< `tint`: the number of a PaletteColor
+        AccessibleRole, ///< `accessibleText`: the row in one sentence for assistive tools
+    };
+
+    explicit RecordListModel(QObject* parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] const RecordSet& records() const noexcept { return m_records; }
+    void setRecords(const RecordSet& records);
+    [[nodiscard]] const QString& query() const noexcept { return m_query; }
+    void setQuery(const QString& query);
+    [[nodiscard]] const QString& selection() const noexcept { return m_selection; }
+    void setSelection(const QString& selection);
+    [[nodiscard]] int selectedRow() const noexcept { return m_selectedRow; }
+    [[nodiscard]] bool isEmpty() const { return rowCount() == 0; }
+    /// "12 of 40 records".
+    [[nodiscard]] QString countText() const;
+    [[nodiscard]] QString emptyTitle() const;
+
+    /// The id of the record in `row`, empty outside the list.
+    Q_INVOKABLE QString idAt(int row) const;
+    /// The row of the record with this id, -1 where it has none.
+    Q_INVOKABLE int rowOf(const QString& id) const;
+
+  Q_SIGNALS:
+    void recordsChanged();
+    void queryChanged();
+    void selectionChanged();
+    void selectedRowChanged();
+
+  private:
+    [[nodiscard]] const OpenMapRelease::Asset& asset(int row) const;
+    [[nodiscard]] QString markup(const OpenMapRelease::Asset& asset) const;
+    void foldQuery();
+    void updateSelectedRow();
+
+    RecordSet m_records;
+    QString m_query;
+    std::string m_foldedQuery;
+    QString m_selection;
+    int m_selectedRow = -1;
+};
+
+} // namespace vasker

@@ -1,0 +1,162 @@
+#include "platform/ui/Shadow.h"
+
+#include <QHash>
+#include <QImage>
+#include <QPainter>
+#include <QQuickWindow>
+#include <QSGNinePatchNode>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <memory>
+#include <vector>
+
+namespace vasker {
+
+namespace {
+
+struct Elevation {
+    double down; ///< how far the shadow falls, in logical pixels
+    double blur; ///< its softness: twice the standard deviation, as style sheets count it
+    QColor shadow;
+    QColor hairline;
+};
+
+Elevation elevation(int level, bool dark) {
+    static const std::array light{
+        Elevation{1, 2, QColor(15, 20, 26, 41), QColor(15, 20, 26, 26)},
+        Elevation{8, 24, QColor(15, 20, 26, 46), QColor(15, 20, 26, 36)},
+        Elevation{20, 56, QColor(15, 20, 26, 71), QColor(15, 20, 26, 41)}};
+    static const std::array black{
+        Elevation{1, 3, QColor(0, 0, 0, 128), QColor(255, 255, 255, 18)},
+        Elevation{10, 28, QColor(0, 0, 0, 140), QColor(255, 255, 255, 23)},
+        Elevation{24, 64, QColor(0, 0, 0, 153), QColor(255, 255, 255, 23)}};
+    const auto place = static_cast<std::size_t>(std::clamp(level, 1, 3) - 1);
+    return dark ? black[place] : light[place];
+}
+
+// Room around the surface that holds the whole shadow.
+double margin(const Elevation& raised) {
+    return std::ceil(raised.blur * 1.5 + raised.down);
+}
+
+double corner(const Elevation& raised, double radius) {
+    return std::ceil(radius + raised.blur * 1.5);
+}
+
+// One pass of a moving mean over a row or column of `count` bytes that lie `stride` apart. Three
+// passes come close to a Gaussian.
+void blurLine(uchar* bytes, int count, qsizetype stride, int reach) {
+    std::vector<int> sums(static_cast<std::size_t>(count) + 1, 0);
+    for (int i = 0; i < count; ++i) {
+        sums[static_cast<std::size_t>(i) + 1] =
+            sums[static_cast<std::size_t>(i)] + bytes[i * stride];
+    }
+    for (int i = 0; i < count; ++i) {
+        const int first = std::max(i - reach, 0);
+        const int last = std::min(i + reach + 1, count);
+        const int sum =
+            sums[static_cast<std::size_t>(last)] - sums[static_cast<std::size_t>(first)];
+        bytes[i * stride] = static_cast<uchar>(sum / (2 * reach + 1));
+    }
+}
+
+void blur(QImage& alpha, double deviation) {
+    const int reach = std::max(1, static_cast<int>(std::lround(deviation)) - 1);
+    for (int pass = 0; pass < 3; ++pass) {
+        for (int y = 0; y < alpha.height(); ++y) {
+            blurLine(alpha.scanLine(y), alpha.width(), 1, reach);
+        }
+        for (int x = 0; x < alpha.width(); ++x) {
+            blurLine(alpha.bits() + x, alpha.height(), alpha.bytesPerLine(), reach);
+        }
+    }
+}
+
+QImage bake(const Elevation& raised, double radius, double pixelRatio) {
+    const double edge = margin(raised);
+    const double side = 2 * (edge + corner(raised, radius)) + 1;
+    const int pixels = static_cast<int>(std::ceil(side * pixelRatio));
+    const QRectF surface(edge, edge, side - 2 * edge, side - 2 * edge);
+
+    QImage alpha(pixels, pixels, QImage::Format_Alpha8);
+    alpha.fill(0);
+    QPainter shape(&alpha);
+    shape.setRenderHint(QPainter::Antialiasing);
+    shape.scale(pixelRatio, pixelRatio);
+    shape.setPen(Qt::NoPen);
+    shape.setBrush(Qt::black);
+    shape.drawRoundedRect(surface.translated(0, raised.down), radius, radius);
+    shape.end();
+    blur(alpha, raised.blur / 2 * pixelRatio);
+
+    QImage picture(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(raised.shadow);
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.drawImage(0, 0, alpha);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixelRatio, pixelRatio);
+    painter.setPen(QPen(raised.hairline, 1));
+    painter.drawRoundedRect(surface.adjusted(-0.5, -0.5, 0.5, 0.5), radius + 0.5, radius + 0.5);
+    return picture;
+}
+
+QImage baked(int level, bool dark, double radius, double pixelRatio) {
+    static QHash<QString, QImage> cache;
+    QImage& picture =
+        cache[QStringLiteral("%1 %2 %3 %4").arg(level).arg(dark).arg(radius).arg(pixelRatio)];
+    if (picture.isNull()) {
+        picture = bake(elevation(level, dark), radius, pixelRatio);
+    }
+    return picture;
+}
+
+} // namespace
+
+Shadow::Shadow(QQuickItem* parent) : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &Shadow::looksChanged, this, [this] {
+        m_pictureIsStale = true;
+        update();
+    });
+}
+
+void Shadow::itemChange(ItemChange change, const ItemChangeData& value) {
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) {
+        m_pictureIsStale = true;
+        update();
+    }
+    QQuickItem::itemChange(change, value);
+}
+
+void Shadow::geometryChange(const QRectF& now, const QRectF& before) {
+    update();
+    QQuickItem::geometryChange(now, before);
+}
+
+QSGNode* Shadow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
+    auto* node = static_cast<QSGNinePatchNode*>(old);
+    const double pixelRatio = window()->effectiveDevicePixelRatio();
+    const Elevation raised = elevation(m_level, m_dark);
+    if (node == nullptr) {
+        node = window()->createNinePatchNode();
+        m_pictureIsStale = true;
+    }
+    if (m_pictureIsStale) {
+        m_pictureIsStale = false;
+        node->setTexture(
+            window()->createTextureFromImage(baked(m_level, m_dark, m_radius, pixelRatio)));
+    }
+    const double edge = margin(raised);
+    const double patch = edge + corner(raised, m_radius);
+    node->setBounds(QRectF(0, 0, width(), height()).adjusted(-edge, -edge, edge, edge));
+    node->setDevicePixelRatio(pixelRatio);
+    node->setPadding(patch, patch, patch, patch);
+    node->update();
+    return node;
+}
+
+} // namespace vasker
