@@ -36,7 +36,10 @@ const char* BytePattern::find(const char* from, const char* textEnd) const noexc
     const auto wanted = [this](std::size_t probe) {
         return _mm_set1_epi8(m_pattern[m_probes[probe]]);
     };
-    const auto [probe0, probe1, probe2, probe3] = m_probes;
+    const std::size_t probe0 = m_probes[0];
+    const std::size_t probe1 = m_probes[1];
+    const std::size_t probe2 = m_probes[2];
+    const std::size_t probe3 = m_probes[3];
     const __m128i wanted0 = wanted(0);
     const __m128i wanted1 = wanted(1);
     const __m128i wanted2 = wanted(2);
