@@ -53,42 +53,46 @@ class Parser {
     std::vector<CsvTable::Row> read(std::string_view bytes) {
         while (!bytes.empty()) {
             ++m_line;
-            const std::string_view line = bytes.substr(0, bytes.find('\n')).size() == bytes.size()
-                                              ? bytes
-                                              : bytes.substr(0, bytes.find('\n') + 1);
-            if (!isUtf8(line)) {
-                throw InputError(m_file, m_line, "the text is not UTF-8");
-            }
-            if (csv_parse(&m_parser, line.data(), line.size(), onField, onRow, this) !=
-                line.size()) {
-                throw InputError(m_file, m_line, "a quote stands where none belongs");
-            }
-            bytes.remove_prefix(line.size());
+            const std::size_t length = std::min(bytes.find('\n'), bytes.size() - 1) + 1;
+            readLine(bytes.substr(0, length));
+            bytes.remove_prefix(length);
         }
         if (csv_fini(&m_parser, onField, onRow, this) != 0) {
-            throw InputError(m_file, m_rowLine == 0 ? m_line : m_rowLine, "a quote is not closed");
+            throw InputError(m_file, m_rowLine, "a quote is not closed");
         }
         return std::move(m_rows);
     }
 
   private:
+    void readLine(std::string_view line) {
+        if (!isUtf8(line)) {
+            throw InputError(m_file, m_line, "the text is not UTF-8");
+        }
+        if (!m_isInRow) {
+            m_rowLine = m_line;
+        }
+        // Blank lines between rows open none; a row goes on after a line end within quotes.
+        m_isInRow = m_isInRow || line.find_first_not_of("\r\n") != std::string_view::npos;
+        if (csv_parse(&m_parser, line.data(), line.size(), onField, onRow, this) != line.size()) {
+            throw InputError(m_file, m_line, "a quote stands where none belongs");
+        }
+    }
+
     static void onField(void* text, std::size_t length, void* self) {
         auto& parser = *static_cast<Parser*>(self);
-        if (parser.m_cells.empty()) {
-            parser.m_rowLine = parser.m_line;
-        }
         parser.m_cells.emplace_back(static_cast<const char*>(text), length);
     }
     static void onRow(int /*terminator*/, void* self) {
         auto& parser = *static_cast<Parser*>(self);
         parser.m_rows.push_back({parser.m_rowLine, std::exchange(parser.m_cells, {})});
-        parser.m_rowLine = 0;
+        parser.m_isInRow = false;
     }
 
     const std::string& m_file;
     csv_parser m_parser{};
     std::size_t m_line = 0;
-    std::size_t m_rowLine = 0;
+    std::size_t m_rowLine = 0; ///< where the current or next row begins
+    bool m_isInRow = false;
     std::vector<std::string> m_cells;
     std::vector<CsvTable::Row> m_rows;
 };
