@@ -1,6 +1,10 @@
 #include "tools/openmap-release/packing/KindRules.h"
 
+#include "tests/tools/ToolRun.h"
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace vasker {
 namespace {
@@ -56,6 +60,28 @@ TEST(KindRules, TheLastRuleTakesEverything) {
     const KindRule& last = kindRules().back();
     EXPECT_EQ(last.kind, "processing");
     EXPECT_TRUE(last.naics.empty() && last.sector.empty() && last.words.empty());
+}
+
+/// A line of the table in docs/data.md.
+std::string documented(std::size_t number, const KindRule& rule) {
+    const auto cell = [](std::string_view text) {
+        return text.empty() ? std::string(" |") : " " + std::string(text) + " |";
+    };
+    std::string words;
+    for (const std::string_view word : rule.words) {
+        words += (words.empty() ? "" : ", ") + std::string(word);
+    }
+    return "| " + std::to_string(number) + " | `" + std::string(rule.kind) + "` |" +
+           cell(rule.naics) + cell(rule.sector) + cell(words) + "\n";
+}
+
+TEST(KindRules, AreTheTableOfTheDocument) {
+    std::string table;
+    for (const KindRule& rule : kindRules()) {
+        const auto lines = static_cast<std::size_t>(std::ranges::count(table, '\n'));
+        table += documented(lines + 1, rule);
+    }
+    EXPECT_NE(contentOf(VASKER_DATA_DOCUMENT).find(table), std::string::npos) << table;
 }
 
 } // namespace
