@@ -1,0 +1,43 @@
+#pragma once
+// Which records stand as balloons and which as dots. No record is ever without a mark.
+//
+// Where balloons would crowd, the earlier in this order has the room: the selected one, then rarer
+// kinds, then the order of the list. The layout holds for all scales of one level and for every
+// place of the world, so that nothing changes while the map is dragged.
+
+#include "map/RecordSet.h"
+#include "map/geometry/Camera.h"
+#include "map/geometry/DetailLevel.h"
+
+#include <optional>
+#include <vector>
+
+namespace vasker {
+
+/// No other balloon's point stands nearer than this to a balloon's, in logical pixels: across or down.
+inline constexpr double balloonSpacingX = 34;
+inline constexpr double balloonSpacingY = 36;
+
+/// The most balloons that are drawn at once.
+inline constexpr std::size_t maximumBalloons = 500;
+
+/// A record's mark, ready to be projected.
+struct Marker {
+    AssetIndex asset;
+    MapPoint point;
+};
+
+struct MarkerLayout {
+    std::vector<Marker> balloons; ///< in order of precedence
+    std::vector<Marker> dots;     ///< in order of precedence
+};
+
+/// The records of a set that have no route, in order of precedence.
+[[nodiscard]] std::vector<Marker> markersByPrecedence(const RecordSet& records);
+
+/// `markers` in order of precedence; `selected` comes first wherever it stands among them.
+[[nodiscard]] MarkerLayout markerLayout(const std::vector<Marker>& markers,
+                                        std::optional<AssetIndex> selected,
+                                        DetailLevel level);
+
+} // namespace vasker
