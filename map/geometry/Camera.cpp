@@ -63,13 +63,11 @@ Camera::Camera(MapPoint center, double scale, Viewport viewport) noexcept
       m_scale(scale), m_viewport(viewport) {}
 
 Camera::Camera(const CameraPosition& position, Viewport viewport)
-    : Camera(MapPoint{0, 0},
-             1,
-             {std::max(1.0, viewport.width), std::max(1.0, viewport.height)}) {
+    : Camera(MapPoint{0, 0}, 1, {std::max(1.0, viewport.width), std::max(1.0, viewport.height)}) {
     const bool usable = std::visit([](const auto& wish) { return isFinite(wish); }, position);
-    const Frame frame =
-        usable ? std::visit([](const auto& wish) { return frameOf(wish); }, position)
-               : frameOf(canadaOverview);
+    const Frame frame = usable
+                            ? std::visit([](const auto& wish) { return frameOf(wish); }, position)
+                            : frameOf(canadaOverview);
     // A frame without extent asks for the nearest zoom: the quotients are then infinite.
     const double fit = std::min(m_viewport.width / (2 * std::max(0.0, frame.halfWidth)),
                                 m_viewport.height / (2 * std::max(0.0, frame.halfHeight)));

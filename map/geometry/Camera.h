@@ -39,7 +39,8 @@ struct Viewport {
 
 class Camera {
   public:
-    /// Logical pixels per map point at the nearest zoom: about 4 cm of ground a pixel at the equator.
+    /// Logical pixels per map point at the nearest zoom: about 4 cm of ground a pixel at the
+    /// equator.
     static constexpr double maximumScale = 4;
 
     /// The camera that shows all of `position`, centred, as near as the viewport and maximumScale
@@ -59,8 +60,8 @@ class Camera {
 
     /// The camera after the ground was dragged by `dx`, `dy` pixels. The centre stays in the world.
     [[nodiscard]] Camera panned(double dx, double dy) const noexcept;
-    /// The camera `factor` times as near, with the ground under `anchor` kept in its place as far as
-    /// the limits of scale and centre allow. A factor that is not positive changes nothing.
+    /// The camera `factor` times as near, with the ground under `anchor` kept in its place as far
+    /// as the limits of scale and centre allow. A factor that is not positive changes nothing.
     [[nodiscard]] Camera zoomed(double factor, ScreenPoint anchor) const noexcept;
 
   private:

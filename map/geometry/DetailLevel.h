@@ -34,10 +34,8 @@ struct TileIndex {
     friend constexpr auto operator<=>(const TileIndex&, const TileIndex&) = default;
 
     [[nodiscard]] MapRect bounds(DetailLevel level) const noexcept {
-        return {column * level.tileSize(),
-                row * level.tileSize(),
-                level.tileSize(),
-                level.tileSize()};
+        return {
+            column * level.tileSize(), row * level.tileSize(), level.tileSize(), level.tileSize()};
     }
 };
 

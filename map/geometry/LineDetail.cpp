@@ -11,9 +11,8 @@ double distanceToSegment(MapPoint point, MapPoint a, MapPoint b) noexcept {
     const double dy = b.y - a.y;
     const double length2 = dx * dx + dy * dy;
     const double along =
-        length2 > 0
-            ? std::clamp(((point.x - a.x) * dx + (point.y - a.y) * dy) / length2, 0.0, 1.0)
-            : 0.0;
+        length2 > 0 ? std::clamp(((point.x - a.x) * dx + (point.y - a.y) * dy) / length2, 0.0, 1.0)
+                    : 0.0;
     return std::hypot(point.x - (a.x + along * dx), point.y - (a.y + along * dy));
 }
 

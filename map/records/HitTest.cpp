@@ -80,8 +80,7 @@ std::optional<AssetIndex> hitTest(ScreenPoint point,
     const MapPoint ground = camera.screenToWorld(point);
     const double reach = routeHitDistance / camera.scale();
     if (selected) {
-        const auto hit =
-            nearestRoute(ground, reach, geometry.runsOf(*selected), geometry, colors);
+        const auto hit = nearestRoute(ground, reach, geometry.runsOf(*selected), geometry, colors);
         if (hit) {
             return hit;
         }

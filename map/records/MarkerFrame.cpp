@@ -11,9 +11,8 @@ constexpr double markReach = 48;
 
 } // namespace
 
-MarkerFrame markerFrame(const MarkerLayout& layout,
-                        std::optional<AssetIndex> selected,
-                        const Camera& camera) {
+MarkerFrame
+markerFrame(const MarkerLayout& layout, std::optional<AssetIndex> selected, const Camera& camera) {
     MarkerFrame frame;
     const double reach = markReach / camera.scale();
     const MapRect view = camera.visibleRect().inset(-reach, -reach);

@@ -10,14 +10,14 @@ namespace vasker {
 
 namespace {
 
-/// The points of placed balloons in cells of one spacing, so that only the neighbouring cells can
+/// Points that keep a distance, in cells of that distance, so that only the neighbouring cells can
 /// hold one that stands too near.
-class PlacedBalloons {
+class SpacedPoints {
   public:
-    explicit PlacedBalloons(double scale)
-        : m_width(balloonSpacingX / scale), m_height(balloonSpacingY / scale) {}
+    /// Distances in map points.
+    SpacedPoints(double width, double height) : m_width(width), m_height(height) {}
 
-    /// Places a balloon at `point` if there is room.
+    /// Takes `point` if there is room.
     bool place(MapPoint point) {
         const std::int64_t column = cell(point.x, m_width);
         const std::int64_t row = cell(point.y, m_height);
@@ -66,8 +66,8 @@ std::vector<Marker> markersByPrecedence(const RecordSet& records) {
     candidates.reserve(records.filtered->size());
     for (const AssetIndex index : *records.filtered) {
         if (!assets[index].hasRoute()) {
-            candidates.push_back({{index, records.loaded->geometry.points()[index]},
-                                  frequency[assets[index].kind]});
+            candidates.push_back(
+                {{index, records.loaded->geometry.points()[index]}, frequency[assets[index].kind]});
         }
     }
     std::stable_sort(candidates.begin(), candidates.end(), [](const auto& a, const auto& b) {
@@ -85,19 +85,26 @@ MarkerLayout markerLayout(const std::vector<Marker>& markers,
                           std::optional<AssetIndex> selected,
                           DetailLevel level) {
     MarkerLayout layout;
-    PlacedBalloons placed(level.minimumScale());
+    SpacedPoints balloons(balloonSpacingX / level.minimumScale(),
+                          balloonSpacingY / level.minimumScale());
+    SpacedPoints dots(coveredDotDistance / level.maximumScale(),
+                      coveredDotDistance / level.maximumScale());
     const auto chosen = std::find_if(markers.begin(), markers.end(), [&](const Marker& marker) {
         return marker.asset == selected;
     });
     if (chosen != markers.end()) {
-        placed.place(chosen->point);
+        balloons.place(chosen->point);
         layout.balloons.push_back(*chosen);
     }
     for (const Marker& marker : markers) {
         if (marker.asset == selected) {
             continue;
         }
-        (placed.place(marker.point) ? layout.balloons : layout.dots).push_back(marker);
+        if (balloons.place(marker.point)) {
+            layout.balloons.push_back(marker);
+        } else if (dots.place(marker.point)) {
+            layout.dots.push_back(marker);
+        }
     }
     return layout;
 }

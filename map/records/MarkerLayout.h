@@ -1,5 +1,6 @@
 #pragma once
-// Which records stand as balloons and which as dots. No record is ever without a mark.
+// Which records stand as balloons and which as dots. No record is ever without a mark, but records
+// of one place share it: a dot whose whole colour would lie under another's is not drawn twice.
 //
 // Where balloons would crowd, the earlier in this order has the room: the selected one, then rarer
 // kinds, then the order of the list. The layout holds for all scales of one level and for every
@@ -14,9 +15,13 @@
 
 namespace vasker {
 
-/// No other balloon's point stands nearer than this to a balloon's, in logical pixels: across or down.
+/// No other balloon's point stands nearer than this to a balloon's, in logical pixels: across or
+/// down.
 inline constexpr double balloonSpacingX = 34;
 inline constexpr double balloonSpacingY = 36;
+
+/// A dot nearer than this to one that is drawn above it would show no more than its casing.
+inline constexpr double coveredDotDistance = 1;
 
 /// The most balloons that are drawn at once.
 inline constexpr std::size_t maximumBalloons = 500;
@@ -29,7 +34,7 @@ struct Marker {
 
 struct MarkerLayout {
     std::vector<Marker> balloons; ///< in order of precedence
-    std::vector<Marker> dots;     ///< in order of precedence
+    std::vector<Marker> dots;     ///< in order of precedence, without the covered ones
 };
 
 /// The records of a set that have no route, in order of precedence.

@@ -124,9 +124,7 @@ struct Segment {
         clip.cut(from.y, direction.y, tilePixels);
         direction = 1 / std::hypot(direction.x, direction.y) * direction;
     }
-    [[nodiscard]] Vector at(double fraction) const {
-        return start + fraction * (end + -1 * start);
-    }
+    [[nodiscard]] Vector at(double fraction) const { return start + fraction * (end + -1 * start); }
 };
 
 /// A line without extent, such as a tiny loop at a far zoom: a dot as wide as the line.
@@ -155,9 +153,8 @@ void drawLine(Pen& pen, std::span<const Vector> line, double tilePixels) {
             continue;
         }
         if (!drawing) {
-            pen.begin(segment.at(segment.clip.from),
-                      segment.direction,
-                      i == 0 && segment.clip.from == 0);
+            pen.begin(
+                segment.at(segment.clip.from), segment.direction, i == 0 && segment.clip.from == 0);
         } else {
             pen.bend(segment.start, before, segment.direction);
         }

@@ -4,11 +4,10 @@
 
 namespace vasker {
 
-BalloonLayer::BalloonLayer()
-    : m_geometry(QSGGeometry::defaultAttributes_TexturedPoint2D(), 0, 0) {
+BalloonLayer::BalloonLayer() : m_geometry(QSGGeometry::defaultAttributes_TexturedPoint2D(), 0, 0) {
     m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
     m_geometry.setVertexDataPattern(QSGGeometry::StreamPattern);
-    m_material.setFiltering(QSGTexture::Linear);
+    m_material.setFiltering(QSGTexture::Nearest);
     m_material.setFlag(QSGMaterial::Blending);
     setGeometry(&m_geometry);
     setMaterial(&m_material);

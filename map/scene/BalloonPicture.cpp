@@ -31,8 +31,7 @@ double enlargement(BalloonState state) {
 
 /// Room around the balloon's box: its casing, its ring, half a shadow, a pixel for smooth edges.
 double margin(BalloonState state) {
-    const double outline =
-        casingWidth(state) + (state == BalloonState::selected ? ringWidth : 0);
+    const double outline = casingWidth(state) + (state == BalloonState::selected ? ringWidth : 0);
     return std::ceil(std::max(outline, shadowHeight / 2 * enlargement(state)) + 1);
 }
 
@@ -83,18 +82,14 @@ void paintBalloon(QPainter& painter,
     paintShadow(painter);
     const QPainterPath path = outline();
     if (state == BalloonState::selected) {
-        strokeOutside(painter,
-                      path,
-                      colorValue(PaletteColor::blue, scheme),
-                      casing + ringWidth / scale);
+        strokeOutside(
+            painter, path, colorValue(PaletteColor::blue, scheme), casing + ringWidth / scale);
     }
     strokeOutside(painter, path, colors.casing, casing);
     painter.fillPath(path, colorValue(color(kind), scheme));
     const std::string_view name = symbol(kind);
-    const QRectF glyph(balloonHeadRadius - glyphSize / 2,
-                       balloonHeadRadius - glyphSize / 2,
-                       glyphSize,
-                       glyphSize);
+    const QRectF glyph(
+        balloonHeadRadius - glyphSize / 2, balloonHeadRadius - glyphSize / 2, glyphSize, glyphSize);
     paintIcon(painter,
               QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
               glyph,

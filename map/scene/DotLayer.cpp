@@ -4,11 +4,17 @@
 
 #include <QSGMaterialShader>
 
-#include <cstring>
+#include <array>
+#include <cstdint>
 
 namespace vasker {
 
 namespace {
+
+struct Vertex {
+    float x, y;
+    std::array<std::uint8_t, 4> colorAndCorner;
+};
 
 class DotShader final : public QSGMaterialShader {
   public:
@@ -17,16 +23,15 @@ class DotShader final : public QSGMaterialShader {
         setShaderFileName(FragmentStage, QStringLiteral(":/vasker/shaders/dot.frag.qsb"));
     }
 
-    bool updateUniformData(RenderState& state,
-                           QSGMaterial* next,
-                           QSGMaterial* /*previous*/) override {
+    bool
+    updateUniformData(RenderState& state, QSGMaterial* next, QSGMaterial* /*previous*/) override {
         const auto& material = *static_cast<DotMaterial*>(next);
         const float radius = dotRadius * material.devicePixels;
         const float whole = (dotRadius + dotCasing) * material.devicePixels;
         UniformBlock block(*state.uniformData());
         block.write(state.combinedMatrix());
         block.write(premultiplied(material.casing));
-        block.write(QVector4D(radius, whole, 2 * (whole + 1), 0));
+        block.write(QVector4D(radius, whole, material.devicePixels, 0));
         return true;
     }
 };
@@ -37,7 +42,7 @@ const QSGGeometry::AttributeSet& attributes() {
             0, 2, QSGGeometry::FloatType, QSGGeometry::PositionAttribute),
         QSGGeometry::Attribute::createWithAttributeType(
             1, 4, QSGGeometry::UnsignedByteType, QSGGeometry::ColorAttribute)};
-    static const QSGGeometry::AttributeSet set{2, sizeof(DotVertex), parts};
+    static const QSGGeometry::AttributeSet set{2, sizeof(Vertex), parts};
     return set;
 }
 
@@ -62,18 +67,19 @@ int DotMaterial::compare(const QSGMaterial* other) const {
 }
 
 DotLayer::DotLayer() : m_geometry(attributes(), 0) {
-    m_geometry.setDrawingMode(QSGGeometry::DrawPoints);
+    m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
     m_geometry.setVertexDataPattern(QSGGeometry::StreamPattern);
     setGeometry(&m_geometry);
     setMaterial(&m_material);
 }
 
-void DotLayer::update(const std::vector<DotVertex>& dots,
-                      const QColor& casing,
-                      float devicePixels) {
-    m_geometry.allocate(static_cast<int>(dots.size()));
-    if (!dots.empty()) {
-        std::memcpy(m_geometry.vertexData(), dots.data(), dots.size() * sizeof(DotVertex));
+void DotLayer::update(const std::vector<Dot>& dots, const QColor& casing, float devicePixels) {
+    m_geometry.allocate(static_cast<int>(3 * dots.size()));
+    auto* vertex = static_cast<Vertex*>(m_geometry.vertexData());
+    for (const Dot& dot : dots) {
+        for (const std::uint8_t corner : {0, 1, 2}) {
+            *vertex++ = {dot.x, dot.y, {dot.color[0], dot.color[1], dot.color[2], corner}};
+        }
     }
     m_material.casing = casing;
     m_material.devicePixels = devicePixels;

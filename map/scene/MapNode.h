@@ -24,7 +24,7 @@ struct MapPicture {
     float devicePixels = 1; ///< per logical pixel
     std::shared_ptr<const RouteContent> routes;
     std::shared_ptr<const RouteContent> selectedRoute;
-    std::vector<DotVertex> dots;
+    std::vector<Dot> dots;
     std::vector<BalloonSprite> balloons;
     std::shared_ptr<const BalloonPicture> balloonPicture; ///< null: there are no balloons
 };

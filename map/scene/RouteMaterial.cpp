@@ -16,13 +16,14 @@ class RouteShader final : public QSGMaterialShader {
         setShaderFileName(FragmentStage, QStringLiteral(":/vasker/shaders/route.frag.qsb"));
     }
 
-    bool updateUniformData(RenderState& state, QSGMaterial* next, QSGMaterial* /*previous*/) override {
+    bool
+    updateUniformData(RenderState& state, QSGMaterial* next, QSGMaterial* /*previous*/) override {
         const auto& material = *static_cast<RouteMaterial*>(next);
         const RouteStyle& style = material.style;
         const float core = style.coreWidth / 2;
         const float whole = core + style.casingWidth;
-        // One device pixel more than the line on either side holds the smoothed edge.
-        const float drawn = whole + 1 / material.devicePixels;
+        // Half a device pixel more than the line on either side holds the smoothed edge.
+        const float drawn = whole + 0.5F / material.devicePixels;
         QVector4D ink;
         if (style.ink) {
             ink = premultiplied(*style.ink);

@@ -2,8 +2,8 @@
 // Draws a RouteMesh: a core of constant width in pixels within a casing, edges smoothed.
 
 #include <QColor>
-#include <QSGMaterial>
 #include <QSGGeometry>
+#include <QSGMaterial>
 #include <QVector2D>
 
 #include <optional>

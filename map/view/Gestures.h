@@ -35,7 +35,8 @@ class Pinch {
   public:
     Pinch(ScreenPoint first, ScreenPoint second) noexcept : m_first(first), m_second(second) {}
 
-    [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint first, ScreenPoint second) noexcept;
+    [[nodiscard]] Camera
+    moved(const Camera& camera, ScreenPoint first, ScreenPoint second) noexcept;
 
   private:
     ScreenPoint m_first;

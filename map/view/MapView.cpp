@@ -107,17 +107,14 @@ void MapView::refreshTints() {
 
 void MapView::refreshSelectedRoute() {
     m_picture.selectedRoute.reset();
-    const bool isShown =
-        m_selected && std::find(m_records.filtered->begin(),
-                                m_records.filtered->end(),
-                                *m_selected) != m_records.filtered->end();
+    const bool isShown = m_selected && std::find(m_records.filtered->begin(),
+                                                 m_records.filtered->end(),
+                                                 *m_selected) != m_records.filtered->end();
     if (isShown) {
         RouteColors colors(m_tints.size());
         colors[*m_selected] = m_tints[*m_selected];
-        m_picture.selectedRoute = std::make_shared<RouteContent>(
-            RouteContent{m_records.loaded,
-                         m_records.loaded->geometry.runsOf(*m_selected),
-                         std::move(colors)});
+        m_picture.selectedRoute = std::make_shared<RouteContent>(RouteContent{
+            m_records.loaded, m_records.loaded->geometry.runsOf(*m_selected), std::move(colors)});
     }
 }
 
@@ -146,8 +143,8 @@ void MapView::updatePolish() {
         for (const AssetIndex asset : *m_records.filtered) {
             colors[asset] = m_tints[asset];
         }
-        m_picture.routes = std::make_shared<RouteContent>(RouteContent{
-            m_records.loaded, m_records.loaded->geometry.runs(), std::move(colors)});
+        m_picture.routes = std::make_shared<RouteContent>(
+            RouteContent{m_records.loaded, m_records.loaded->geometry.runs(), std::move(colors)});
     }
     if (!m_picture.balloonPicture) {
         m_picture.balloonPicture = std::make_shared<BalloonPicture>(
@@ -166,10 +163,8 @@ void MapView::refreshMarks() {
     const auto& assets = m_records.loaded->index.release().assets;
     m_picture.dots.clear();
     for (const PlacedMarker& dot : m_frame.dots) {
-        const Rgb& tint = m_tints[dot.asset];
-        m_picture.dots.push_back({static_cast<float>(dot.point.x),
-                                  static_cast<float>(dot.point.y),
-                                  {tint[0], tint[1], tint[2], 255}});
+        m_picture.dots.push_back(
+            {static_cast<float>(dot.point.x), static_cast<float>(dot.point.y), m_tints[dot.asset]});
     }
     m_picture.balloons.clear();
     const auto addBalloon = [&](const PlacedMarker& balloon, BalloonState state) {

@@ -81,8 +81,8 @@ class MapView : public QQuickItem {
     bool m_dark = false;
 
     std::optional<AssetIndex> m_selected;
-    std::vector<Rgb> m_tints;       ///< by AssetIndex
-    std::vector<Marker> m_markers;  ///< in order of precedence
+    std::vector<Rgb> m_tints;      ///< by AssetIndex
+    std::vector<Marker> m_markers; ///< in order of precedence
     MarkerLayout m_layout;
     std::optional<DetailLevel> m_layoutLevel; ///< of m_layout; none: to be made anew
     MarkerFrame m_frame;
