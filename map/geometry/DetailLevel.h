@@ -4,6 +4,7 @@
 
 #include "map/geometry/MapRect.h"
 
+#include <compare>
 #include <cstdint>
 
 namespace vasker {

@@ -1,7 +1,6 @@
 #include "map/geometry/Graticule.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace vasker {
@@ -11,11 +10,14 @@ namespace {
 constexpr double leastSpacing = 120;
 
 double stepDegrees(double pixelsPerDegree) {
-    constexpr std::array<double, 11> steps{30, 10, 5, 2, 1, 0.5, 0.2, 0.1, 0.05, 0.02, 0.01};
-    const auto tooFine = std::find_if(steps.begin() + 1, steps.end(), [&](double step) {
-        return step * pixelsPerDegree < leastSpacing;
-    });
-    return *(tooFine - 1);
+    double step = 30;
+    for (const double finer : {10.0, 5.0, 2.0, 1.0, 0.5, 0.2, 0.1, 0.05, 0.02, 0.01}) {
+        if (finer * pixelsPerDegree < leastSpacing) {
+            break;
+        }
+        step = finer;
+    }
+    return step;
 }
 
 } // namespace

@@ -77,7 +77,7 @@ void DotLayer::update(const std::vector<Dot>& dots, const QColor& casing, float 
     m_geometry.allocate(static_cast<int>(3 * dots.size()));
     auto* vertex = static_cast<Vertex*>(m_geometry.vertexData());
     for (const Dot& dot : dots) {
-        for (const std::uint8_t corner : {0, 1, 2}) {
+        for (std::uint8_t corner = 0; corner < 3; ++corner) {
             *vertex++ = {dot.x, dot.y, {dot.color[0], dot.color[1], dot.color[2], corner}};
         }
     }
