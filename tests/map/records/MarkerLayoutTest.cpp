@@ -1,0 +1,155 @@
+#include "map/records/MarkerFrame.h"
+#include "tests/map/records/RecordSetBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <set>
+
+namespace vasker {
+namespace {
+
+constexpr DetailLevel overview{9};
+
+std::vector<AssetIndex> assetsOf(const std::vector<Marker>& markers) {
+    std::vector<AssetIndex> assets;
+    for (const Marker& marker : markers) {
+        assets.push_back(marker.asset);
+    }
+    return assets;
+}
+
+/// 3,000 facilities of five kinds, crowded around one place.
+RecordSet crowd() {
+    std::mt19937 random(5);
+    std::normal_distribution<double> spread(0, 1.5);
+    std::vector<OpenMapRelease::Asset> assets;
+    for (int i = 0; i < 3000; ++i) {
+        const char* kinds[] = {"gas_plant", "gas_plant", "gas_plant", "storage", "lng_plant"};
+        assets.push_back(facilityAt(54 + spread(random), -114 + spread(random), kinds[i % 5]));
+    }
+    return recordSetOf(std::move(assets));
+}
+
+TEST(MarkerLayout, RarerKindsComeFirstThenTheOrderOfTheList) {
+    const RecordSet records = recordSetOf({facilityAt(50, -110, "gas_plant"),
+                                           facilityAt(51, -111, "gas_plant"),
+                                           facilityAt(52, -112, "lng_plant")});
+    EXPECT_EQ(assetsOf(markersByPrecedence(records)), (std::vector<AssetIndex>{2, 0, 1}));
+}
+
+TEST(MarkerLayout, ARecordWithARouteHasNoMarker) {
+    const RecordSet records =
+        recordSetOf({pipelineAlong({{{-120, 50}, {-110, 55}}}), facilityAt(50, -110, "storage")});
+    EXPECT_EQ(assetsOf(markersByPrecedence(records)), (std::vector<AssetIndex>{1}));
+}
+
+TEST(MarkerLayout, ARecordThatTheFilterLeavesOutHasNoMarker) {
+    RecordSet records =
+        recordSetOf({facilityAt(50, -110, "storage"), facilityAt(51, -110, "terminal")});
+    records.filtered = std::make_shared<const std::vector<AssetIndex>>(
+        records.loaded->index.filtered("", "terminal"));
+    EXPECT_EQ(assetsOf(markersByPrecedence(records)), (std::vector<AssetIndex>{1}));
+}
+
+TEST(MarkerLayout, NoTwoBalloonsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel) {
+    const RecordSet records = crowd();
+    const MarkerLayout layout = markerLayout(markersByPrecedence(records), {}, overview);
+    ASSERT_GT(layout.balloons.size(), 10U);
+    const double scale = overview.minimumScale();
+    for (std::size_t i = 0; i < layout.balloons.size(); ++i) {
+        for (std::size_t k = 0; k < i; ++k) {
+            const double dx = std::abs(layout.balloons[i].point.x - layout.balloons[k].point.x);
+            const double dy = std::abs(layout.balloons[i].point.y - layout.balloons[k].point.y);
+            ASSERT_TRUE(dx * scale >= balloonSpacingX * (1 - 1e-9) ||
+                        dy * scale >= balloonSpacingY * (1 - 1e-9));
+        }
+    }
+}
+
+TEST(MarkerLayout, EveryRecordHasAMarkOrStandsUnderADotOfItsPlace) {
+    const RecordSet records = crowd();
+    const auto markers = markersByPrecedence(records);
+    const MarkerLayout layout = markerLayout(markers, {}, overview);
+    std::set<AssetIndex> marked;
+    for (const auto* list : {&layout.balloons, &layout.dots}) {
+        for (const Marker& marker : *list) {
+            EXPECT_TRUE(marked.insert(marker.asset).second) << "two marks";
+        }
+    }
+    const double reach = coveredDotDistance / overview.maximumScale();
+    for (const Marker& marker : markers) {
+        const bool covered =
+            std::any_of(layout.dots.begin(), layout.dots.end(), [&](const Marker& dot) {
+                return std::abs(dot.point.x - marker.point.x) < reach &&
+                       std::abs(dot.point.y - marker.point.y) < reach;
+            });
+        EXPECT_TRUE(marked.contains(marker.asset) || covered);
+    }
+}
+
+TEST(MarkerLayout, TheSelectedRecordAlwaysStandsAsABalloon) {
+    const RecordSet records = crowd();
+    const auto markers = markersByPrecedence(records);
+    const AssetIndex crowded = markerLayout(markers, {}, overview).dots.back().asset;
+    const MarkerLayout layout = markerLayout(markers, crowded, overview);
+    EXPECT_EQ(layout.balloons.front().asset, crowded);
+    EXPECT_FALSE(std::any_of(layout.dots.begin(), layout.dots.end(), [&](const Marker& dot) {
+        return dot.asset == crowded;
+    }));
+}
+
+TEST(MarkerLayout, TwoRecordsAtOnePointHaveOneBalloonAndOneDot) {
+    const RecordSet records =
+        recordSetOf({facilityAt(50, -110, "storage"), facilityAt(50, -110, "storage")});
+    const MarkerLayout layout = markerLayout(markersByPrecedence(records), {}, DetailLevel(40));
+    EXPECT_EQ(layout.balloons.size(), 1U);
+    EXPECT_EQ(layout.dots.size(), 1U);
+}
+
+TEST(MarkerFrame, HoldsTheMarksInViewAtTheirPlaceOnTheScreen) {
+    const RecordSet records =
+        recordSetOf({facilityAt(54, -112, "storage"), facilityAt(20, 10, "storage")});
+    const Camera camera(canadaOverview, {960, 712});
+    const MarkerLayout layout =
+        markerLayout(markersByPrecedence(records), {}, DetailLevel::forScale(camera.scale()));
+    const MarkerFrame frame = markerFrame(layout, {}, camera);
+    ASSERT_EQ(frame.balloons.size(), 1U);
+    EXPECT_EQ(frame.balloons[0].asset, 0U);
+    EXPECT_NEAR(frame.balloons[0].point.x, 480, 1e-6);
+    EXPECT_NEAR(frame.balloons[0].point.y, 356, 1e-6);
+}
+
+TEST(MarkerFrame, TheSelectedBalloonStandsApartFromTheOthers) {
+    const RecordSet records = crowd();
+    const Camera camera(canadaOverview, {960, 712});
+    const auto markers = markersByPrecedence(records);
+    const MarkerLayout layout = markerLayout(markers, 17, DetailLevel::forScale(camera.scale()));
+    const MarkerFrame frame = markerFrame(layout, 17, camera);
+    ASSERT_TRUE(frame.selected);
+    EXPECT_EQ(frame.selected->asset, 17U);
+    for (const PlacedMarker& balloon : frame.balloons) {
+        EXPECT_NE(balloon.asset, 17U);
+    }
+}
+
+TEST(MarkerFrame, NeverHoldsMoreThanFiveHundredBalloonsAndKeepsTheOthersAsDots) {
+    std::vector<OpenMapRelease::Asset> assets;
+    for (int row = 0; row < 40; ++row) {
+        for (int column = 0; column < 40; ++column) {
+            assets.push_back(facilityAt(45 + row * 0.5, -130 + column, "storage"));
+        }
+    }
+    const RecordSet records = recordSetOf(std::move(assets));
+    const Camera camera(canadaOverview, {4000, 3000});
+    const MarkerLayout layout =
+        markerLayout(markersByPrecedence(records), {}, DetailLevel::forScale(camera.scale()));
+    const MarkerFrame frame = markerFrame(layout, {}, camera);
+    EXPECT_EQ(frame.balloons.size(), maximumBalloons);
+    EXPECT_GT(frame.dots.size(), 500U);
+}
+
+} // namespace
+} // namespace vasker
