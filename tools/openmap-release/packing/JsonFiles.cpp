@@ -104,9 +104,11 @@ std::string_view rawText(simdjson::ondemand::value value) {
     simdjson::ondemand::json_type type = value.type();
     std::string_view raw;
     if (type == simdjson::ondemand::json_type::object) {
-        raw = value.get_object().value().raw_json();
+        simdjson::ondemand::object object = value.get_object().value();
+        raw = object.raw_json();
     } else if (type == simdjson::ondemand::json_type::array) {
-        raw = value.get_array().value().raw_json();
+        simdjson::ondemand::array array = value.get_array().value();
+        raw = array.raw_json();
     } else {
         raw = value.raw_json_token();
     }
@@ -144,7 +146,9 @@ std::string withTextValue(std::string_view file,
         simdjson::ondemand::document document = parser.iterate(text).value();
         std::string edited;
         std::size_t copied = 0;
-        for (auto field : document.get_object().value()) {
+        // Named: the loop's range would not keep a temporary object alive.
+        simdjson::ondemand::object object = document.get_object().value();
+        for (auto field : object) {
             const bool isKey = std::string_view(field.unescaped_key().value()) == key;
             const std::string_view raw = rawText(field.value().value());
             if (isKey) {
