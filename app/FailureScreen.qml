@@ -11,6 +11,7 @@ Item {
     Accessible.role: Accessible.AlertMessage
     Accessible.name: title.text
     Accessible.description: root.description
+    Accessible.ignored: !root.visible
 
     Column {
         id: column
@@ -37,6 +38,7 @@ Item {
             wrapMode: Text.Wrap
             textStyle: Theme.title2
             text: qsTr("Map unavailable")
+            spoken: true
         }
         Item {
             width: 1

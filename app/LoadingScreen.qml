@@ -8,10 +8,11 @@ Item {
     opacity: 0
     Accessible.role: Accessible.ProgressBar
     Accessible.name: label.text
+    Accessible.ignored: !root.visible
 
     Timer {
         interval: 150
-        running: true
+        running: root.visible
         onTriggered: root.opacity = 1
     }
     Behavior on opacity {

@@ -18,36 +18,48 @@ Window {
     visible: true
     color: Theme.window
 
-    Loader {
-        anchors.fill: parent
-        active: window.root.screen === OpenMapRoot.Loading
-        sourceComponent: LoadingScreen {}
-    }
-    Loader {
-        anchors.fill: parent
-        active: window.root.screen === OpenMapRoot.Failed
-        sourceComponent: FailureScreen {
-            description: window.root.failureText
+    function showWorkspace(): void {
+        if (root.screen === OpenMapRoot.Ready) {
+            view.setSource("WorkspaceView.qml", {
+                "workspace": root.workspace
+            });
         }
     }
-    Loader {
+
+    Component.onCompleted: showWorkspace()
+
+    LoadingScreen {
         anchors.fill: parent
-        active: window.root.screen === OpenMapRoot.Ready
+        visible: window.root.screen === OpenMapRoot.Loading
+    }
+    FailureScreen {
+        anchors.fill: parent
+        visible: window.root.screen === OpenMapRoot.Failed
+        description: window.root.failureText
+    }
+    Loader {
+        id: view
+
+        anchors.fill: parent
         focus: true
-        sourceComponent: WorkspaceView {
-            workspace: window.root.workspace
+    }
+    Connections {
+        target: window.root
+
+        function onScreenChanged(): void {
+            window.showWorkspace();
         }
     }
     Shortcut {
-        sequences: [StandardKey.New]
+        sequence: "Ctrl+N"
         onActivated: window.application.openWindow()
     }
     Shortcut {
-        sequences: [StandardKey.Close]
+        sequence: "Ctrl+W"
         onActivated: window.close()
     }
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequence: "Ctrl+Q"
         onActivated: Qt.quit()
     }
 }

@@ -101,8 +101,8 @@ void OpenMapWorkspace::setCamera(const CameraPosition& camera) {
     }
 }
 
-QStringList OpenMapWorkspace::kinds() const {
-    QStringList kinds;
+QList<QString> OpenMapWorkspace::kinds() const {
+    QList<QString> kinds;
     for (const std::string& kind : m_loaded->index.kinds()) {
         kinds.append(QString::fromStdString(kind));
     }

@@ -6,9 +6,9 @@
 #include "map/RecordSet.h"
 #include "map/geometry/Camera.h"
 
+#include <QList>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 #include <QtQmlIntegration>
 
 #include <memory>
@@ -34,7 +34,7 @@ class OpenMapWorkspace : public QObject {
     Q_PROPERTY(QString basemap READ basemap WRITE setBasemap NOTIFY basemapChanged)
     Q_PROPERTY(vasker::CameraPosition camera READ camera WRITE setCamera NOTIFY cameraChanged)
     Q_PROPERTY(vasker::RecordSet records READ records NOTIFY recordsChanged)
-    Q_PROPERTY(QStringList kinds READ kinds CONSTANT)
+    Q_PROPERTY(QList<QString> kinds READ kinds CONSTANT)
 
   public:
     /// `loaded` is not null; `preferences` outlive the workspace.
@@ -79,7 +79,7 @@ class OpenMapWorkspace : public QObject {
     [[nodiscard]] const std::vector<AssetIndex>& filtered() const noexcept { return *m_filtered; }
     [[nodiscard]] RecordSet records() const { return {m_loaded, m_filtered}; }
     /// The kinds of all records, each once, in code-point order.
-    [[nodiscard]] QStringList kinds() const;
+    [[nodiscard]] QList<QString> kinds() const;
 
     /// Sets the camera so that it frames `asset`; changes nothing else.
     void focus(const OpenMapRelease::Asset& asset);

@@ -1,3 +1,12 @@
+# The translations, compiled into the program.
+qt_add_lrelease(VaskerApp
+    TS_FILES ${PROJECT_SOURCE_DIR}/resources/translations/vasker_fr.ts
+    QM_FILES_OUTPUT_VARIABLE translations)
+qt_add_resources(VaskerApp app_translations
+    PREFIX /translations
+    BASE ${CMAKE_CURRENT_BINARY_DIR}
+    FILES ${translations})
+
 # The files that travel with the program: beside the executable in the build tree, in
 # share/vasker-open-map of the prefix when installed.
 file(GLOB resources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.json)

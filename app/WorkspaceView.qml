@@ -78,7 +78,7 @@ FocusScope {
         Keys.onEscapePressed: root.workspace.dismissInspector()
     }
     Shortcut {
-        sequences: [StandardKey.Find]
+        sequence: "Ctrl+F"
         onActivated: search.focusText()
     }
 }

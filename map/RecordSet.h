@@ -8,6 +8,7 @@
 
 #include <QMetaType>
 #include <QtQmlIntegration>
+#include <qqml.h>
 
 #include <memory>
 #include <vector>
@@ -32,6 +33,13 @@ struct RecordSet {
     std::shared_ptr<const std::vector<AssetIndex>> filtered; ///< in name order; null with `loaded`
 
     friend bool operator==(const RecordSet&, const RecordSet&) = default;
+};
+
+/// Makes the camera's position known to QML under a name.
+struct CameraPositionValue {
+    Q_GADGET
+    QML_FOREIGN(vasker::CameraPosition)
+    QML_VALUE_TYPE(cameraPosition)
 };
 
 } // namespace vasker

@@ -17,7 +17,7 @@ Item {
     signal selectionCleared
 
     function enterList(): void {
-        list.item?.enter();
+        (list.item as RecordList)?.enter();
     }
 
     RecordListModel {
@@ -59,7 +59,7 @@ Item {
             textStyle: Theme.caption
             color: Theme.ink2
             text: recordModel.countText
-            Accessible.ignored: false
+            spoken: true
         }
         Rectangle {
             anchors.bottom: parent.bottom
@@ -77,12 +77,21 @@ Item {
         Loader {
             id: list
 
+            readonly property bool wanted: !recordModel.empty
+
             anchors.fill: parent
-            active: !recordModel.empty
-            sourceComponent: RecordList {
-                records: recordModel
-                onPicked: id => root.recordPicked(id)
-                onCleared: root.selectionCleared()
+            onWantedChanged: wanted ? setSource("RecordList.qml", {
+                "records": recordModel
+            }) : setSource("")
+        }
+        Connections {
+            target: list.item as RecordList
+
+            function onPicked(id: string): void {
+                root.recordPicked(id);
+            }
+            function onCleared(): void {
+                root.selectionCleared();
             }
         }
         EmptyState {

@@ -37,7 +37,7 @@ QHash<int, QByteArray> KindListModel::roleNames() const {
     return {{ValueRole, "value"}, {LabelRole, "label"}};
 }
 
-void KindListModel::setKinds(const QStringList& kinds) {
+void KindListModel::setKinds(const QList<QString>& kinds) {
     if (m_kinds != kinds) {
         beginResetModel();
         m_kinds = kinds;

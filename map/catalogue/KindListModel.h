@@ -2,8 +2,8 @@
 // The entries of the category picker: "All categories", then one per kind, in the order given.
 
 #include <QAbstractListModel>
+#include <QList>
 #include <QString>
-#include <QStringList>
 #include <QtQmlIntegration>
 
 namespace vasker {
@@ -11,7 +11,7 @@ namespace vasker {
 class KindListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QStringList kinds READ kinds WRITE setKinds NOTIFY kindsChanged)
+    Q_PROPERTY(QList<QString> kinds READ kinds WRITE setKinds NOTIFY kindsChanged)
     /// The value of the entry that is chosen.
     Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY kindChanged)
     /// The chosen entry's row, -1 where the kind has none.
@@ -30,8 +30,8 @@ class KindListModel : public QAbstractListModel {
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    [[nodiscard]] const QStringList& kinds() const noexcept { return m_kinds; }
-    void setKinds(const QStringList& kinds);
+    [[nodiscard]] const QList<QString>& kinds() const noexcept { return m_kinds; }
+    void setKinds(const QList<QString>& kinds);
     [[nodiscard]] const QString& kind() const noexcept { return m_kind; }
     void setKind(const QString& kind);
     [[nodiscard]] int currentRow() const;
@@ -51,7 +51,7 @@ class KindListModel : public QAbstractListModel {
   private:
     [[nodiscard]] QString labelAt(int row) const;
 
-    QStringList m_kinds;
+    QList<QString> m_kinds;
     QString m_kind;
 };
 

@@ -34,6 +34,7 @@ PopupSurface {
         keyNavigationEnabled: true
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Layer")
+        Accessible.ignored: !visible
 
         Keys.onReturnPressed: root.pick(list.currentIndex)
         Keys.onEnterPressed: root.pick(list.currentIndex)

@@ -12,6 +12,7 @@ Item {
     Accessible.role: Accessible.StaticText
     Accessible.name: root.title
     Accessible.description: root.advice
+    Accessible.ignored: !root.visible
 
     Column {
         id: column

@@ -6,6 +6,8 @@ Text {
     id: root
 
     property TextStyle textStyle: Theme.body
+    // Whether assistive tools read it by itself, not as part of what it labels.
+    property bool spoken: false
 
     font: root.textStyle.font
     color: Theme.ink
@@ -14,5 +16,7 @@ Text {
     lineHeight: root.textStyle.lineHeight
     topPadding: root.textStyle.halfLeading
     bottomPadding: -root.textStyle.halfLeading
-    Accessible.ignored: true
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.text
+    Accessible.ignored: !(root.spoken && root.visible)
 }

@@ -15,6 +15,7 @@ Item {
     implicitHeight: Math.max(34 * Theme.iconScale, label.implicitHeight + 12)
     Accessible.role: Accessible.MenuItem
     Accessible.name: root.text
+    Accessible.ignored: !root.visible
     Accessible.checkable: true
     Accessible.checked: root.checked
     Accessible.onPressAction: root.picked()

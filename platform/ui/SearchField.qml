@@ -88,6 +88,7 @@ Rectangle {
         width: height
         Accessible.role: Accessible.Button
         Accessible.name: qsTr("Clear search")
+        Accessible.ignored: !visible
         Accessible.onPressAction: input.clear()
 
         Icon {

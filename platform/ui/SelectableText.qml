@@ -18,6 +18,7 @@ TextEdit {
     activeFocusOnPress: true
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
+    Accessible.ignored: !root.visible
 
     HoverHandler {
         cursorShape: Qt.IBeamCursor

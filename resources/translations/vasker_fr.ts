@@ -1,0 +1,167 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Catalogue</name>
+    <message>
+        <source>Check the spelling or try a new search.</source>
+        <translation>Vérifiez l’orthographe ou essayez une autre recherche.</translation>
+    </message>
+</context>
+<context>
+    <name>Category</name>
+    <message>
+        <source>LNG facility</source>
+        <translation>Installation de GNL</translation>
+    </message>
+    <message>
+        <source>Gas plant</source>
+        <translation>Usine à gaz</translation>
+    </message>
+    <message>
+        <source>Straddle plant</source>
+        <translation>Usine de chevauchement</translation>
+    </message>
+    <message>
+        <source>Fractionation plant</source>
+        <translation>Usine de fractionnement</translation>
+    </message>
+    <message>
+        <source>Oil sands plant</source>
+        <translation>Usine de sables bitumineux</translation>
+    </message>
+    <message>
+        <source>In-situ oil sands</source>
+        <translation>Sables bitumineux in situ</translation>
+    </message>
+    <message>
+        <source>Reporting facility</source>
+        <translation>Installation déclarante</translation>
+    </message>
+    <message>
+        <source>Unclassified facility</source>
+        <translation>Installation non classée</translation>
+    </message>
+    <message>
+        <source>Refinery</source>
+        <translation>Raffinerie</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>Storage</source>
+        <translation>Stockage</translation>
+    </message>
+    <message>
+        <source>Pipeline</source>
+        <translation>Pipeline</translation>
+    </message>
+    <message>
+        <source>Petrochemical</source>
+        <translation>Pétrochimie</translation>
+    </message>
+</context>
+<context>
+    <name>FailureScreen</name>
+    <message>
+        <source>Map unavailable</source>
+        <translation>Carte non disponible</translation>
+    </message>
+</context>
+<context>
+    <name>HeaderBar</name>
+    <message>
+        <source>Vasker Beta</source>
+        <translation>Vasker Beta</translation>
+    </message>
+    <message>
+        <source>Canada</source>
+        <translation>Canada</translation>
+    </message>
+</context>
+<context>
+    <name>KindMenu</name>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+</context>
+<context>
+    <name>KindPicker</name>
+    <message>
+        <source>Layer</source>
+        <translation>Couche</translation>
+    </message>
+</context>
+<context>
+    <name>LoadingScreen</name>
+    <message>
+        <source>Opening the bundled map…</source>
+        <translation>Ouverture de la carte fournie…</translation>
+    </message>
+</context>
+<context>
+    <name>Main</name>
+    <message>
+        <source>Vasker Beta</source>
+        <translation>Vasker Beta</translation>
+    </message>
+</context>
+<context>
+    <name>RecordList</name>
+    <message>
+        <source>Records</source>
+        <translation>Fiches</translation>
+    </message>
+</context>
+<context>
+    <name>SearchField</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>WorkspaceView</name>
+    <message>
+        <source>Facility, pipeline or reporting company</source>
+        <translation>Installation, pipeline ou entreprise déclarante</translation>
+    </message>
+    <message>
+        <source>Canadian energy infrastructure map</source>
+        <translation>Carte de l’infrastructure énergétique canadienne</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::KindListModel</name>
+    <message>
+        <source>All categories</source>
+        <translation>Toutes les catégories</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::RecordListModel</name>
+    <message>
+        <source>%1, %2, source period %3</source>
+        <translation>%1, %2, période de la source : %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of %1 records</source>
+        <extracomment>%n: how many records are shown, %1: how many there are</extracomment>
+        <translation>
+            <numerusform>%n fiche sur %1</numerusform>
+            <numerusform>%n fiches sur %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No results</source>
+        <translation>Aucun résultat</translation>
+    </message>
+    <message>
+        <source>No results for “%1”</source>
+        <translation>Aucun résultat pour « %1 »</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,245 @@
+#include "app/OpenMapWorkspace.h"
+
+#include "map/records/Framing.h"
+#include "platform/Preferences.h"
+#include "tests/support/ReleaseBuilder.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace vasker {
+namespace {
+
+OpenMapRelease::Asset record(std::string id, std::string name, std::string kind) {
+    OpenMapRelease::Asset asset = makeAsset();
+    asset.id = std::move(id);
+    asset.name = std::move(name);
+    asset.kind = std::move(kind);
+    return asset;
+}
+
+// In file order: two namesakes, numbered names out of order, a route.
+std::shared_ptr<const LoadedRelease> loaded() {
+    OpenMapRelease release = makeRelease();
+    release.assets = {record("ten", "Plant 10", "refinery"),
+                      record("two", "plant 2", "Zinc"),
+                      record("twin-b", "Twin", "gas_plant"),
+                      record("twin-a", "Twin", "refinery"),
+                      record("line", "Alder Line", "pipeline")};
+    release.assets[0].longitude = -100;
+    release.assets[4].routes = {makeRoute()};
+    return std::make_shared<const LoadedRelease>(
+        std::make_shared<const OpenMapRelease>(std::move(release)), TextLocale("en_CA"));
+}
+
+class Workspace : public testing::Test {
+  protected:
+    [[nodiscard]] std::string shown() const {
+        std::string ids;
+        for (const AssetIndex index : m_workspace.filtered()) {
+            ids += (ids.empty() ? "" : " ") + m_workspace.release().assets[index].id;
+        }
+        return ids;
+    }
+    [[nodiscard]] CameraPosition framed(std::size_t index) const {
+        return framing(m_workspace.release().assets[index]);
+    }
+    void pick(const char* id) { m_workspace.setSelection(QString::fromLatin1(id)); }
+
+    QTemporaryDir m_folder;
+    Preferences m_preferences{m_folder.filePath(QStringLiteral("preferences"))};
+    OpenMapWorkspace m_workspace{loaded(), m_preferences};
+};
+
+const CameraPosition overview = CoordinateRegion{{54, -112}, 20, 40};
+const QString none;
+
+TEST_F(Workspace, StartsWithEverythingShownAndNothingPicked) {
+    EXPECT_EQ(m_workspace.query(), none);
+    EXPECT_EQ(m_workspace.kind(), QStringLiteral("all"));
+    EXPECT_EQ(m_workspace.selection(), none);
+    EXPECT_EQ(m_workspace.inspector(), none);
+    EXPECT_EQ(m_workspace.pendingInspector(), none);
+    EXPECT_FALSE(m_workspace.showingSources());
+    EXPECT_FALSE(m_workspace.showingRecords());
+    EXPECT_EQ(m_workspace.basemap(), QStringLiteral("standard"));
+    EXPECT_EQ(m_workspace.camera(), overview);
+}
+
+TEST_F(Workspace, ShowsRecordsByNameWithNumbersByValueAndNamesakesInFileOrder) {
+    EXPECT_EQ(shown(), "line two ten twin-b twin-a");
+}
+
+TEST_F(Workspace, OffersEachKindOnceInCodePointOrder) {
+    EXPECT_EQ(m_workspace.kinds(),
+              (QList<QString>{QStringLiteral("Zinc"),
+                              QStringLiteral("gas_plant"),
+                              QStringLiteral("pipeline"),
+                              QStringLiteral("refinery")}));
+}
+
+TEST_F(Workspace, TheKindAndTheQueryBothNarrowTheList) {
+    m_workspace.setKind(QStringLiteral("refinery"));
+    EXPECT_EQ(shown(), "ten twin-a");
+    m_workspace.setQuery(QStringLiteral("TWIN"));
+    EXPECT_EQ(shown(), "twin-a");
+    m_workspace.setKind(QStringLiteral("all"));
+    EXPECT_EQ(shown(), "twin-b twin-a");
+}
+
+TEST_F(Workspace, AKindThatNoRecordHasShowsNothing) {
+    m_workspace.setKind(QStringLiteral("zinc"));
+    EXPECT_EQ(shown(), "");
+}
+
+TEST_F(Workspace, TheQueryIsNotTrimmed) {
+    m_workspace.setQuery(QStringLiteral(" 2"));
+    EXPECT_EQ(shown(), "two");
+    m_workspace.setQuery(QStringLiteral(" 2 "));
+    EXPECT_EQ(shown(), "");
+}
+
+TEST_F(Workspace, TheRecordsForTheViewsChangeOnlyWhenTheListDoes) {
+    int changes = 0;
+    QObject::connect(&m_workspace, &OpenMapWorkspace::recordsChanged, [&] { ++changes; });
+    m_workspace.setQuery(QStringLiteral("twi"));
+    m_workspace.setQuery(QStringLiteral("twin"));
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(m_workspace.records().filtered->size(), 2);
+}
+
+TEST_F(Workspace, PickingARecordFramesItAndOpensTheInspector) {
+    pick("ten");
+    EXPECT_EQ(m_workspace.camera(), (CameraPosition{CoordinateRegion{{53.5, -100}, 0.4, 0.6}}));
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("ten"));
+    pick("line");
+    EXPECT_EQ(m_workspace.camera(), framed(4));
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("line"));
+}
+
+TEST_F(Workspace, AnIdThatNoRecordHasChangesNothingElse) {
+    pick("TEN");
+    EXPECT_EQ(m_workspace.selection(), QStringLiteral("TEN"));
+    EXPECT_EQ(m_workspace.camera(), overview);
+    EXPECT_EQ(m_workspace.inspector(), none);
+}
+
+TEST_F(Workspace, PickingTheSameRecordAgainIsNoChange) {
+    pick("ten");
+    m_workspace.resetCamera();
+    pick("ten");
+    EXPECT_EQ(m_workspace.camera(), overview);
+}
+
+TEST_F(Workspace, EmptyingTheSelectionLeavesTheInspectorToItsDismissal) {
+    pick("ten");
+    m_workspace.setSelection(none);
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("ten"));
+    EXPECT_EQ(m_workspace.camera(), framed(0));
+}
+
+TEST_F(Workspace, DismissingTheInspectorEmptiesTheSelectionSoThatTheSameRecordReopensIt) {
+    pick("ten");
+    m_workspace.dismissInspector();
+    EXPECT_EQ(m_workspace.selection(), none);
+    EXPECT_EQ(m_workspace.inspector(), none);
+    m_workspace.resetCamera();
+    pick("ten");
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("ten"));
+    EXPECT_EQ(m_workspace.camera(), framed(0));
+}
+
+TEST_F(Workspace, ARecordPickedInTheRecordsSheetWaitsUntilTheSheetHasClosed) {
+    m_workspace.setShowingRecords(true);
+    pick("ten");
+    EXPECT_FALSE(m_workspace.showingRecords());
+    EXPECT_EQ(m_workspace.pendingInspector(), QStringLiteral("ten"));
+    EXPECT_EQ(m_workspace.inspector(), none);
+    m_workspace.dismissRecords();
+    EXPECT_EQ(m_workspace.pendingInspector(), none);
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("ten"));
+}
+
+TEST_F(Workspace, TheMapFramesTheRecordBeforeTheRecordsSheetClosesOrTheInspectorOpens) {
+    QStringList order;
+    const auto note = [&](const char* what) {
+        return [&order, what] { order.append(QString::fromLatin1(what)); };
+    };
+    using W = OpenMapWorkspace;
+    m_workspace.setShowingRecords(true);
+    QObject::connect(&m_workspace, &W::cameraChanged, note("camera"));
+    QObject::connect(&m_workspace, &W::showingRecordsChanged, note("sheet"));
+    QObject::connect(&m_workspace, &W::inspectorChanged, note("inspector"));
+    pick("ten");
+    m_workspace.dismissRecords();
+    EXPECT_EQ(order.join(u' '), QStringLiteral("camera sheet inspector"));
+}
+
+TEST_F(Workspace, ClosingTheRecordsSheetWithoutAPickOpensNothing) {
+    m_workspace.setShowingRecords(true);
+    m_workspace.dismissRecords();
+    EXPECT_FALSE(m_workspace.showingRecords());
+    EXPECT_EQ(m_workspace.inspector(), none);
+}
+
+TEST_F(Workspace, SheetsLeaveTheQueryAndTheKindAlone) {
+    m_workspace.setQuery(QStringLiteral("twin"));
+    m_workspace.setKind(QStringLiteral("refinery"));
+    m_workspace.setShowingRecords(true);
+    pick("twin-a");
+    m_workspace.dismissRecords();
+    m_workspace.setShowingSources(true);
+    m_workspace.setShowingSources(false);
+    m_workspace.dismissInspector();
+    EXPECT_EQ(m_workspace.query(), QStringLiteral("twin"));
+    EXPECT_EQ(m_workspace.kind(), QStringLiteral("refinery"));
+    EXPECT_EQ(shown(), "twin-a");
+}
+
+TEST_F(Workspace, ResettingTheCameraChangesNothingElse) {
+    m_workspace.setQuery(QStringLiteral("plant"));
+    pick("ten");
+    m_workspace.setCamera(MapRect{1, 2, 3, 4});
+    m_workspace.resetCamera();
+    EXPECT_EQ(m_workspace.camera(), overview);
+    EXPECT_EQ(m_workspace.selection(), QStringLiteral("ten"));
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("ten"));
+    EXPECT_EQ(m_workspace.query(), QStringLiteral("plant"));
+}
+
+TEST_F(Workspace, FramingChangesTheCameraOnly) {
+    m_workspace.focus(m_workspace.release().assets[4]);
+    EXPECT_EQ(m_workspace.camera(), framed(4));
+    EXPECT_EQ(m_workspace.selection(), none);
+    EXPECT_EQ(m_workspace.inspector(), none);
+}
+
+TEST_F(Workspace, ABasemapChosenInOneWindowShowsInEveryOther) {
+    const OpenMapWorkspace other(loaded(), m_preferences);
+    int changes = 0;
+    QObject::connect(&other, &OpenMapWorkspace::basemapChanged, [&] { ++changes; });
+    m_workspace.setBasemap(QStringLiteral("satellite"));
+    EXPECT_EQ(other.basemap(), QStringLiteral("satellite"));
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(m_preferences.text(QStringLiteral("open-map.basemap")), QStringLiteral("satellite"));
+}
+
+TEST_F(Workspace, AnUnknownStoredBasemapStaysAsItIs) {
+    m_preferences.setText(QStringLiteral("open-map.basemap"), QStringLiteral("Hybrid "));
+    const OpenMapWorkspace other(loaded(), m_preferences);
+    EXPECT_EQ(other.basemap(), QStringLiteral("Hybrid "));
+    EXPECT_EQ(m_preferences.text(QStringLiteral("open-map.basemap")), QStringLiteral("Hybrid "));
+}
+
+TEST_F(Workspace, StateIsEachWindowsOwn) {
+    const OpenMapWorkspace other(loaded(), m_preferences);
+    m_workspace.setQuery(QStringLiteral("twin"));
+    pick("ten");
+    EXPECT_EQ(other.query(), none);
+    EXPECT_EQ(other.selection(), none);
+    EXPECT_EQ(other.camera(), overview);
+}
+
+} // namespace
+} // namespace vasker

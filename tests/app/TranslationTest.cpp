@@ -1,0 +1,43 @@
+#include "map/CategoryText.h"
+#include "map/catalogue/KindListModel.h"
+#include "map/catalogue/RecordListModel.h"
+#include "platform/Locale.h"
+#include "tests/support/ReleaseBuilder.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+namespace vasker {
+namespace {
+
+RecordSet records(std::vector<AssetIndex> shown) {
+    return {std::make_shared<const LoadedRelease>(
+                std::make_shared<const OpenMapRelease>(makeRelease()), TextLocale("fr")),
+            std::make_shared<const std::vector<AssetIndex>>(std::move(shown))};
+}
+
+// One test: a translation stays for the life of the program.
+TEST(Translation, AFrenchDesktopReadsFrench) {
+    EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
+    installTranslation(*QCoreApplication::instance(), QStringLiteral("xx"));
+    EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
+    installTranslation(*QCoreApplication::instance(), QStringLiteral("fr_CA"));
+
+    EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Usine à gaz"));
+    EXPECT_EQ(categoryText("refinery"), QStringLiteral("Raffinerie"));
+    EXPECT_EQ(categoryText("compressor_station"), QStringLiteral("Compressor_station"));
+    EXPECT_EQ(categoryText(""), QString());
+    EXPECT_EQ(KindListModel().currentLabel(), QStringLiteral("Toutes les catégories"));
+
+    RecordListModel model;
+    model.setRecords(records({0, 1}));
+    EXPECT_EQ(model.countText(), QStringLiteral("2 fiches sur 2"));
+    EXPECT_EQ(model.data(model.index(0), RecordListModel::AccessibleRole).toString(),
+              QStringLiteral("Plant 0, Usine à gaz, période de la source : 2016"));
+    model.setRecords(records({1}));
+    EXPECT_EQ(model.countText(), QStringLiteral("1 fiche sur 2"));
+}
+
+} // namespace
+} // namespace vasker

@@ -1,0 +1,75 @@
+#include "map/catalogue/KindListModel.h"
+
+#include <QAbstractItemModelTester>
+
+#include <gtest/gtest.h>
+
+namespace vasker {
+namespace {
+
+class KindList : public testing::Test {
+  protected:
+    KindList() {
+        m_model.setKinds({QStringLiteral("LNG"),
+                          QStringLiteral("gas_plant"),
+                          QStringLiteral("oil_sands_insitu"),
+                          QStringLiteral("other")});
+    }
+    [[nodiscard]] std::string entries() const {
+        std::string text;
+        for (int row = 0; row < m_model.rowCount(); ++row) {
+            text += m_model.valueAt(row).toStdString() + "=" +
+                    m_model.data(m_model.index(row), KindListModel::LabelRole)
+                        .toString()
+                        .toStdString() +
+                    "\n";
+        }
+        return text;
+    }
+
+    KindListModel m_model;
+    QAbstractItemModelTester m_tester{&m_model,
+                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(KindList, AllCategoriesComeFirstAndTheKindsInTheOrderGiven) {
+    EXPECT_EQ(entries(),
+              "all=All categories\n"
+              "LNG=Lng\n"
+              "gas_plant=Gas plant\n"
+              "oil_sands_insitu=In-situ oil sands\n"
+              "other=Unclassified facility\n");
+}
+
+TEST_F(KindList, AllCategoriesAreOfferedEvenWithoutKinds) {
+    m_model.setKinds({});
+    EXPECT_EQ(entries(), "all=All categories\n");
+}
+
+TEST_F(KindList, TheChosenEntryIsTheOneOfTheKind) {
+    EXPECT_EQ(m_model.currentRow(), 0);
+    EXPECT_EQ(m_model.currentLabel(), QStringLiteral("All categories"));
+    m_model.setKind(QStringLiteral("gas_plant"));
+    EXPECT_EQ(m_model.currentRow(), 2);
+    EXPECT_EQ(m_model.currentLabel(), QStringLiteral("Gas plant"));
+}
+
+TEST_F(KindList, AKindThatIsNotOfferedIsStillNamed) {
+    m_model.setKind(QStringLiteral("refinery"));
+    EXPECT_EQ(m_model.currentRow(), -1);
+    EXPECT_EQ(m_model.currentLabel(), QStringLiteral("Refinery"));
+}
+
+TEST_F(KindList, TypingFindsTheNextEntryThatBeginsSo) {
+    EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("un"), 0), 4);
+    EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("A"), 3), 0);
+    EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("x"), 0), -1);
+}
+
+TEST_F(KindList, ThereIsNoValueOutsideTheList) {
+    EXPECT_EQ(m_model.valueAt(-1), QString());
+    EXPECT_EQ(m_model.valueAt(5), QString());
+}
+
+} // namespace
+} // namespace vasker

@@ -1,0 +1,150 @@
+#include "map/catalogue/RecordListModel.h"
+
+#include "map/Symbols.h"
+#include "tests/support/ReleaseBuilder.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace vasker {
+namespace {
+
+using Role = RecordListModel::Role;
+
+class RecordList : public testing::Test {
+  protected:
+    RecordList() {
+        OpenMapRelease release = makeRelease();
+        release.assets = {makeAsset(0), makeAsset(1), makeAsset(2)};
+        release.assets[0].name = "Alder <b>& Sons</b>";
+        release.assets[1].name = "Birch";
+        release.assets[1].kind = "Compressor_station";
+        release.assets[1].asOf = "March 2025";
+        release.assets[2].name = "Cedar % %1";
+        release.assets[0].facts = {fact("reported unit", "lower case"),
+                                   fact("Reported unit ", "trailing blank")};
+        release.assets[1].facts = {fact("Other", "no unit"),
+                                   fact("Reported unit", "first"),
+                                   fact("Reported unit", "second")};
+        m_loaded = std::make_shared<const LoadedRelease>(
+            std::make_shared<const OpenMapRelease>(std::move(release)), TextLocale("en"));
+        show({0, 1, 2});
+    }
+    static OpenMapRelease::Fact fact(std::string label, std::string value) {
+        OpenMapRelease::Fact made = makeFact(std::move(value));
+        made.label = std::move(label);
+        return made;
+    }
+    void show(std::vector<AssetIndex> rows) {
+        m_model.setRecords(
+            {m_loaded, std::make_shared<const std::vector<AssetIndex>>(std::move(rows))});
+    }
+    [[nodiscard]] std::string text(int row, Role role) const {
+        return m_model.data(m_model.index(row), role).toString().toStdString();
+    }
+    [[nodiscard]] int number(int row, Role role) const {
+        return m_model.data(m_model.index(row), role).toInt();
+    }
+
+    std::shared_ptr<const LoadedRelease> m_loaded;
+    RecordListModel m_model;
+    QAbstractItemModelTester m_tester{&m_model,
+                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST(RecordListBeforeLoading, IsEmptyAndCountsNothing) {
+    const RecordListModel model;
+    EXPECT_TRUE(model.isEmpty());
+    EXPECT_EQ(model.countText(), QStringLiteral("0 of 0 records"));
+    EXPECT_EQ(model.idAt(0), QString());
+}
+
+TEST_F(RecordList, RowsAreTheFilteredRecordsInTheirOrder) {
+    show({2, 0});
+    EXPECT_EQ(m_model.rowCount(), 2);
+    EXPECT_EQ(text(0, Role::IdRole), "A-2");
+    EXPECT_EQ(text(1, Role::IdRole), "A-0");
+}
+
+TEST_F(RecordList, ANameIsShownVerbatim) {
+    EXPECT_EQ(text(0, Role::NameRole), "Alder <b>& Sons</b>");
+    EXPECT_EQ(text(2, Role::NameRole), "Cedar % %1");
+}
+
+TEST_F(RecordList, TheUnitIsTheFirstFactWithExactlyThatLabel) {
+    EXPECT_EQ(text(0, Role::UnitRole), "");
+    EXPECT_EQ(text(1, Role::UnitRole), "first");
+    EXPECT_EQ(text(2, Role::UnitRole), "");
+}
+
+TEST_F(RecordList, TheCategoryAndThePeriodShareALine) {
+    EXPECT_EQ(text(0, Role::CategoryRole), "Gas plant · 2016");
+    EXPECT_EQ(text(1, Role::CategoryRole), "Compressor_station · March 2025");
+}
+
+TEST_F(RecordList, TheMarkFollowsTheRawKind) {
+    EXPECT_EQ(text(0, Role::SymbolRole), "flame");
+    EXPECT_EQ(number(0, Role::TintRole), static_cast<int>(PaletteColor::blue));
+    EXPECT_EQ(text(1, Role::SymbolRole), "mappin");
+    EXPECT_EQ(number(1, Role::TintRole), static_cast<int>(PaletteColor::gray));
+}
+
+TEST_F(RecordList, TheAccessibleTextSaysNameCategoryAndPeriod) {
+    EXPECT_EQ(text(0, Role::AccessibleRole), "Alder <b>& Sons</b>, Gas plant, source period 2016");
+    EXPECT_EQ(text(2, Role::AccessibleRole), "Cedar % %1, Gas plant, source period 2016");
+}
+
+TEST_F(RecordList, TheCountLineTellsShownAndAllRecordsAsPlainNumbers) {
+    EXPECT_EQ(m_model.countText(), QStringLiteral("3 of 3 records"));
+    show({1});
+    EXPECT_EQ(m_model.countText(), QStringLiteral("1 of 3 records"));
+    show({});
+    EXPECT_EQ(m_model.countText(), QStringLiteral("0 of 3 records"));
+    EXPECT_TRUE(m_model.isEmpty());
+}
+
+TEST_F(RecordList, TheEmptyTitleNamesTheSearchText) {
+    EXPECT_EQ(m_model.emptyTitle(), QStringLiteral("No results"));
+    m_model.setQuery(QStringLiteral("<b>%1"));
+    EXPECT_EQ(m_model.emptyTitle(), QStringLiteral("No results for “<b>%1”"));
+}
+
+TEST_F(RecordList, OnlyAMatchedNameHasMarkup) {
+    EXPECT_EQ(text(0, Role::MarkupRole), "");
+    m_model.setQuery(QStringLiteral("SONS"));
+    EXPECT_EQ(text(0, Role::MarkupRole), "Alder &lt;b&gt;&amp; <b>Sons</b>&lt;/b&gt;");
+    EXPECT_EQ(text(1, Role::MarkupRole), "");
+}
+
+TEST_F(RecordList, AQueryTellsTheViewsToShowMarkupAnew) {
+    const QSignalSpy spy(&m_model, &RecordListModel::dataChanged);
+    m_model.setQuery(QStringLiteral("b"));
+    ASSERT_EQ(spy.size(), 1);
+    EXPECT_EQ(spy[0][2].value<QList<int>>(), QList<int>{Role::MarkupRole});
+}
+
+TEST_F(RecordList, TheSelectedRowFollowsTheRecord) {
+    m_model.setSelection(QStringLiteral("A-2"));
+    EXPECT_EQ(m_model.selectedRow(), 2);
+    show({2, 1});
+    EXPECT_EQ(m_model.selectedRow(), 0);
+    show({1});
+    EXPECT_EQ(m_model.selectedRow(), -1);
+    m_model.setSelection(QString());
+    EXPECT_EQ(m_model.selectedRow(), -1);
+}
+
+TEST_F(RecordList, IdsAndRowsAnswerEachOther) {
+    show({2, 0});
+    EXPECT_EQ(m_model.idAt(1), QStringLiteral("A-0"));
+    EXPECT_EQ(m_model.idAt(2), QString());
+    EXPECT_EQ(m_model.idAt(-1), QString());
+    EXPECT_EQ(m_model.rowOf(QStringLiteral("A-0")), 1);
+    EXPECT_EQ(m_model.rowOf(QStringLiteral("A-1")), -1);
+    EXPECT_EQ(m_model.rowOf(QStringLiteral("a-0")), -1);
+}
+
+} // namespace
+} // namespace vasker
