@@ -11,7 +11,7 @@ namespace vasker {
 namespace {
 
 /// "ok", or the case and place of the refusal.
-std::string outcomeOf(const OpenMapRelease& release) {
+std::string checked(const OpenMapRelease& release) {
     try {
         validate(release);
         return "ok";
@@ -35,21 +35,21 @@ TEST(ReleaseRules, TheFirstBrokenRuleDecides) {
     broken.sources.assign(101, makeSource());
     broken.sources[0].id = "x";
 
-    EXPECT_EQ(outcomeOf(broken), "records: releaseID: empty");
+    EXPECT_EQ(checked(broken), "records: releaseID: empty");
     broken.releaseID = "r";
-    EXPECT_EQ(outcomeOf(broken), "records: coverageName: empty");
+    EXPECT_EQ(checked(broken), "records: coverageName: empty");
     broken.coverageName = "c";
-    EXPECT_EQ(outcomeOf(broken), "records: generatedAt: \"\" is no internet date-time");
+    EXPECT_EQ(checked(broken), "records: generatedAt: \"\" is no internet date-time");
     broken.generatedAt = "2025-11-20T12:00:00Z";
-    EXPECT_EQ(outcomeOf(broken), "records: limitations: none");
+    EXPECT_EQ(checked(broken), "records: limitations: none");
     broken.limitations = {"l"};
-    EXPECT_EQ(outcomeOf(broken), "records: assets: 10001 is outside 1 to 10000");
+    EXPECT_EQ(checked(broken), "records: assets: 10001 is outside 1 to 10000");
     broken.assets.resize(3);
-    EXPECT_EQ(outcomeOf(broken), "records: assets[1].id: \"A-0\" stands there before");
+    EXPECT_EQ(checked(broken), "records: assets[1].id: \"A-0\" stands there before");
     broken.assets[1].id = "A-1";
-    EXPECT_EQ(outcomeOf(broken), "provenance: sources: 101 is outside 1 to 100");
+    EXPECT_EQ(checked(broken), "provenance: sources: 101 is outside 1 to 100");
     broken.sources.resize(3);
-    EXPECT_EQ(outcomeOf(broken),
+    EXPECT_EQ(checked(broken),
               "provenance: sources[2].id: \"" + sourceID() + "\" stands there before");
 
     // Records are checked one by one, so that an earlier asset's last rule precedes a later one's
@@ -66,34 +66,34 @@ TEST(ReleaseRules, TheFirstBrokenRuleDecides) {
     broken.assets[0].latitude = 91;
     broken.assets[0].routes = {{{none, none}, {0, 0}}};
     broken.assets[1].status = "";
-    EXPECT_EQ(outcomeOf(broken), "provenance: sources[0].id: not 64 hexadecimal digits");
+    EXPECT_EQ(checked(broken), "provenance: sources[0].id: not 64 hexadecimal digits");
     broken.sources[0].id = sourceID(0);
-    EXPECT_EQ(outcomeOf(broken), "provenance: sources[0].dataset: \"\" is not accepted");
+    EXPECT_EQ(checked(broken), "provenance: sources[0].dataset: \"\" is not accepted");
     broken.sources[0].dataset = "gem-goit-pipelines";
-    EXPECT_EQ(outcomeOf(broken), "provenance: sources[0].publisher: empty");
+    EXPECT_EQ(checked(broken), "provenance: sources[0].publisher: empty");
     broken.sources[0].publisher = "p";
-    EXPECT_TRUE(outcomeOf(broken).starts_with("provenance: sources[0].sourceURL: "));
+    EXPECT_TRUE(checked(broken).starts_with("provenance: sources[0].sourceURL: "));
     broken.sources[0].sourceURL = "https://example.ca";
-    EXPECT_EQ(outcomeOf(broken), "records: assets[0].status: empty");
+    EXPECT_EQ(checked(broken), "records: assets[0].status: empty");
     broken.assets[0].status = "s";
-    EXPECT_EQ(outcomeOf(broken), "records: assets[0].name: more than 1000 characters");
+    EXPECT_EQ(checked(broken), "records: assets[0].name: more than 1000 characters");
     broken.assets[0].name = "n";
-    EXPECT_EQ(outcomeOf(broken), "records: assets[0].facts: 51 are more than 50");
+    EXPECT_EQ(checked(broken), "records: assets[0].facts: 51 are more than 50");
     broken.assets[0].facts.resize(50);
-    EXPECT_EQ(outcomeOf(broken), "provenance: assets[0].sourceID: no source has this id");
+    EXPECT_EQ(checked(broken), "provenance: assets[0].sourceID: no source has this id");
     broken.assets[0].sourceID = sourceID(0);
-    EXPECT_EQ(outcomeOf(broken), "coordinates: assets[0]: latitude 91 is outside -90 to 90");
+    EXPECT_EQ(checked(broken), "coordinates: assets[0]: latitude 91 is outside -90 to 90");
     broken.assets[0].latitude = 9;
-    EXPECT_EQ(outcomeOf(broken),
+    EXPECT_EQ(checked(broken),
               "coordinates: assets[0].routes[0][0]: not a pair of longitude and latitude");
     broken.assets[0].routes[0][0] = {0, 0};
-    EXPECT_EQ(outcomeOf(broken), "provenance: assets[0].facts[0].value: empty");
+    EXPECT_EQ(checked(broken), "provenance: assets[0].facts[0].value: empty");
     broken.assets[0].facts.clear();
-    EXPECT_EQ(outcomeOf(broken), "records: assets[1].status: empty");
+    EXPECT_EQ(checked(broken), "records: assets[1].status: empty");
     broken.assets[1].status = "s";
-    EXPECT_EQ(outcomeOf(broken), "provenance: sources[1]: cited by no asset or fact");
+    EXPECT_EQ(checked(broken), "provenance: sources[1]: cited by no asset or fact");
     broken.assets[2].sourceID = sourceID(1);
-    EXPECT_EQ(outcomeOf(broken), "ok");
+    EXPECT_EQ(checked(broken), "ok");
 }
 
 } // namespace
