@@ -1,0 +1,58 @@
+#include "bench/FrameClock.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+#include <ctime>
+
+namespace vasker {
+
+std::int64_t monotonicNow() noexcept {
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return std::int64_t{now.tv_sec} * 1'000'000'000 + now.tv_nsec;
+}
+
+FrameClock::FrameClock(QQuickWindow& window) : m_window(window) {
+    connect(
+        &window,
+        &QQuickWindow::afterSynchronizing,
+        this,
+        [this] { m_taken = m_taken || (m_waiting && m_holds()); },
+        Qt::DirectConnection);
+    connect(
+        &window,
+        &QQuickWindow::frameSwapped,
+        this,
+        [this] {
+            const std::int64_t now = monotonicNow();
+            ++m_pictures;
+            if (m_waiting && m_taken) {
+                m_waiting = false;
+                m_swappedAt = now;
+            }
+            Q_EMIT swapped(now);
+        },
+        Qt::DirectConnection);
+}
+
+std::int64_t FrameClock::waitForPicture(const std::function<bool()>& holds) {
+    m_holds = holds;
+    m_taken = false;
+    m_swappedAt = 0;
+    m_pictures = 0;
+    m_waiting = true;
+    QEventLoop loop;
+    connect(this, &FrameClock::swapped, &loop, [&] {
+        if (m_swappedAt != 0) {
+            loop.quit();
+        }
+    });
+    QTimer::singleShot(10'000, &loop, &QEventLoop::quit);
+    m_window.update();
+    loop.exec();
+    m_waiting = false;
+    return m_swappedAt;
+}
+
+} // namespace vasker

@@ -1,0 +1,278 @@
+// How fast the real window is: from process start to the first full picture, frame by frame while
+// the map is dragged and zoomed, from a keystroke to the filtered picture; and what it weighs.
+//
+//   xvfb-run -a -s '-screen 0 1400x900x24' bench-frame [real|worst|empty ...]
+//
+// Each case runs in a process of its own: "real" on the packaged release, "worst" on a synthesized
+// one at the limits (15,000,000 bytes, 10,000 records, 300,000 route points), "empty" on a window
+// without content: the floor beside which the others are to be read.
+
+#include "app/OpenMapApp.h"
+#include "app/OpenMapRoot.h"
+#include "bench/FrameClock.h"
+#include "data/Digest.h"
+#include "map/Symbols.h"
+#include "map/view/MapView.h"
+#include "platform/ui/Fonts.h"
+#include "tools/openmap-release/Synthesis.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QProcess>
+#include <QQmlExtensionPlugin>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <set>
+#include <stdexcept>
+#include <vector>
+
+Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
+
+namespace vasker {
+namespace {
+
+double milliseconds(std::int64_t nanoseconds) {
+    return static_cast<double>(nanoseconds) / 1e6;
+}
+
+double percentile(std::vector<double> values, double fraction) {
+    std::sort(values.begin(), values.end());
+    return values[static_cast<std::size_t>(fraction * static_cast<double>(values.size() - 1))];
+}
+
+/// Proportional set size of this process, in megabytes of 1,000,000 bytes.
+double proportionalMemory() {
+    QFile file(QStringLiteral("/proc/self/smaps_rollup"));
+    if (file.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            if (line.startsWith("Pss:")) {
+                return line.mid(4).trimmed().split(' ').front().toDouble() * 1024 / 1e6;
+            }
+        }
+    }
+    throw std::runtime_error("the kernel tells no proportional memory");
+}
+
+/// Steps `script` once for every picture, and prints the times between the pictures.
+void measureFrames(const char* name,
+                   FrameClock& clock,
+                   int frames,
+                   const std::function<void(int)>& script) {
+    std::vector<double> intervals;
+    std::int64_t last = 0;
+    int step = 0;
+    QEventLoop loop;
+    QObject::connect(&clock, &FrameClock::swapped, &loop, [&](std::int64_t when) {
+        if (step > 2) { // the first pictures still belong to what was before
+            intervals.push_back(milliseconds(when - last));
+        }
+        last = when;
+        if (++step > frames + 2) {
+            loop.quit();
+            return;
+        }
+        script(step);
+    });
+    script(0);
+    loop.exec();
+    std::printf("  %-24s median %6.2f ms   95th percentile %6.2f ms   longest %6.2f ms\n",
+                name,
+                percentile(intervals, 0.5),
+                percentile(intervals, 0.95),
+                percentile(intervals, 1));
+}
+
+/// Throws unless the window's picture shows records: plenty of pixels in several of their colours.
+void requireRecordsInPicture(QQuickWindow& window,
+                             const MapView& map,
+                             const OpenMapRelease& release) {
+    if (window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software) {
+        throw std::runtime_error("no OpenGL: the map cannot be drawn");
+    }
+    std::set<QRgb> tints;
+    for (const auto& asset : release.assets) {
+        tints.insert(
+            colorValue(color(asset.kind), map.dark() ? ColorScheme::dark : ColorScheme::light)
+                .rgb());
+    }
+    const QImage picture = window.grabWindow().convertToFormat(QImage::Format_RGB32);
+    const QRect area = map.mapRectToScene(map.boundingRect()).toRect();
+    std::set<QRgb> seen;
+    int pixels = 0;
+    for (int y = area.top(); y < area.bottom(); ++y) {
+        for (int x = area.left(); x < area.right(); ++x) {
+            const QRgb pixel = picture.pixel(x, y);
+            if (tints.contains(pixel)) {
+                seen.insert(pixel);
+                ++pixels;
+            }
+        }
+    }
+    if (pixels < 5000 || seen.size() < 4) {
+        throw std::runtime_error("the picture shows no records");
+    }
+    std::printf("  %-24s %d pixels in %zu of %zu record colours\n",
+                "records in the picture",
+                pixels,
+                seen.size(),
+                tints.size());
+}
+
+void measureFilter(FrameClock& clock, QQuickWindow& window, const OpenMapWorkspace& workspace) {
+    window.requestActivate();
+    if (!QTest::qWaitForWindowActive(&window)) {
+        throw std::runtime_error("the window does not get the keyboard");
+    }
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    std::vector<double> times;
+    int mostPictures = 0;
+    for (const char letter : {'g', 'a', 's', ' ', 'p', 'l', '\b', '\b', '\b', '\b', '\b', '\b'}) {
+        const QString query = workspace.query();
+        const std::int64_t start = monotonicNow();
+        QTest::keyClick(&window,
+                        letter == '\b' ? Qt::Key_Backspace
+                                       : Qt::Key(QChar::fromLatin1(letter).toUpper().unicode()));
+        if (workspace.query() == query) {
+            throw std::runtime_error("a keystroke did not reach the search field");
+        }
+        const std::int64_t shown = clock.waitForPicture([] { return true; });
+        times.push_back(milliseconds(shown - start));
+        mostPictures = std::max(mostPictures, clock.picturesOfLastWait());
+    }
+    std::printf("  %-24s median %6.2f ms   longest %6.2f ms   at most %d pictures\n",
+                "keystroke to picture",
+                percentile(times, 0.5),
+                percentile(times, 1),
+                mostPictures);
+}
+
+void measureRelease(const QString& folder, std::int64_t started) {
+    OpenMapApp windows(
+        Bundle(folder), TextLocale::fromEnvironment(), folder + QStringLiteral("/settings.json"));
+    QQuickWindow& window = *windows.openWindow();
+    FrameClock clock(window);
+    const auto& root = *window.property("root").value<OpenMapRoot*>();
+    const MapView* map = nullptr;
+    const std::int64_t shown = clock.waitForPicture([&] {
+        map = window.findChild<MapView*>(QStringLiteral("open-map-canvas"));
+        return map != nullptr && map->records().loaded != nullptr;
+    });
+    if (shown == 0) {
+        throw std::runtime_error("no map within ten seconds: " + root.failureText().toStdString());
+    }
+    std::printf("  %-24s %6.0f ms after the process was started\n",
+                "first full picture",
+                milliseconds(shown - started));
+    OpenMapWorkspace& workspace = *root.workspace();
+    requireRecordsInPicture(window, *map, workspace.release());
+    std::printf("  %-24s %6.0f MB\n", "memory at first", proportionalMemory());
+
+    const Viewport viewport{map->width(), map->height()};
+    Camera camera(canadaOverview, viewport);
+    measureFrames("drag", clock, 300, [&](int step) {
+        camera = camera.panned(step % 120 < 60 ? 4 : -4, step % 80 < 40 ? 2 : -2);
+        workspace.setCamera(camera.visibleRect());
+    });
+    workspace.resetCamera();
+    camera = Camera(canadaOverview, viewport);
+    measureFrames("zoom", clock, 300, [&](int step) {
+        camera = camera.zoomed(step % 200 < 100 ? 1.04 : 1 / 1.04,
+                               {viewport.width * 0.52, viewport.height * 0.55});
+        workspace.setCamera(camera.visibleRect());
+    });
+    workspace.resetCamera();
+    measureFilter(clock, window, workspace);
+    std::printf("  %-24s %6.0f MB\n", "memory at last", proportionalMemory());
+}
+
+void measureEmpty(std::int64_t started) {
+    QQuickWindow window;
+    window.resize(1280, 800);
+    FrameClock clock(window);
+    window.show();
+    const std::int64_t shown = clock.waitForPicture([] { return true; });
+    std::printf("  %-24s %6.0f ms after the process was started\n",
+                "first picture",
+                milliseconds(shown - started));
+    measureFrames("frames", clock, 300, [&](int) { window.update(); });
+    std::printf("  %-24s %6.0f MB\n", "memory", proportionalMemory());
+}
+
+void write(const QString& path, const std::string& text) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(text.data(), static_cast<qint64>(text.size())) !=
+            static_cast<qint64>(text.size())) {
+        throw std::runtime_error("cannot write " + path.toStdString());
+    }
+}
+
+/// The folder with the release of a case, made in `scratch` where it is not the packaged one.
+QString folderOf(const QString& name, const QString& scratch) {
+    if (name != QStringLiteral("worst")) {
+        return QStringLiteral(VASKER_PACKAGED_RESOURCES);
+    }
+    const std::string json =
+        synthesizeFile({.records = 10'000, .routePoints = 300'000, .bytes = 15'000'000, .seed = 1});
+    write(scratch + QStringLiteral("/OpenMap.json"), json);
+    write(scratch + QStringLiteral("/BundleInformation.json"),
+          R"({"VaskerOpenMapSHA256":")" + sha256(json) + R"("})");
+    return scratch;
+}
+
+int runCases(QStringList cases) {
+    if (cases.isEmpty()) {
+        cases = {QStringLiteral("empty"), QStringLiteral("real"), QStringLiteral("worst")};
+    }
+    for (const QString& name : cases) {
+        const QTemporaryDir scratch;
+        const QString folder = folderOf(name, scratch.path());
+        std::printf("%s\n", qPrintable(name));
+        std::fflush(stdout);
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedChannels);
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("--measure"), name, folder, QString::number(monotonicNow())});
+        if (!process.waitForFinished(300'000) || process.exitStatus() != QProcess::NormalExit ||
+            process.exitCode() != 0) {
+            return 1;
+        }
+    }
+    return 0;
+}
+
+int measure(const QString& name, const QString& folder, std::int64_t started) {
+    installInterfaceFont();
+    try {
+        name == QStringLiteral("empty") ? measureEmpty(started) : measureRelease(folder, started);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "bench-frame: %s\n", error.what());
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace
+} // namespace vasker
+
+int main(int argc, char* argv[]) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    if (arguments.size() == 4 && arguments[0] == QStringLiteral("--measure")) {
+        const QGuiApplication application(argc, argv);
+        return vasker::measure(arguments[1], arguments[2], arguments[3].toLongLong());
+    }
+    const QCoreApplication application(argc, argv);
+    return vasker::runCases(arguments);
+}
