@@ -7,6 +7,9 @@ namespace vasker {
 
 namespace {
 
+/// The core of a line is about two fifths of what is drawn, with its casing and smooth edges.
+constexpr double squareReach = 0.4;
+
 struct Vector {
     double x;
     double y;
@@ -47,31 +50,32 @@ struct Clip {
 /// Appends lines to a mesh, one after the other.
 class Pen {
   public:
-    Pen(RouteMesh& mesh, Rgb color) : m_mesh(mesh), m_color(color) {}
+    Pen(RouteMesh& mesh, Rgb color, LineEnds ends) : m_mesh(mesh), m_color(color), m_ends(ends) {}
 
-    /// Begins a line at `point`, drawn towards `direction` (unit).
-    void begin(Vector point, Vector direction, bool roundEnd) {
+    /// Begins a line at `point`, drawn towards `direction` (unit). Where the tile cuts the line, it
+    /// does not end.
+    void begin(Vector point, Vector direction, bool isEnd) {
         m_startsStrip = true;
-        if (roundEnd) {
+        if (isEnd && m_ends == LineEnds::round) {
             addTip(point, direction, -1);
         }
-        add(point, normalOf(direction));
+        add(point, normalOf(direction), (isEnd ? -reach() : 0) * direction);
     }
 
     /// Continues through `point`, where the direction changes.
     void bend(Vector point, Vector before, Vector after) {
         const double cosine = dot(before, after);
-        if (cosine < 0) { // a mitre would stick out: two round ends make a round corner
+        if (cosine < 0) { // a mitre would stick out: two ends make a corner
             end(point, before, true);
             begin(point, after, true);
             return;
         }
-        add(point, 1 / (1 + cosine) * (normalOf(before) + normalOf(after)));
+        add(point, 1 / (1 + cosine) * (normalOf(before) + normalOf(after)), {0, 0});
     }
 
-    void end(Vector point, Vector direction, bool roundEnd) {
-        add(point, normalOf(direction));
-        if (roundEnd) {
+    void end(Vector point, Vector direction, bool isEnd) {
+        add(point, normalOf(direction), (isEnd ? reach() : 0) * direction);
+        if (isEnd && m_ends == LineEnds::round) {
             addTip(point, direction, 1);
         }
     }
@@ -79,9 +83,12 @@ class Pen {
   private:
     static Vector normalOf(Vector direction) { return {-direction.y, direction.x}; }
 
-    void add(Vector point, Vector offset) {
-        push(point, offset, RouteVertex::Corner::left);
-        push(point, -1 * offset, RouteVertex::Corner::right);
+    /// How far beyond its point a line ends, in halves of its drawn width.
+    [[nodiscard]] double reach() const { return m_ends == LineEnds::square ? squareReach : 0; }
+
+    void add(Vector point, Vector normal, Vector shift) {
+        push(point, normal + shift, RouteVertex::Corner::left);
+        push(point, -1 * normal + shift, RouteVertex::Corner::right);
     }
 
     void addTip(Vector point, Vector direction, double sign) {
@@ -109,6 +116,7 @@ class Pen {
 
     RouteMesh& m_mesh;
     Rgb m_color;
+    LineEnds m_ends;
     bool m_startsStrip = true;
 };
 
@@ -173,7 +181,8 @@ RouteMesh routeMesh(const RecordGeometry& geometry,
                     std::span<const RouteRun> runs,
                     const RouteColors& colors,
                     DetailLevel level,
-                    TileIndex tile) {
+                    TileIndex tile,
+                    LineEnds ends) {
     const MapRect bounds = tile.bounds(level);
     const double scale = level.maximumScale();
     const auto tolerance = static_cast<float>(routeTolerancePixels / scale);
@@ -198,7 +207,7 @@ RouteMesh routeMesh(const RecordGeometry& geometry,
                 line.push_back(point);
             }
         }
-        Pen pen(mesh, *color);
+        Pen pen(mesh, *color, ends);
         drawLine(pen, line, bounds.width * scale);
     }
     return mesh;

@@ -38,8 +38,8 @@ class MapNode final : public QSGNode {
 
   private:
     GroundLayer m_ground;
-    RouteLayer m_routes;
-    RouteLayer m_selectedRoute;
+    RouteLayer m_routes{LineEnds::square};
+    RouteLayer m_selectedRoute{LineEnds::round};
     DotLayer m_dots;
     BalloonLayer m_balloons;
     std::shared_ptr<const BalloonPicture> m_balloonPicture;

@@ -31,7 +31,7 @@ struct RouteLayer::Tile {
     }
 };
 
-RouteLayer::RouteLayer() = default;
+RouteLayer::RouteLayer(LineEnds ends) : m_ends(ends) {}
 
 RouteLayer::~RouteLayer() = default;
 
@@ -72,8 +72,8 @@ std::size_t RouteLayer::vertexCount() const {
 }
 
 std::unique_ptr<RouteLayer::Tile> RouteLayer::makeTile(TileIndex index) {
-    auto tile = std::make_unique<Tile>(
-        routeMesh(m_content->loaded->geometry, m_content->runs, m_content->colors, m_level, index));
+    auto tile = std::make_unique<Tile>(routeMesh(
+        m_content->loaded->geometry, m_content->runs, m_content->colors, m_level, index, m_ends));
     if (tile->geometry.vertexCount() > 0) {
         appendChildNode(&tile->node);
     }

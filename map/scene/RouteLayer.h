@@ -25,7 +25,7 @@ struct RouteContent {
 
 class RouteLayer final : public QSGNode {
   public:
-    RouteLayer();
+    explicit RouteLayer(LineEnds ends);
     ~RouteLayer() override;
 
     /// Render thread, while the item's thread waits. `content` may be null: nothing is drawn.
@@ -47,6 +47,7 @@ class RouteLayer final : public QSGNode {
                const Camera& camera,
                float devicePixels) const;
 
+    LineEnds m_ends;
     std::shared_ptr<const RouteContent> m_content;
     DetailLevel m_level{0};
     std::map<TileIndex, std::unique_ptr<Tile>> m_tiles;

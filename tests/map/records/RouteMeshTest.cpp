@@ -62,8 +62,8 @@ TEST(RouteMesh, StaysWithinHalfAPixelOfThePublishedLineAtEveryLevel) {
         for (TileIndex tile = range.first; tile.row <= range.last.row; ++tile.row) {
             for (tile.column = range.first.column; tile.column <= range.last.column;
                  ++tile.column) {
-                auto line = middleLine(
-                    routeMesh(geometry, geometry.runs(), allIn(records, ink), level, tile));
+                auto line = middleLine(routeMesh(
+                    geometry, geometry.runs(), allIn(records, ink), level, tile, LineEnds::square));
                 for (MapPoint& point : line) {
                     point = {point.x / level.maximumScale() + tile.bounds(level).x,
                              point.y / level.maximumScale() + tile.bounds(level).y};
@@ -89,8 +89,8 @@ TEST(RouteMesh, StaysWithinHalfAPixelOfThePublishedLineAtEveryLevel) {
 TEST(RouteMesh, CoarseLevelsHaveFewerVertices) {
     const RecordSet records = recordSetOf({pipelineAlong({winding(1500)})});
     const RecordGeometry& geometry = records.loaded->geometry;
-    const RouteMesh coarse =
-        routeMesh(geometry, geometry.runs(), allIn(records, ink), DetailLevel(2), {0, 0});
+    const RouteMesh coarse = routeMesh(
+        geometry, geometry.runs(), allIn(records, ink), DetailLevel(2), {0, 0}, LineEnds::square);
     EXPECT_GT(coarse.size(), 4U);
     EXPECT_LT(coarse.size(), 100U);
 }
@@ -100,8 +100,8 @@ TEST(RouteMesh, ALineIsCutExactlyAtTheTilesEdge) {
     const RecordGeometry& geometry = records.loaded->geometry;
     const DetailLevel level(4); // four by four tiles of 512 pixels
     for (const std::int32_t column : {0, 1, 2, 3}) {
-        const auto line = middleLine(
-            routeMesh(geometry, geometry.runs(), allIn(records, ink), level, {column, 1}));
+        const auto line = middleLine(routeMesh(
+            geometry, geometry.runs(), allIn(records, ink), level, {column, 1}, LineEnds::square));
         ASSERT_EQ(line.size(), 2U);
         EXPECT_NEAR(line[0].x, column == 0 ? 2048.0 / 360 : 0, 1e-3);
         EXPECT_NEAR(line[1].x, column == 3 ? 512 - 2048.0 / 360 : 512, 1e-3);
@@ -116,7 +116,8 @@ TEST(RouteMesh, PositionsStaySmallAtTheNearestZoomHoweverLongTheLine) {
     const auto ends = geometry.vertices(run);
     const MapPoint middle{(ends[0].x + ends[1].x) / 2, (ends[0].y + ends[1].y) / 2};
     const TileIndex tile = TileRange::covering({middle.x, middle.y, 0, 0}, level).first;
-    const RouteMesh mesh = routeMesh(geometry, geometry.runs(), allIn(records, ink), level, tile);
+    const RouteMesh mesh =
+        routeMesh(geometry, geometry.runs(), allIn(records, ink), level, tile, LineEnds::square);
     ASSERT_FALSE(mesh.empty());
     for (const RouteVertex& vertex : mesh) {
         EXPECT_LE(std::abs(vertex.x), 513);
@@ -130,7 +131,8 @@ TEST(RouteMesh, ARecordWithoutColorIsNotDrawn) {
                           records.loaded->geometry.runs(),
                           RouteColors(1),
                           DetailLevel(0),
-                          {0, 0})
+                          {0, 0},
+                          LineEnds::square)
                     .empty());
 }
 
@@ -140,7 +142,8 @@ TEST(RouteMesh, EveryVertexHasTheColorOfItsRecord) {
                                      records.loaded->geometry.runs(),
                                      allIn(records, ink),
                                      DetailLevel(0),
-                                     {0, 0});
+                                     {0, 0},
+                                     LineEnds::square);
     ASSERT_FALSE(mesh.empty());
     for (const RouteVertex& vertex : mesh) {
         EXPECT_EQ((Rgb{vertex.red, vertex.green, vertex.blue}), ink);
@@ -154,7 +157,8 @@ TEST(RouteMesh, ALoopTooSmallToSeeIsStillADot) {
                                      records.loaded->geometry.runs(),
                                      allIn(records, ink),
                                      DetailLevel(4),
-                                     {0, 1});
+                                     {0, 1},
+                                     LineEnds::square);
     EXPECT_EQ(middleLine(mesh).size(), 1U);
 }
 
@@ -165,11 +169,26 @@ TEST(RouteMesh, ASharpCornerBecomesTwoRoundEnds) {
                                      records.loaded->geometry.runs(),
                                      allIn(records, ink),
                                      DetailLevel(4),
-                                     {0, 1});
+                                     {0, 1},
+                                     LineEnds::round);
     const auto tips = std::count_if(mesh.begin(), mesh.end(), [](const RouteVertex& vertex) {
         return vertex.corner >= RouteVertex::Corner::leftTip;
     });
     EXPECT_GE(tips, 8); // two at either end of the route, four at the corner
+}
+
+TEST(RouteMesh, ASquareEndReachesBeyondTheLineAndACutEndDoesNot) {
+    const RecordSet records = recordSetOf({pipelineAlong({{{-170, 10}, {-100, 10}}})});
+    const RecordGeometry& geometry = records.loaded->geometry;
+    const RouteMesh west = routeMesh(
+        geometry, geometry.runs(), allIn(records, ink), DetailLevel(4), {0, 1}, LineEnds::square);
+    ASSERT_EQ(west.size(), 4U);
+    EXPECT_LT(west[0].offsetX, -0.3);
+    EXPECT_GT(west[2].offsetX, 0.3);
+    const RouteMesh cut = routeMesh(
+        geometry, geometry.runs(), allIn(records, ink), DetailLevel(6), {0, 3}, LineEnds::square);
+    ASSERT_EQ(cut.size(), 4U);
+    EXPECT_EQ(cut[2].offsetX, 0);
 }
 
 TEST(RecordGeometry, LongRoutesAreCutIntoRunsThatShareTheirEnds) {
