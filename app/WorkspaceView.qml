@@ -15,6 +15,8 @@ FocusScope {
         width: Theme.columnWidth
         height: parent.height
         color: Theme.window
+        // One picture while nothing in it changes: the map moves without the texts being drawn anew.
+        layer.enabled: true
 
         SearchField {
             id: search

@@ -1,6 +1,6 @@
 #pragma once
-// Which records stand as balloons and which as dots. No record is ever without a mark, but records
-// of one place share it: a dot whose whole colour would lie under another's is not drawn twice.
+// Which records stand as balloons and which as dots. No record is ever without a mark; only a dot
+// that lies wholly under others is not drawn, as nobody could see it.
 //
 // Where balloons would crowd, the earlier in this order has the room: the selected one, then rarer
 // kinds, then the order of the list. The layout holds for all scales of one level and for every
@@ -20,8 +20,9 @@ namespace vasker {
 inline constexpr double balloonSpacingX = 34;
 inline constexpr double balloonSpacingY = 36;
 
-/// A dot nearer than this to one that is drawn above it would show no more than its casing.
-inline constexpr double coveredDotDistance = 1;
+/// The size of a dot in logical pixels: its radius, and the casing around it.
+inline constexpr double dotRadius = 3.25;
+inline constexpr double dotCasing = 1;
 
 /// The most balloons that are drawn at once.
 inline constexpr std::size_t maximumBalloons = 500;
@@ -34,7 +35,8 @@ struct Marker {
 
 struct MarkerLayout {
     std::vector<Marker> balloons; ///< in order of precedence
-    std::vector<Marker> dots;     ///< in order of precedence, without the covered ones
+    std::vector<Marker>
+        dots; ///< in order of precedence, without those that lie wholly under others
 };
 
 /// The records of a set that have no route, in order of precedence.

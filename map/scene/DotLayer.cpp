@@ -1,5 +1,6 @@
 #include "map/scene/DotLayer.h"
 
+#include "map/records/MarkerLayout.h"
 #include "map/scene/UniformBlock.h"
 
 #include <QSGMaterialShader>
@@ -26,8 +27,8 @@ class DotShader final : public QSGMaterialShader {
     bool
     updateUniformData(RenderState& state, QSGMaterial* next, QSGMaterial* /*previous*/) override {
         const auto& material = *static_cast<DotMaterial*>(next);
-        const float radius = dotRadius * material.devicePixels;
-        const float whole = (dotRadius + dotCasing) * material.devicePixels;
+        const auto radius = static_cast<float>(dotRadius) * material.devicePixels;
+        const auto whole = static_cast<float>(dotRadius + dotCasing) * material.devicePixels;
         UniformBlock block(*state.uniformData());
         block.write(state.combinedMatrix());
         block.write(premultiplied(material.casing));

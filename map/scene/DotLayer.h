@@ -12,10 +12,6 @@
 
 namespace vasker {
 
-/// Radii in logical pixels.
-inline constexpr float dotRadius = 3.25F;
-inline constexpr float dotCasing = 1;
-
 struct Dot {
     float x, y; ///< item pixels
     Rgb color;

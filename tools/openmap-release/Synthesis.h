@@ -25,7 +25,7 @@ class ImpossibleSynthesis final : public std::runtime_error {
 };
 
 /// A release with exactly `records` records and `routePoints` route points, whose encode() is
-/// exactly `bytes` long where `bytes` is not 0. About one record in ten is a pipeline (none without
+/// exactly `bytes` long where `bytes` is not 0. One record in forty is a pipeline (none without
 /// route points), the others are facilities of every kind; all five datasets are cited. Throws
 /// ImpossibleSynthesis.
 [[nodiscard]] OpenMapRelease synthesize(const SynthesisOptions& options);

@@ -13,6 +13,9 @@
 namespace vasker {
 namespace {
 
+/// The mix of the packaged release: 119 pipelines among 4,830 records.
+constexpr std::size_t recordsPerPipeline = 40;
+
 struct Dataset {
     std::string_view key;
     std::string_view publisher;
@@ -169,7 +172,7 @@ syntheticRecords(std::size_t records,
                  const std::vector<OpenMapRelease::Source>& sources,
                  RandomSequence& random) {
     const std::size_t pipelines =
-        routePoints == 0 ? 0 : std::clamp<std::size_t>(records / 10, 1, routePoints / 2);
+        routePoints == 0 ? 0 : std::clamp<std::size_t>(records / recordsPerPipeline, 1, routePoints / 2);
     std::vector<OpenMapRelease::Asset> assets;
     assets.reserve(records);
     if (pipelines > 0) {

@@ -69,7 +69,7 @@ TEST(MarkerLayout, NoTwoBalloonsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel)
     }
 }
 
-TEST(MarkerLayout, EveryRecordHasAMarkOrStandsUnderADotOfItsPlace) {
+TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
     const RecordSet records = crowd();
     const auto markers = markersByPrecedence(records);
     const MarkerLayout layout = markerLayout(markers, {}, overview);
@@ -79,14 +79,24 @@ TEST(MarkerLayout, EveryRecordHasAMarkOrStandsUnderADotOfItsPlace) {
             EXPECT_TRUE(marked.insert(marker.asset).second) << "two marks";
         }
     }
-    const double reach = coveredDotDistance / overview.maximumScale();
-    for (const Marker& marker : markers) {
-        const bool covered =
-            std::any_of(layout.dots.begin(), layout.dots.end(), [&](const Marker& dot) {
-                return std::abs(dot.point.x - marker.point.x) < reach &&
-                       std::abs(dot.point.y - marker.point.y) < reach;
-            });
-        EXPECT_TRUE(marked.contains(marker.asset) || covered);
+    ASSERT_LT(marked.size(), markers.size());
+    for (const double scale : {overview.maximumScale(), overview.minimumScale()}) {
+        const double radius = (dotRadius + dotCasing) / scale;
+        for (const Marker& marker : markers) {
+            if (marked.contains(marker.asset)) {
+                continue;
+            }
+            for (int i = 0; i < 60; ++i) {
+                const MapPoint rim{marker.point.x + radius * std::cos(i * 0.1047),
+                                   marker.point.y + radius * std::sin(i * 0.1047)};
+                const bool covered =
+                    std::any_of(layout.dots.begin(), layout.dots.end(), [&](const Marker& dot) {
+                        return std::hypot(dot.point.x - rim.x, dot.point.y - rim.y) <=
+                               radius + 0.4 / scale; // a sliver that nobody sees
+                    });
+                ASSERT_TRUE(covered);
+            }
+        }
     }
 }
 
@@ -107,6 +117,18 @@ TEST(MarkerLayout, TwoRecordsAtOnePointHaveOneBalloonAndOneDot) {
     const MarkerLayout layout = markerLayout(markersByPrecedence(records), {}, DetailLevel(40));
     EXPECT_EQ(layout.balloons.size(), 1U);
     EXPECT_EQ(layout.dots.size(), 1U);
+}
+
+TEST(MarkerLayout, ADotOfWhichAnythingIsSeenIsDrawn) {
+    const DetailLevel level(20);
+    const double pixel = 360 / (worldSize * level.maximumScale()); // degrees of longitude
+    std::vector<OpenMapRelease::Asset> assets;
+    for (const double x : {0.0, 30.0, 35.0, 60.0, 60.2}) { // the first takes the balloon
+        assets.push_back(facilityAt(50, -110 + x * pixel, "storage"));
+    }
+    const MarkerLayout layout =
+        markerLayout(markersByPrecedence(recordSetOf(std::move(assets))), {}, level);
+    EXPECT_EQ(layout.balloons.size() + layout.dots.size(), 5U);
 }
 
 TEST(MarkerFrame, HoldsTheMarksInViewAtTheirPlaceOnTheScreen) {
