@@ -1,8 +1,10 @@
 #include "map/records/MarkerLayout.h"
 
+#include "map/geometry/PointGrid.h"
+
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstdint>
 #include <numbers>
 #include <string_view>
 #include <unordered_map>
@@ -11,100 +13,73 @@ namespace vasker {
 
 namespace {
 
-std::int64_t cell(double position, double size) {
-    return static_cast<std::int64_t>(std::floor(position / size));
-}
-
-std::uint64_t key(std::int64_t column, std::int64_t row) {
-    return (static_cast<std::uint64_t>(column) << 32U) ^
-           (static_cast<std::uint64_t>(row) & 0xFFFF'FFFFU);
-}
-
-/// Points that keep a distance, in cells of that distance, so that only the neighbouring cells can
-/// hold one that stands too near.
-class SpacedPoints {
+/// Balloons that keep their distance.
+class BalloonSpacing {
   public:
-    /// Distances in map points.
-    SpacedPoints(double width, double height) : m_width(width), m_height(height) {}
+    BalloonSpacing(double scale, std::size_t expected)
+        : m_width(balloonSpacingX / scale), m_height(balloonSpacingY / scale),
+          m_placed(m_width, m_height, expected) {}
 
-    /// Takes `point` if there is room.
+    /// Places a balloon at `point` if there is room.
     bool place(MapPoint point) {
-        const std::int64_t column = cell(point.x, m_width);
-        const std::int64_t row = cell(point.y, m_height);
-        for (std::int64_t r = row - 1; r <= row + 1; ++r) {
-            for (std::int64_t c = column - 1; c <= column + 1; ++c) {
-                const auto found = m_cells.find(key(c, r));
-                if (found != m_cells.end() && isNear(found->second, point)) {
-                    return false;
-                }
-            }
+        const bool isCrowded = m_placed.anyNear(point, [&](MapPoint other) {
+            return std::abs(point.x - other.x) < m_width && std::abs(point.y - other.y) < m_height;
+        });
+        if (!isCrowded) {
+            m_placed.insert(point);
         }
-        m_cells.emplace(key(column, row), point); // a cell has room for one
-        return true;
+        return !isCrowded;
     }
 
   private:
-    [[nodiscard]] bool isNear(MapPoint a, MapPoint b) const {
-        return std::abs(a.x - b.x) < m_width && std::abs(a.y - b.y) < m_height;
-    }
-
-    double m_width;
+    double m_width; ///< map points
     double m_height;
-    std::unordered_map<std::uint64_t, MapPoint> m_cells;
+    PointGrid m_placed;
 };
 
 /// What the dots drawn so far, from the top down, leave to see. Whoever lies under others at the
 /// largest scale of a level does so at all of its scales: nearer together, discs cover more.
 class DotCover {
   public:
-    explicit DotCover(double scale) : m_scale(scale) {
-        constexpr int directions = 16;
-        for (int i = 0; i < directions; ++i) {
-            const double angle = 2 * std::numbers::pi * i / directions;
-            m_rim.push_back({radius * std::cos(angle), radius * std::sin(angle)});
+    DotCover(double scale, std::size_t expected)
+        : m_radius((dotRadius + dotCasing) / scale), m_drawn(2 * m_radius, 2 * m_radius, expected) {
+        for (std::size_t i = 0; i < m_rim.size(); ++i) {
+            const double angle =
+                2 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(m_rim.size());
+            m_rim[i] = {m_radius * std::cos(angle), m_radius * std::sin(angle)};
         }
     }
 
-    /// Draws a dot at `point` if any of it would be seen: its rim or its middle.
+    /// Draws a dot at `point` if any of it would be seen: its middle or its rim.
     bool place(MapPoint point) {
-        const ScreenPoint center{point.x * m_scale, point.y * m_scale};
-        const std::int64_t column = cell(center.x, cellSize);
-        const std::int64_t row = cell(center.y, cellSize);
         m_near.clear();
-        for (std::int64_t r = row - 1; r <= row + 1; ++r) {
-            for (std::int64_t c = column - 1; c <= column + 1; ++c) {
-                const auto found = m_cells.find(key(c, r));
-                if (found != m_cells.end()) {
-                    m_near.insert(m_near.end(), found->second.begin(), found->second.end());
-                }
-            }
-        }
+        static_cast<void>(m_drawn.anyNear(point, [&](MapPoint other) {
+            m_near.push_back(other);
+            return false;
+        }));
         const bool isHidden =
-            isCovered(center) && std::all_of(m_rim.begin(), m_rim.end(), [&](ScreenPoint offset) {
-                return isCovered({center.x + offset.x, center.y + offset.y});
+            isCovered(point) && std::all_of(m_rim.begin(), m_rim.end(), [&](MapPoint offset) {
+                return isCovered({point.x + offset.x, point.y + offset.y});
             });
         if (!isHidden) {
-            m_cells[key(column, row)].push_back(center);
+            m_drawn.insert(point);
         }
         return !isHidden;
     }
 
   private:
-    static constexpr double radius = dotRadius + dotCasing;
-    static constexpr double cellSize = 2 * radius;
-
-    [[nodiscard]] bool isCovered(ScreenPoint point) const {
-        return std::any_of(m_near.begin(), m_near.end(), [&](ScreenPoint other) {
-            const double dx = point.x - other.x;
-            const double dy = point.y - other.y;
-            return dx * dx + dy * dy <= radius * radius;
+    [[nodiscard]] bool isCovered(MapPoint place) const {
+        return std::any_of(m_near.begin(), m_near.end(), [&](MapPoint dot) {
+            const double dx = place.x - dot.x;
+            const double dy = place.y - dot.y;
+            return dx * dx + dy * dy <= m_radius * m_radius;
         });
     }
 
-    double m_scale;
-    std::vector<ScreenPoint> m_rim;
-    std::unordered_map<std::uint64_t, std::vector<ScreenPoint>> m_cells;
-    std::vector<ScreenPoint> m_near; ///< the drawn dots around the one in question
+    double m_radius; ///< map points
+    std::array<MapPoint, 32> m_rim{};
+    PointGrid m_drawn;
+    std::vector<MapPoint> m_near; ///< the drawn dots around the one in question
 };
 
 } // namespace
@@ -142,9 +117,8 @@ MarkerLayout markerLayout(const std::vector<Marker>& markers,
                           std::optional<AssetIndex> selected,
                           DetailLevel level) {
     MarkerLayout layout;
-    SpacedPoints balloons(balloonSpacingX / level.minimumScale(),
-                          balloonSpacingY / level.minimumScale());
-    DotCover dots(level.maximumScale());
+    BalloonSpacing balloons(level.minimumScale(), markers.size());
+    DotCover dots(level.maximumScale(), markers.size());
     const auto chosen = std::find_if(markers.begin(), markers.end(), [&](const Marker& marker) {
         return marker.asset == selected;
     });

@@ -1,6 +1,6 @@
 #pragma once
 // Which records stand as balloons and which as dots. No record is ever without a mark; only a dot
-// that lies wholly under others is not drawn, as nobody could see it.
+// that lies wholly under others, but for slivers of less than half a pixel, is not drawn.
 //
 // Where balloons would crowd, the earlier in this order has the room: the selected one, then rarer
 // kinds, then the order of the list. The layout holds for all scales of one level and for every
