@@ -78,10 +78,10 @@ ListView {
 
         property string currentId
 
-        function onModelAboutToBeReset(): void {
+        function onAboutToBeReplaced(): void {
             currentId = root.records.idAt(root.currentIndex);
         }
-        function onModelReset(): void {
+        function onReplaced(): void {
             const row = root.records.rowOf(currentId);
             root.currentIndex = row;
             if (row < 0) {

@@ -5,6 +5,7 @@
 #include "map/catalogue/NameMatch.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace vasker {
 
@@ -78,11 +79,20 @@ void RecordListModel::setRecords(const RecordSet& records) {
     if (m_records == records) {
         return;
     }
-    beginResetModel();
-    m_records = records;
-    foldQuery();
+    Q_EMIT aboutToBeReplaced();
+    if (isEmpty() || m_records.loaded != records.loaded || records.filtered->empty()) {
+        beginResetModel();
+        m_records = records;
+        foldQuery();
+        endResetModel();
+    } else {
+        resize(*records.filtered);
+        m_records = records;
+        foldQuery();
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    }
     m_selectedRow = rowOf(m_selection);
-    endResetModel();
+    Q_EMIT replaced();
     Q_EMIT recordsChanged();
     Q_EMIT selectedRowChanged();
 }
@@ -147,6 +157,23 @@ QString RecordListModel::markup(const OpenMapRelease::Asset& asset) const {
     const QString name = text(asset.name);
     const auto part = matchedPart(name, m_foldedQuery, m_records.loaded->index.locale());
     return part ? nameMarkup(name, *part) : QString();
+}
+
+void RecordListModel::resize(const std::vector<AssetIndex>& wanted) {
+    const int before = rowCount();
+    const auto after = static_cast<int>(wanted.size());
+    auto rows = std::make_shared<std::vector<AssetIndex>>(*m_records.filtered);
+    if (after < before) {
+        beginRemoveRows({}, after, before - 1);
+        rows->resize(wanted.size());
+        m_records.filtered = std::move(rows);
+        endRemoveRows();
+    } else if (after > before) {
+        beginInsertRows({}, before, after - 1);
+        rows->insert(rows->end(), wanted.begin() + before, wanted.end());
+        m_records.filtered = std::move(rows);
+        endInsertRows();
+    }
 }
 
 void RecordListModel::foldQuery() {

@@ -8,6 +8,7 @@
 #include <QtQmlIntegration>
 
 #include <string>
+#include <vector>
 
 namespace vasker {
 
@@ -65,10 +66,16 @@ class RecordListModel : public QAbstractListModel {
     void queryChanged();
     void selectionChanged();
     void selectedRowChanged();
+    /// The rows are about to be others, and are. Views keep the rows they have and show other
+    /// records in them: making rows anew takes ten times as long.
+    void aboutToBeReplaced();
+    void replaced();
 
   private:
     [[nodiscard]] const OpenMapRelease::Asset& asset(int row) const;
     [[nodiscard]] QString markup(const OpenMapRelease::Asset& asset) const;
+    /// Adds or removes rows at the end until there are as many as `wanted`.
+    void resize(const std::vector<AssetIndex>& wanted);
     void foldQuery();
     void updateSelectedRow();
 

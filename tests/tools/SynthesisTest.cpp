@@ -55,7 +55,7 @@ TEST(Synthesis, DependsOnTheSeedOnly) {
 }
 
 TEST(Synthesis, HasEveryKindEveryDatasetAndLinesOfVeryDifferentLength) {
-    const OpenMapRelease release = synthesize({1'000, 60'000, 0, 1});
+    const OpenMapRelease release = synthesize({4'000, 60'000, 0, 1});
     std::set<std::string> kinds;
     std::size_t longest = 0;
     std::size_t pipelines = 0;
