@@ -172,7 +172,9 @@ syntheticRecords(std::size_t records,
                  const std::vector<OpenMapRelease::Source>& sources,
                  RandomSequence& random) {
     const std::size_t pipelines =
-        routePoints == 0 ? 0 : std::clamp<std::size_t>(records / recordsPerPipeline, 1, routePoints / 2);
+        routePoints == 0
+            ? 0
+            : std::clamp<std::size_t>(records / recordsPerPipeline, 1, routePoints / 2);
     std::vector<OpenMapRelease::Asset> assets;
     assets.reserve(records);
     if (pipelines > 0) {
