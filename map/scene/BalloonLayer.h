@@ -24,7 +24,6 @@ class BalloonLayer final : public QSGGeometryNode {
 
     /// Takes the texture of the picture that the sprites are cut from.
     void setTexture(std::unique_ptr<QSGTexture> texture);
-    [[nodiscard]] bool hasTexture() const noexcept { return m_texture != nullptr; }
 
     /// Needs a texture. `devicePixels` is the picture's density too.
     void update(const std::vector<BalloonSprite>& sprites, float devicePixels);

@@ -63,14 +63,6 @@ void RouteLayer::update(const std::shared_ptr<const RouteContent>& content,
     }
 }
 
-std::size_t RouteLayer::vertexCount() const {
-    std::size_t count = 0;
-    for (const auto& [index, tile] : m_tiles) {
-        count += static_cast<std::size_t>(tile->geometry.vertexCount());
-    }
-    return count;
-}
-
 std::unique_ptr<RouteLayer::Tile> RouteLayer::makeTile(TileIndex index) {
     auto tile = std::make_unique<Tile>(routeMesh(
         m_content->loaded->geometry, m_content->runs, m_content->colors, m_level, index, m_ends));

@@ -34,9 +34,6 @@ class RouteLayer final : public QSGNode {
                 const Camera& camera,
                 float devicePixels);
 
-    /// Vertices in the tiles in view.
-    [[nodiscard]] std::size_t vertexCount() const;
-
   private:
     struct Tile;
 

@@ -207,8 +207,4 @@ QString MapView::idOf(std::optional<AssetIndex> asset) const {
                  : QString();
 }
 
-QString MapView::recordAt(double x, double y) const {
-    return idOf(hit({x, y}));
-}
-
 } // namespace vasker

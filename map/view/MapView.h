@@ -36,9 +36,6 @@ class MapView : public QQuickItem {
     void setCamera(const CameraPosition& camera);
     void setDark(bool dark);
 
-    /// The id of the record drawn at a place of the item, in logical pixels; empty: bare ground.
-    Q_INVOKABLE [[nodiscard]] QString recordAt(double x, double y) const;
-
   Q_SIGNALS:
     void recordsChanged();
     void selectionChanged();
