@@ -21,7 +21,8 @@ Window {
     function showWorkspace(): void {
         if (root.screen === OpenMapRoot.Ready) {
             view.setSource("WorkspaceView.qml", {
-                "workspace": root.workspace
+                "workspace": root.workspace,
+                "tiles": window.application.tiles
             });
         }
     }

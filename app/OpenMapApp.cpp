@@ -2,16 +2,49 @@
 
 #include "app/OpenMapRoot.h"
 
+#include <QFile>
+#include <QJsonObject>
 #include <QQuickWindow>
+#include <QStandardPaths>
 
 #include <memory>
 
 namespace vasker {
 
-OpenMapApp::OpenMapApp(Bundle bundle, TextLocale locale, const QString& preferencesPath)
+namespace {
+
+/// Where the bundle has no such archive, the path is empty: the map does without.
+std::string archivePath(const Bundle& bundle, const QString& name) {
+    const auto path = bundle.resource(name, QStringLiteral("mbtiles"));
+    return path ? QFile::encodeName(*path).toStdString() : std::string();
+}
+
+TileService::Options serviceOptions(const QString& cachePath) {
+    TileService::Options options;
+    options.cacheFolder = cachePath + QStringLiteral("/tiles");
+    options.userAgent = QStringLiteral("VaskerBeta/" VASKER_VERSION);
+    return options;
+}
+
+} // namespace
+
+OpenMapApp::OpenMapApp(Bundle bundle,
+                       TextLocale locale,
+                       const QString& preferencesPath,
+                       const QString& cachePath)
     : m_bundle(std::move(bundle)), m_locale(std::move(locale)), m_preferences(preferencesPath),
+      m_tiles({.vector = archivePath(m_bundle, QStringLiteral("basemap")),
+               .imagery = archivePath(m_bundle, QStringLiteral("imagery"))},
+              TileSources::fromInformation(
+                  m_bundle.information(QStringLiteral("VaskerTileServices")).toObject()),
+              serviceOptions(cachePath)),
       m_component(&m_engine) {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+}
+
+QString OpenMapApp::userCachePath() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+           QStringLiteral("/vasker-open-map");
 }
 
 OpenMapApp::~OpenMapApp() {

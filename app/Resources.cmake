@@ -9,7 +9,9 @@ qt_add_resources(VaskerApp app_translations
 
 # The files that travel with the program: beside the executable in the build tree, in
 # share/vasker-open-map of the prefix when installed.
-file(GLOB resources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.json)
+file(GLOB resources CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/resources/*.json
+    ${PROJECT_SOURCE_DIR}/resources/*.mbtiles)
 set(copies "")
 foreach(resource IN LISTS resources)
     get_filename_component(name ${resource} NAME)

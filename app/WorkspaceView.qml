@@ -8,6 +8,7 @@ FocusScope {
     id: root
 
     required property OpenMapWorkspace workspace
+    required property QtObject tiles
 
     Rectangle {
         id: column
@@ -41,6 +42,7 @@ FocusScope {
             kind: root.workspace.kind
             kinds: root.workspace.kinds
             selection: root.workspace.selection
+            answering: map.pointed
             onKindPicked: kind => root.workspace.kind = kind
             onRecordPicked: id => root.workspace.selection = id
             onSelectionCleared: root.workspace.dismissInspector()
@@ -61,7 +63,7 @@ FocusScope {
         anchors.right: parent.right
         onCameraReset: root.workspace.resetCamera()
     }
-    MapView {
+    MapCanvas {
         id: map
 
         anchors.left: divider.right
@@ -72,11 +74,12 @@ FocusScope {
         records: root.workspace.records
         selection: root.workspace.selection
         camera: root.workspace.camera
-        dark: Theme.dark
-        Accessible.role: Accessible.Graphic
-        Accessible.name: qsTr("Canadian energy infrastructure map")
+        basemap: root.workspace.basemap
+        tiles: root.tiles
+        hovered: map.pointed.length > 0 ? map.pointed : catalogue.pointed
         onPicked: id => id.length > 0 ? root.workspace.selection = id : root.workspace.dismissInspector()
         onMoved: camera => root.workspace.camera = camera
+        onOverviewWanted: root.workspace.resetCamera()
         Keys.onEscapePressed: root.workspace.dismissInspector()
     }
     Shortcut {

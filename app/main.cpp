@@ -1,5 +1,6 @@
 #include "app/OpenMapApp.h"
 #include "platform/Locale.h"
+#include "platform/Memory.h"
 #include "platform/ui/Fonts.h"
 
 #include <QGuiApplication>
@@ -11,6 +12,7 @@ Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 int main(int argc, char* argv[]) {
+    vasker::returnFreedPictures();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("vasker-open-map"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vasker Beta"));
@@ -19,7 +21,8 @@ int main(int argc, char* argv[]) {
 
     vasker::OpenMapApp windows(vasker::Bundle::ofApplication(),
                                vasker::TextLocale::fromEnvironment(),
-                               vasker::Preferences::userPath());
+                               vasker::Preferences::userPath(),
+                               vasker::OpenMapApp::userCachePath());
     windows.openWindow();
     return QGuiApplication::exec();
 }

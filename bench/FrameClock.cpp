@@ -26,7 +26,6 @@ FrameClock::FrameClock(QQuickWindow& window) : m_window(window) {
         this,
         [this] {
             const std::int64_t now = monotonicNow();
-            ++m_pictures;
             if (m_waiting && m_taken) {
                 m_waiting = false;
                 m_swappedAt = now;
@@ -40,7 +39,6 @@ std::int64_t FrameClock::waitForPicture(const std::function<bool()>& holds) {
     m_holds = holds;
     m_taken = false;
     m_swappedAt = 0;
-    m_pictures = 0;
     m_waiting = true;
     QEventLoop loop;
     connect(this, &FrameClock::swapped, &loop, [&] {

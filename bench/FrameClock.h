@@ -21,10 +21,9 @@ class FrameClock : public QObject {
     explicit FrameClock(QQuickWindow& window);
 
     /// Waits for the first picture whose content was taken over after this call while `holds` was
-    /// true. Returns when it was swapped, and counts the pictures that were swapped on the way.
+    /// true. Returns when it was swapped.
     /// `holds` is called while the user-interface thread waits. Returns 0 after ten seconds.
     std::int64_t waitForPicture(const std::function<bool()>& holds);
-    [[nodiscard]] int picturesOfLastWait() const noexcept { return m_pictures; }
 
   Q_SIGNALS:
     void swapped(qint64 when);
@@ -35,7 +34,6 @@ class FrameClock : public QObject {
     std::atomic<bool> m_waiting = false;
     std::atomic<bool> m_taken = false;
     std::atomic<std::int64_t> m_swappedAt = 0;
-    std::atomic<int> m_pictures = 0;
 };
 
 } // namespace vasker

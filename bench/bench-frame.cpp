@@ -13,6 +13,7 @@
 #include "data/Digest.h"
 #include "map/Symbols.h"
 #include "map/view/MapView.h"
+#include "platform/Memory.h"
 #include "platform/ui/Fonts.h"
 #include "tools/openmap-release/Synthesis.h"
 
@@ -21,10 +22,12 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
+#include <QMouseEvent>
 #include <QProcess>
 #include <QQmlExtensionPlugin>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cstdio>
@@ -127,14 +130,76 @@ void requireRecordsInPicture(QQuickWindow& window,
                 tints.size());
 }
 
-void measureFilter(FrameClock& clock, QQuickWindow& window, const OpenMapWorkspace& workspace) {
+/// A hand on the mouse over the map: one event for each picture.
+class Hand {
+  public:
+    Hand(QQuickWindow& window, const MapView& map)
+        : m_window(window), m_middle(map.mapToScene({map.width() * 0.52, map.height() * 0.55})) {}
+
+    /// Presses at step 0, then goes to and fro by so many pixels a step.
+    void drag(int step, Qt::MouseButton button, int dx, int dy) const {
+        const int way = step % 120 < 60 ? step % 60 : 60 - step % 60;
+        send(step == 0 ? QEvent::MouseButtonPress : QEvent::MouseMove,
+             m_middle + QPointF(way * dx, way * dy),
+             button);
+        if (step == 0) { // beyond what counts as a click
+            send(QEvent::MouseMove, m_middle + QPointF(8, 8), button);
+        } else if (step == lastStep) {
+            send(QEvent::MouseButtonRelease, m_middle, button);
+        }
+    }
+    /// A notch of the wheel every sixth picture, in and out again.
+    void zoom(int step) const {
+        if (step % 6 == 0) {
+            const QPoint angle(0, step % 180 < 90 ? 120 : -120);
+            QWheelEvent event(m_middle,
+                              m_window.mapToGlobal(m_middle),
+                              {},
+                              angle,
+                              Qt::NoButton,
+                              Qt::NoModifier,
+                              Qt::NoScrollPhase,
+                              false);
+            QCoreApplication::sendEvent(&m_window, &event);
+        }
+    }
+
+  private:
+    static constexpr int lastStep = 302;
+
+    void send(QEvent::Type type, QPointF place, Qt::MouseButton button) const {
+        QMouseEvent event(type,
+                          place,
+                          m_window.mapToGlobal(place),
+                          type == QEvent::MouseMove ? Qt::NoButton : button,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : button,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(&m_window, &event);
+    }
+
+    QQuickWindow& m_window;
+    QPointF m_middle;
+};
+
+void printTimes(const char* name, const std::vector<double>& times) {
+    std::printf("  %-24s median %6.2f ms   longest %6.2f ms\n",
+                name,
+                percentile(times, 0.5),
+                percentile(times, 1));
+}
+
+/// From a keystroke to the picture with the new list, and to the one whose map is complete again.
+void measureFilter(FrameClock& clock,
+                   QQuickWindow& window,
+                   const OpenMapWorkspace& workspace,
+                   const MapView& map) {
     window.requestActivate();
     if (!QTest::qWaitForWindowActive(&window)) {
         throw std::runtime_error("the window does not get the keyboard");
     }
     QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
-    std::vector<double> times;
-    int mostPictures = 0;
+    std::vector<double> toList;
+    std::vector<double> toMap;
     for (const char letter : {'g', 'a', 's', ' ', 'p', 'l', '\b', '\b', '\b', '\b', '\b', '\b'}) {
         const QString query = workspace.query();
         const std::int64_t start = monotonicNow();
@@ -144,27 +209,26 @@ void measureFilter(FrameClock& clock, QQuickWindow& window, const OpenMapWorkspa
         if (workspace.query() == query) {
             throw std::runtime_error("a keystroke did not reach the search field");
         }
-        const std::int64_t shown = clock.waitForPicture([] { return true; });
-        times.push_back(milliseconds(shown - start));
-        mostPictures = std::max(mostPictures, clock.picturesOfLastWait());
+        toList.push_back(milliseconds(clock.waitForPicture([] { return true; }) - start));
+        toMap.push_back(milliseconds(clock.waitForPicture([&] { return map.isComplete(); }) - start));
     }
-    std::printf("  %-24s median %6.2f ms   longest %6.2f ms   at most %d pictures\n",
-                "keystroke to picture",
-                percentile(times, 0.5),
-                percentile(times, 1),
-                mostPictures);
+    printTimes("keystroke to list", toList);
+    printTimes("keystroke to map", toMap);
 }
 
 void measureRelease(const QString& folder, std::int64_t started) {
-    OpenMapApp windows(
-        Bundle(folder), TextLocale::fromEnvironment(), folder + QStringLiteral("/settings.json"));
+    const QTemporaryDir user;
+    OpenMapApp windows(Bundle(folder),
+                       TextLocale::fromEnvironment(),
+                       user.filePath(QStringLiteral("settings")),
+                       user.filePath(QStringLiteral("cache")));
     QQuickWindow& window = *windows.openWindow();
     FrameClock clock(window);
     const auto& root = *window.property("root").value<OpenMapRoot*>();
     const MapView* map = nullptr;
     const std::int64_t shown = clock.waitForPicture([&] {
         map = window.findChild<MapView*>(QStringLiteral("open-map-canvas"));
-        return map != nullptr && map->records().loaded != nullptr;
+        return map != nullptr && map->records().loaded != nullptr && map->isComplete();
     });
     if (shown == 0) {
         throw std::runtime_error("no map within ten seconds: " + root.failureText().toStdString());
@@ -176,21 +240,26 @@ void measureRelease(const QString& folder, std::int64_t started) {
     requireRecordsInPicture(window, *map, workspace.release());
     std::printf("  %-24s %6.0f MB\n", "memory at first", proportionalMemory());
 
-    const Viewport viewport{map->width(), map->height()};
-    Camera camera(canadaOverview, viewport);
-    measureFrames("drag", clock, 300, [&](int step) {
-        camera = camera.panned(step % 120 < 60 ? 4 : -4, step % 80 < 40 ? 2 : -2);
-        workspace.setCamera(camera.visibleRect());
-    });
+    const Hand hand(window, *map);
+    const auto measureGesture = [&](const char* name, const std::function<void(int)>& gesture) {
+        workspace.resetCamera();
+        const CameraPose before = map->resolvedCamera().pose();
+        CameraPose middle = before;
+        measureFrames(name, clock, 300, [&](int step) {
+            gesture(step);
+            window.update();
+            middle = step == 45 ? map->resolvedCamera().pose() : middle;
+        });
+        if (middle == before) {
+            throw std::runtime_error(std::string("the camera did not move: ") + name);
+        }
+    };
+    measureGesture("drag", [&](int step) { hand.drag(step, Qt::LeftButton, 4, 2); });
+    measureGesture("zoom", [&](int step) { hand.zoom(step); });
+    measureGesture("rotate", [&](int step) { hand.drag(step, Qt::RightButton, 5, 0); });
+    measureGesture("pitch", [&](int step) { hand.drag(step, Qt::RightButton, 0, -4); });
     workspace.resetCamera();
-    camera = Camera(canadaOverview, viewport);
-    measureFrames("zoom", clock, 300, [&](int step) {
-        camera = camera.zoomed(step % 200 < 100 ? 1.04 : 1 / 1.04,
-                               {viewport.width * 0.52, viewport.height * 0.55});
-        workspace.setCamera(camera.visibleRect());
-    });
-    workspace.resetCamera();
-    measureFilter(clock, window, workspace);
+    measureFilter(clock, window, workspace, *map);
     std::printf("  %-24s %6.0f MB\n", "memory at last", proportionalMemory());
 }
 
@@ -270,6 +339,7 @@ int main(int argc, char* argv[]) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     if (arguments.size() == 4 && arguments[0] == QStringLiteral("--measure")) {
+        vasker::returnFreedPictures();
         const QGuiApplication application(argc, argv);
         return vasker::measure(arguments[1], arguments[2], arguments[3].toLongLong());
     }

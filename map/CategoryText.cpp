@@ -34,4 +34,8 @@ QString categoryText(std::string_view kind) {
     return QCoreApplication::translate("Category", label.c_str());
 }
 
+QString categoryLine(const OpenMapRelease::Asset& asset) {
+    return categoryText(asset.kind) + QStringLiteral(" · ") + QString::fromStdString(asset.asOf);
+}
+
 } // namespace vasker

@@ -8,7 +8,7 @@ build_packages=(
     qt6-shadertools-dev qt6-shader-baker qt6-svg-dev
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools linguist-qt6
     libgl-dev libvulkan-dev
-    libsimdjson-dev libssl-dev libicu-dev libsqlite3-dev libprotozero-dev libcsv-dev liburiparser-dev
+    libsimdjson-dev libssl-dev libicu-dev libsqlite3-dev libprotozero-dev zlib1g-dev libcsv-dev liburiparser-dev
     libbenchmark-dev
 )
 
@@ -19,6 +19,7 @@ run_packages=(
     qml6-module-qtquick-controls qml6-module-qtquick-templates
     qt6-qpa-plugins qt6-wayland
     libgl1 libegl1 libopengl0 libgl1-mesa-dri
+    ca-certificates
     fonts-inter fonts-dejavu-core
 )
 

@@ -11,6 +11,10 @@ Item {
     required property string kind
     required property list<string> kinds
     required property string selection
+    // The id of the record that is pointed at on the map; empty: none.
+    property string answering
+    // The id of the record whose row is under the pointer; empty: none.
+    readonly property string pointed: (list.item as RecordList)?.pointed ?? ""
 
     signal kindPicked(string kind)
     signal recordPicked(string id)
@@ -83,6 +87,11 @@ Item {
             onWantedChanged: wanted ? setSource("RecordList.qml", {
                 "records": recordModel
             }) : setSource("")
+        }
+        Binding {
+            target: list.item as RecordList
+            property: "answering"
+            value: root.answering
         }
         Connections {
             target: list.item as RecordList

@@ -8,6 +8,10 @@ ListView {
     id: root
 
     required property RecordListModel records
+    // The id of the record that is pointed at on the map; empty: none.
+    property string answering
+    // The id of the record whose row is under the pointer; empty: none.
+    property string pointed
 
     signal picked(string id)
     signal cleared
@@ -65,8 +69,16 @@ ListView {
     delegate: RecordRow {
         width: ListView.view.width
         selected: index === root.records.selectedRow
+        answering: recordId === root.answering
         current: root.activeFocus && ListView.isCurrentItem
         separatorVisible: index < root.count - 1 && index + 1 !== root.records.selectedRow
+        onHoveredChanged: {
+            if (hovered) {
+                root.pointed = recordId;
+            } else if (root.pointed === recordId) {
+                root.pointed = "";
+            }
+        }
         onPicked: {
             root.currentIndex = index;
             root.picked(recordId);

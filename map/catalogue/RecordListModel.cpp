@@ -22,10 +22,6 @@ QString unit(const OpenMapRelease::Asset& asset) {
     return fact == asset.facts.end() ? QString() : text(fact->value);
 }
 
-QString categoryLine(const OpenMapRelease::Asset& asset) {
-    return categoryText(asset.kind) + QStringLiteral(" · ") + text(asset.asOf);
-}
-
 } // namespace
 
 RecordListModel::RecordListModel(QObject* parent) : QAbstractListModel(parent) {}

@@ -18,9 +18,11 @@ Item {
     required property string accessibleText
 
     property bool selected: false
+    // Whether its mark is pointed at on the map.
+    property bool answering: false
     property bool current: false
     property bool separatorVisible: true
-    readonly property bool filled: selected || hover.hovered || tap.pressed
+    readonly property bool filled: selected || answering || hover.hovered || tap.pressed
     readonly property bool hovered: hover.hovered
 
     signal picked
@@ -40,7 +42,7 @@ Item {
         anchors.leftMargin: 6
         anchors.rightMargin: 6
         radius: Theme.controlRadius
-        color: root.selected ? Theme.selected : tap.pressed ? Theme.pressed : hover.hovered ? Theme.hover : "transparent"
+        color: root.selected ? Theme.selected : tap.pressed ? Theme.pressed : hover.hovered || root.answering ? Theme.hover : "transparent"
 
         Rectangle {
             visible: root.selected

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace vasker {
 
@@ -17,6 +18,15 @@ bool isFinite(const MapRect& rect) {
            std::isfinite(rect.height);
 }
 
+bool isFinite(ScreenPoint point) {
+    return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+bool isFinite(const CameraPose& pose) {
+    return std::isfinite(pose.center.x) && std::isfinite(pose.center.y) &&
+           std::isfinite(pose.scale) && std::isfinite(pose.bearing) && std::isfinite(pose.pitch);
+}
+
 MapRect boundsOf(const CoordinateRegion& region) {
     const MapPoint northWest =
         coordinateToMapPoint({region.center.latitude + region.latitudeDelta / 2,
@@ -27,9 +37,16 @@ MapRect boundsOf(const CoordinateRegion& region) {
     return {northWest.x, northWest.y, southEast.x - northWest.x, southEast.y - northWest.y};
 }
 
-/// The world's height fills the viewport at least.
+/// The middle of the viewport's free part, and so also half of its size.
+ScreenPoint middleOf(Viewport viewport) {
+    return {(viewport.width - viewport.coveredRight) / 2,
+            (viewport.height - viewport.coveredBelow) / 2};
+}
+
+/// The whole world fits into the viewport's free part.
 double minimumScale(Viewport viewport) {
-    return std::min(viewport.height / worldSize, Camera::maximumScale);
+    const ScreenPoint middle = middleOf(viewport);
+    return std::min(2 * std::min(middle.x, middle.y) / worldSize, Camera::maximumScale);
 }
 
 double clampedScale(double scale, Viewport viewport) {
@@ -56,54 +73,186 @@ Frame frameOf(const MapRect& rect) {
     return {rect.center(), rect.width / 2, rect.height / 2};
 }
 
+bool isFinite(const Frame& frame) {
+    return std::isfinite(frame.center.x) && std::isfinite(frame.center.y) &&
+           std::isfinite(frame.halfWidth) && std::isfinite(frame.halfHeight);
+}
+
+/// From the camera to its centre on the ground, in pixels.
+double distance(Viewport viewport) {
+    return 1.5 * viewport.height;
+}
+
+/// In degrees, [0, 360).
+double normalizedBearing(double degrees) {
+    const double turned = std::fmod(degrees, 360);
+    return turned < 0 ? std::fmod(turned + 360, 360) : turned;
+}
+
+/// [0, worldSize). A step to the west so small that it is lost in worldSize ends at 0.
+double normalizedX(double x) {
+    const double east = std::fmod(x, worldSize);
+    return east < 0 ? std::fmod(east + worldSize, worldSize) : east;
+}
+
+Viewport usable(Viewport viewport) {
+    const double width = std::max(1.0, viewport.width);
+    const double height = std::max(1.0, viewport.height);
+    return {width,
+            height,
+            std::clamp(viewport.coveredBelow, 0.0, height - 1),
+            std::clamp(viewport.coveredRight, 0.0, width - 1)};
+}
+
+/// No ground is farther away than this many times the distance of the camera's centre.
+constexpr double farthest = 20;
+
 } // namespace
 
-Camera::Camera(MapPoint center, double scale, Viewport viewport) noexcept
-    : m_center{std::clamp(center.x, 0.0, worldSize), std::clamp(center.y, 0.0, worldSize)},
-      m_scale(scale), m_viewport(viewport) {}
+std::vector<double> worldShifts(const MapRect& rect) {
+    std::vector<double> shifts;
+    const double first = std::floor(rect.x / worldSize);
+    const double last = std::floor((rect.x + rect.width) / worldSize);
+    const auto copies = static_cast<int>(last - first);
+    for (int copy = 0; copy <= copies; ++copy) {
+        shifts.push_back((first + copy) * worldSize);
+    }
+    return shifts;
+}
+
+Camera::Camera(const CameraPose& pose, Viewport viewport)
+    : Camera(CameraPosition(pose), viewport) {}
 
 Camera::Camera(const CameraPosition& position, Viewport viewport)
-    : Camera(MapPoint{0, 0}, 1, {std::max(1.0, viewport.width), std::max(1.0, viewport.height)}) {
-    const bool usable = std::visit([](const auto& wish) { return isFinite(wish); }, position);
-    const Frame frame = usable
-                            ? std::visit([](const auto& wish) { return frameOf(wish); }, position)
-                            : frameOf(canadaOverview);
+    : m_pose{{0, 0}, 1}, m_viewport(usable(viewport)) {
+    if (!std::visit([](const auto& wish) { return isFinite(wish); }, position)) {
+        *this = Camera(CameraPosition(canadaOverview), viewport);
+        return;
+    }
+    if (const auto* pose = std::get_if<CameraPose>(&position)) {
+        setPose(*pose);
+        return;
+    }
+    const auto* region = std::get_if<CoordinateRegion>(&position);
+    const Frame frame = region != nullptr ? frameOf(*region) : frameOf(std::get<MapRect>(position));
+    if (!isFinite(frame)) { // numbers so large that their projection is none
+        *this = Camera(CameraPosition(canadaOverview), viewport);
+        return;
+    }
     // A frame without extent asks for the nearest zoom: the quotients are then infinite.
-    const double fit = std::min(m_viewport.width / (2 * std::max(0.0, frame.halfWidth)),
-                                m_viewport.height / (2 * std::max(0.0, frame.halfHeight)));
-    *this = Camera(frame.center, clampedScale(fit, m_viewport), m_viewport);
+    const ScreenPoint middle = middleOf(m_viewport);
+    setPose({frame.center,
+             std::min(middle.x / std::max(0.0, frame.halfWidth),
+                      middle.y / std::max(0.0, frame.halfHeight))});
+}
+
+void Camera::setPose(const CameraPose& pose) noexcept {
+    m_pose = {{normalizedX(pose.center.x), std::clamp(pose.center.y, 0.0, worldSize)},
+              clampedScale(pose.scale, m_viewport),
+              normalizedBearing(pose.bearing),
+              std::clamp(pose.pitch, 0.0, maximumPitch)};
+    const double bearing = m_pose.bearing * std::numbers::pi / 180;
+    const double pitch = m_pose.pitch * std::numbers::pi / 180;
+    m_bearingSine = std::sin(bearing);
+    m_bearingCosine = std::cos(bearing);
+    m_pitchSine = std::sin(pitch);
+    m_pitchCosine = std::cos(pitch);
+}
+
+ScreenPoint Camera::focus() const noexcept {
+    return middleOf(m_viewport);
+}
+
+PerspectivePoint Camera::worldToPerspective(MapPoint point) const noexcept {
+    const double east = (point.x - m_pose.center.x) * m_pose.scale;
+    const double south = (point.y - m_pose.center.y) * m_pose.scale;
+    const double right = east * m_bearingCosine + south * m_bearingSine;
+    const double down = south * m_bearingCosine - east * m_bearingSine;
+    const double w = 1 - down * m_pitchSine / distance(m_viewport);
+    const ScreenPoint middle = focus();
+    return {middle.x * w + right, middle.y * w + down * m_pitchCosine, w};
 }
 
 ScreenPoint Camera::worldToScreen(MapPoint point) const noexcept {
-    return {(point.x - m_center.x) * m_scale + m_viewport.width / 2,
-            (point.y - m_center.y) * m_scale + m_viewport.height / 2};
+    const PerspectivePoint p = worldToPerspective(point);
+    return {p.x / p.w, p.y / p.w};
 }
 
 MapPoint Camera::screenToWorld(ScreenPoint point) const noexcept {
-    return {(point.x - m_viewport.width / 2) / m_scale + m_center.x,
-            (point.y - m_viewport.height / 2) / m_scale + m_center.y};
+    const ScreenPoint middle = focus();
+    const double x = point.x - middle.x;
+    const double y = point.y - middle.y;
+    // down = y * w / cos and w = 1 - down * sin / distance, solved for w.
+    const double w = std::min(
+        farthest,
+        1 / std::max(1 / farthest, 1 + y * m_pitchSine / (m_pitchCosine * distance(m_viewport))));
+    const double right = x * w;
+    const double down = y * w / m_pitchCosine;
+    return {m_pose.center.x + (right * m_bearingCosine - down * m_bearingSine) / m_pose.scale,
+            m_pose.center.y + (down * m_bearingCosine + right * m_bearingSine) / m_pose.scale};
 }
 
-MapRect Camera::visibleRect() const noexcept {
-    const double width = m_viewport.width / m_scale;
-    const double height = m_viewport.height / m_scale;
-    return {m_center.x - width / 2, m_center.y - height / 2, width, height};
+std::array<MapPoint, 4> Camera::visibleGround(double margin) const noexcept {
+    const double right = m_viewport.width + margin;
+    const double bottom = m_viewport.height + margin;
+    return {screenToWorld({-margin, -margin}),
+            screenToWorld({right, -margin}),
+            screenToWorld({right, bottom}),
+            screenToWorld({-margin, bottom})};
 }
 
-Camera Camera::panned(double dx, double dy) const noexcept {
-    return {{m_center.x - dx / m_scale, m_center.y - dy / m_scale}, m_scale, m_viewport};
+MapRect Camera::visibleRect(double margin) const noexcept {
+    MapRect bounds = MapRect::null();
+    for (const MapPoint& corner : visibleGround(margin)) {
+        bounds = bounds.united({corner.x, corner.y, 0, 0});
+    }
+    return bounds;
 }
 
-Camera Camera::zoomed(double factor, ScreenPoint anchor) const noexcept {
-    if (!(factor > 0)) {
+Camera Camera::posed(const CameraPose& pose) const {
+    return isFinite(pose) ? Camera(pose, m_viewport) : *this;
+}
+
+Camera Camera::withGroundAt(MapPoint ground, ScreenPoint place) const {
+    const MapPoint there = screenToWorld(place);
+    CameraPose pose = m_pose;
+    pose.center = {pose.center.x + ground.x - there.x, pose.center.y + ground.y - there.y};
+    return posed(pose);
+}
+
+Camera Camera::dragged(ScreenPoint from, ScreenPoint to) const {
+    return withGroundAt(screenToWorld(from), to);
+}
+
+Camera Camera::panned(double rightPixels, double downPixels) const {
+    CameraPose pose = m_pose;
+    pose.center.x += (rightPixels * m_bearingCosine - downPixels * m_bearingSine) / pose.scale;
+    pose.center.y += (downPixels * m_bearingCosine + rightPixels * m_bearingSine) / pose.scale;
+    return posed(pose);
+}
+
+Camera Camera::zoomed(double factor, ScreenPoint anchor) const {
+    if (!(factor > 0) || !std::isfinite(factor) || !isFinite(anchor)) {
         return *this;
     }
-    const double scale = clampedScale(m_scale * factor, m_viewport);
-    const MapPoint kept = screenToWorld(anchor);
-    return {{kept.x - (anchor.x - m_viewport.width / 2) / scale,
-             kept.y - (anchor.y - m_viewport.height / 2) / scale},
-            scale,
-            m_viewport};
+    CameraPose pose = m_pose;
+    pose.scale = clampedScale(pose.scale * factor, m_viewport);
+    return posed(pose).withGroundAt(screenToWorld(anchor), anchor);
+}
+
+Camera Camera::turned(double degrees, ScreenPoint anchor) const {
+    if (!isFinite(anchor)) {
+        return *this;
+    }
+    CameraPose pose = m_pose;
+    pose.bearing += degrees;
+    return posed(pose).withGroundAt(screenToWorld(anchor), anchor);
+}
+
+Camera Camera::tilted(double degrees) const {
+    CameraPose pose = m_pose;
+    pose.pitch += degrees;
+    return posed(pose);
 }
 
 } // namespace vasker

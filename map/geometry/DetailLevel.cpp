@@ -1,17 +1,15 @@
 #include "map/geometry/DetailLevel.h"
 
+#include "map/geometry/Projection.h"
+
 #include <cmath>
 
 namespace vasker {
 
 namespace {
 
-/// Scale of level 0: the world is one tile of 512 pixels.
+/// The maximum scale of level 0: the world on 512 pixels.
 constexpr double coarsestScale = 512 / worldSize;
-
-std::int32_t tileAt(double position, double tileSize) {
-    return static_cast<std::int32_t>(std::floor(position / tileSize));
-}
 
 } // namespace
 
@@ -25,12 +23,6 @@ double DetailLevel::maximumScale() const noexcept {
 
 double DetailLevel::minimumScale() const noexcept {
     return coarsestScale * std::exp2((m_number - 1) / 2.0);
-}
-
-TileRange TileRange::covering(const MapRect& rect, DetailLevel level) noexcept {
-    const double size = level.tileSize();
-    return {{tileAt(rect.x, size), tileAt(rect.y, size)},
-            {tileAt(rect.x + rect.width, size), tileAt(rect.y + rect.height, size)}};
 }
 
 } // namespace vasker

@@ -1,20 +1,12 @@
 #include "map/geometry/LineDetail.h"
 
+#include "map/geometry/Segment.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace vasker {
-
-double distanceToSegment(MapPoint point, MapPoint a, MapPoint b) noexcept {
-    const double dx = b.x - a.x;
-    const double dy = b.y - a.y;
-    const double length2 = dx * dx + dy * dy;
-    const double along =
-        length2 > 0 ? std::clamp(((point.x - a.x) * dx + (point.y - a.y) * dy) / length2, 0.0, 1.0)
-                    : 0.0;
-    return std::hypot(point.x - (a.x + along * dx), point.y - (a.y + along * dy));
-}
 
 std::vector<float> lineDetail(std::span<const MapPoint> line) {
     constexpr float infinity = std::numeric_limits<float>::infinity();

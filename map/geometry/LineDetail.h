@@ -20,7 +20,4 @@ inline constexpr std::size_t maximumRunLength = 512;
 /// that coarser levels are subsets of finer ones.
 [[nodiscard]] std::vector<float> lineDetail(std::span<const MapPoint> line);
 
-/// The distance of `point` to the segment from `a` to `b`, in the unit of the points.
-[[nodiscard]] double distanceToSegment(MapPoint point, MapPoint a, MapPoint b) noexcept;
-
 } // namespace vasker

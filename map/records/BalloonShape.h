@@ -8,6 +8,7 @@ inline constexpr double balloonHeight = 31;
 inline constexpr double balloonHeadRadius = 12; ///< around (12, 12)
 inline constexpr double balloonTipX = 12;       ///< the tip marks the record's point
 inline constexpr double balloonTipY = 30.4;
+inline constexpr double hoveredBalloonScale = 1.125;
 inline constexpr double selectedBalloonScale = 1.5;
 
 } // namespace vasker

@@ -1,91 +1,155 @@
 #include "map/records/HitTest.h"
 
-#include "map/geometry/LineDetail.h"
+#include "map/geometry/Segment.h"
 #include "map/records/BalloonShape.h"
+#include "map/records/RouteStyle.h"
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 
 namespace vasker {
 
 namespace {
 
-bool hitsBalloon(ScreenPoint point, ScreenPoint tip, double scale) {
-    const double dx = point.x - tip.x;
-    const double dy = point.y - tip.y;
-    return std::abs(dx) <= balloonWidth / 2 * scale + balloonHitMargin &&
-           dy >= -balloonTipY * scale - balloonHitMargin &&
-           dy <= (balloonHeight - balloonTipY) * scale + balloonHitMargin;
+/// How far `point` is from the box of a balloon that is `scale` times as large as usual; 0 inside.
+double distanceToBalloon(ScreenPoint point, ScreenPoint tip, double scale) {
+    const double dx = std::abs(point.x - tip.x) - balloonWidth / 2 * scale;
+    const double above = tip.y - balloonTipY * scale - point.y;
+    const double below = point.y - tip.y - (balloonHeight - balloonTipY) * scale;
+    return std::hypot(std::max(0.0, dx), std::max({0.0, above, below}));
 }
 
-std::optional<AssetIndex> nearestDot(ScreenPoint point, const std::vector<PlacedMarker>& dots) {
-    std::optional<AssetIndex> nearest;
-    double best = dotHitRadius;
-    for (const PlacedMarker& dot : dots) { // the later is drawn above: it wins a tie
-        const double distance = std::hypot(dot.point.x - point.x, dot.point.y - point.y);
-        if (distance <= best) {
-            best = distance;
-            nearest = dot.asset;
+double distanceToDot(ScreenPoint point, ScreenPoint dot) {
+    return std::max(0.0, std::hypot(dot.x - point.x, dot.y - point.y) - dotRadius - dotCasing);
+}
+
+/// The best answer so far.
+class Nearest {
+  public:
+    explicit Nearest(double reach) : m_distance(reach) {}
+
+    /// Takes `asset` if it is at least as near as all before it.
+    void offer(AssetIndex asset, double distance) {
+        if (distance <= m_distance) {
+            m_distance = distance;
+            m_asset = asset;
         }
     }
-    return nearest;
+    [[nodiscard]] std::optional<AssetIndex> asset() const { return m_asset; }
+
+  private:
+    double m_distance;
+    std::optional<AssetIndex> m_asset;
+};
+
+/// The ground under the square of `reach` pixels around `point`.
+MapRect groundAround(ScreenPoint point, double reach, const Camera& camera) {
+    MapRect ground = MapRect::null();
+    for (const double dx : {-reach, reach}) {
+        for (const double dy : {-reach, reach}) {
+            const MapPoint corner = camera.screenToWorld({point.x + dx, point.y + dy});
+            ground = ground.united({corner.x, corner.y, 0, 0});
+        }
+    }
+    return ground;
 }
 
-/// The nearest line within `reach` map points of `point`.
-std::optional<AssetIndex> nearestRoute(MapPoint point,
-                                       double reach,
-                                       std::span<const RouteRun> runs,
-                                       const RecordGeometry& geometry,
-                                       const RouteColors& colors) {
-    std::optional<AssetIndex> nearest;
-    double best = reach;
-    for (const RouteRun& run : runs) {
-        if (!colors[run.asset] || !run.bounds.inset(-reach, -reach).contains(point)) {
-            continue;
-        }
-        const auto vertices = geometry.vertices(run);
-        for (std::size_t i = 0; i + 1 < vertices.size(); ++i) {
-            const double distance = distanceToSegment(point, vertices[i], vertices[i + 1]);
-            if (distance <= best) {
-                best = distance;
-                nearest = run.asset;
+std::optional<AssetIndex> markAt(ScreenPoint point, double reach, const HitScene& scene) {
+    Nearest nearest(reach);
+    const MapRect around = groundAround(point, reach + dotRadius + dotCasing, scene.camera);
+    for (const double shift : worldShifts(around)) {
+        for (std::size_t i = scene.markers.size(); i-- > 0;) { // the first is on top
+            const Marker& marker = scene.markers[i];
+            const MapPoint place{marker.point.x + shift, marker.point.y};
+            if (around.contains(place)) {
+                nearest.offer(marker.asset,
+                              distanceToDot(point, scene.camera.worldToScreen(place)));
             }
         }
     }
-    return nearest;
+    for (const PlacedMarker& balloon : scene.frame.balloons) {
+        nearest.offer(balloon.asset, distanceToBalloon(point, balloon.point, 1));
+    }
+    if (const auto& hovered = scene.frame.hovered) {
+        nearest.offer(hovered->asset, distanceToBalloon(point, hovered->point, 1));
+    }
+    return nearest.asset();
+}
+
+std::optional<AssetIndex> routeAt(ScreenPoint point,
+                                  double reach,
+                                  double halfWidth,
+                                  std::span<const RouteRun> runs,
+                                  const HitScene& scene) {
+    Nearest nearest(reach);
+    const MapRect around = groundAround(point, reach + halfWidth, scene.camera);
+    const auto tolerance = static_cast<float>(routeTolerancePixels / scene.camera.scale());
+    for (const double shift : worldShifts(around)) {
+        MapRect there = around;
+        there.x -= shift;
+        for (const RouteRun& run : runs) {
+            if (!scene.colors[run.asset] || !run.bounds.intersects(there)) {
+                continue;
+            }
+            const auto vertices = scene.geometry.vertices(run);
+            const auto detail = scene.geometry.detail(run);
+            std::optional<PerspectivePoint> last;
+            for (std::size_t i = 0; i < vertices.size(); ++i) {
+                if (detail[i] <= tolerance) {
+                    continue;
+                }
+                const PerspectivePoint next =
+                    scene.camera.worldToPerspective({vertices[i].x + shift, vertices[i].y});
+                if (last && last->w > 0 && next.w > 0) {
+                    const double distance =
+                        distanceToSegment(point,
+                                          {last->x / last->w, last->y / last->w},
+                                          {next.x / next.w, next.y / next.w});
+                    nearest.offer(run.asset, std::max(0.0, distance - halfWidth));
+                }
+                last = next;
+            }
+        }
+    }
+    return nearest.asset();
+}
+
+bool hitsTheSelected(ScreenPoint point, double reach, const HitScene& scene) {
+    if (const auto& marker = scene.frame.selected) {
+        return distanceToBalloon(point, marker->point, selectedBalloonScale) <= reach;
+    }
+    return scene.selected &&
+           routeAt(
+               point, reach, selectedRouteWidth / 2, scene.geometry.runsOf(*scene.selected), scene);
 }
 
 } // namespace
 
-std::optional<AssetIndex> hitTest(ScreenPoint point,
-                                  const Camera& camera,
-                                  const MarkerFrame& frame,
-                                  const RecordGeometry& geometry,
-                                  const RouteColors& colors,
-                                  std::optional<AssetIndex> selected) {
-    if (frame.selected && hitsBalloon(point, frame.selected->point, selectedBalloonScale)) {
-        return frame.selected->asset;
+std::optional<AssetIndex> hitTest(ScreenPoint point, double reach, const HitScene& scene) {
+    if (hitsTheSelected(point, reach, scene)) {
+        return scene.selected;
     }
-    const auto balloon =
-        std::find_if(frame.balloons.rbegin(), frame.balloons.rend(), [&](const auto& candidate) {
-            return hitsBalloon(point, candidate.point, 1);
-        });
-    if (balloon != frame.balloons.rend()) {
-        return balloon->asset;
+    if (const auto mark = markAt(point, reach, scene)) {
+        return mark;
     }
-    if (const auto dot = nearestDot(point, frame.dots)) {
-        return dot;
+    return routeAt(point, reach, routeWidth / 2, scene.geometry.runs(), scene);
+}
+
+std::vector<AssetIndex> sharingPlace(AssetIndex asset, std::span<const Marker> markers) {
+    std::vector<AssetIndex> sharing;
+    const auto place = std::find_if(
+        markers.begin(), markers.end(), [asset](const Marker& m) { return m.asset == asset; });
+    if (place == markers.end()) {
+        return sharing;
     }
-    const MapPoint ground = camera.screenToWorld(point);
-    const double reach = routeHitDistance / camera.scale();
-    if (selected) {
-        const auto hit = nearestRoute(ground, reach, geometry.runsOf(*selected), geometry, colors);
-        if (hit) {
-            return hit;
+    for (const Marker& marker : markers) {
+        const double dx = std::abs(marker.point.x - place->point.x) * Camera::maximumScale;
+        const double dy = std::abs(marker.point.y - place->point.y) * Camera::maximumScale;
+        if (dx < balloonSpacingX && dy < balloonSpacingY) {
+            sharing.push_back(marker.asset);
         }
     }
-    return nearestRoute(ground, reach, geometry.runs(), geometry, colors);
+    return sharing;
 }
 
 } // namespace vasker

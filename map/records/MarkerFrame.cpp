@@ -1,6 +1,7 @@
 #include "map/records/MarkerFrame.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vasker {
 
@@ -9,30 +10,83 @@ namespace {
 /// A selected balloon is 47 pixels high with its ring; no mark reaches farther from its point.
 constexpr double markReach = 48;
 
-} // namespace
+/// Projects markers into one view.
+class Placing {
+  public:
+    explicit Placing(const Camera& camera)
+        : m_camera(camera), m_seen(camera.visibleRect(markReach)), m_shifts(worldShifts(m_seen)) {}
 
-MarkerFrame
-markerFrame(const MarkerLayout& layout, std::optional<AssetIndex> selected, const Camera& camera) {
-    MarkerFrame frame;
-    const double reach = markReach / camera.scale();
-    const MapRect view = camera.visibleRect().inset(-reach, -reach);
-
-    for (const Marker& marker : layout.balloons) {
-        if (!view.contains(marker.point)) {
-            continue;
-        }
-        const PlacedMarker placed{marker.asset, camera.worldToScreen(marker.point)};
-        if (marker.asset == selected) {
-            frame.selected = placed;
-        } else if (frame.balloons.size() < maximumBalloons) {
-            frame.balloons.push_back(placed);
-        } else {
-            frame.dots.push_back(placed);
+    /// Calls `use` with the marker as it stands in each copy of the world that is seen.
+    template <typename Use>
+    void place(const Marker& marker, Use use) const {
+        for (const double shift : m_shifts) {
+            const MapPoint point{marker.point.x + shift, marker.point.y};
+            if (!m_seen.contains(point)) {
+                continue;
+            }
+            const ScreenPoint place = m_camera.worldToScreen(point);
+            const Viewport view = m_camera.viewport();
+            if (place.x >= -markReach && place.x <= view.width + markReach &&
+                place.y >= -markReach && place.y <= view.height + markReach) {
+                use(PlacedMarker{marker.asset, place, marker.isAlone});
+            }
         }
     }
-    for (const Marker& marker : layout.dots) {
-        if (view.contains(marker.point)) {
-            frame.dots.push_back({marker.asset, camera.worldToScreen(marker.point)});
+
+    [[nodiscard]] std::optional<PlacedMarker>
+    nearestToFocus(const std::optional<Marker>& marker) const {
+        std::optional<PlacedMarker> nearest;
+        if (marker) {
+            const ScreenPoint focus = m_camera.focus();
+            const auto distance = [focus](const PlacedMarker& placed) {
+                return std::hypot(placed.point.x - focus.x, placed.point.y - focus.y);
+            };
+            place(*marker, [&](const PlacedMarker& placed) {
+                if (!nearest || distance(placed) < distance(*nearest)) {
+                    nearest = placed;
+                }
+            });
+        }
+        return nearest;
+    }
+
+  private:
+    const Camera& m_camera;
+    MapRect m_seen;
+    std::vector<double> m_shifts;
+};
+
+} // namespace
+
+MarkerFrame markerFrame(const MarkerLayout& layout,
+                        const LiftedMarkers& lifted,
+                        Dots dots,
+                        const Camera& camera) {
+    const Placing placing(camera);
+    MarkerFrame frame;
+    frame.selected = placing.nearestToFocus(lifted.selected);
+    const bool hoversTheSelected =
+        lifted.selected && lifted.hovered && lifted.selected->asset == lifted.hovered->asset;
+    if (!hoversTheSelected) {
+        frame.hovered = placing.nearestToFocus(lifted.hovered);
+    }
+    const auto isLifted = [&](AssetIndex asset) {
+        return (lifted.selected && lifted.selected->asset == asset) ||
+               (lifted.hovered && lifted.hovered->asset == asset);
+    };
+    for (const Marker& marker : layout.balloons) {
+        if (isLifted(marker.asset)) {
+            continue;
+        }
+        placing.place(marker, [&frame](const PlacedMarker& placed) {
+            const bool hasRoom = frame.balloons.size() < maximumBalloons;
+            (hasRoom ? frame.balloons : frame.dots).push_back(placed);
+        });
+    }
+    if (dots == Dots::drawn) {
+        for (const Marker& marker : layout.dots) {
+            placing.place(marker,
+                          [&frame](const PlacedMarker& placed) { frame.dots.push_back(placed); });
         }
     }
     std::reverse(frame.dots.begin(), frame.dots.end());

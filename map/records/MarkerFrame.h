@@ -1,8 +1,10 @@
 #pragma once
 // The marks of one picture: which are in view and where they stand, in drawing order.
 
+#include "map/geometry/Camera.h"
 #include "map/records/MarkerLayout.h"
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -10,18 +12,32 @@ namespace vasker {
 
 struct PlacedMarker {
     AssetIndex asset;
-    ScreenPoint point; ///< of the record: the centre of a dot, the tip of a balloon
+    ScreenPoint point;    ///< of the record: the centre of a dot, the tip of a balloon
+    bool isAlone = false; ///< as in the layout
 };
 
 struct MarkerFrame {
     std::vector<PlacedMarker> dots;       ///< the last drawn on top: rarer kinds
-    std::vector<PlacedMarker> balloons;   ///< the last drawn on top: farther south
-    std::optional<PlacedMarker> selected; ///< drawn above all; stands in neither list
+    std::vector<PlacedMarker> balloons;   ///< the last drawn on top: farther down the screen
+    std::optional<PlacedMarker> hovered;  ///< a balloon above these; stands in neither list
+    std::optional<PlacedMarker> selected; ///< a balloon above all; stands in neither list
 };
 
-/// The marks of `layout` in the camera's viewport, those whose point is up to a balloon's size
-/// outside included. At most maximumBalloons stand as balloons; the others are dots.
-[[nodiscard]] MarkerFrame
-markerFrame(const MarkerLayout& layout, std::optional<AssetIndex> selected, const Camera& camera);
+/// Whether the dots of a layout are drawn one by one, or are in the picture of the ground already.
+enum class Dots : std::uint8_t { drawn, painted };
+
+/// The markers that stand out, wherever they stand in the layout.
+struct LiftedMarkers {
+    std::optional<Marker> hovered;
+    std::optional<Marker> selected;
+};
+
+/// The marks of `layout` that `camera` sees in all copies of the world, those whose point is up to
+/// a balloon's size outside included. At most maximumBalloons stand as balloons; the others are
+/// dots. Who is lifted stands once, in the copy of the world nearest to the camera's centre.
+[[nodiscard]] MarkerFrame markerFrame(const MarkerLayout& layout,
+                                      const LiftedMarkers& lifted,
+                                      Dots dots,
+                                      const Camera& camera);
 
 } // namespace vasker

@@ -82,6 +82,31 @@ class DotCover {
     std::vector<MapPoint> m_near; ///< the drawn dots around the one in question
 };
 
+/// All markers, to ask how many stand near a place.
+class Neighbours {
+  public:
+    Neighbours(const std::vector<Marker>& markers, double scale)
+        : m_distance(aloneDistance / scale), m_grid(m_distance, m_distance, markers.size()) {
+        for (const Marker& marker : markers) {
+            m_grid.insert(marker.point);
+        }
+    }
+    /// Whether only one marker stands near the place of a marker: itself.
+    [[nodiscard]] bool isAlone(MapPoint place) const {
+        int near = 0;
+        return !m_grid.anyNear(place, [&](MapPoint other) {
+            const bool isNear = std::abs(other.x - place.x) < m_distance &&
+                                std::abs(other.y - place.y) < m_distance;
+            near += isNear ? 1 : 0;
+            return near > 1;
+        });
+    }
+
+  private:
+    double m_distance; ///< map points
+    PointGrid m_grid;
+};
+
 } // namespace
 
 std::vector<Marker> markersByPrecedence(const RecordSet& records) {
@@ -113,25 +138,15 @@ std::vector<Marker> markersByPrecedence(const RecordSet& records) {
     return markers;
 }
 
-MarkerLayout markerLayout(const std::vector<Marker>& markers,
-                          std::optional<AssetIndex> selected,
-                          DetailLevel level) {
+MarkerLayout markerLayout(const std::vector<Marker>& markers, DetailLevel level) {
     MarkerLayout layout;
     BalloonSpacing balloons(level.minimumScale(), markers.size());
     DotCover dots(level.maximumScale(), markers.size());
-    const auto chosen = std::find_if(markers.begin(), markers.end(), [&](const Marker& marker) {
-        return marker.asset == selected;
-    });
-    if (chosen != markers.end()) {
-        balloons.place(chosen->point);
-        layout.balloons.push_back(*chosen);
-    }
+    const Neighbours neighbours(markers, level.minimumScale());
     for (const Marker& marker : markers) {
-        if (marker.asset == selected) {
-            continue;
-        }
         if (balloons.place(marker.point)) {
             layout.balloons.push_back(marker);
+            layout.balloons.back().isAlone = neighbours.isAlone(marker.point);
         } else if (dots.place(marker.point)) {
             layout.dots.push_back(marker);
         }

@@ -2,15 +2,14 @@
 // Which records stand as balloons and which as dots. No record is ever without a mark; only a dot
 // that lies wholly under others, but for slivers of less than half a pixel, is not drawn.
 //
-// Where balloons would crowd, the earlier in this order has the room: the selected one, then rarer
-// kinds, then the order of the list. The layout holds for all scales of one level and for every
-// place of the world, so that nothing changes while the map is dragged.
+// Where balloons would crowd, rarer kinds have the room, then the order of the list. The layout
+// holds for all scales of one level and for every place of the world, so that nothing changes while
+// the map is dragged or a record is selected.
 
 #include "map/RecordSet.h"
-#include "map/geometry/Camera.h"
 #include "map/geometry/DetailLevel.h"
+#include "map/geometry/Projection.h"
 
-#include <optional>
 #include <vector>
 
 namespace vasker {
@@ -31,7 +30,12 @@ inline constexpr std::size_t maximumBalloons = 500;
 struct Marker {
     AssetIndex asset;
     MapPoint point;
+    bool isAlone = false; ///< of a balloon in a layout: no other mark stands near it
 };
+
+/// A balloon stands alone where no other mark is nearer than this, in logical pixels: its title
+/// covers nobody.
+inline constexpr double aloneDistance = 64;
 
 struct MarkerLayout {
     std::vector<Marker> balloons; ///< in order of precedence
@@ -42,9 +46,7 @@ struct MarkerLayout {
 /// The records of a set that have no route, in order of precedence.
 [[nodiscard]] std::vector<Marker> markersByPrecedence(const RecordSet& records);
 
-/// `markers` in order of precedence; `selected` comes first wherever it stands among them.
-[[nodiscard]] MarkerLayout markerLayout(const std::vector<Marker>& markers,
-                                        std::optional<AssetIndex> selected,
-                                        DetailLevel level);
+/// `markers` in order of precedence.
+[[nodiscard]] MarkerLayout markerLayout(const std::vector<Marker>& markers, DetailLevel level);
 
 } // namespace vasker

@@ -2,7 +2,6 @@
 
 #include "map/Symbols.h"
 #include "map/records/BalloonShape.h"
-#include "map/scene/MapColors.h"
 #include "platform/ui/IconPainter.h"
 
 #include <QPainter>
@@ -18,6 +17,7 @@ namespace {
 constexpr double glyphSize = 14;
 constexpr double glyphStroke = 1.15;
 constexpr double ringWidth = 1.5;
+constexpr double outerLineWidth = 0.8;
 constexpr double shadowWidth = 16;
 constexpr double shadowHeight = 7;
 
@@ -26,18 +26,36 @@ double casingWidth(BalloonState state) {
 }
 
 double enlargement(BalloonState state) {
-    return state == BalloonState::selected ? selectedBalloonScale : 1;
+    switch (state) {
+    case BalloonState::plain:
+        return 1;
+    case BalloonState::hovered:
+        return hoveredBalloonScale;
+    case BalloonState::selected:
+        break;
+    }
+    return selectedBalloonScale;
 }
 
 /// Room around the balloon's box: its casing, its ring, half a shadow, a pixel for smooth edges.
 double margin(BalloonState state) {
-    const double outline = casingWidth(state) + (state == BalloonState::selected ? ringWidth : 0);
+    const double outline =
+        casingWidth(state) + (state == BalloonState::selected ? ringWidth : 0) + outerLineWidth;
     return std::ceil(std::max(outline, shadowHeight / 2 * enlargement(state)) + 1);
 }
 
 QSizeF cellSize(BalloonState state) {
     return {balloonWidth * enlargement(state) + 2 * margin(state),
             std::ceil(balloonHeight * enlargement(state)) + 2 * margin(state)};
+}
+
+/// Where the balloons of a state begin in the picture, from its top.
+double rowOf(BalloonState state) {
+    double y = 0;
+    for (const BalloonState above : {BalloonState::plain, BalloonState::hovered}) {
+        y += above < state ? cellSize(above).height() : 0;
+    }
+    return y;
 }
 
 QPainterPath outline() {
@@ -72,21 +90,21 @@ void strokeOutside(QPainter& painter, const QPainterPath& path, const QColor& co
 
 void paintBalloon(QPainter& painter,
                   std::string_view kind,
-                  ColorScheme scheme,
+                  const MapColors& colors,
                   BalloonState state) {
     const double scale = enlargement(state);
     const double casing = casingWidth(state) / scale;
-    const MapColors& colors = mapColors(scheme);
     painter.translate(margin(state), margin(state));
     painter.scale(scale, scale);
     paintShadow(painter);
     const QPainterPath path = outline();
-    if (state == BalloonState::selected) {
-        strokeOutside(
-            painter, path, colorValue(PaletteColor::blue, scheme), casing + ringWidth / scale);
+    const double ring = state == BalloonState::selected ? ringWidth / scale : 0;
+    strokeOutside(painter, path, colors.outerLine, casing + ring + outerLineWidth / scale);
+    if (ring > 0) {
+        strokeOutside(painter, path, colorValue(PaletteColor::blue, colors.records), casing + ring);
     }
     strokeOutside(painter, path, colors.casing, casing);
-    painter.fillPath(path, colorValue(color(kind), scheme));
+    painter.fillPath(path, colorValue(color(kind), colors.records));
     const std::string_view name = symbol(kind);
     const QRectF glyph(
         balloonHeadRadius - glyphSize / 2, balloonHeadRadius - glyphSize / 2, glyphSize, glyphSize);
@@ -100,7 +118,7 @@ void paintBalloon(QPainter& painter,
 } // namespace
 
 BalloonPicture::BalloonPicture(std::span<const std::string> kinds,
-                               ColorScheme scheme,
+                               BasemapLook look,
                                double devicePixels) {
     std::map<int, std::string_view> kindOfColumn;
     for (const std::string& kind : kinds) {
@@ -110,10 +128,9 @@ BalloonPicture::BalloonPicture(std::span<const std::string> kinds,
             kindOfColumn.emplace(place->second, kind);
         }
     }
-    const QSizeF plain = cellSize(BalloonState::plain);
-    const QSizeF selected = cellSize(BalloonState::selected);
-    const QSizeF size(selected.width() * static_cast<double>(m_columns.size()),
-                      plain.height() + selected.height());
+    const QSizeF size(cellSize(BalloonState::selected).width() *
+                          static_cast<double>(m_columns.size()),
+                      rowOf(BalloonState::selected) + cellSize(BalloonState::selected).height());
     m_image = QImage((size * devicePixels).toSize().expandedTo({1, 1}),
                      QImage::Format_ARGB32_Premultiplied);
     m_image.setDevicePixelRatio(devicePixels);
@@ -121,10 +138,11 @@ BalloonPicture::BalloonPicture(std::span<const std::string> kinds,
     QPainter painter(&m_image);
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& [column, kind] : kindOfColumn) {
-        for (const BalloonState state : {BalloonState::plain, BalloonState::selected}) {
+        for (const BalloonState state :
+             {BalloonState::plain, BalloonState::hovered, BalloonState::selected}) {
             painter.save();
             painter.translate(cut(kind, state).topLeft());
-            paintBalloon(painter, kind, scheme, state);
+            paintBalloon(painter, kind, mapColors(look), state);
             painter.restore();
         }
     }
@@ -136,8 +154,7 @@ QRectF BalloonPicture::cut(std::string_view kind, BalloonState state) const {
         return {};
     }
     const double x = column->second * cellSize(BalloonState::selected).width();
-    const double y = state == BalloonState::plain ? 0 : cellSize(BalloonState::plain).height();
-    return {QPointF(x, y), cellSize(state)};
+    return {QPointF(x, rowOf(state)), cellSize(state)};
 }
 
 ScreenPoint BalloonPicture::tip(BalloonState state) noexcept {

@@ -2,7 +2,7 @@
 // One picture with every balloon that a release needs, drawn at the screen's density.
 
 #include "map/geometry/Camera.h"
-#include "platform/ui/Palette.h"
+#include "map/scene/MapColors.h"
 
 #include <QImage>
 #include <QRectF>
@@ -14,12 +14,12 @@
 
 namespace vasker {
 
-enum class BalloonState { plain, selected };
+enum class BalloonState { plain, hovered, selected };
 
 class BalloonPicture {
   public:
-    /// Balloons for `kinds` in the colours of `scheme`, `devicePixels` per logical pixel.
-    BalloonPicture(std::span<const std::string> kinds, ColorScheme scheme, double devicePixels);
+    /// Balloons for `kinds` on a ground of `look`, `devicePixels` per logical pixel.
+    BalloonPicture(std::span<const std::string> kinds, BasemapLook look, double devicePixels);
 
     [[nodiscard]] const QImage& image() const noexcept { return m_image; }
     /// Where the balloon of `kind` stands in the picture, in logical pixels. A kind that the

@@ -68,17 +68,17 @@ int DotMaterial::compare(const QSGMaterial* other) const {
 }
 
 DotLayer::DotLayer() : m_geometry(attributes(), 0) {
-    m_geometry.setDrawingMode(QSGGeometry::DrawPoints);
+    m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
     m_geometry.setVertexDataPattern(QSGGeometry::StreamPattern);
     setGeometry(&m_geometry);
     setMaterial(&m_material);
 }
 
 void DotLayer::update(const std::vector<Dot>& dots, const QColor& casing, float devicePixels) {
-    m_geometry.allocate(static_cast<int>(dots.size()));
+    m_geometry.allocate(static_cast<int>(3 * dots.size()));
     auto* vertex = static_cast<Vertex*>(m_geometry.vertexData());
     for (const Dot& dot : dots) {
-        for (std::uint8_t corner = 0; corner < 1; ++corner) {
+        for (std::uint8_t corner = 0; corner < 3; ++corner) {
             *vertex++ = {dot.x, dot.y, {dot.color[0], dot.color[1], dot.color[2], corner}};
         }
     }

@@ -2,7 +2,7 @@
 // Dots: a triangle each, its round edge made by the fragment shader. (Point primitives take five
 // times as long in software rendering.)
 
-#include "map/records/RouteMesh.h"
+#include "map/records/RouteLines.h"
 
 #include <QColor>
 #include <QSGGeometryNode>

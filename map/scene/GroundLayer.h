@@ -1,7 +1,5 @@
 #pragma once
-// The plain ground with its graticule.
-
-#include "map/geometry/Graticule.h"
+// The plain ground under the tiles, for where there are none: beyond the poles' limit.
 
 #include <QColor>
 #include <QSGFlatColorMaterial>
@@ -10,27 +8,15 @@
 
 namespace vasker {
 
-class GroundLayer final : public QSGNode {
+class GroundLayer final : public QSGGeometryNode {
   public:
     GroundLayer();
 
-    /// Lines are one device pixel wide.
-    void update(QSizeF size,
-                const Graticule& lines,
-                const QColor& ground,
-                const QColor& line,
-                float devicePixels);
+    void update(QSizeF size, const QColor& color);
 
   private:
-    struct Part {
-        QSGGeometry geometry{QSGGeometry::defaultAttributes_Point2D(), 0};
-        QSGFlatColorMaterial material;
-        QSGGeometryNode node;
-    };
-    void attach(Part& part);
-
-    Part m_ground;
-    Part m_lines;
+    QSGGeometry m_geometry;
+    QSGFlatColorMaterial m_material;
 };
 
 } // namespace vasker

@@ -1,6 +1,7 @@
 #pragma once
-// The colours of the map that are not a record's own.
+// The colours of the map's records and of what surrounds them, for each look of the ground.
 
+#include "map/basemap/TilePicture.h"
 #include "platform/ui/Palette.h"
 
 #include <QColor>
@@ -8,13 +9,14 @@
 namespace vasker {
 
 struct MapColors {
-    QColor ground;
-    QColor graticule;
-    QColor casing;      ///< around dots and balloons
-    QColor routeCasing; ///< around lines: translucent
-    QColor glyph;       ///< on a balloon
+    ColorScheme records; ///< which values the records' own colours take
+    QColor beyond;       ///< of the ground where no tile is, beyond the poles' limit
+    QColor casing;       ///< around dots and balloons
+    QColor routeCasing;  ///< around lines: translucent
+    QColor outerLine; ///< around balloons and the selected route on photographs; else transparent
+    QColor glyph;     ///< on a balloon
 };
 
-[[nodiscard]] const MapColors& mapColors(ColorScheme scheme) noexcept;
+[[nodiscard]] const MapColors& mapColors(BasemapLook look) noexcept;
 
 } // namespace vasker

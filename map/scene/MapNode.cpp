@@ -1,6 +1,6 @@
 #include "map/scene/MapNode.h"
 
-#include "map/geometry/Graticule.h"
+#include "map/records/RouteStyle.h"
 #include "map/scene/MapColors.h"
 
 #include <QQuickWindow>
@@ -9,64 +9,73 @@ namespace vasker {
 
 namespace {
 
-constexpr float routeWidth = 2;
-constexpr float routeCasing = 1;
-constexpr float selectedRouteWidth = 5;
-constexpr float selectedRouteCasing = 2;
+constexpr float outerLineWidth = 0.8F;
+
+RouteStyle styleOf(double width, double casing, const QColor& casingColor) {
+    return {.coreWidth = static_cast<float>(width),
+            .casingWidth = static_cast<float>(casing),
+            .casing = casingColor,
+            .ink = {}};
+}
 
 } // namespace
 
+MapNode::Sprites::Sprites() {
+    m_place.setFlag(OwnedByParent, false);
+    m_layer.setFlag(OwnedByParent, false);
+}
+
+void MapNode::Sprites::update(const SpriteSheet& sheet, float devicePixels, QQuickWindow& window) {
+    if (sheet.image.isNull()) {
+        return;
+    }
+    if (sheet.image.cacheKey() != m_image) {
+        m_image = sheet.image.cacheKey();
+        m_layer.setImage(sheet.image, window);
+    }
+    if (m_layer.parent() == nullptr) {
+        m_place.appendChildNode(&m_layer);
+    }
+    m_layer.update(sheet.sprites, devicePixels);
+}
+
 MapNode::MapNode() {
     for (QSGNode* layer : {static_cast<QSGNode*>(&m_ground),
+                           static_cast<QSGNode*>(&m_tiles),
                            static_cast<QSGNode*>(&m_routes),
+                           static_cast<QSGNode*>(&m_hoveredRoute),
+                           static_cast<QSGNode*>(&m_selectedRouteOutline),
                            static_cast<QSGNode*>(&m_selectedRoute),
                            static_cast<QSGNode*>(&m_dots),
-                           static_cast<QSGNode*>(&m_balloons)}) {
+                           m_names.node(),
+                           m_balloons.node()}) {
         layer->setFlag(OwnedByParent, false);
+        appendChildNode(layer);
     }
-    appendChildNode(&m_ground);
-    appendChildNode(&m_routes);
-    appendChildNode(&m_selectedRoute);
-    appendChildNode(&m_dots);
 }
 
 void MapNode::update(const MapPicture& picture, QQuickWindow& window) {
-    const MapColors& colors = mapColors(picture.scheme);
-    const Viewport viewport = picture.camera.viewport();
-    m_ground.update({viewport.width, viewport.height},
-                    graticule(picture.camera),
-                    colors.ground,
-                    colors.graticule,
-                    picture.devicePixels);
-    m_routes.update(picture.routes,
-                    {.coreWidth = routeWidth,
-                     .casingWidth = routeCasing,
-                     .casing = colors.routeCasing,
-                     .ink = {}},
-                    picture.camera,
-                    picture.devicePixels);
-    m_selectedRoute.update(picture.selectedRoute,
-                           {.coreWidth = selectedRouteWidth,
-                            .casingWidth = selectedRouteCasing,
-                            .casing = colors.casing,
-                            .ink = colorValue(PaletteColor::blue, picture.scheme)},
-                           picture.camera,
-                           picture.devicePixels);
-    m_dots.update(picture.dots, colors.casing, picture.devicePixels);
+    const MapColors& colors = mapColors(picture.look);
+    const QColor blue = colorValue(PaletteColor::blue, colors.records);
+    const float density = picture.devicePixels;
+    m_ground.update(picture.size, colors.beyond);
+    m_tiles.update(picture.tiles, window);
+    m_routes.update(picture.routes, styleOf(routeWidth, routeCasing, colors.routeCasing), density);
+    m_hoveredRoute.update(
+        picture.hoveredRoute, styleOf(routeWidth, hoveredRouteCasing, blue), density);
 
-    if (picture.balloonPicture != m_balloonPicture) {
-        m_balloonPicture = picture.balloonPicture;
-        if (m_balloonPicture) {
-            m_balloons.setTexture(std::unique_ptr<QSGTexture>(window.createTextureFromImage(
-                m_balloonPicture->image(), QQuickWindow::TextureHasAlphaChannel)));
-        }
-    }
-    if (m_balloonPicture && m_balloons.parent() == nullptr) {
-        appendChildNode(&m_balloons);
-    }
-    if (m_balloonPicture) {
-        m_balloons.update(picture.balloons, picture.devicePixels);
-    }
+    RouteStyle selected = styleOf(selectedRouteWidth, selectedRouteCasing, colors.casing);
+    selected.ink = blue;
+    RouteStyle outline = selected;
+    outline.casingWidth += outerLineWidth;
+    outline.casing = colors.outerLine;
+    m_selectedRouteOutline.update(
+        colors.outerLine.alpha() > 0 ? picture.selectedRoute : RouteStrip(), outline, density);
+    m_selectedRoute.update(picture.selectedRoute, selected, density);
+
+    m_dots.update(picture.dots, colors.casing, density);
+    m_names.update(picture.names, density, window);
+    m_balloons.update(picture.balloons, density, window);
 }
 
 } // namespace vasker

@@ -1,12 +1,13 @@
 #pragma once
-// The whole map as scene-graph nodes, in drawing order: ground, routes, the selected route, dots,
+// The whole map as scene-graph nodes, in drawing order: ground, tiles, routes, dots, names,
 // balloons.
 
-#include "map/scene/BalloonLayer.h"
 #include "map/scene/BalloonPicture.h"
 #include "map/scene/DotLayer.h"
 #include "map/scene/GroundLayer.h"
 #include "map/scene/RouteLayer.h"
+#include "map/scene/SpriteLayer.h"
+#include "map/scene/TileLayer.h"
 
 #include <QSGNode>
 
@@ -17,16 +18,24 @@ class QQuickWindow;
 
 namespace vasker {
 
+/// Sprites with the picture that they are cut from.
+struct SpriteSheet {
+    QImage image; ///< null: there are no sprites
+    std::vector<Sprite> sprites;
+};
+
 /// Everything that one frame shows.
 struct MapPicture {
-    Camera camera{canadaOverview, {1, 1}};
-    ColorScheme scheme = ColorScheme::light;
+    QSizeF size;
+    BasemapLook look = BasemapLook::light;
     float devicePixels = 1; ///< per logical pixel
-    std::shared_ptr<const RouteContent> routes;
-    std::shared_ptr<const RouteContent> selectedRoute;
+    std::vector<TileQuad> tiles;
+    RouteStrip routes;
+    RouteStrip hoveredRoute;
+    RouteStrip selectedRoute;
     std::vector<Dot> dots;
-    std::vector<BalloonSprite> balloons;
-    std::shared_ptr<const BalloonPicture> balloonPicture; ///< null: there are no balloons
+    SpriteSheet names;
+    SpriteSheet balloons;
 };
 
 class MapNode final : public QSGNode {
@@ -37,12 +46,28 @@ class MapNode final : public QSGNode {
     void update(const MapPicture& picture, QQuickWindow& window);
 
   private:
+    /// Sprites that are there once there is a picture to cut them from.
+    class Sprites {
+      public:
+        Sprites();
+        void update(const SpriteSheet& sheet, float devicePixels, QQuickWindow& window);
+        [[nodiscard]] QSGNode* node() noexcept { return &m_place; }
+
+      private:
+        QSGNode m_place;
+        SpriteLayer m_layer;
+        qint64 m_image = 0; ///< cache key of the image
+    };
+
     GroundLayer m_ground;
-    RouteLayer m_routes{LineEnds::square};
-    RouteLayer m_selectedRoute{LineEnds::round};
+    TileLayer m_tiles;
+    RouteLayer m_routes;
+    RouteLayer m_hoveredRoute;
+    RouteLayer m_selectedRouteOutline;
+    RouteLayer m_selectedRoute;
     DotLayer m_dots;
-    BalloonLayer m_balloons;
-    std::shared_ptr<const BalloonPicture> m_balloonPicture;
+    Sprites m_names;
+    Sprites m_balloons;
 };
 
 } // namespace vasker

@@ -1,53 +1,23 @@
 #pragma once
-// The routes of one style as scene-graph nodes, a node per tile of the level in view. A tile is
-// meshed when it comes into view; moving the camera changes uniforms only.
+// The routes of one style: a strip that is made anew for each frame.
 
-#include "map/RecordSet.h"
-#include "map/geometry/Camera.h"
-#include "map/geometry/DetailLevel.h"
-#include "map/records/RouteMesh.h"
+#include "map/records/RouteStrip.h"
 #include "map/scene/RouteMaterial.h"
 
-#include <QSGNode>
-
-#include <map>
-#include <memory>
-#include <span>
+#include <QSGGeometryNode>
 
 namespace vasker {
 
-/// What a layer draws; compared by identity.
-struct RouteContent {
-    std::shared_ptr<const LoadedRelease> loaded; ///< keeps `runs` alive
-    std::span<const RouteRun> runs;
-    RouteColors colors;
-};
-
-class RouteLayer final : public QSGNode {
+class RouteLayer final : public QSGGeometryNode {
   public:
-    explicit RouteLayer(LineEnds ends);
-    ~RouteLayer() override;
+    RouteLayer();
 
-    /// Render thread, while the item's thread waits. `content` may be null: nothing is drawn.
-    void update(const std::shared_ptr<const RouteContent>& content,
-                const RouteStyle& style,
-                const Camera& camera,
-                float devicePixels);
+    /// Render thread, while the item's thread waits.
+    void update(const RouteStrip& strip, const RouteStyle& style, float devicePixels);
 
   private:
-    struct Tile;
-
-    std::unique_ptr<Tile> makeTile(TileIndex index);
-    void place(Tile& tile,
-               TileIndex index,
-               const RouteStyle& style,
-               const Camera& camera,
-               float devicePixels) const;
-
-    LineEnds m_ends;
-    std::shared_ptr<const RouteContent> m_content;
-    DetailLevel m_level{0};
-    std::map<TileIndex, std::unique_ptr<Tile>> m_tiles;
+    QSGGeometry m_geometry;
+    RouteMaterial m_material;
 };
 
 } // namespace vasker

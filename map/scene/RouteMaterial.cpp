@@ -1,6 +1,6 @@
 #include "map/scene/RouteMaterial.h"
 
-#include "map/records/RouteMesh.h"
+#include "map/records/RouteStrip.h"
 #include "map/scene/UniformBlock.h"
 
 #include <QSGMaterialShader>
@@ -30,10 +30,9 @@ class RouteShader final : public QSGMaterialShader {
         }
         UniformBlock block(*state.uniformData());
         block.write(state.combinedMatrix());
-        block.write(QVector4D(material.scale, material.origin.x(), material.origin.y(), drawn));
         block.write(ink);
         block.write(premultiplied(style.casing));
-        block.write(QVector4D(core, whole, material.devicePixels, state.opacity()));
+        block.write(QVector4D(core, whole, drawn, material.devicePixels));
         return true;
     }
 };

@@ -1,10 +1,9 @@
 #pragma once
-// Draws a RouteMesh: a core of constant width in pixels within a casing, edges smoothed.
+// Draws a RouteStrip: a core of constant width in pixels within a casing, edges smoothed.
 
 #include <QColor>
 #include <QSGGeometry>
 #include <QSGMaterial>
-#include <QVector2D>
 
 #include <optional>
 
@@ -23,12 +22,10 @@ class RouteMaterial final : public QSGMaterial {
   public:
     RouteMaterial();
 
-    /// The vertex format of RouteMesh.
+    /// The vertex format of RouteStrip.
     static const QSGGeometry::AttributeSet& attributes();
 
     RouteStyle style;
-    float scale = 1;        ///< item pixels per pixel of the mesh
-    QVector2D origin;       ///< of the mesh, in item pixels
     float devicePixels = 1; ///< device pixels per item pixel
 
     [[nodiscard]] QSGMaterialType* type() const override;

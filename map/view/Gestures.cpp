@@ -1,6 +1,7 @@
 #include "map/view/Gestures.h"
 
 #include <cmath>
+#include <numbers>
 
 namespace vasker {
 
@@ -8,6 +9,12 @@ namespace {
 
 /// A notch of a wheel is 120 eighths of a degree; two notches double the scale.
 constexpr double angleDeltaPerDoubling = 240;
+constexpr double touchpadPixelsPerDoubling = 150;
+constexpr double turnDegreesPerPixel = 0.5;
+constexpr double tiltDegreesPerPixel = 0.4;
+/// Fingers that spread are never quite straight.
+constexpr double pinchTurnThreshold = 8;
+constexpr double settlingDegrees = 4;
 
 double distance(ScreenPoint a, ScreenPoint b) {
     return std::hypot(a.x - b.x, a.y - b.y);
@@ -17,30 +24,76 @@ ScreenPoint middle(ScreenPoint a, ScreenPoint b) {
     return {(a.x + b.x) / 2, (a.y + b.y) / 2};
 }
 
+/// The direction from `a` to `b` in degrees, clockwise on the screen.
+double direction(ScreenPoint a, ScreenPoint b) {
+    return std::atan2(b.y - a.y, b.x - a.x) * 180 / std::numbers::pi;
+}
+
 } // namespace
 
 double wheelZoomFactor(double angleDelta) noexcept {
     return std::exp2(angleDelta / angleDeltaPerDoubling);
 }
 
+double touchpadZoomFactor(double pixels) noexcept {
+    return std::exp2(pixels / touchpadPixelsPerDoubling);
+}
+
+CameraPose settled(const CameraPose& pose) noexcept {
+    CameraPose result = pose;
+    if (std::abs(std::remainder(pose.bearing, 360)) < settlingDegrees) {
+        result.bearing = 0;
+    }
+    if (pose.pitch < settlingDegrees) {
+        result.pitch = 0;
+    }
+    return result;
+}
+
 Camera Drag::moved(const Camera& camera, ScreenPoint point) noexcept {
-    m_dragging = m_dragging || distance(m_pressed, point) >= dragThreshold;
+    m_dragging = m_dragging || distance(m_pressed, point) >= m_threshold;
     if (!m_dragging) {
         return camera;
     }
-    const Camera panned = camera.panned(point.x - m_last.x, point.y - m_last.y);
+    const Camera dragged = camera.dragged(m_last, point);
     m_last = point;
-    return panned;
+    return dragged;
+}
+
+Camera TurnDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
+    if (!m_turning && distance(m_pressed, point) < dragThreshold) {
+        return camera;
+    }
+    m_turning = true;
+    const Camera turned = camera.turned((point.x - m_last.x) * turnDegreesPerPixel, camera.focus())
+                              .tilted((m_last.y - point.y) * tiltDegreesPerPixel);
+    m_last = point;
+    return turned;
+}
+
+double Pinch::turnFor(double degrees) noexcept {
+    m_twist += degrees;
+    if (m_turning) {
+        return -degrees;
+    }
+    const double beyond = std::abs(m_twist) - pinchTurnThreshold;
+    m_turning = beyond >= 0;
+    return m_turning ? -std::copysign(beyond, m_twist) : 0;
 }
 
 Camera Pinch::moved(const Camera& camera, ScreenPoint first, ScreenPoint second) noexcept {
     const ScreenPoint before = middle(m_first, m_second);
     const ScreenPoint after = middle(first, second);
     const double spread = distance(m_first, m_second);
-    const double factor = spread > 0 ? distance(first, second) / spread : 1;
+    const bool hasDirection = spread > 0 && distance(first, second) > 0;
+    const double factor = hasDirection ? distance(first, second) / spread : 1;
+    const double turn =
+        hasDirection
+            ? turnFor(std::remainder(direction(first, second) - direction(m_first, m_second), 360))
+            : 0;
     m_first = first;
     m_second = second;
-    return camera.panned(after.x - before.x, after.y - before.y).zoomed(factor, after);
+    return camera.dragged(before, after).zoomed(factor, after).turned(turn, after);
 }
 
 } // namespace vasker

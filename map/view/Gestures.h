@@ -3,21 +3,25 @@
 
 #include "map/geometry/Camera.h"
 
-#include <optional>
-
 namespace vasker {
 
-/// A press that moves less than this, in logical pixels, is a click.
+/// A press that moves less than this, in logical pixels, is a click; a finger is less steady.
 inline constexpr double dragThreshold = 4;
+inline constexpr double touchDragThreshold = 10;
 
-/// How much nearer one notch of a wheel, one double click and one pixel of a touchpad come.
+/// How much nearer one notch of a wheel, a way on a touchpad and one double click come.
 [[nodiscard]] double wheelZoomFactor(double angleDelta) noexcept;
+[[nodiscard]] double touchpadZoomFactor(double pixels) noexcept;
 inline constexpr double doubleClickZoomFactor = 2;
+
+/// A bearing or a pitch that a gesture has left nearly at 0 is meant to be 0.
+[[nodiscard]] CameraPose settled(const CameraPose& pose) noexcept;
 
 /// A pointer that is pressed on the map: a click, or a drag once it has left its place.
 class Drag {
   public:
-    explicit Drag(ScreenPoint pressed) noexcept : m_pressed(pressed), m_last(pressed) {}
+    explicit Drag(ScreenPoint pressed, double threshold = dragThreshold) noexcept
+        : m_pressed(pressed), m_last(pressed), m_threshold(threshold) {}
 
     /// The camera after the pointer moved to `point`; the ground stays under it.
     [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint point) noexcept;
@@ -27,10 +31,27 @@ class Drag {
   private:
     ScreenPoint m_pressed;
     ScreenPoint m_last;
+    double m_threshold; ///< pixels; 0: never a click
     bool m_dragging = false;
 };
 
-/// Two fingers on the map: the ground under them stays under them.
+/// The second way to drag: across turns the camera, upwards leans it back, about its centre.
+class TurnDrag {
+  public:
+    explicit TurnDrag(ScreenPoint pressed) noexcept : m_pressed(pressed), m_last(pressed) {}
+
+    [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint point) noexcept;
+    [[nodiscard]] bool isClick() const noexcept { return !m_turning; }
+    [[nodiscard]] ScreenPoint pressed() const noexcept { return m_pressed; }
+
+  private:
+    ScreenPoint m_pressed;
+    ScreenPoint m_last;
+    bool m_turning = false;
+};
+
+/// Two fingers on the map: the ground under them stays under them. The camera turns with them only
+/// once they have turned by more than a few degrees, so that a plain zoom keeps its bearing.
 class Pinch {
   public:
     Pinch(ScreenPoint first, ScreenPoint second) noexcept : m_first(first), m_second(second) {}
@@ -39,8 +60,13 @@ class Pinch {
     moved(const Camera& camera, ScreenPoint first, ScreenPoint second) noexcept;
 
   private:
+    /// How far the camera turns when the fingers turn by `degrees` clockwise.
+    [[nodiscard]] double turnFor(double degrees) noexcept;
+
     ScreenPoint m_first;
     ScreenPoint m_second;
+    double m_twist = 0; ///< degrees that the fingers have turned so far
+    bool m_turning = false;
 };
 
 } // namespace vasker

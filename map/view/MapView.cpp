@@ -1,24 +1,63 @@
 #include "map/view/MapView.h"
 
-#include "map/Symbols.h"
-#include "map/records/HitTest.h"
+#include "map/scene/MapColors.h"
+#include "map/scene/Renderer.h"
+#include "map/view/BasemapChoice.h"
+#include "platform/Locale.h"
 
+#include <QLocale>
 #include <QQuickWindow>
 
-#include <algorithm>
+#include <chrono>
+#include <utility>
 
 namespace vasker {
 
 namespace {
 
-Rgb rgbOf(const QColor& color) {
-    return {static_cast<std::uint8_t>(color.red()),
-            static_cast<std::uint8_t>(color.green()),
-            static_cast<std::uint8_t>(color.blue())};
+/// After a camera that moves has stood still for so long, it rests.
+constexpr std::chrono::milliseconds restTime{90};
+
+MapLanguage mapLanguage() {
+    static const bool isFrench = QLocale(messagesLocale()).language() == QLocale::French;
+    return isFrench ? MapLanguage::french : MapLanguage::english;
 }
 
-std::string_view viewOf(const QByteArray& bytes) {
-    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+/// Where a picture is seen. At rest and upright it stands on whole device pixels.
+TileQuad quadOf(const ShownTile& shown, const Camera& camera, double devicePixels) {
+    const PaintedTile& tile = *shown.tile;
+    const double scale = tile.devicePixelsPerMapPoint;
+    TileQuad quad{shown.tile, {}, static_cast<float>(shown.opacity)};
+    if (shown.opacity == 0) {
+        return quad; // no area
+    }
+    const double west = static_cast<double>(tile.pixels.x);
+    const double north = static_cast<double>(tile.pixels.y);
+    const double ratio = camera.scale() * devicePixels / scale;
+    if (camera.isUpright() && std::abs(ratio - 1) < 1e-4) {
+        const ScreenPoint focus = camera.focus();
+        const auto snapped = [devicePixels](double focusPixels, double centerPixels) {
+            return std::round(focusPixels * devicePixels - centerPixels);
+        };
+        const double x = west + snapped(focus.x, (camera.center().x - shown.shift) * scale);
+        const double y = north + snapped(focus.y, camera.center().y * scale);
+        const auto corner = [devicePixels](double right, double down) -> PerspectivePoint {
+            return {right / devicePixels, down / devicePixels, 1};
+        };
+        quad.corners = {corner(x, y),
+                        corner(x + tile.pixels.width, y),
+                        corner(x + tile.pixels.width, y + tile.pixels.height),
+                        corner(x, y + tile.pixels.height)};
+        return quad;
+    }
+    const auto corner = [&](double right, double down) {
+        return camera.worldToPerspective({right / scale + shown.shift, down / scale});
+    };
+    quad.corners = {corner(west, north),
+                    corner(west + tile.pixels.width, north),
+                    corner(west + tile.pixels.width, north + tile.pixels.height),
+                    corner(west, north + tile.pixels.height)};
+    return quad;
 }
 
 } // namespace
@@ -26,26 +65,23 @@ std::string_view viewOf(const QByteArray& bytes) {
 MapView::MapView(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemHasContents);
     setClip(true);
-    setAcceptedMouseButtons(Qt::LeftButton);
+    setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
     setAcceptHoverEvents(true);
     setAcceptTouchEvents(true);
+    connect(&m_motion, &MapMotion::advanced, this, &MapView::move);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(restTime);
+    connect(&m_rest, &QTimer::timeout, this, &MapView::redraw);
+    m_clock.start();
 }
 
+MapView::~MapView() = default;
+
 void MapView::setRecords(const RecordSet& records) {
-    if (records == m_records) {
+    if (records == m_mapRecords.records()) {
         return;
     }
-    const bool sameRelease = records.loaded == m_records.loaded;
-    m_records = records;
-    if (!sameRelease) {
-        refreshTints();
-        m_selected = m_records.loaded ? m_records.loaded->index.find(viewOf(m_selection.toUtf8()))
-                                      : std::nullopt;
-    }
-    m_markers = m_records.loaded ? markersByPrecedence(m_records) : std::vector<Marker>();
-    m_layoutLevel.reset();
-    m_picture.routes.reset();
-    refreshSelectedRoute();
+    m_mapRecords.setRecords(records);
     redraw();
     Q_EMIT recordsChanged();
 }
@@ -55,12 +91,19 @@ void MapView::setSelection(const QString& id) {
         return;
     }
     m_selection = id;
-    m_selected =
-        m_records.loaded ? m_records.loaded->index.find(viewOf(id.toUtf8())) : std::nullopt;
-    m_layoutLevel.reset();
-    refreshSelectedRoute();
+    m_mapRecords.setSelection(id);
     redraw();
     Q_EMIT selectionChanged();
+}
+
+void MapView::setHovered(const QString& id) {
+    if (id == m_hovered) {
+        return;
+    }
+    m_hovered = id;
+    m_mapRecords.setHovered(id);
+    redraw();
+    Q_EMIT hoveredChanged();
 }
 
 void MapView::setCamera(const CameraPosition& camera) {
@@ -68,19 +111,76 @@ void MapView::setCamera(const CameraPosition& camera) {
         return;
     }
     m_camera = camera;
+    if (m_movedTo && camera == CameraPosition(*m_movedTo)) {
+        m_rest.start();
+    } else { // somebody else has moved it
+        m_motion.cancel();
+        m_rest.stop();
+    }
     redraw();
     Q_EMIT cameraChanged();
+    Q_EMIT viewChanged();
+}
+
+void MapView::setBasemap(const QString& basemap) {
+    if (basemap != m_basemap) {
+        m_basemap = basemap;
+        refreshLook();
+    }
 }
 
 void MapView::setDark(bool dark) {
-    if (dark == m_dark) {
+    if (dark != m_dark) {
+        m_dark = dark;
+        refreshLook();
+    }
+}
+
+void MapView::refreshLook() {
+    const BasemapLook look = basemapLook(m_basemap, m_dark);
+    if (look != m_picture.look) {
+        m_picture.look = look;
+        m_mapRecords.setLook(look);
+        redraw();
+    }
+    Q_EMIT lookChanged();
+}
+
+bool MapView::showsImagery() const noexcept {
+    return m_picture.look == BasemapLook::satellite || m_picture.look == BasemapLook::hybrid;
+}
+
+QObject* MapView::tiles() const noexcept {
+    return m_tiles;
+}
+
+void MapView::setTiles(QObject* tiles) {
+    auto* library = qobject_cast<TileLibrary*>(tiles);
+    if (library == m_tiles) {
         return;
     }
-    m_dark = dark;
-    refreshTints();
-    refreshSelectedRoute();
+    m_store.reset();
+    m_tiles = library;
+    if (library != nullptr) {
+        m_store = std::make_unique<TileStore>(*library);
+        connect(m_store.get(), &TileStore::changed, this, &MapView::redraw);
+    }
     redraw();
-    Q_EMIT darkChanged();
+    Q_EMIT tilesChanged();
+}
+
+void MapView::setTextScale(double scale) {
+    if (scale != m_textScale) {
+        m_textScale = scale;
+        redraw();
+        Q_EMIT textScaleChanged();
+    }
+}
+
+void MapView::setDots(Dots dots) {
+    m_choosesDots = false;
+    m_dots = dots;
+    redraw();
 }
 
 void MapView::redraw() {
@@ -88,96 +188,100 @@ void MapView::redraw() {
     update();
 }
 
+/// For the next frame, from within one.
+void MapView::redrawSoon() {
+    QMetaObject::invokeMethod(this, &MapView::redraw, Qt::QueuedConnection);
+}
+
 Camera MapView::resolvedCamera() const {
-    return {m_camera, {width(), height()}};
-}
-
-/// Colours follow the release and the appearance.
-void MapView::refreshTints() {
-    m_tints.clear();
-    m_picture.routes.reset();
-    m_picture.balloonPicture.reset();
-    m_picture.scheme = m_dark ? ColorScheme::dark : ColorScheme::light;
-    if (m_records.loaded) {
-        for (const auto& asset : m_records.loaded->index.release().assets) {
-            m_tints.push_back(rgbOf(colorValue(color(asset.kind), m_picture.scheme)));
-        }
-    }
-}
-
-void MapView::refreshSelectedRoute() {
-    m_picture.selectedRoute.reset();
-    const bool isShown = m_selected && std::find(m_records.filtered->begin(),
-                                                 m_records.filtered->end(),
-                                                 *m_selected) != m_records.filtered->end();
-    if (isShown) {
-        RouteColors colors(m_tints.size());
-        colors[*m_selected] = m_tints[*m_selected];
-        m_picture.selectedRoute = std::make_shared<RouteContent>(RouteContent{
-            m_records.loaded, m_records.loaded->geometry.runsOf(*m_selected), std::move(colors)});
-    }
+    return {m_camera, {width(), height(), m_coveredBelow, m_coveredRight}};
 }
 
 void MapView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
-    redraw();
+    if (newGeometry.size() != oldGeometry.size()) {
+        m_motion.cancel();
+        redraw();
+        Q_EMIT viewChanged();
+    }
 }
 
 void MapView::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemDevicePixelRatioHasChanged) {
-        m_picture.balloonPicture.reset();
+        m_mapRecords.setLook(m_picture.look);
         redraw();
     }
     QQuickItem::itemChange(change, data);
 }
 
 void MapView::updatePolish() {
-    if (!m_records.loaded || window() == nullptr) {
+    if (window() == nullptr) {
         return;
     }
-    const ReleaseIndex& index = m_records.loaded->index;
-    m_picture.camera = resolvedCamera();
+    const Camera camera = resolvedCamera();
+    m_picture.size = size();
     m_picture.devicePixels = static_cast<float>(window()->effectiveDevicePixelRatio());
-    if (!m_picture.routes) {
-        RouteColors colors(m_tints.size());
-        for (const AssetIndex asset : *m_records.filtered) {
-            colors[asset] = m_tints[asset];
-        }
-        m_picture.routes = std::make_shared<RouteContent>(
-            RouteContent{m_records.loaded, m_records.loaded->geometry.runs(), std::move(colors)});
+    m_picture.tiles.clear();
+    std::shared_ptr<const TileInk> shownInk;
+    if (m_store) {
+        lookAtGround(camera);
+        shownInk = m_store->shownInk();
     }
-    if (!m_picture.balloonPicture) {
-        m_picture.balloonPicture = std::make_shared<BalloonPicture>(
-            index.kinds(), m_picture.scheme, window()->effectiveDevicePixelRatio());
+    // Without pictures of the ground nothing can be painted into them.
+    m_mapRecords.place(camera, m_store ? m_dots : Dots::drawn, shownInk.get(), m_picture);
+    m_names.place(m_store ? m_store->names() : std::vector<PlaceName>(),
+                  m_mapRecords.titledBalloons(m_pointed),
+                  camera,
+                  m_textScale,
+                  m_picture,
+                  m_rest.isActive() ? MapNames::Pace::moving : MapNames::Pace::resting);
+    if (m_names.isUnfinished()) {
+        redrawSoon();
     }
-    const DetailLevel level = DetailLevel::forScale(m_picture.camera.scale());
-    if (m_layoutLevel != level) {
-        m_layout = markerLayout(m_markers, m_selected, level);
-        m_layoutLevel = level;
-    }
-    refreshMarks();
+    publishAttribution();
 }
 
-void MapView::refreshMarks() {
-    m_frame = markerFrame(m_layout, m_selected, m_picture.camera);
-    const auto& assets = m_records.loaded->index.release().assets;
-    m_picture.dots.clear();
-    for (const PlacedMarker& dot : m_frame.dots) {
-        m_picture.dots.push_back(
-            {static_cast<float>(dot.point.x), static_cast<float>(dot.point.y), m_tints[dot.asset]});
+void MapView::lookAtGround(const Camera& camera) {
+    const auto density = static_cast<double>(m_picture.devicePixels);
+    GroundView view{.camera = camera,
+                    .devicePixelsPerPixel = density,
+                    .look = m_picture.look,
+                    .language = mapLanguage(),
+                    .isResting = !m_rest.isActive(),
+                    .fades = !reducedMotion(),
+                    .inkRevision = 0,
+                    .ink = {}};
+    if (m_dots == Dots::painted) {
+        view.inkRevision = m_mapRecords.revision();
+        view.ink = [this, density](double scale) { return m_mapRecords.ink(scale, density); };
     }
-    m_picture.balloons.clear();
-    const auto addBalloon = [&](const PlacedMarker& balloon, BalloonState state) {
-        const ScreenPoint tip = BalloonPicture::tip(state);
-        m_picture.balloons.push_back(
-            {{balloon.point.x - tip.x, balloon.point.y - tip.y},
-             m_picture.balloonPicture->cut(assets[balloon.asset].kind, state)});
-    };
-    for (const PlacedMarker& balloon : m_frame.balloons) {
-        addBalloon(balloon, BalloonState::plain);
+    m_store->look(view, std::chrono::nanoseconds(m_clock.nsecsElapsed()));
+    for (const ShownTile& shown : m_store->shown()) {
+        m_picture.tiles.push_back(quadOf(shown, camera, density));
     }
-    if (m_frame.selected) {
-        addBalloon(*m_frame.selected, BalloonState::selected);
+    if (m_store->isChanging()) {
+        redrawSoon();
+    }
+}
+
+bool MapView::isComplete() const {
+    return m_store && m_store->isComplete();
+}
+
+void MapView::publishAttribution() {
+    QVariantList attribution;
+    bool lacksImagery = false;
+    if (m_store) {
+        for (const GroundCredit& credit : m_store->credits()) {
+            attribution.append(QVariantMap{{QStringLiteral("text"), credit.text},
+                                           {QStringLiteral("address"), credit.address}});
+        }
+        lacksImagery = m_store->lacksImagery();
+    }
+    if (attribution != m_attribution || lacksImagery != m_lacksImagery) {
+        m_attribution = std::move(attribution);
+        m_lacksImagery = lacksImagery;
+        Q_EMIT attributionChanged();
     }
 }
 
@@ -185,26 +289,18 @@ QSGNode* MapView::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* /*data*
     auto* node = static_cast<MapNode*>(oldNode);
     if (node == nullptr) {
         node = new MapNode;
+        // The textures of an earlier node are gone, and with them the pictures they were made of.
+        if (m_store) {
+            m_store->forgetTextures();
+            redrawSoon();
+        }
+        if (std::exchange(m_choosesDots, false) && !rendersInSoftware()) {
+            m_dots = Dots::drawn;
+            redrawSoon();
+        }
     }
     node->update(m_picture, *window());
     return node;
-}
-
-std::optional<AssetIndex> MapView::hit(ScreenPoint point) const {
-    if (!m_picture.routes) {
-        return std::nullopt;
-    }
-    return hitTest(point,
-                   m_picture.camera,
-                   m_frame,
-                   m_records.loaded->geometry,
-                   m_picture.routes->colors,
-                   m_selected);
-}
-
-QString MapView::idOf(std::optional<AssetIndex> asset) const {
-    return asset ? QString::fromStdString(m_records.loaded->index.release().assets[*asset].id)
-                 : QString();
 }
 
 } // namespace vasker

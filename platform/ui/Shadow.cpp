@@ -41,8 +41,11 @@ double margin(const Elevation& raised) {
     return std::ceil(raised.blur * 1.5 + raised.down);
 }
 
-double corner(const Elevation& raised, double radius) {
-    return std::ceil(radius + raised.blur * 1.5);
+// How far a corner reaches into the surface: as far as the shadow is curved, unless the surface is
+// too small for two such corners, as a disc is.
+double corner(const Elevation& raised, double radius, QSizeF surface) {
+    const double room = std::floor(std::min(surface.width(), surface.height()) / 2);
+    return std::max(std::ceil(radius), std::min(std::ceil(radius + raised.blur * 1.5), room));
 }
 
 // One pass of a moving mean over a row or column of `count` bytes that lie `stride` apart. Three
@@ -74,9 +77,9 @@ void blur(QImage& alpha, double deviation) {
     }
 }
 
-QImage bake(const Elevation& raised, double radius, double pixelRatio) {
+QImage bake(const Elevation& raised, double radius, double reach, double pixelRatio) {
     const double edge = margin(raised);
-    const double side = 2 * (edge + corner(raised, radius)) + 1;
+    const double side = 2 * (edge + reach) + 1;
     const int pixels = static_cast<int>(std::ceil(side * pixelRatio));
     const QRectF surface(edge, edge, side - 2 * edge, side - 2 * edge);
 
@@ -104,12 +107,12 @@ QImage bake(const Elevation& raised, double radius, double pixelRatio) {
     return picture;
 }
 
-QImage baked(int level, bool dark, double radius, double pixelRatio) {
+QImage baked(int level, bool dark, double radius, double reach, double pixelRatio) {
     static QHash<QString, QImage> cache;
-    QImage& picture =
-        cache[QStringLiteral("%1 %2 %3 %4").arg(level).arg(dark).arg(radius).arg(pixelRatio)];
+    const QString key = QStringLiteral("%1 %2 %3 %4 %5");
+    QImage& picture = cache[key.arg(level).arg(dark).arg(radius).arg(reach).arg(pixelRatio)];
     if (picture.isNull()) {
-        picture = bake(elevation(level, dark), radius, pixelRatio);
+        picture = bake(elevation(level, dark), radius, reach, pixelRatio);
     }
     return picture;
 }
@@ -145,13 +148,15 @@ QSGNode* Shadow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
         node = window()->createNinePatchNode();
         m_pictureIsStale = true;
     }
-    if (m_pictureIsStale) {
+    const double reach = corner(raised, m_radius, size());
+    if (m_pictureIsStale || reach != m_reach) {
         m_pictureIsStale = false;
+        m_reach = reach;
         node->setTexture(
-            window()->createTextureFromImage(baked(m_level, m_dark, m_radius, pixelRatio)));
+            window()->createTextureFromImage(baked(m_level, m_dark, m_radius, reach, pixelRatio)));
     }
     const double edge = margin(raised);
-    const double patch = edge + corner(raised, m_radius);
+    const double patch = edge + reach;
     node->setBounds(QRectF(0, 0, width(), height()).adjusted(-edge, -edge, edge, edge));
     node->setDevicePixelRatio(pixelRatio);
     node->setPadding(patch, patch, patch, patch);

@@ -30,6 +30,7 @@ class Shadow : public QQuickItem {
     int m_level = 2;
     double m_radius = 0;
     bool m_dark = false;
+    double m_reach = 0; ///< of the corners in the picture
     bool m_pictureIsStale = true;
 };
 

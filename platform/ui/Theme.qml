@@ -22,6 +22,8 @@ QtObject {
     readonly property color ink3: dark ? "#7F8790" : "#7B828B"
     readonly property color accent: dark ? "#84B8FF" : "#1A5FD0"
     readonly property color onAccent: dark ? "#0E1318" : "#FFFFFF"
+    // The compass needle's end; the red of the records.
+    readonly property color north: dark ? "#FD504B" : "#CC1C46"
     readonly property color selected: dark ? "#2A3A50" : "#E4EDFB"
     readonly property color hover: Qt.alpha(ink, 0.06)
     readonly property color pressed: Qt.alpha(ink, 0.11)
@@ -99,6 +101,12 @@ QtObject {
     readonly property TextStyle captionLine: TextStyle {
         size: 12
         line: 15
+        scale: root.textScale
+    }
+    // Scale and attribution, on the map itself.
+    readonly property TextStyle mapNote: TextStyle {
+        size: 11
+        line: 14
         scale: root.textScale
     }
     readonly property TextStyle menuTitle: TextStyle {

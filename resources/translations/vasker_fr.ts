@@ -129,10 +129,6 @@
         <source>Facility, pipeline or reporting company</source>
         <translation>Installation, pipeline ou entreprise déclarante</translation>
     </message>
-    <message>
-        <source>Canadian energy infrastructure map</source>
-        <translation>Carte de l’infrastructure énergétique canadienne</translation>
-    </message>
 </context>
 <context>
     <name>vasker::KindListModel</name>
@@ -162,6 +158,70 @@
     <message>
         <source>No results for “%1”</source>
         <translation>Aucun résultat pour « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>Caption</name>
+    <message>
+        <source>Selected reporting records and routes. Dates and reporting boundaries vary; this is not a complete or survey-grade map.</source>
+        <translation>Fiches et tracés choisis parmi les déclarations. Les dates et les périmètres de déclaration varient; cette carte n’est ni complète ni de précision topographique.</translation>
+    </message>
+</context>
+<context>
+    <name>Compass</name>
+    <message>
+        <source>Set north up</source>
+        <translation>Orienter vers le nord</translation>
+    </message>
+</context>
+<context>
+    <name>MapCanvas</name>
+    <message>
+        <source>Canadian energy infrastructure map</source>
+        <translation>Carte de l’infrastructure énergétique canadienne</translation>
+    </message>
+    <message>
+        <source>Satellite imagery needs a network connection</source>
+        <translation>L’imagerie satellite nécessite une connexion réseau</translation>
+    </message>
+</context>
+<context>
+    <name>PickList</name>
+    <message numerus="yes">
+        <source>%n records at this place</source>
+        <translation>
+            <numerusform>%n fiche à cet endroit</numerusform>
+            <numerusform>%n fiches à cet endroit</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ScaleBar</name>
+    <message>
+        <source>Scale: %1</source>
+        <translation>Échelle : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomButtons</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::CameraReadout</name>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 km</source>
+        <translation>%1 km</translation>
     </message>
 </context>
 </TS>

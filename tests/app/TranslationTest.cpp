@@ -1,6 +1,7 @@
 #include "map/CategoryText.h"
 #include "map/catalogue/KindListModel.h"
 #include "map/catalogue/RecordListModel.h"
+#include "map/view/CameraReadout.h"
 #include "platform/Locale.h"
 #include "tests/support/ReleaseBuilder.h"
 
@@ -29,6 +30,10 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
     EXPECT_EQ(categoryText("compressor_station"), QStringLiteral("Compressor_station"));
     EXPECT_EQ(categoryText(""), QString());
     EXPECT_EQ(KindListModel().currentLabel(), QStringLiteral("Toutes les catégories"));
+
+    const QLocale french(QStringLiteral("fr_CA"));
+    EXPECT_EQ(distanceText(400'000, french), QStringLiteral("400\u00a0km"));
+    EXPECT_EQ(distanceText(20, french), QStringLiteral("20\u00a0m"));
 
     RecordListModel model;
     model.setRecords(records({0, 1}));

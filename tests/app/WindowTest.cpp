@@ -54,7 +54,8 @@ class Window : public testing::Test {
         m_application =
             std::make_unique<OpenMapApp>(Bundle(m_folder.path()),
                                          TextLocale("en"),
-                                         m_folder.filePath(QStringLiteral("preferences")));
+                                         m_folder.filePath(QStringLiteral("preferences")),
+                                         m_folder.filePath(QStringLiteral("cache")));
         m_window = m_application->openWindow();
         m_root = m_window->findChild<OpenMapRoot*>();
         ASSERT_NE(m_root, nullptr);
@@ -225,6 +226,59 @@ TEST_F(Window, CanadaBringsTheOverviewBackAndLeavesTheSelection) {
     EXPECT_EQ(selection(), "A-7");
     workspace().setCamera(MapRect{1, 2, 3, 4});
     click(item("open-map-reset"));
+    EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
+}
+
+TEST_F(Window, TheCaptionStripIsAMarginOfTheMap) {
+    openRecords();
+    QQuickItem* const map = item("open-map-canvas");
+    EXPECT_GE(map->property("coveredBelow").toDouble(), 36);
+    click(item("open-map-caption"));
+    EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
+}
+
+TEST_F(Window, TheMapIsZoomedAndSetUprightByItsControls) {
+    openRecords();
+    QQuickItem* const map = item("open-map-canvas");
+    map->setProperty("reducedMotion", true);
+    const auto pose = [&] { return std::get<CameraPose>(workspace().camera()); };
+    press(item("open-map-zoom-in"));
+    const double scale = pose().scale;
+    click(item("open-map-zoom-in"));
+    EXPECT_NEAR(pose().scale / scale, 2, 1e-9);
+    press(item("open-map-zoom-out"));
+    EXPECT_NEAR(pose().scale / scale, 1, 1e-9);
+
+    QQuickItem* const compass = item("open-map-compass");
+    EXPECT_FALSE(compass->property("shown").toBool());
+    CameraPose turned = pose();
+    turned.bearing = 120;
+    turned.pitch = 30;
+    workspace().setCamera(turned);
+    EXPECT_TRUE(compass->property("shown").toBool());
+    click(compass);
+    EXPECT_EQ(pose().bearing, 0);
+    EXPECT_EQ(pose().pitch, 0);
+    EXPECT_FALSE(compass->property("shown").toBool());
+    compass->forceActiveFocus();
+    EXPECT_TRUE(compass->property("shown").toBool());
+}
+
+TEST_F(Window, TheKeyboardReachesTheMapAndItsControls) {
+    openRecords();
+    item("open-map-canvas")->forceActiveFocus();
+    std::vector<std::string> names;
+    for (int tab = 0; tab < 3; ++tab) {
+        key(Qt::Key_Tab);
+        names.push_back(m_window->activeFocusItem()->objectName().toStdString());
+    }
+    EXPECT_EQ(
+        names,
+        (std::vector<std::string>{"open-map-compass", "open-map-zoom-in", "open-map-zoom-out"}));
+    item("open-map-canvas")->setProperty("reducedMotion", true);
+    key(Qt::Key_Plus); // what a control does not need is for the map
+    EXPECT_NE(workspace().camera(), CameraPosition(canadaOverview));
+    key(Qt::Key_Home);
     EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
 }
 

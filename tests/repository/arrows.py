@@ -20,6 +20,26 @@ ARROWS = {
     "map/geometry/": {"map/geometry/"},
     "map/basemap/": {"map/basemap/", "map/geometry/"},
     "map/records/": {"map/records/", "map/RecordSet", "map/geometry/", "data/"},
+    "map/scene/": {
+        "map/scene/",
+        "map/Symbols",
+        "map/records/",
+        "map/basemap/",
+        "map/geometry/",
+        "platform/",
+    },
+    "map/view/": {
+        "map/view/",
+        "map/scene/",
+        "map/CategoryText",
+        "map/RecordSet",
+        "map/Symbols",
+        "map/records/",
+        "map/basemap/",
+        "map/geometry/",
+        "data/",
+        "platform/",
+    },
     "map/catalogue/": {
         "map/catalogue/",
         "map/CategoryText",
@@ -47,12 +67,19 @@ PRIVATE_HEADERS = (
     (r"uriparser/", ("data/WebAddress",), "the URL parser"),
     (r"sqlite3", ("map/basemap/",), "SQLite"),
     (r"protozero/", ("map/basemap/",), "protozero"),
+    (r"zlib|zconf", ("map/basemap/",), "zlib"),
+    (
+        r"QtNetwork$|QNetwork|QSsl|QTcp|QUdp|QHttp|QHost|QDns|QAbstractSocket|QLocalS(erver|ocket)",
+        ("map/basemap/",),
+        "the network",
+    ),
     (r"QSGNode$", ("map/scene/", "map/view/MapView", "platform/ui/"), "the scene graph"),
     # An icon is one picture in one tint: the stock node draws it.
     (r"QSGImageNode$", ("map/scene/", "platform/ui/Icon"), "the scene graph"),
     (r"QSGNinePatchNode$", ("platform/ui/Shadow",), "the scene graph"),
     (
-        r"QSG(?!(Image|NinePatch)?Node$)|QRhi|private/(qsg|qrhi)|rhi/|QOpenGL|GL/|GLES|EGL/|vulkan/",
+        r"QSG(?!(Image|NinePatch)?Node$)|QRhi|private/(qsg|qrhi)|rhi/|"
+        r"Qt?OpenGL|GL/|GLES|EGL/|vulkan/",
         ("map/scene/",),
         "the GPU",
     ),
@@ -96,8 +123,9 @@ def include_faults(root, path, own, system):
             yield f'"{own}" is not below {path.rsplit("/", 1)[0]}'
     if not path.startswith(PRODUCT):
         return
+    bare = re.sub(r"^Qt[A-Z]\w*/", "", header)
     for pattern, places, name in PRIVATE_HEADERS:
-        if re.match(pattern, header) and not within(path, places):
+        if re.match(pattern, bare) and not within(path, places):
             yield f"<{header}>: only {' and '.join(places)} may know {name}"
     if system and path.startswith("data/") and QT.match(system):
         yield f"<{system}>: data knows no Qt"

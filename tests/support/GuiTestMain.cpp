@@ -3,7 +3,24 @@
 
 #include <QGuiApplication>
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <link.h>
+
+namespace {
+
+/// Keeps what is loaded in memory to the end of the process: of a leak in a library that is gone,
+/// as graphics drivers are by then, the sanitizer could not tell whose it is.
+void keepLoadedLibraries() {
+    dl_iterate_phdr(
+        [](dl_phdr_info* library, std::size_t, void*) {
+            dlopen(library->dlpi_name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+            return 0;
+        },
+        nullptr);
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleTest(&argc, argv);
@@ -11,5 +28,7 @@ int main(int argc, char* argv[]) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QGuiApplication application(argc, argv);
-    return RUN_ALL_TESTS();
+    const int result = RUN_ALL_TESTS();
+    keepLoadedLibraries();
+    return result;
 }

@@ -1,6 +1,7 @@
 #version 440
 
 layout(location = 0) in vec3 color;
+layout(location = 1) in vec2 place;
 
 layout(location = 0) out vec4 fragment;
 
@@ -11,7 +12,7 @@ layout(std140, binding = 0) uniform Block {
 } block;
 
 void main() {
-    float distance = length(gl_PointCoord - vec2(0.5)) * 2.0 * (block.sizes.y + 0.5);
+    float distance = length(place);
     float core = clamp(block.sizes.x + 0.5 - distance, 0.0, 1.0);
     float edge = clamp(block.sizes.y + 0.5 - distance, 0.0, 1.0);
     fragment = vec4(color * core, core) + block.casing * (edge * (1.0 - core));

@@ -5,6 +5,7 @@ layout(location = 0) in vec2 center; // item pixels
 layout(location = 1) in vec4 colorAndCorner;
 
 layout(location = 0) out vec3 color;
+layout(location = 1) out vec2 place; // device pixels from the centre
 
 layout(std140, binding = 0) uniform Block {
     mat4 itemToClip;
@@ -12,9 +13,10 @@ layout(std140, binding = 0) uniform Block {
     vec4 sizes;  // radius of the dot, radius with casing, both in device pixels; device pixels per item pixel
 } block;
 
-out gl_PerVertex { vec4 gl_Position; float gl_PointSize; };
 void main() {
+    float corner = floor(colorAndCorner.a * 255.0 + 0.5);
+    vec2 direction = corner == 0.0 ? vec2(0.0, -2.0) : vec2(corner == 1.0 ? 1.7320508 : -1.7320508, 1.0);
     color = colorAndCorner.rgb;
-    gl_PointSize = 2.0 * (block.sizes.y + 0.5);
-    gl_Position = block.itemToClip * vec4(center, 0.0, 1.0);
+    place = direction * (block.sizes.y + 0.5);
+    gl_Position = block.itemToClip * vec4(center + place / block.sizes.z, 0.0, 1.0);
 }

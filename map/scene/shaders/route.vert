@@ -1,6 +1,6 @@
 #version 440
 
-layout(location = 0) in vec2 position; // pixels of the level from the tile's corner
+layout(location = 0) in vec2 position; // on the line, in item pixels
 layout(location = 1) in vec2 offset;   // halves of the line's width
 layout(location = 2) in vec4 colorAndCorner;
 
@@ -9,17 +9,17 @@ layout(location = 1) out vec2 place; // across the line and beyond its end, in h
 
 layout(std140, binding = 0) uniform Block {
     mat4 itemToClip;
-    vec4 levelToItem; // scale, x, y of the tile's corner, half of the drawn width: in item pixels
-    vec4 ink;         // rgb and 1 to draw all lines in one colour; else w = 0
-    vec4 casing;      // premultiplied
-    vec4 widths;      // half of the core, half of the whole, device pixels per item pixel, opacity
+    vec4 ink;    // rgb and 1 to draw all lines in one colour; else w = 0
+    vec4 casing; // premultiplied
+    vec4 widths; // half of the core, of the whole, of what is drawn; device pixels per item pixel
 } block;
+
+out gl_PerVertex { vec4 gl_Position; };
 
 void main() {
     float corner = floor(colorAndCorner.a * 255.0 + 0.5);
     float tip = step(1.5, corner);
     place = vec2((corner - 2.0 * tip) * 2.0 - 1.0, tip);
     color = mix(colorAndCorner.rgb, block.ink.rgb, block.ink.w);
-    vec2 item = position * block.levelToItem.x + block.levelToItem.yz + offset * block.levelToItem.w;
-    gl_Position = block.itemToClip * vec4(item, 0.0, 1.0);
+    gl_Position = block.itemToClip * vec4(position + offset * block.widths.z, 0.0, 1.0);
 }

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace vasker {
 namespace {
@@ -29,6 +30,46 @@ TEST(Camera, ShowsAllOfARegionWhateverTheWindowsShape) {
     }
 }
 
+TEST(Camera, ShowsAllOfARegionAndOfARectangleInThePartThatNothingCovers) {
+    const MapRect wide{1e8, 1.1e8, 9e6, 1e5};
+    const MapRect tall{1e8, 0.9e8, 2e4, 7e6};
+    for (const Viewport shape : {Viewport{960, 748, 36, 0},
+                                 {579, 568, 52, 0},
+                                 {300, 2000, 400, 100},
+                                 {4000, 200, 150, 900},
+                                 {2240, 1388, 36, 420}}) {
+        for (const CameraPosition& wish :
+             {CameraPosition(canadaOverview), CameraPosition(wide), CameraPosition(tall)}) {
+            const Camera camera(wish, shape);
+            std::vector<MapPoint> corners;
+            if (const auto* rect = std::get_if<MapRect>(&wish)) {
+                corners = {{rect->x, rect->y}, {rect->x + rect->width, rect->y + rect->height}};
+            } else {
+                corners = {coordinateToMapPoint({64, -132}), coordinateToMapPoint({44, -92})};
+            }
+            for (const MapPoint corner : corners) {
+                const ScreenPoint point = camera.worldToScreen(corner);
+                EXPECT_GE(point.x, -1e-6);
+                EXPECT_GE(point.y, -1e-6);
+                EXPECT_LE(point.x, shape.width - shape.coveredRight + 1e-6);
+                EXPECT_LE(point.y, shape.height - shape.coveredBelow + 1e-6);
+            }
+        }
+    }
+}
+
+TEST(Camera, ShowsTheWholeWorldInTheNarrowestWindow) {
+    const Camera camera(MapRect{0, 0, worldSize, worldSize}, {90, 2000, 100, 20});
+    EXPECT_NEAR(camera.worldToScreen({0, 0}).x, 0, 1e-6);
+    EXPECT_NEAR(camera.worldToScreen({worldSize, worldSize}).x, 70, 1e-6);
+}
+
+TEST(Camera, MarginsThatCoverEverythingLeaveAPixel) {
+    const Camera camera(canadaOverview, {400, 300, 500, 1e9});
+    EXPECT_EQ(camera.focus(), (ScreenPoint{0.5, 0.5}));
+    EXPECT_GT(camera.scale(), 0);
+}
+
 TEST(Camera, KeepsARegionsCentreInTheMiddleOfTheWindow) {
     const Camera camera(canadaOverview, viewport);
     const ScreenPoint middle = camera.worldToScreen(coordinateToMapPoint({54, -112}));
@@ -45,16 +86,16 @@ TEST(Camera, ShowsAllOfARectangleAndNoMoreThanItMust) {
 
 TEST(Camera, WhatItShowsResolvesToTheSameCamera) {
     const Camera camera =
-        Camera(canadaOverview, viewport).zoomed(7.3, {100, 650}).panned(-33.3, 12.1);
-    const Camera again(camera.visibleRect(), viewport);
+        Camera(canadaOverview, viewport).zoomed(7.3, {100, 650}).dragged({0, 0}, {-33.3, 12.1});
+    const Camera again(camera.pose(), viewport);
     EXPECT_NEAR(again.scale() / camera.scale(), 1, 1e-12);
     EXPECT_NEAR(again.center().x, camera.center().x, 1e-6);
     EXPECT_NEAR(again.center().y, camera.center().y, 1e-6);
 }
 
 TEST(Camera, KeepsTheCentreWhenTheWindowIsResized) {
-    const Camera camera = Camera(canadaOverview, viewport).panned(200, -90);
-    const Camera resized(camera.visibleRect(), {579, 568});
+    const Camera camera = Camera(canadaOverview, viewport).dragged({0, 0}, {200, -90});
+    const Camera resized(camera.pose(), {579, 568});
     EXPECT_NEAR(resized.center().x, camera.center().x, 1e-6);
     EXPECT_NEAR(resized.center().y, camera.center().y, 1e-6);
 }
@@ -62,7 +103,7 @@ TEST(Camera, KeepsTheCentreWhenTheWindowIsResized) {
 TEST(Camera, ADragMovesTheGroundWithThePointer) {
     const Camera before(canadaOverview, viewport);
     const MapPoint ground = before.screenToWorld({300, 300});
-    const ScreenPoint after = before.panned(40, -25).worldToScreen(ground);
+    const ScreenPoint after = before.dragged({0, 0}, {40, -25}).worldToScreen(ground);
     EXPECT_NEAR(after.x, 340, 1e-6);
     EXPECT_NEAR(after.y, 275, 1e-6);
 }
@@ -92,8 +133,8 @@ TEST(Camera, ARectangleOfOneMapPointIsShownAtTheNearestZoom) {
 }
 
 TEST(Camera, TheCentreStaysInTheWorld) {
-    const Camera camera = Camera(canadaOverview, viewport).panned(1e9, 1e9);
-    EXPECT_EQ(camera.center(), (MapPoint{0, 0}));
+    const Camera camera = Camera(canadaOverview, viewport).dragged({0, 0}, {0, 1e9});
+    EXPECT_EQ(camera.center().y, 0);
 }
 
 TEST(Camera, AWishThatIsNoNumberShowsTheOverview) {
@@ -101,6 +142,44 @@ TEST(Camera, AWishThatIsNoNumberShowsTheOverview) {
     const Camera overview(canadaOverview, viewport);
     EXPECT_EQ(Camera(MapRect{nan, 0, 1, 1}, viewport).center(), overview.center());
     EXPECT_EQ(Camera(CoordinateRegion{{54, -112}, nan, 40}, viewport).scale(), overview.scale());
+}
+
+TEST(Camera, APoseThatIsNoNumberShowsTheOverview) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double infinity = std::numeric_limits<double>::infinity();
+    const Camera overview(canadaOverview, viewport);
+    for (const CameraPose& pose : {CameraPose{{nan, 1e8}, 1e-5},
+                                   {{1e8, infinity}, 1e-5},
+                                   {{1e8, 1e8}, nan},
+                                   {{1e8, 1e8}, 1e-5, -infinity, 0},
+                                   {{1e8, 1e8}, 1e-5, 0, nan}}) {
+        EXPECT_EQ(Camera(pose, viewport).pose(), overview.pose());
+    }
+}
+
+TEST(Camera, ARegionTooFarOutToBeProjectedShowsTheOverview) {
+    const Camera overview(canadaOverview, viewport);
+    const double largest = std::numeric_limits<double>::max();
+    EXPECT_EQ(Camera(CoordinateRegion{{54, largest}, 20, 40}, viewport).pose(), overview.pose());
+    EXPECT_EQ(Camera(MapRect{largest, 0, largest, 1}, viewport).pose(), overview.pose());
+}
+
+TEST(Camera, APoseIsBroughtIntoItsRanges) {
+    const CameraPose pose = Camera(CameraPose{{-1.0, 2 * worldSize}, 99, -90, 75}, viewport).pose();
+    EXPECT_EQ(pose.center, (MapPoint{worldSize - 1, worldSize}));
+    EXPECT_EQ(pose.scale, Camera::maximumScale);
+    EXPECT_EQ(pose.bearing, 270);
+    EXPECT_EQ(pose.pitch, Camera::maximumPitch);
+    for (const double x : {-1e-20, -0.0, worldSize, 1e300, -1e300}) {
+        const double normalized = Camera(CameraPose{{x, 1e8}, 1}, viewport).center().x;
+        EXPECT_GE(normalized, 0) << x;
+        EXPECT_LT(normalized, worldSize) << x;
+    }
+    for (const double bearing : {-1e-20, 360.0, 720.0, 1e300}) {
+        const double normalized = Camera(CameraPose{{1, 1}, 1, bearing}, viewport).pose().bearing;
+        EXPECT_GE(normalized, 0) << bearing;
+        EXPECT_LT(normalized, 360) << bearing;
+    }
 }
 
 TEST(Camera, AFactorThatIsNotPositiveChangesNothing) {

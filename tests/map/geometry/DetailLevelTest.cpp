@@ -1,5 +1,7 @@
 #include "map/geometry/DetailLevel.h"
 
+#include "map/geometry/Projection.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -22,25 +24,9 @@ TEST(DetailLevel, AScaleAtTheEdgeOfALevelBelongsToIt) {
     EXPECT_EQ(DetailLevel::forScale(level.maximumScale()), level);
 }
 
-TEST(DetailLevel, TheWorldIsOneTileAtLevelZero) {
-    EXPECT_DOUBLE_EQ(DetailLevel(0).tileSize(), worldSize);
-    EXPECT_DOUBLE_EQ(DetailLevel(4).tileSize(), worldSize / 4);
-}
-
-TEST(TileRange, HoldsEveryTileThatTheRectangleTouches) {
-    const DetailLevel level(4); // four by four tiles
-    const double tile = worldSize / 4;
-    const TileRange range = TileRange::covering({tile * 0.5, tile * 1.5, tile, tile}, level);
-    EXPECT_EQ(range.first, (TileIndex{0, 1}));
-    EXPECT_EQ(range.last, (TileIndex{1, 2}));
-    EXPECT_TRUE(range.contains({1, 1}));
-    EXPECT_FALSE(range.contains({2, 1}));
-}
-
-TEST(TileRange, TilesWestOfTheWorldHaveNegativeColumns) {
-    const TileRange range = TileRange::covering({-10, -10, 20, 20}, DetailLevel(4));
-    EXPECT_EQ(range.first, (TileIndex{-1, -1}));
-    EXPECT_EQ(range.last, (TileIndex{0, 0}));
+TEST(DetailLevel, LevelZeroShowsTheWorldOnAsManyPixelsAsATileHas) {
+    EXPECT_DOUBLE_EQ(DetailLevel(0).maximumScale() * worldSize, 512);
+    EXPECT_DOUBLE_EQ(DetailLevel(4).maximumScale() * worldSize, 4 * 512);
 }
 
 } // namespace

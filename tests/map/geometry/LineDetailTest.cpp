@@ -1,5 +1,7 @@
 #include "map/geometry/LineDetail.h"
 
+#include "map/geometry/Segment.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -83,12 +85,6 @@ TEST(LineDetail, CoarserLevelsAreSubsetsOfFinerOnes) {
         EXPECT_LE(count, previous);
         previous = count;
     }
-}
-
-TEST(LineDetail, TheDistanceToASegmentIsMeasuredToItsNearestPoint) {
-    EXPECT_DOUBLE_EQ(distanceToSegment({5, 3}, {0, 0}, {10, 0}), 3);
-    EXPECT_DOUBLE_EQ(distanceToSegment({-3, 4}, {0, 0}, {10, 0}), 5);
-    EXPECT_DOUBLE_EQ(distanceToSegment({3, 4}, {0, 0}, {0, 0}), 5);
 }
 
 } // namespace

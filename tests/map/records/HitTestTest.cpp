@@ -17,19 +17,21 @@ struct Scene {
     [[nodiscard]] ScreenPoint at(double latitude, double longitude) const {
         return camera.worldToScreen(coordinateToMapPoint({latitude, longitude}));
     }
-    [[nodiscard]] std::optional<AssetIndex> hit(ScreenPoint point) const {
-        const MarkerLayout layout = markerLayout(
-            markersByPrecedence(records), selected, DetailLevel::forScale(camera.scale()));
+    [[nodiscard]] std::optional<AssetIndex> hit(ScreenPoint point,
+                                                double reach = pointerReach) const {
+        const RecordGeometry& geometry = records.loaded->geometry;
+        const std::vector<Marker> markers = markersByPrecedence(records);
+        const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
+        LiftedMarkers lifted;
+        if (selected && !records.loaded->index.release().assets[*selected].hasRoute()) {
+            lifted.selected = Marker{*selected, geometry.points()[*selected]};
+        }
         RouteColors colors(records.loaded->index.release().assets.size());
         for (const AssetIndex asset : *records.filtered) {
             colors[asset] = Rgb{};
         }
-        return hitTest(point,
-                       camera,
-                       markerFrame(layout, selected, camera),
-                       records.loaded->geometry,
-                       colors,
-                       selected);
+        const MarkerFrame frame = markerFrame(layout, lifted, Dots::painted, camera);
+        return hitTest(point, reach, {camera, frame, markers, geometry, colors, selected});
     }
 };
 
@@ -42,20 +44,25 @@ TEST(HitTest, ABalloonIsHitOnItsHeadAboveItsPoint) {
     EXPECT_EQ(scene.hit({tip.x, tip.y + 20}), std::nullopt);
 }
 
-TEST(HitTest, ADotIsHitWithinEightPixels) {
+TEST(HitTest, ADotIsHitWithinSixPixelsAndWithinTwelveForAFinger) {
     const Scene scene{
         recordSetOf({facilityAt(54, -112, "storage"), facilityAt(53.9, -112, "storage")}), {}};
     const ScreenPoint dot = scene.at(53.9, -112);
-    EXPECT_EQ(scene.hit({dot.x + 7, dot.y + 3}), 1U);
-    EXPECT_EQ(scene.hit({dot.x + 20, dot.y + 20}), std::nullopt);
+    const double edge = dotRadius + dotCasing;
+    EXPECT_EQ(scene.hit({dot.x, dot.y + edge + 5.9}), 1U);
+    EXPECT_EQ(scene.hit({dot.x, dot.y + edge + 6.1}), std::nullopt);
+    EXPECT_EQ(scene.hit({dot.x, dot.y + edge + 11.9}, touchReach), 1U);
+    EXPECT_EQ(scene.hit({dot.x, dot.y + edge + 12.1}, touchReach), std::nullopt);
 }
 
-TEST(HitTest, ALineIsHitWithinEightPixels) {
+TEST(HitTest, ALineIsHitWithinSixPixelsAndWithinTwelveForAFinger) {
     const Scene scene{recordSetOf({pipelineAlong({{{-130, 54}, {-95, 54}}})}), {}};
     const ScreenPoint middle = scene.at(54, -112);
-    EXPECT_EQ(scene.hit({middle.x, middle.y + 7.5}), 0U);
-    EXPECT_EQ(scene.hit({middle.x, middle.y - 7.5}), 0U);
-    EXPECT_EQ(scene.hit({middle.x, middle.y + 9}), std::nullopt);
+    EXPECT_EQ(scene.hit({middle.x, middle.y + 1 + 5.9}), 0U);
+    EXPECT_EQ(scene.hit({middle.x, middle.y - 1 - 5.9}), 0U);
+    EXPECT_EQ(scene.hit({middle.x, middle.y + 1 + 6.1}), std::nullopt);
+    EXPECT_EQ(scene.hit({middle.x, middle.y + 1 + 11.9}, touchReach), 0U);
+    EXPECT_EQ(scene.hit({middle.x, middle.y + 1 + 12.1}, touchReach), std::nullopt);
 }
 
 TEST(HitTest, AnyLineOfARecordSelectsTheSameRecord) {
@@ -78,6 +85,58 @@ TEST(HitTest, TheNearerLineWins) {
                       {}};
     EXPECT_EQ(scene.hit(scene.at(53.99, -112)), 0U);
     EXPECT_EQ(scene.hit(scene.at(53.81, -112)), 1U);
+}
+
+TEST(HitTest, TheSelectedLineStandsBeforeAMarkUponIt) {
+    const Scene scene{
+        recordSetOf({pipelineAlong({{{-130, 54}, {-95, 54}}}), facilityAt(54, -112, "storage")}),
+        0};
+    EXPECT_EQ(scene.hit(scene.at(54, -112)), 0U);
+}
+
+TEST(HitTest, TheNearerMarkWinsAndOfTwoInOnePlaceTheOneOnTop) {
+    const Scene scene{recordSetOf({facilityAt(54, -112, "storage"),
+                                   facilityAt(53.9, -112, "storage"),
+                                   facilityAt(53.3, -112, "storage"),
+                                   facilityAt(53.3, -112, "storage")}),
+                      {}};
+    const ScreenPoint one = scene.at(53.9, -112);
+    const ScreenPoint two = scene.at(53.3, -112);
+    EXPECT_EQ(scene.hit({two.x, two.y - 0.4 * (two.y - one.y)}), 2U);
+    EXPECT_EQ(scene.hit({two.x, two.y - 0.6 * (two.y - one.y)}), 1U);
+    EXPECT_EQ(scene.hit(two), 2U);
+}
+
+TEST(HitTest, HoldsInATurnedAndTiltedViewToo) {
+    Scene scene{recordSetOf({facilityAt(54, -112, "storage"),
+                             facilityAt(54, -112.9, "storage"),
+                             pipelineAlong({{{-130, 51}, {-95, 51}}})}),
+                {}};
+    scene.camera = scene.camera.turned(130, scene.camera.focus()).tilted(50);
+    EXPECT_EQ(scene.hit(scene.at(54, -112.9)), 1U);
+    const ScreenPoint line = scene.at(51, -112);
+    EXPECT_EQ(scene.hit(line), 2U);
+    EXPECT_EQ(scene.hit({line.x + 40, line.y + 40}), std::nullopt);
+}
+
+TEST(HitTest, ARecordIsHitInEveryCopyOfTheWorldThatIsSeen) {
+    Scene scene{recordSetOf({pipelineAlong({{{-10, 50}, {10, 50}}})}), {}};
+    scene.camera = Camera(CameraPose{{worldSize / 2, worldSize / 3}, 300 / worldSize}, {1000, 300});
+    const ScreenPoint place = scene.at(50, 0);
+    EXPECT_EQ(scene.hit(place), 0U);
+    EXPECT_EQ(scene.hit({place.x + 300, place.y}), 0U);
+    EXPECT_EQ(scene.hit({place.x + 150, place.y}), std::nullopt);
+}
+
+TEST(SharingPlace, HoldsThoseThatNoZoomSeparates) {
+    const RecordSet records = recordSetOf({facilityAt(54, -112, "storage"),
+                                           facilityAt(54, -112, "gas_plant"),
+                                           facilityAt(54.000001, -112, "gas_plant"),
+                                           facilityAt(54.01, -112, "storage")});
+    const std::vector<Marker> markers = markersByPrecedence(records);
+    EXPECT_EQ(sharingPlace(0, markers).size(), 3U);
+    EXPECT_EQ(sharingPlace(3, markers), (std::vector<AssetIndex>{3}));
+    EXPECT_TRUE(sharingPlace(99, markers).empty());
 }
 
 TEST(HitTest, TheSelectedStandsBeforeAll) {

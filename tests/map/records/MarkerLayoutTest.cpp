@@ -56,7 +56,7 @@ TEST(MarkerLayout, ARecordThatTheFilterLeavesOutHasNoMarker) {
 
 TEST(MarkerLayout, NoTwoBalloonsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel) {
     const RecordSet records = crowd();
-    const MarkerLayout layout = markerLayout(markersByPrecedence(records), {}, overview);
+    const MarkerLayout layout = markerLayout(markersByPrecedence(records), overview);
     ASSERT_GT(layout.balloons.size(), 10U);
     const double scale = overview.minimumScale();
     for (std::size_t i = 0; i < layout.balloons.size(); ++i) {
@@ -72,7 +72,7 @@ TEST(MarkerLayout, NoTwoBalloonsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel)
 TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
     const RecordSet records = crowd();
     const auto markers = markersByPrecedence(records);
-    const MarkerLayout layout = markerLayout(markers, {}, overview);
+    const MarkerLayout layout = markerLayout(markers, overview);
     std::set<AssetIndex> marked;
     for (const auto* list : {&layout.balloons, &layout.dots}) {
         for (const Marker& marker : *list) {
@@ -100,21 +100,10 @@ TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
     }
 }
 
-TEST(MarkerLayout, TheSelectedRecordAlwaysStandsAsABalloon) {
-    const RecordSet records = crowd();
-    const auto markers = markersByPrecedence(records);
-    const AssetIndex crowded = markerLayout(markers, {}, overview).dots.back().asset;
-    const MarkerLayout layout = markerLayout(markers, crowded, overview);
-    EXPECT_EQ(layout.balloons.front().asset, crowded);
-    EXPECT_FALSE(std::any_of(layout.dots.begin(), layout.dots.end(), [&](const Marker& dot) {
-        return dot.asset == crowded;
-    }));
-}
-
 TEST(MarkerLayout, TwoRecordsAtOnePointHaveOneBalloonAndOneDot) {
     const RecordSet records =
         recordSetOf({facilityAt(50, -110, "storage"), facilityAt(50, -110, "storage")});
-    const MarkerLayout layout = markerLayout(markersByPrecedence(records), {}, DetailLevel(40));
+    const MarkerLayout layout = markerLayout(markersByPrecedence(records), DetailLevel(40));
     EXPECT_EQ(layout.balloons.size(), 1U);
     EXPECT_EQ(layout.dots.size(), 1U);
 }
@@ -127,7 +116,7 @@ TEST(MarkerLayout, ADotOfWhichAnythingIsSeenIsDrawn) {
         assets.push_back(facilityAt(50, -110 + x * pixel, "storage"));
     }
     const MarkerLayout layout =
-        markerLayout(markersByPrecedence(recordSetOf(std::move(assets))), {}, level);
+        markerLayout(markersByPrecedence(recordSetOf(std::move(assets))), level);
     EXPECT_EQ(layout.balloons.size() + layout.dots.size(), 5U);
 }
 
@@ -136,25 +125,50 @@ TEST(MarkerFrame, HoldsTheMarksInViewAtTheirPlaceOnTheScreen) {
         recordSetOf({facilityAt(54, -112, "storage"), facilityAt(20, 10, "storage")});
     const Camera camera(canadaOverview, {960, 712});
     const MarkerLayout layout =
-        markerLayout(markersByPrecedence(records), {}, DetailLevel::forScale(camera.scale()));
-    const MarkerFrame frame = markerFrame(layout, {}, camera);
+        markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
+    const MarkerFrame frame = markerFrame(layout, {}, Dots::drawn, camera);
     ASSERT_EQ(frame.balloons.size(), 1U);
     EXPECT_EQ(frame.balloons[0].asset, 0U);
     EXPECT_NEAR(frame.balloons[0].point.x, 480, 1e-6);
     EXPECT_NEAR(frame.balloons[0].point.y, 356, 1e-6);
 }
 
-TEST(MarkerFrame, TheSelectedBalloonStandsApartFromTheOthers) {
+TEST(MarkerFrame, TheSelectedAndTheHoveredStandApartFromTheOthersWhateverTheyWere) {
     const RecordSet records = crowd();
     const Camera camera(canadaOverview, {960, 712});
     const auto markers = markersByPrecedence(records);
-    const MarkerLayout layout = markerLayout(markers, 17, DetailLevel::forScale(camera.scale()));
-    const MarkerFrame frame = markerFrame(layout, 17, camera);
-    ASSERT_TRUE(frame.selected);
-    EXPECT_EQ(frame.selected->asset, 17U);
-    for (const PlacedMarker& balloon : frame.balloons) {
-        EXPECT_NE(balloon.asset, 17U);
+    const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
+    const Marker balloon = layout.balloons.front();
+    const Marker dot = layout.dots.front();
+    const MarkerFrame frame = markerFrame(layout, {balloon, dot}, Dots::drawn, camera);
+    ASSERT_TRUE(frame.selected && frame.hovered);
+    EXPECT_EQ(frame.selected->asset, dot.asset);
+    EXPECT_EQ(frame.hovered->asset, balloon.asset);
+    for (const PlacedMarker& other : frame.balloons) {
+        EXPECT_NE(other.asset, balloon.asset);
     }
+}
+
+TEST(MarkerFrame, PaintedDotsAreNotDrawnAgain) {
+    const RecordSet records = crowd();
+    const Camera camera(canadaOverview, {960, 712});
+    const MarkerLayout layout =
+        markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
+    EXPECT_FALSE(markerFrame(layout, {}, Dots::drawn, camera).dots.empty());
+    EXPECT_TRUE(markerFrame(layout, {}, Dots::painted, camera).dots.empty());
+}
+
+TEST(MarkerFrame, AMarkStandsInEveryCopyOfTheWorldAndTheSelectedOnlyInTheNearest) {
+    const RecordSet records = recordSetOf({facilityAt(50, 0, "storage")});
+    const Camera camera(CameraPose{{worldSize / 2, worldSize / 3}, 300 / worldSize}, {1000, 300});
+    const auto markers = markersByPrecedence(records);
+    const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
+    EXPECT_EQ(markerFrame(layout, {}, Dots::painted, camera).balloons.size(), 3U);
+    const MarkerFrame selected =
+        markerFrame(layout, {std::nullopt, markers[0]}, Dots::painted, camera);
+    EXPECT_TRUE(selected.balloons.empty());
+    ASSERT_TRUE(selected.selected);
+    EXPECT_NEAR(selected.selected->point.x, 500, 1e-6);
 }
 
 TEST(MarkerFrame, NeverHoldsMoreThanFiveHundredBalloonsAndKeepsTheOthersAsDots) {
@@ -167,8 +181,8 @@ TEST(MarkerFrame, NeverHoldsMoreThanFiveHundredBalloonsAndKeepsTheOthersAsDots) 
     const RecordSet records = recordSetOf(std::move(assets));
     const Camera camera(canadaOverview, {4000, 3000});
     const MarkerLayout layout =
-        markerLayout(markersByPrecedence(records), {}, DetailLevel::forScale(camera.scale()));
-    const MarkerFrame frame = markerFrame(layout, {}, camera);
+        markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
+    const MarkerFrame frame = markerFrame(layout, {}, Dots::drawn, camera);
     EXPECT_EQ(frame.balloons.size(), maximumBalloons);
     EXPECT_GT(frame.dots.size(), 500U);
 }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace vasker {
 namespace {
 
@@ -46,6 +48,63 @@ TEST(Gestures, APinchKeepsTheGroundUnderBothFingers) {
     EXPECT_NEAR(after.worldToScreen(first).x, 350, 1e-6);
     EXPECT_NEAR(after.worldToScreen(first).y, 320, 1e-6);
     EXPECT_NEAR(after.worldToScreen(second).x, 600, 1e-6);
+}
+
+TEST(Gestures, AFingerMayTrembleMoreThanAMouse) {
+    Drag drag({100, 100}, touchDragThreshold);
+    static_cast<void>(drag.moved(camera, {106, 106}));
+    EXPECT_TRUE(drag.isClick());
+    static_cast<void>(drag.moved(camera, {108, 108}));
+    EXPECT_FALSE(drag.isClick());
+}
+
+TEST(Gestures, FingersThatHardlyTurnKeepTheBearing) {
+    Pinch pinch({400, 300}, {500, 300});
+    const Camera after = pinch.moved(camera, {380, 300}, {540, 315}); // 5 degrees
+    EXPECT_GT(after.scale(), camera.scale());
+    EXPECT_TRUE(after.isUpright());
+}
+
+TEST(Gestures, TheGroundTurnsWithTheFingersWithoutAJump) {
+    Pinch pinch({400, 300}, {500, 300});
+    const auto onCircle = [](double degrees) {
+        const double angle = degrees * std::acos(-1.0) / 180;
+        return ScreenPoint{400 + 100 * std::cos(angle), 300 + 100 * std::sin(angle)};
+    };
+    Camera now = camera;
+    double before = 0;
+    for (int degrees = 1; degrees <= 90; ++degrees) { // clockwise
+        now = pinch.moved(now, {400, 300}, onCircle(degrees));
+        const double turned = std::remainder(now.pose().bearing, 360);
+        EXPECT_LE(turned, before + 1e-9);
+        EXPECT_GE(turned, before - 1.001);
+        before = turned;
+    }
+    EXPECT_NEAR(before, -(90 - 8), 1e-6);
+}
+
+TEST(Gestures, ATurningDragTurnsAcrossAndLeansUpwards) {
+    TurnDrag drag({100, 300});
+    Camera now = drag.moved(camera, {102, 300});
+    EXPECT_TRUE(drag.isClick());
+    EXPECT_TRUE(now.isUpright());
+    now = drag.moved(now, {180, 200});
+    EXPECT_FALSE(drag.isClick());
+    EXPECT_NEAR(now.pose().bearing, 40, 1e-9);
+    EXPECT_NEAR(now.pose().pitch, 40, 1e-9);
+    EXPECT_NEAR(now.center().x, camera.center().x, 1e-3);
+    EXPECT_NEAR(now.center().y, camera.center().y, 1e-3);
+    now = drag.moved(now, {100, -900});
+    EXPECT_NEAR(now.pose().bearing, 0, 1e-9);
+    EXPECT_EQ(now.pose().pitch, Camera::maximumPitch);
+}
+
+TEST(Gestures, WhatIsNearlyUprightIsMeantToBe) {
+    const CameraPose pose = camera.pose();
+    EXPECT_EQ(settled({pose.center, pose.scale, 357, 3}), pose);
+    EXPECT_EQ(settled({pose.center, pose.scale, 3, 0}), pose);
+    const CameraPose turned{pose.center, pose.scale, 20, 30};
+    EXPECT_EQ(settled(turned), turned);
 }
 
 TEST(Gestures, FingersInOnePlaceDoNotZoom) {

@@ -48,7 +48,7 @@ QColor light(PaletteColor color) {
 TEST_F(MapPicture, AFacilityStandsAsABalloonInTheColorOfItsKind) {
     show({facilityAt(54, -112, "refinery")});
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), light(PaletteColor::red));
-    EXPECT_EQ(colorAt(at(54, -112) + QPoint(60, -18)), mapColors(ColorScheme::light).ground);
+    EXPECT_EQ(colorAt(at(54, -112) + QPoint(60, 30)), mapColors(BasemapLook::light).beyond);
 }
 
 TEST_F(MapPicture, ACrowdedFacilityIsADotInTheColorOfItsKind) {
@@ -96,7 +96,7 @@ TEST_F(MapPicture, AFilterThatLeavesNothingLeavesTheGround) {
     RecordSet records = recordSetOf({facilityAt(54, -112, "refinery")});
     records.filtered = std::make_shared<const std::vector<AssetIndex>>();
     m_map->setRecords(records);
-    EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), mapColors(ColorScheme::light).ground);
+    EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), mapColors(BasemapLook::light).beyond);
 }
 
 TEST_F(MapPicture, TheDarkMapUsesTheBrightColors) {
@@ -104,7 +104,7 @@ TEST_F(MapPicture, TheDarkMapUsesTheBrightColors) {
     m_map->setDark(true);
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)),
               colorValue(PaletteColor::red, ColorScheme::dark));
-    EXPECT_EQ(colorAt({40, 40}), mapColors(ColorScheme::dark).ground);
+    EXPECT_EQ(colorAt({40, 40}), mapColors(BasemapLook::dark).beyond);
 }
 
 TEST_F(MapPicture, AClickOnABalloonPicksItsRecordAndOneOnTheGroundNone) {

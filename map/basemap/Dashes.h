@@ -1,0 +1,17 @@
+#pragma once
+// Dashed lines that go on from one tile's picture to the next.
+
+#include <QPolygonF>
+#include <QRectF>
+
+#include <vector>
+
+namespace vasker {
+
+/// `line` in dashes, in device pixels. Where the line crosses an edge of `tile`, a dash has its
+/// middle: the neighbour's picture goes on from there. The pattern is stretched a little to fit
+/// between.
+[[nodiscard]] std::vector<QPolygonF>
+dashes(const QPolygonF& line, double dash, double gap, const QRectF& tile);
+
+} // namespace vasker

@@ -1,0 +1,21 @@
+#pragma once
+// The bar that tells how far things are apart.
+
+#include "map/geometry/Camera.h"
+
+namespace vasker {
+
+struct ScaleBar {
+    double metres; ///< what the bar is long on the ground: 1, 2, 3, 4 or 5 times a power of ten
+    double pixels; ///< what it is long on the screen
+};
+
+/// Metres of ground a logical pixel at the camera's centre, across the screen. On the sphere of
+/// Web Mercator, radius 6,378,137 m, where a parallel is as long as the cosine of its latitude.
+[[nodiscard]] double metresPerPixel(const Camera& camera) noexcept;
+
+/// The longest bar of at most `maximumPixels` (positive) for the row of the camera's centre; the
+/// camera's pitch does not shorten it there.
+[[nodiscard]] ScaleBar scaleBar(const Camera& camera, double maximumPixels) noexcept;
+
+} // namespace vasker

@@ -1,0 +1,47 @@
+#pragma once
+// The lines of routes as a view shows them: simplified within half a pixel, in every copy of the
+// world that is seen, cut a little outside the view.
+
+#include "map/geometry/Camera.h"
+#include "map/records/RecordGeometry.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace vasker {
+
+/// Red, green, blue.
+using Rgb = std::array<std::uint8_t, 3>;
+
+/// The colour of each record's lines, by AssetIndex; none for a record that is not shown.
+using RouteColors = std::vector<std::optional<Rgb>>;
+
+/// How far a drawn line may be from the published one, in pixels.
+inline constexpr double routeTolerancePixels = 0.5;
+
+/// How far lines go on beyond the view, in pixels, so that no end of theirs shows at its edge: more
+/// than half of their greatest width.
+inline constexpr double lineReach = 16;
+
+/// What lines are projected to: a screen, or a picture of a part of the map.
+struct LineView {
+    std::function<PerspectivePoint(MapPoint)> project;
+    double width; ///< pixels
+    double height;
+    MapRect seen; ///< map points; lineReach beyond the edges included
+    double scale; ///< pixels per map point where the view is nearest
+};
+
+/// Calls `draw` with each line that `view` shows of `runs`: its places in pixels, no two alike in a
+/// row; one place for a line without extent. The places are valid during the call only.
+void drawRouteLines(const RecordGeometry& geometry,
+                    std::span<const RouteRun> runs,
+                    const RouteColors& colors,
+                    const LineView& view,
+                    const std::function<void(Rgb, std::span<const ScreenPoint>)>& draw);
+
+} // namespace vasker

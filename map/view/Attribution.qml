@@ -1,0 +1,132 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vasker.Platform
+
+// Whose ground is shown: an optional note, then links, separated by dots; in several lines where
+// the room is short.
+Item {
+    id: root
+
+    // Of { text, address }.
+    property var links: []
+    property string note: ""
+    property real maximumWidth: 1000
+    required property MapInk inks
+
+    implicitWidth: Math.min(Math.ceil(measure.implicitWidth), maximumWidth)
+    implicitHeight: flow.implicitHeight
+
+    component Piece: HaloText {
+        textStyle: Theme.mapNote
+        color: root.inks.ink2
+        halo: root.inks.halo
+    }
+    component Separator: Piece {
+        text: " · "
+    }
+
+    // What all of it needs in one line.
+    Row {
+        id: measure
+
+        opacity: 0
+
+        Label {
+            textStyle: Theme.mapNote
+            text: root.note
+        }
+        Label {
+            visible: noteEntry.separated
+            textStyle: Theme.mapNote
+            text: " · "
+        }
+        Repeater {
+            model: root.links
+
+            Row {
+                id: measured
+
+                required property var modelData
+                required property int index
+
+                Label {
+                    textStyle: Theme.mapNote
+                    text: measured.modelData.text
+                }
+                Label {
+                    visible: measured.index < root.links.length - 1
+                    textStyle: Theme.mapNote
+                    text: " · "
+                }
+            }
+        }
+    }
+    Flow {
+        id: flow
+
+        width: root.width
+
+        Row {
+            id: noteEntry
+
+            readonly property bool separated: root.note.length > 0 && root.links.length > 0
+
+            visible: root.note.length > 0
+
+            Piece {
+                text: root.note
+                Accessible.role: Accessible.StaticText
+                Accessible.name: root.note
+            }
+            Separator {
+                visible: noteEntry.separated
+            }
+        }
+        Repeater {
+            model: root.links
+
+            Row {
+                id: entry
+
+                required property var modelData
+                required property int index
+
+                Piece {
+                    id: link
+
+                    objectName: "open-map-credit-" + entry.index
+                    text: entry.modelData.text
+                    underlined: hover.hovered
+                    activeFocusOnTab: true
+                    Accessible.role: Accessible.Link
+                    Accessible.name: link.text
+                    Accessible.focusable: true
+                    Accessible.onPressAction: link.open()
+                    Keys.onReturnPressed: link.open()
+                    Keys.onEnterPressed: link.open()
+                    Keys.onSpacePressed: link.open()
+
+                    function open(): void {
+                        Qt.openUrlExternally(entry.modelData.address);
+                    }
+
+                    FocusRing {
+                        around: 3
+                    }
+                    HoverHandler {
+                        id: hover
+
+                        cursorShape: Qt.PointingHandCursor
+                    }
+                    TapHandler {
+                        gesturePolicy: TapHandler.ReleaseWithinBounds
+                        onTapped: link.open()
+                    }
+                }
+                Separator {
+                    visible: entry.index < root.links.length - 1
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,14 @@
+#pragma once
+// What the stored choice of a basemap means.
+
+#include "map/basemap/TilePicture.h"
+
+#include <QString>
+
+namespace vasker {
+
+/// "satellite" and "hybrid", compared exactly, show photographs; every other value the drawn map,
+/// in the appearance of the desktop.
+[[nodiscard]] BasemapLook basemapLook(const QString& basemap, bool dark) noexcept;
+
+} // namespace vasker

@@ -1,0 +1,46 @@
+import QtQuick
+import Vasker.Platform
+
+// The strip below the map: what the map does and does not show.
+Rectangle {
+    id: root
+
+    objectName: "open-map-caption"
+    implicitHeight: Math.max(glyph.height, text.implicitHeight) + 20
+    color: Theme.highContrast ? Theme.surface : Qt.alpha(Theme.surface, 0.94)
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text.text
+
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: Theme.line
+    }
+    Icon {
+        id: glyph
+
+        x: 10
+        y: 10
+        name: "info.circle"
+        size: 16 * Theme.iconScale
+        color: Theme.ink
+    }
+    Label {
+        id: text
+
+        x: glyph.x + glyph.width + 8
+        y: 10
+        width: parent.width - x - 10
+        wrapMode: Text.Wrap
+        textStyle: Theme.caption
+        text: qsTr("Selected reporting records and routes. Dates and reporting boundaries vary; this is not a complete or survey-grade map.")
+    }
+    // What is pressed here is not pressed on the map below.
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        cursorShape: Qt.ArrowCursor
+        onWheel: wheel => wheel.accepted = true
+    }
+}

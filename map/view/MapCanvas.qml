@@ -1,0 +1,126 @@
+import QtQuick
+import Vasker.Map
+import Vasker.Platform
+
+// The map with all that lies over it: caption strip, compass, zoom, scale and attribution.
+MapView {
+    id: root
+
+    coveredBelow: caption.height
+    dark: Theme.dark
+    reducedMotion: Theme.still
+    textScale: Theme.textScale
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Graphic
+    Accessible.name: qsTr("Canadian energy infrastructure map")
+    Accessible.focusable: true
+    onChoiceOffered: (records, place) => choice.offer(records, place)
+
+    CameraReadout {
+        id: readout
+
+        map: root
+    }
+    MapInk {
+        id: inks
+
+        overImagery: root.showsImagery
+    }
+
+    // Photographs may be on their way: only after a while it is true to say that they are missing.
+    Timer {
+        id: imageryWait
+
+        readonly property bool missing: root.lacksImagery
+        property bool over: false
+
+        interval: 2000
+        onMissingChanged: {
+            over = false;
+            missing ? restart() : stop();
+        }
+        onTriggered: over = true
+    }
+
+    // Where Enter picks, for those who steer by keys.
+    Rectangle {
+        id: aim
+
+        x: Math.round((root.width - root.coveredRight - width) / 2)
+        y: Math.round((root.height - root.coveredBelow - height) / 2)
+        width: 12
+        height: 12
+        radius: 6
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.accent
+        visible: ring.shown
+    }
+    ScaleBar {
+        id: bar
+
+        anchors.left: parent.left
+        anchors.leftMargin: 14
+        anchors.bottom: caption.top
+        anchors.bottomMargin: 12
+        barLength: readout.barLength
+        text: readout.barText
+        inks: inks
+    }
+    Attribution {
+        anchors.right: parent.right
+        anchors.rightMargin: 12 + root.coveredRight
+        anchors.bottom: caption.top
+        anchors.bottomMargin: 10
+        maximumWidth: parent.width - anchors.rightMargin - bar.x - bar.width - 24
+        note: imageryWait.over ? qsTr("Satellite imagery needs a network connection") : ""
+        links: root.attribution
+        inks: inks
+    }
+    Compass {
+        id: compass
+
+        objectName: "open-map-compass"
+        anchors.right: parent.right
+        anchors.rightMargin: 12 + root.coveredRight
+        y: 12
+        bearing: readout.bearing
+        pitch: readout.pitch
+        upright: readout.upright
+        onClicked: root.setUpright()
+    }
+    ZoomButtons {
+        anchors.right: compass.right
+        anchors.top: compass.bottom
+        anchors.topMargin: 8
+        nearest: readout.nearest
+        farthest: readout.farthest
+        onZoomedIn: root.zoomIn()
+        onZoomedOut: root.zoomOut()
+    }
+    Caption {
+        id: caption
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
+    HoverCard {
+        place: root.pointedPlace
+        name: root.pointedName
+        caption: root.pointedCaption
+        mapWidth: root.width - root.coveredRight
+    }
+    PickList {
+        id: choice
+
+        mapItem: root
+        onPicked: id => root.picked(id)
+        onClosed: root.forceActiveFocus(Qt.PopupFocusReason)
+    }
+    FocusRing {
+        id: ring
+
+        around: 0
+        inside: true
+    }
+}

@@ -1,0 +1,177 @@
+// The real window while what it draws the ground from is missing or broken: it opens, shows the
+// records, and says nothing that is not so.
+
+#include "app/OpenMapApp.h"
+#include "app/OpenMapRoot.h"
+#include "data/Digest.h"
+#include "data/ReleaseWriter.h"
+#include "map/view/MapView.h"
+#include "tests/support/ReleaseBuilder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QQmlExtensionPlugin>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
+
+namespace vasker {
+namespace {
+
+/// Nobody answers there.
+constexpr const char* services = R"({
+    "vector": [{"template": "https://127.0.0.1:1/{z}/{x}/{y}", "firstZoom": 0, "lastZoom": 14,
+                "attribution": "Maps", "attributionURL": "https://maps.example/"}],
+    "imagery": [{"template": "https://127.0.0.1:1/{z}/{y}/{x}", "firstZoom": 0, "lastZoom": 12,
+                 "attribution": "Photographs", "attributionURL": "https://photographs.example/"}]
+})";
+
+class WindowGround : public testing::Test {
+  protected:
+    [[nodiscard]] QString path(const char* name) const {
+        return m_folder.filePath(QString::fromLatin1(name));
+    }
+    void write(const char* name, const QByteArray& bytes) const {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    [[nodiscard]] static QByteArray archive() {
+        QFile file(QStringLiteral(VASKER_RESOURCES "/basemap.mbtiles"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    void open(const QString& cachePath) {
+        OpenMapRelease release = makeRelease();
+        release.assets.resize(1); // the facility A-0
+        const std::string bytes = encode(release);
+        write("OpenMap.json", QByteArray::fromStdString(bytes));
+        write("BundleInformation.json",
+              R"({"VaskerOpenMapSHA256": ")" + QByteArray::fromStdString(sha256(bytes)) +
+                  R"(", "VaskerTileServices": )" + services + "}");
+        m_application = std::make_unique<OpenMapApp>(
+            Bundle(m_folder.path()), TextLocale("en"), path("preferences"), cachePath);
+        m_window = m_application->openWindow();
+        auto* const root = m_window->findChild<OpenMapRoot*>();
+        ASSERT_NE(root, nullptr);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return root->workspace() != nullptr; }, 10'000));
+        m_workspace = root->workspace();
+        m_window->requestActivate();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            m_map = m_window->findChild<MapView*>();
+            return m_map != nullptr;
+        }));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_map->isComplete(); }, 20'000));
+    }
+
+    void expectRecords() const {
+        const OpenMapRelease::Asset facility = makeAsset();
+        const ScreenPoint tip = m_map->resolvedCamera().worldToScreen(
+            coordinateToMapPoint({facility.latitude, facility.longitude}));
+        const QPointF head = m_map->mapToScene({tip.x, tip.y - 18});
+        QTest::mouseClick(m_window, Qt::LeftButton, {}, head.toPoint());
+        EXPECT_EQ(m_workspace->selection(), QStringLiteral("A-0"));
+    }
+    [[nodiscard]] QStringList thanks() const {
+        QStringList texts;
+        for (const QVariant& credit : m_map->attribution()) {
+            texts.append(credit.toMap().value(QStringLiteral("text")).toString());
+        }
+        return texts;
+    }
+    /// Nothing of the ground is seen, and so nobody is thanked.
+    void expectRecordsAlone() {
+        open(path("cache"));
+        ASSERT_NE(m_map, nullptr);
+        EXPECT_EQ(thanks(), QStringList());
+        EXPECT_FALSE(m_map->lacksImagery());
+        expectRecords();
+        m_workspace->setBasemap(QStringLiteral("satellite"));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_map->lacksImagery(); }));
+        EXPECT_EQ(thanks(), QStringList());
+    }
+    /// The ground is seen as if there were a cache.
+    void expectGround(const QString& cachePath) {
+        write("basemap.mbtiles", archive());
+        open(cachePath);
+        ASSERT_NE(m_map, nullptr);
+        EXPECT_EQ(thanks(), QStringList(QStringLiteral("Made with Natural Earth")));
+        EXPECT_FALSE(m_map->lacksImagery());
+        expectRecords();
+    }
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<OpenMapApp> m_application;
+    QQuickWindow* m_window = nullptr;
+    OpenMapWorkspace* m_workspace = nullptr;
+    MapView* m_map = nullptr;
+};
+
+TEST_F(WindowGround, WithoutAnArchiveShowsTheRecordsAlone) {
+    expectRecordsAlone();
+}
+
+TEST_F(WindowGround, WithAnArchiveThatBreaksOffShowsTheRecordsAlone) {
+    write("basemap.mbtiles", archive().left(6'000));
+    expectRecordsAlone();
+}
+
+TEST_F(WindowGround, WithAnArchiveThatBreaksOffInItsMiddleStillShowsTheRecords) {
+    const QByteArray whole = archive();
+    write("basemap.mbtiles", whole.left(whole.size() / 2));
+    open(path("cache"));
+    ASSERT_NE(m_map, nullptr);
+    expectRecords();
+}
+
+TEST_F(WindowGround, WithAnEmptyArchiveShowsTheRecordsAlone) {
+    write("basemap.mbtiles", {});
+    expectRecordsAlone();
+}
+
+TEST_F(WindowGround, WithGarbageInPlaceOfAnArchiveShowsTheRecordsAlone) {
+    write("basemap.mbtiles", QByteArray(50'000, 'g'));
+    expectRecordsAlone();
+}
+
+TEST_F(WindowGround, WithAFolderInPlaceOfAnArchiveShowsTheRecordsAlone) {
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("basemap.mbtiles")));
+    expectRecordsAlone();
+}
+
+TEST_F(WindowGround, NeedsNoCacheThatCanBeWritten) {
+    ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("cache")));
+    ASSERT_TRUE(
+        QFile::setPermissions(path("cache"), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+    expectGround(path("cache"));
+    QFile::setPermissions(path("cache"),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
+
+TEST_F(WindowGround, NeedsNoCacheWhereAFileStandsInItsPlace) {
+    write("cache", "a file");
+    expectGround(path("cache"));
+    QFile file(path("cache"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "a file");
+}
+
+TEST_F(WindowGround, NeedsNoCacheWhereNoneCanBeMade) {
+    expectGround(QStringLiteral("/proc/vasker/cache"));
+}
+
+TEST_F(WindowGround, NeedsNoWholeCache) {
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("cache/tiles")));
+    write("cache/tiles/tiles.sqlite", QByteArray(50'000, 'g'));
+    expectGround(path("cache"));
+}
+
+} // namespace
+} // namespace vasker

@@ -1,0 +1,184 @@
+#include "map/geometry/CameraMotion.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace vasker {
+namespace {
+
+constexpr Viewport viewport{960, 748, 36, 0};
+
+Camera cameraOf(double bearing = 0, double pitch = 0) {
+    return {CameraPose{coordinateToMapPoint({54, -112}), 3e-4, bearing, pitch}, viewport};
+}
+
+double speedBetween(const Camera& a, const Camera& b, double seconds) {
+    return std::hypot(b.center().x - a.center().x, b.center().y - a.center().y) * a.scale() /
+           seconds;
+}
+
+TEST(DragTrail, TellsTheSpeedOfTheLastTenthOfASecond) {
+    DragTrail trail;
+    trail.add({0, 0}, 10.0);
+    trail.add({9000, 0}, 10.9); // long ago by the end
+    trail.add({9010, 20}, 10.95);
+    trail.add({9020, 40}, 11.0);
+    const GroundVelocity velocity = trail.velocityAt(11.0);
+    EXPECT_NEAR(velocity.x, 20 / 0.1, 1e-6);
+    EXPECT_NEAR(velocity.y, 40 / 0.1, 1e-6);
+}
+
+TEST(DragTrail, APointerThatRestsBeforeItLetsGoHasNoSpeed) {
+    DragTrail trail;
+    trail.add({0, 0}, 1.0);
+    trail.add({500, 0}, 1.05);
+    EXPECT_EQ(trail.velocityAt(1.3).x, 0);
+}
+
+TEST(DragTrail, ASinglePlaceHasNoSpeed) {
+    DragTrail trail;
+    EXPECT_EQ(trail.velocityAt(1).x, 0);
+    trail.add({500, 700}, 1.0);
+    EXPECT_EQ(trail.velocityAt(1).x, 0);
+    EXPECT_EQ(trail.velocityAt(1).y, 0);
+}
+
+TEST(DragTrail, TwoEventsOfOneMomentGiveNoWildSpeed) {
+    DragTrail trail;
+    trail.add({0, 0}, 1.0);
+    trail.add({16, 0}, 1.0);
+    EXPECT_NEAR(trail.velocityAt(1.0).x, 16 / 0.016, 1e-6);
+}
+
+TEST(DragTrail, TheDateLineIsNoJump) {
+    DragTrail trail;
+    trail.add({worldSize - 10, 0}, 1.0);
+    trail.add({10, 0}, 1.1);
+    EXPECT_NEAR(trail.velocityAt(1.1).x, 200, 1e-3);
+    trail.add({worldSize - 10, 0}, 1.15);
+    EXPECT_NEAR(trail.velocityAt(1.15).x, -20 / 0.05, 1e-3);
+}
+
+TEST(Glide, BeginsAsFastAsTheDragAndGetsSlower) {
+    const Camera start = cameraOf(40, 30);
+    const Glide glide(start, {2e6, -1e6}); // 671 px/s
+    EXPECT_EQ(glide.cameraAt(0).pose(), start.pose());
+    EXPECT_NEAR(speedBetween(start, glide.cameraAt(0.001), 0.001), std::hypot(600, 300), 2);
+    double before = 1e9;
+    for (double time = 0; time < 1; time += 0.1) {
+        const double speed = speedBetween(glide.cameraAt(time), glide.cameraAt(time + 0.01), 0.01);
+        EXPECT_LT(speed, before);
+        before = speed;
+    }
+}
+
+TEST(Glide, StopsOnceItIsHardlySeenToMove) {
+    const Glide glide(cameraOf(), {2e6, 0}); // 600 px/s
+    EXPECT_FALSE(glide.isFinished(1.5));
+    EXPECT_TRUE(glide.isFinished(1.6)); // 0.325 s * ln(600 / 5)
+    EXPECT_EQ(glide.cameraAt(1.6).pose(), glide.cameraAt(100).pose());
+}
+
+TEST(Glide, ASlowDragEndsWhereItEnds) {
+    const Glide glide(cameraOf(), {1e5, 0}); // 30 px/s
+    EXPECT_TRUE(glide.isFinished(0));
+    EXPECT_EQ(glide.cameraAt(5).pose(), cameraOf().pose());
+}
+
+TEST(Glide, NoDragIsEverFasterThanFiveThousandPixelsASecond) {
+    const Camera start = cameraOf();
+    const Glide glide(start, {1e9, 0});
+    EXPECT_NEAR(speedBetween(start, glide.cameraAt(0.001), 0.001), 5000, 20);
+}
+
+TEST(Glide, ASpeedThatIsNoNumberIsNone) {
+    const Glide glide(cameraOf(), {std::numeric_limits<double>::quiet_NaN(), 0});
+    EXPECT_TRUE(glide.isFinished(0));
+    EXPECT_EQ(glide.cameraAt(1).pose(), cameraOf().pose());
+}
+
+TEST(Glide, CrossesTheDateLine) {
+    const Glide glide(Camera(CameraPose{{worldSize - 1, 1e8}, 3e-4}, viewport), {2e6, 0});
+    EXPECT_LT(glide.cameraAt(1).center().x, worldSize / 2);
+    EXPECT_GE(glide.cameraAt(1).center().x, 0);
+}
+
+TEST(SmoothZoom, EndsAtItsFactorAndKeepsTheGroundUnderThePointerAllTheWay) {
+    const Camera start = cameraOf(70, 45);
+    const ScreenPoint pointer{700, 200};
+    const MapPoint ground = start.screenToWorld(pointer);
+    const SmoothZoom zoom(start, 2, pointer, 0.2);
+    double before = start.scale();
+    for (double time = 0.02; time < 0.2; time += 0.02) {
+        const Camera camera = zoom.cameraAt(time);
+        EXPECT_GT(camera.scale(), before);
+        EXPECT_NEAR(camera.worldToScreen(ground).x, pointer.x, 1e-6);
+        EXPECT_NEAR(camera.worldToScreen(ground).y, pointer.y, 1e-6);
+        before = camera.scale();
+    }
+    EXPECT_EQ(zoom.cameraAt(0).scale(), start.scale());
+    EXPECT_NEAR(zoom.cameraAt(0.2).scale() / start.scale(), 2, 1e-9);
+    EXPECT_FALSE(zoom.isFinished(0.19));
+    EXPECT_TRUE(zoom.isFinished(0.2));
+    EXPECT_EQ(zoom.cameraAt(9).pose(), zoom.cameraAt(0.2).pose());
+}
+
+TEST(SmoothZoom, IsFastFirstAndSlowLast) {
+    const Camera start = cameraOf();
+    const SmoothZoom zoom(start, 4, {480, 356}, 0.2);
+    EXPECT_GT(std::log2(zoom.cameraAt(0.1).scale() / start.scale()), 1.5);
+}
+
+TEST(SmoothZoom, NotchesOfAWheelAddUp) {
+    const Camera start = cameraOf();
+    const ScreenPoint pointer{700, 200};
+    SmoothZoom zoom(start, 2, pointer, 0.2);
+    zoom = zoom.continued(0.05, 2, pointer, 0.2);
+    zoom = zoom.continued(0.07, 2, pointer, 0.2);
+    EXPECT_NEAR(zoom.cameraAt(0.2).scale() / start.scale(), 8, 1e-9);
+    zoom = zoom.continued(0.01, 0.125, pointer, 0.2);
+    EXPECT_NEAR(zoom.cameraAt(0.2).scale() / start.scale(), 1, 1e-9);
+    EXPECT_NEAR(zoom.cameraAt(0.2).center().x, start.center().x, 1e-3);
+}
+
+TEST(SmoothZoom, NotchesBeyondTheNearestZoomAreNotOwed) {
+    const Camera nearest = cameraOf().zoomed(1e9, {480, 356});
+    SmoothZoom zoom(nearest, 16, {480, 356}, 0.2);
+    zoom = zoom.continued(0.2, 0.5, {480, 356}, 0.2);
+    EXPECT_NEAR(zoom.cameraAt(0.2).scale(), Camera::maximumScale / 2, 1e-9);
+}
+
+TEST(SmoothZoom, AFactorThatIsNotPositiveMovesNothing) {
+    for (const double factor : {0.0, -2.0, std::numeric_limits<double>::quiet_NaN()}) {
+        const SmoothZoom zoom(cameraOf(), factor, {700, 200}, 0.2);
+        EXPECT_EQ(zoom.cameraAt(0.1).scale(), cameraOf().scale());
+        const SmoothZoom next =
+            SmoothZoom(cameraOf(), 2, {700, 200}, 0.2).continued(0, factor, {700, 200}, 0.2);
+        EXPECT_NEAR(next.cameraAt(1).scale() / cameraOf().scale(), 2, 1e-9);
+    }
+}
+
+TEST(Leveling, TurnsTheShortWayToNorth) {
+    const Leveling fromWest(cameraOf(300, 0), 0, 0);
+    EXPECT_GT(fromWest.cameraAt(0.05).pose().bearing, 300);
+    const Leveling fromEast(cameraOf(60, 0), 0, 0);
+    EXPECT_LT(fromEast.cameraAt(0.05).pose().bearing, 60);
+    EXPECT_GT(fromEast.cameraAt(0.05).pose().bearing, 0);
+}
+
+TEST(Leveling, EndsUprightToTheLastBit) {
+    const Camera start = cameraOf(217.3, 41.7);
+    const Leveling leveling(start, 0, 0);
+    EXPECT_FALSE(leveling.isFinished(0.24));
+    ASSERT_TRUE(leveling.isFinished(0.25));
+    EXPECT_TRUE(leveling.cameraAt(0.25).isUpright());
+    EXPECT_EQ(leveling.cameraAt(0.25).center(), start.center());
+    EXPECT_EQ(leveling.cameraAt(0.25).scale(), start.scale());
+    EXPECT_LT(leveling.cameraAt(0.1).pose().pitch, 41.7);
+    EXPECT_GT(leveling.cameraAt(0.1).pose().pitch, 0);
+}
+
+} // namespace
+} // namespace vasker

@@ -1,0 +1,185 @@
+// The mouse and the wheel on the map.
+
+#include "tests/map/view/MapWindow.h"
+
+#include <QNativeGestureEvent>
+#include <QPointingDevice>
+#include <QWheelEvent>
+
+namespace vasker {
+namespace {
+
+class MapPointer : public MapWindow {
+  protected:
+    void
+    wheel(QPointF place, int angle, QPoint pixels = {}, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
+        QWheelEvent event(place, place, pixels, {0, angle}, {}, {}, phase, false);
+        QCoreApplication::sendEvent(&m_window, &event);
+    }
+    void gesture(Qt::NativeGestureType type, double value, QPointF place) {
+        QNativeGestureEvent event(
+            type, QPointingDevice::primaryPointingDevice(), 2, place, place, place, value, {});
+        QCoreApplication::sendEvent(&m_window, &event);
+    }
+    void drag(Qt::MouseButton button, QPointF from, QPointF to, Qt::KeyboardModifiers keys = {}) {
+        mouse(QEvent::MouseButtonPress, from, 1000, button, keys);
+        mouse(QEvent::MouseMove, (from + to) / 2, 1500, button, keys);
+        mouse(QEvent::MouseMove, to, 2000, button, keys);
+        mouse(QEvent::MouseButtonRelease, to, 3000, button, keys);
+    }
+};
+
+TEST_F(MapPointer, TheGroundFollowsTheDragAndStaysWhereThePointerRested) {
+    const MapPoint ground = camera().screenToWorld({200, 300});
+    drag(Qt::LeftButton, {200, 300}, {320, 340});
+    EXPECT_FALSE(m_map->isMoving());
+    expectGroundAt(ground, {320, 340});
+}
+
+TEST_F(MapPointer, AQuickDragGlidesOnAndComesToRest) {
+    const MapPoint ground = camera().screenToWorld({200, 300});
+    press({200, 300}, 1000);
+    for (int step = 1; step <= 10; ++step) {
+        moveTo({200.0 + 12 * step, 300}, 1000 + 10 * static_cast<quint64>(step));
+    }
+    release({320, 300}, 1105);
+    EXPECT_TRUE(m_map->isMoving());
+    rest();
+    EXPECT_GT(camera().worldToScreen(ground).x, 400); // about 0.325 s * 1 px/ms farther
+    EXPECT_LT(camera().worldToScreen(ground).x, 750);
+    EXPECT_NEAR(camera().worldToScreen(ground).y, 300, 1e-3);
+}
+
+TEST_F(MapPointer, APressCatchesTheGlidingMap) {
+    press({200, 300}, 1000);
+    moveTo({260, 300}, 1040);
+    moveTo({320, 300}, 1080);
+    release({320, 300}, 1085);
+    ASSERT_TRUE(m_map->isMoving());
+    press({400, 300}, 1200);
+    EXPECT_FALSE(m_map->isMoving());
+}
+
+TEST_F(MapPointer, ACameraSetFromOutsideEndsTheMotion) {
+    wheel({200, 200}, 120);
+    ASSERT_TRUE(m_map->isMoving());
+    m_map->setCamera(MapRect{5e7, 8e7, 1e6, 1e6});
+    EXPECT_FALSE(m_map->isMoving());
+    EXPECT_EQ(m_map->camera(), CameraPosition(MapRect{5e7, 8e7, 1e6, 1e6}));
+}
+
+TEST_F(MapPointer, WithReducedMotionADragDoesNotGlide) {
+    m_map->setReducedMotion(true);
+    press({200, 300}, 1000);
+    moveTo({260, 300}, 1040);
+    moveTo({320, 300}, 1080);
+    release({320, 300}, 1085);
+    EXPECT_FALSE(m_map->isMoving());
+}
+
+TEST_F(MapPointer, NotchesOfTheWheelAddUpAtThePointer) {
+    const double scale = camera().scale();
+    const MapPoint ground = camera().screenToWorld({650, 150});
+    wheel({650, 150}, 120);
+    wheel({650, 150}, 120);
+    EXPECT_TRUE(m_map->isMoving());
+    rest();
+    EXPECT_NEAR(camera().scale() / scale, 2, 1e-6);
+    expectGroundAt(ground, {650, 150});
+}
+
+TEST_F(MapPointer, WithReducedMotionANotchIsThereAtOnce) {
+    m_map->setReducedMotion(true);
+    const double scale = camera().scale();
+    wheel({650, 150}, 240);
+    EXPECT_FALSE(m_map->isMoving());
+    EXPECT_NEAR(camera().scale() / scale, 2, 1e-9);
+}
+
+TEST_F(MapPointer, ATouchpadZoomsWithTheFingers) {
+    const double scale = camera().scale();
+    const MapPoint ground = camera().screenToWorld({650, 150});
+    wheel({650, 150}, 40, {0, 150}, Qt::ScrollUpdate);
+    EXPECT_FALSE(m_map->isMoving());
+    EXPECT_NEAR(camera().scale() / scale, 2, 1e-9);
+    expectGroundAt(ground, {650, 150});
+}
+
+TEST_F(MapPointer, APinchOnATouchpadZoomsAndTurns) {
+    const double scale = camera().scale();
+    const MapPoint ground = camera().screenToWorld({650, 150});
+    gesture(Qt::BeginNativeGesture, 0, {650, 150});
+    gesture(Qt::ZoomNativeGesture, 0.5, {650, 150});
+    gesture(Qt::RotateNativeGesture, 30, {650, 150});
+    EXPECT_NEAR(camera().scale() / scale, 1.5, 1e-9);
+    EXPECT_NEAR(camera().pose().bearing, 330, 1e-9);
+    expectGroundAt(ground, {650, 150});
+    gesture(Qt::EndNativeGesture, 0, {650, 150});
+    EXPECT_FALSE(m_map->isMoving());
+}
+
+TEST_F(MapPointer, TheSecondButtonTurnsAndLeans) {
+    const QSignalSpy picks(m_map, &MapView::picked);
+    drag(Qt::RightButton, {200, 300}, {260, 250});
+    EXPECT_NEAR(camera().pose().bearing, 30, 1e-9);
+    EXPECT_NEAR(camera().pose().pitch, 20, 1e-9);
+    EXPECT_EQ(picks.size(), 0);
+}
+
+TEST_F(MapPointer, ControlAndTheFirstButtonTurnAndLean) {
+    drag(Qt::LeftButton, {200, 300}, {260, 250}, Qt::ControlModifier);
+    EXPECT_NEAR(camera().pose().bearing, 30, 1e-9);
+    EXPECT_NEAR(camera().pose().pitch, 20, 1e-9);
+}
+
+TEST_F(MapPointer, ATurnThatEndsNearlyUprightIsSetUpright) {
+    drag(Qt::RightButton, {200, 300}, {206, 296});
+    rest();
+    EXPECT_TRUE(camera().isUpright());
+    EXPECT_NE(m_map->camera(), CameraPosition(canadaOverview));
+}
+
+TEST_F(MapPointer, ADoubleClickComesNearerAndGoesAwayWithShiftOrTheSecondButton) {
+    const double scale = camera().scale();
+    const MapPoint ground = camera().screenToWorld({650, 150});
+    const auto doubleClick = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+        QTest::mouseDClick(&m_window, button, modifiers, {650, 150});
+        rest();
+    };
+    doubleClick(Qt::LeftButton, {});
+    EXPECT_NEAR(camera().scale() / scale, 2, 1e-6);
+    expectGroundAt(ground, {650, 150});
+    doubleClick(Qt::LeftButton, Qt::ShiftModifier);
+    EXPECT_NEAR(camera().scale() / scale, 1, 1e-6);
+    doubleClick(Qt::LeftButton, {});
+    doubleClick(Qt::RightButton, {});
+    EXPECT_NEAR(camera().scale() / scale, 1, 1e-6);
+}
+
+TEST_F(MapPointer, ADoubleClickOnARecordPicksItOnceAndDoesNotZoom) {
+    const QSignalSpy picks(m_map, &MapView::picked);
+    QTest::mouseDClick(&m_window, Qt::LeftButton, {}, {400, 300 - 18});
+    ASSERT_EQ(picks.size(), 1);
+    EXPECT_EQ(picks[0][0].toString(), QStringLiteral("R-0"));
+    EXPECT_FALSE(m_map->isMoving());
+    EXPECT_EQ(m_map->camera(), CameraPosition(canadaOverview));
+}
+
+TEST_F(MapPointer, ATremblingClickIsAClick) {
+    const QSignalSpy picks(m_map, &MapView::picked);
+    press({400, 282}, 1000);
+    moveTo({402, 283}, 1010);
+    release({402, 283}, 1020);
+    ASSERT_EQ(picks.size(), 1);
+    EXPECT_EQ(picks[0][0].toString(), QStringLiteral("R-0"));
+    EXPECT_EQ(m_map->camera(), CameraPosition(canadaOverview));
+}
+
+TEST_F(MapPointer, TheRegionIsCentredInThePartThatNothingCovers) {
+    m_map->setCoveredBelow(60);
+    m_map->setCoveredRight(200);
+    expectGroundAt(coordinateToMapPoint({54, -112}), {300, 270});
+}
+
+} // namespace
+} // namespace vasker
