@@ -1,6 +1,5 @@
 #include "map/geometry/ScaleBar.h"
 
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -22,8 +21,8 @@ ScaleBar scaleBar(const Camera& camera, double maximumPixels) noexcept {
     const double metre = metresPerPixel(camera);
     const double longest = metre * maximumPixels;
     const double power = std::pow(10, std::floor(std::log10(longest)));
-    // Of 6 to 9 there is no step, half of them could not be read at the middle.
-    const double metres = std::clamp(std::floor(longest / power), 1.0, 5.0) * power;
+    const double times = longest / power; // 1 to 10
+    const double metres = (times < 2 ? 1 : times < 5 ? 2 : 5) * power;
     return {metres, metres / metre};
 }
 

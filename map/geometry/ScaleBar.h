@@ -6,7 +6,7 @@
 namespace vasker {
 
 struct ScaleBar {
-    double metres; ///< what the bar is long on the ground: 1, 2, 3, 4 or 5 times a power of ten
+    double metres; ///< what the bar is long on the ground: 1, 2 or 5 times a power of ten
     double pixels; ///< what it is long on the screen
 };
 

@@ -42,7 +42,7 @@ TEST_F(CameraReadoutOfAMap, SaysWhatTheCompassAndTheScaleShow) {
     EXPECT_EQ(readout.pitch(), 30);
     EXPECT_FALSE(readout.isUpright());
     EXPECT_TRUE(readout.isNearest());
-    EXPECT_EQ(readout.barText(), QStringLiteral("3 m"));
+    EXPECT_EQ(readout.barText(), QStringLiteral("2 m"));
 }
 
 TEST_F(CameraReadoutOfAMap, SaysWhenTheWholeWorldIsInView) {
