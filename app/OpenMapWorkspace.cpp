@@ -109,6 +109,14 @@ QList<QString> OpenMapWorkspace::kinds() const {
     return kinds;
 }
 
+QList<int> OpenMapWorkspace::counts() const {
+    QList<int> counts;
+    for (const std::size_t count : m_loaded->index.counts(m_query.toStdString())) {
+        counts.append(static_cast<int>(count));
+    }
+    return counts;
+}
+
 void OpenMapWorkspace::focus(const OpenMapRelease::Asset& asset) {
     setCamera(framing(asset));
 }

@@ -35,6 +35,7 @@ class OpenMapWorkspace : public QObject {
     Q_PROPERTY(vasker::CameraPosition camera READ camera WRITE setCamera NOTIFY cameraChanged)
     Q_PROPERTY(vasker::RecordSet records READ records NOTIFY recordsChanged)
     Q_PROPERTY(QList<QString> kinds READ kinds CONSTANT)
+    Q_PROPERTY(QList<int> counts READ counts NOTIFY queryChanged)
 
   public:
     /// `loaded` is not null; `preferences` outlive the workspace.
@@ -80,6 +81,8 @@ class OpenMapWorkspace : public QObject {
     [[nodiscard]] RecordSet records() const { return {m_loaded, m_filtered}; }
     /// The kinds of all records, each once, in code-point order.
     [[nodiscard]] QList<QString> kinds() const;
+    /// How many records of each of the kinds pass `query`, whatever `kind` is.
+    [[nodiscard]] QList<int> counts() const;
 
     /// Sets the camera so that it frames `asset`; changes nothing else.
     void focus(const OpenMapRelease::Asset& asset);

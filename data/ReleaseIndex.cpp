@@ -63,15 +63,26 @@ ReleaseIndex::ReleaseIndex(std::shared_ptr<const OpenMapRelease> release, TextLo
     }
 }
 
+std::vector<std::uint32_t> ReleaseIndex::ranksOf(std::string_view query) const {
+    if (!query.empty()) {
+        return m_texts.holders(query);
+    }
+    std::vector<std::uint32_t> all(m_nameOrder.size());
+    std::iota(all.begin(), all.end(), 0U);
+    return all;
+}
+
+std::vector<std::size_t> ReleaseIndex::counts(std::string_view query) const {
+    std::vector<std::size_t> counts(m_kinds.size());
+    for (const std::uint32_t rank : ranksOf(query)) {
+        ++counts[m_kindsInNameOrder[rank]];
+    }
+    return counts;
+}
+
 std::vector<AssetIndex> ReleaseIndex::filtered(std::string_view query,
                                                std::string_view kind) const {
-    std::vector<std::uint32_t> ranks;
-    if (query.empty()) {
-        ranks.resize(m_nameOrder.size());
-        std::iota(ranks.begin(), ranks.end(), 0U);
-    } else {
-        ranks = m_texts.holders(query);
-    }
+    std::vector<std::uint32_t> ranks = ranksOf(query);
     if (kind != "all") {
         const auto place =
             static_cast<std::uint32_t>(std::ranges::find(m_kinds, kind) - m_kinds.begin());

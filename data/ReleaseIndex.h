@@ -30,6 +30,8 @@ class ReleaseIndex {
     /// whose names compare as equal keep their file order.
     [[nodiscard]] std::vector<AssetIndex> filtered(std::string_view query,
                                                    std::string_view kind) const;
+    /// How many records of each kind pass `query`, in the order of kinds().
+    [[nodiscard]] std::vector<std::size_t> counts(std::string_view query) const;
     /// The distinct kinds, in code-point order.
     [[nodiscard]] const std::vector<std::string>& kinds() const noexcept { return m_kinds; }
 
@@ -40,6 +42,9 @@ class ReleaseIndex {
     [[nodiscard]] const FoldedTexts& texts() const noexcept { return m_texts; }
 
   private:
+    /// The places in name order of the records that pass `query`, ascending.
+    [[nodiscard]] std::vector<std::uint32_t> ranksOf(std::string_view query) const;
+
     std::shared_ptr<const OpenMapRelease> m_release; ///< the views below are of its texts
     TextLocale m_locale;
     std::vector<std::string> m_kinds;

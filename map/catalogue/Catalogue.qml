@@ -10,6 +10,8 @@ Item {
     required property string query
     required property string kind
     required property list<string> kinds
+    // How many records of the current search each of the kinds holds.
+    property list<int> counts
     required property string selection
     // The id of the record that is pointed at on the map; empty: none.
     property string answering
@@ -35,6 +37,7 @@ Item {
         id: kindModel
 
         kinds: root.kinds
+        counts: root.counts
         kind: root.kind
     }
     Rectangle {

@@ -3,6 +3,7 @@
 #include "map/CategoryText.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace vasker {
 
@@ -28,13 +29,20 @@ QVariant KindListModel::data(const QModelIndex& index, int role) const {
     case LabelRole:
     case Qt::DisplayRole:
         return labelAt(index.row());
+    case CountRole:
+        return QString::number(countAt(index.row()));
+    case CountTextRole:
+        return tr("Records: %1").arg(countAt(index.row()));
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> KindListModel::roleNames() const {
-    return {{ValueRole, "value"}, {LabelRole, "label"}};
+    return {{ValueRole, "value"},
+            {LabelRole, "label"},
+            {CountRole, "count"},
+            {CountTextRole, "countText"}};
 }
 
 void KindListModel::setKinds(const QList<QString>& kinds) {
@@ -44,6 +52,14 @@ void KindListModel::setKinds(const QList<QString>& kinds) {
         endResetModel();
         Q_EMIT kindsChanged();
         Q_EMIT currentChanged();
+    }
+}
+
+void KindListModel::setCounts(const QList<int>& counts) {
+    if (m_counts != counts) {
+        m_counts = counts;
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {CountRole, CountTextRole});
+        Q_EMIT countsChanged();
     }
 }
 
@@ -88,6 +104,11 @@ int KindListModel::rowStartingWith(const QString& typed, int row) const {
 
 QString KindListModel::labelAt(int row) const {
     return row == 0 ? tr("All categories") : categoryText(m_kinds.at(row - 1).toStdString());
+}
+
+int KindListModel::countAt(int row) const {
+    return row == 0 ? std::accumulate(m_counts.begin(), m_counts.end(), 0)
+                    : m_counts.value(row - 1);
 }
 
 } // namespace vasker

@@ -12,6 +12,8 @@ class KindListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<QString> kinds READ kinds WRITE setKinds NOTIFY kindsChanged)
+    /// How many records each of the kinds holds, in their order; shorter: unknown for the rest.
+    Q_PROPERTY(QList<int> counts READ counts WRITE setCounts NOTIFY countsChanged)
     /// The value of the entry that is chosen.
     Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY kindChanged)
     /// The chosen entry's row, -1 where the kind has none.
@@ -22,6 +24,8 @@ class KindListModel : public QAbstractListModel {
     enum Role {
         ValueRole = Qt::UserRole, ///< `value`: what `kind` becomes
         LabelRole,                ///< `label`: what is shown
+        CountRole,                ///< `count`: how many records there are, as text
+        CountTextRole,            ///< `countText`: the same in words
     };
 
     explicit KindListModel(QObject* parent = nullptr);
@@ -32,6 +36,8 @@ class KindListModel : public QAbstractListModel {
 
     [[nodiscard]] const QList<QString>& kinds() const noexcept { return m_kinds; }
     void setKinds(const QList<QString>& kinds);
+    [[nodiscard]] const QList<int>& counts() const noexcept { return m_counts; }
+    void setCounts(const QList<int>& counts);
     [[nodiscard]] const QString& kind() const noexcept { return m_kind; }
     void setKind(const QString& kind);
     [[nodiscard]] int currentRow() const;
@@ -45,13 +51,16 @@ class KindListModel : public QAbstractListModel {
 
   Q_SIGNALS:
     void kindsChanged();
+    void countsChanged();
     void kindChanged();
     void currentChanged();
 
   private:
     [[nodiscard]] QString labelAt(int row) const;
+    [[nodiscard]] int countAt(int row) const;
 
     QList<QString> m_kinds;
+    QList<int> m_counts;
     QString m_kind;
 };
 

@@ -59,9 +59,13 @@ PopupSurface {
         delegate: MenuRow {
             required property int index
             required property string label
+            required property string count
+            required property string countText
 
             width: list.width
             text: label
+            note: count
+            spokenNote: countText
             checked: index === root.kinds.currentRow
             current: index === list.currentIndex
             onPointed: list.currentIndex = index

@@ -1,11 +1,14 @@
 import QtQuick
 import Vasker.Platform
 
-// One choice in a menu; the current one is filled, the checked one marked.
+// One choice in a menu; the current one is filled, the checked one marked. A note stands dimmed at
+// its end.
 Item {
     id: root
 
     required property string text
+    property string note
+    property string spokenNote: note
     property bool checked: false
     property bool current: false
 
@@ -15,6 +18,7 @@ Item {
     implicitHeight: Math.max(34 * Theme.iconScale, label.implicitHeight + 12)
     Accessible.role: Accessible.MenuItem
     Accessible.name: root.text
+    Accessible.description: root.spokenNote
     Accessible.ignored: !root.visible
     Accessible.checkable: true
     Accessible.checked: root.checked
@@ -39,12 +43,22 @@ Item {
 
         anchors.left: parent.left
         anchors.leftMargin: 12 + 16 * Theme.iconScale
-        anchors.right: parent.right
+        anchors.right: noteLabel.left
         anchors.rightMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         wrapMode: Text.Wrap
         textStyle: Theme.subheadline
         text: root.text
+    }
+    Label {
+        id: noteLabel
+
+        anchors.right: parent.right
+        anchors.rightMargin: root.note.length > 0 ? 10 : 0
+        anchors.verticalCenter: parent.verticalCenter
+        textStyle: Theme.caption
+        color: Theme.ink2
+        text: root.note
     }
     HoverHandler {
         onHoveredChanged: if (hovered) {

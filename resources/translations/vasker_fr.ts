@@ -136,6 +136,10 @@
         <source>All categories</source>
         <translation>Toutes les catégories</translation>
     </message>
+    <message>
+        <source>Records: %1</source>
+        <translation>Fiches : %1</translation>
+    </message>
 </context>
 <context>
     <name>vasker::RecordListModel</name>

@@ -88,6 +88,13 @@ TEST_F(Workspace, TheKindAndTheQueryBothNarrowTheList) {
     EXPECT_EQ(shown(), "twin-b twin-a");
 }
 
+TEST_F(Workspace, CountsWhatTheQueryFindsOfEachKindWhateverIsChosen) {
+    EXPECT_EQ(m_workspace.counts(), (QList<int>{1, 1, 1, 2}));
+    m_workspace.setKind(QStringLiteral("Zinc"));
+    m_workspace.setQuery(QStringLiteral("twin"));
+    EXPECT_EQ(m_workspace.counts(), (QList<int>{0, 1, 0, 1}));
+}
+
 TEST_F(Workspace, AKindThatNoRecordHasShowsNothing) {
     m_workspace.setKind(QStringLiteral("zinc"));
     EXPECT_EQ(shown(), "");

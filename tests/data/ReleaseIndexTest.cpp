@@ -137,6 +137,11 @@ TEST(ReleaseIndex, AnswersAsTheDefinitionsDo) {
         const TextLocale& locale = locales[round % locales.size()];
         const ReleaseIndex index(release, locale);
         ASSERT_EQ(index.kinds(), kinds(*release));
+        const std::string counted = draw.query(*release);
+        for (std::size_t kind = 0; kind < index.kinds().size(); ++kind) {
+            ASSERT_EQ(index.counts(counted)[kind],
+                      filtered(*release, counted, index.kinds()[kind], locale).size());
+        }
         for (int each = 0; each < 4; ++each) {
             const std::string query = draw.query(*release);
             const std::string kind = draw.below(3) != 0 ? "all"
@@ -196,6 +201,7 @@ TEST(ReleaseIndex, AReleaseWithoutRecordsAnswersNothing) {
     EXPECT_TRUE(index.filtered("", "all").empty());
     EXPECT_TRUE(index.filtered("a", "all").empty());
     EXPECT_TRUE(index.kinds().empty());
+    EXPECT_TRUE(index.counts("").empty());
     EXPECT_EQ(index.find("A-0"), std::nullopt);
 }
 

@@ -60,6 +60,21 @@ TEST_F(KindList, AKindThatIsNotOfferedIsStillNamed) {
     EXPECT_EQ(m_model.currentLabel(), QStringLiteral("Refinery"));
 }
 
+TEST_F(KindList, EachEntryTellsHowManyRecordsItHoldsAndAllCategoriesTheirSum) {
+    int told = 0;
+    QObject::connect(&m_model, &KindListModel::dataChanged, [&] { ++told; });
+    m_model.setCounts({3, 0, 12, 4830});
+    EXPECT_EQ(told, 1);
+    std::string counts;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const QModelIndex entry = m_model.index(row);
+        counts += m_model.data(entry, KindListModel::CountRole).toString().toStdString() + " ";
+    }
+    EXPECT_EQ(counts, "4845 3 0 12 4830 ");
+    EXPECT_EQ(m_model.data(m_model.index(3), KindListModel::CountTextRole).toString(),
+              QStringLiteral("Records: 12"));
+}
+
 TEST_F(KindList, TypingFindsTheNextEntryThatBeginsSo) {
     EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("un"), 0), 4);
     EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("A"), 3), 0);
