@@ -15,6 +15,8 @@ ListView {
 
     signal picked(string id)
     signal cleared
+    // What can be done with a record is asked for, at a place of `over`.
+    signal menuWanted(string id, Item over, point place)
 
     objectName: "open-map-records"
     model: root.records
@@ -40,6 +42,11 @@ ListView {
     function go(row: int): void {
         root.currentIndex = Math.max(0, Math.min(root.count - 1, row));
     }
+    function offerMenu(): void {
+        if (root.currentItem !== null) {
+            root.menuWanted(root.records.idAt(root.currentIndex), root.currentItem, Qt.point(44, root.currentItem.height / 2));
+        }
+    }
     function pageRows(): int {
         return Math.max(1, Math.floor(root.height / (root.currentItem?.height ?? root.height)) - 1);
     }
@@ -51,6 +58,7 @@ ListView {
     Keys.onEnterPressed: root.picked(root.records.idAt(root.currentIndex))
     Keys.onSpacePressed: root.picked(root.records.idAt(root.currentIndex))
     Keys.onEscapePressed: root.cleared()
+    Keys.onMenuPressed: root.offerMenu()
     Keys.onPressed: event => {
         event.accepted = true;
         switch (event.key) {
@@ -62,6 +70,10 @@ ListView {
             return root.go(root.currentIndex + root.pageRows());
         case Qt.Key_PageUp:
             return root.go(root.currentIndex - root.pageRows());
+        case Qt.Key_F10:
+            if (event.modifiers === Qt.ShiftModifier) {
+                return root.offerMenu();
+            }
         }
         event.accepted = false;
     }
@@ -83,6 +95,7 @@ ListView {
             root.currentIndex = index;
             root.picked(recordId);
         }
+        onMenuWanted: place => root.menuWanted(recordId, this, place)
     }
 
     Connections {

@@ -26,6 +26,7 @@ Item {
     readonly property bool hovered: hover.hovered
 
     signal picked
+    signal menuWanted(point place)
 
     objectName: "open-map-record-" + root.recordId
     implicitHeight: texts.height + 16
@@ -115,5 +116,9 @@ Item {
 
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: root.picked()
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => root.menuWanted(point.position)
     }
 }

@@ -128,6 +128,8 @@ class MapView : public QQuickItem {
     void picked(const QString& id);
     /// The user picked a place where several records stand that no zoom separates.
     void choiceOffered(const vasker::RecordSet& choice, QPointF place);
+    /// The user asked what can be done with the record at `place`.
+    void menuWanted(const QString& id, QPointF place);
     /// The user moved the camera.
     void moved(const vasker::CameraPosition& camera);
     /// The user asked for the overview.
@@ -171,6 +173,8 @@ class MapView : public QQuickItem {
     void settle();
     /// A click or a touch that reaches so far; true if it hit a record.
     bool pick(ScreenPoint point, double reach);
+    /// Asks for the menu of the record within `reach`; does nothing where there is none.
+    void offerMenu(ScreenPoint point, double reach);
     void tap(ScreenPoint point, qint64 milliseconds);
     void nativeGesture(const QNativeGestureEvent& gesture);
 

@@ -63,6 +63,12 @@ bool MapView::pick(ScreenPoint point, double reach) {
     return record.has_value();
 }
 
+void MapView::offerMenu(ScreenPoint point, double reach) {
+    if (const auto record = hit(point, reach)) {
+        Q_EMIT menuWanted(m_mapRecords.idOf(record), QPointF(point.x, point.y));
+    }
+}
+
 void MapView::mousePressEvent(QMouseEvent* event) {
     forceActiveFocus(Qt::MouseFocusReason);
     m_motion.cancel();
@@ -119,6 +125,8 @@ void MapView::mouseReleaseEvent(QMouseEvent* event) {
         settle();
     } else if (m_turn && event->button() == Qt::LeftButton) {
         m_lastClickHit = pick(m_turn->pressed(), pointerReach);
+    } else if (m_turn) {
+        offerMenu(m_turn->pressed(), pointerReach);
     }
     mouseUngrabEvent();
     event->accept();

@@ -133,6 +133,15 @@ void MapView::keyPressEvent(QKeyEvent* event) {
             pick(resolvedCamera().focus(), touchReach);
         }
         break;
+    case Qt::Key_Menu:
+        offerMenu(resolvedCamera().focus(), touchReach);
+        break;
+    case Qt::Key_F10:
+        if (event->modifiers() == Qt::ShiftModifier) {
+            offerMenu(resolvedCamera().focus(), touchReach);
+            break;
+        }
+        [[fallthrough]];
     default:
         event->ignore();
     }

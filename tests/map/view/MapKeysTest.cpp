@@ -75,6 +75,15 @@ TEST_F(MapKeys, EnterAndSpacePickWhatIsInTheMiddle) {
     EXPECT_EQ(picks[1][0].toString(), QStringLiteral("R-0"));
 }
 
+TEST_F(MapKeys, TheMenuKeyAsksForTheMenuOfWhatIsInTheMiddle) {
+    const QSignalSpy menus(m_map, &MapView::menuWanted);
+    key(Qt::Key_Menu);
+    key(Qt::Key_F10, Qt::ShiftModifier);
+    key(Qt::Key_F10);
+    ASSERT_EQ(menus.size(), 2);
+    EXPECT_EQ(menus[1][0].toString(), QStringLiteral("R-0"));
+}
+
 TEST_F(MapKeys, AHeldKeyMovesOnUntilItIsReleased) {
     const MapPoint center = camera().center();
     QTest::keyPress(&m_window, Qt::Key_Right);

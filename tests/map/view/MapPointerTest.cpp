@@ -165,6 +165,23 @@ TEST_F(MapPointer, ADoubleClickOnARecordPicksItOnceAndDoesNotZoom) {
     EXPECT_EQ(m_map->camera(), CameraPosition(canadaOverview));
 }
 
+TEST_F(MapPointer, TheSecondaryButtonAsksForTheMenuOfARecordAndPicksNothing) {
+    const QSignalSpy picks(m_map, &MapView::picked);
+    const QSignalSpy menus(m_map, &MapView::menuWanted);
+    QTest::mouseClick(&m_window, Qt::RightButton, {}, {400, 282});
+    QTest::mouseClick(&m_window, Qt::RightButton, {}, {600, 100}); // bare ground
+    ASSERT_EQ(menus.size(), 1);
+    EXPECT_EQ(menus[0][0].toString(), QStringLiteral("R-0"));
+    EXPECT_EQ(menus[0][1].toPointF(), QPointF(400, 282));
+    EXPECT_TRUE(picks.isEmpty());
+}
+
+TEST_F(MapPointer, ATurnAsksForNoMenu) {
+    const QSignalSpy menus(m_map, &MapView::menuWanted);
+    drag(Qt::RightButton, {400, 282}, {460, 232});
+    EXPECT_TRUE(menus.isEmpty());
+}
+
 TEST_F(MapPointer, ATremblingClickIsAClick) {
     const QSignalSpy picks(m_map, &MapView::picked);
     press({400, 282}, 1000);
