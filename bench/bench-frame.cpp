@@ -210,7 +210,8 @@ void measureFilter(FrameClock& clock,
             throw std::runtime_error("a keystroke did not reach the search field");
         }
         toList.push_back(milliseconds(clock.waitForPicture([] { return true; }) - start));
-        toMap.push_back(milliseconds(clock.waitForPicture([&] { return map.isComplete(); }) - start));
+        toMap.push_back(
+            milliseconds(clock.waitForPicture([&] { return map.isComplete(); }) - start));
     }
     printTimes("keystroke to list", toList);
     printTimes("keystroke to map", toMap);

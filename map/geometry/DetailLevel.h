@@ -2,6 +2,8 @@
 // Levels of detail: half steps of zoom, so that what holds for all scales of a level is decided
 // anew every time the scale grows or shrinks by the square root of two.
 
+#include <utility> // for the order
+
 namespace vasker {
 
 /// A level serves the scales above its predecessor's and up to its own.
