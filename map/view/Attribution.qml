@@ -107,7 +107,7 @@ Item {
                     Keys.onSpacePressed: link.open()
 
                     function open(): void {
-                        Qt.openUrlExternally(entry.modelData.address);
+                        SystemBrowser.open(entry.modelData.address);
                     }
 
                     FocusRing {

@@ -1,0 +1,48 @@
+#include "platform/FileCopy.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <array>
+#include <filesystem>
+
+namespace vasker {
+
+namespace {
+
+bool areOneFile(const QString& one, const QString& other) {
+    std::error_code unknown;
+    return std::filesystem::equivalent(
+        QFile::encodeName(one).toStdString(), QFile::encodeName(other).toStdString(), unknown);
+}
+
+} // namespace
+
+QString copyWhole(const QString& source, const QString& target) {
+    QFile from(source);
+    if (!from.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return from.errorString();
+    }
+    if (areOneFile(source, target)) {
+        return {};
+    }
+    QSaveFile to(target);
+    if (!to.open(QIODevice::WriteOnly)) {
+        return to.errorString();
+    }
+    std::array<char, 1 << 16> step{};
+    for (;;) {
+        const qint64 count = from.read(step.data(), step.size());
+        if (count < 0) {
+            return from.errorString();
+        }
+        if (count == 0) {
+            return to.commit() ? QString() : to.errorString();
+        }
+        if (to.write(step.data(), count) != count) {
+            return to.errorString();
+        }
+    }
+}
+
+} // namespace vasker

@@ -1,0 +1,66 @@
+#pragma once
+// What a user can do with one file of the program: save a copy, see it in the file manager, copy it
+// to the clipboard, open it with another program. The desktop's portal does it where there is one.
+// The file itself is never changed, and nothing here waits: not for the desktop, not for a disk.
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QThreadPool>
+#include <QUrl>
+#include <QtQmlIntegration>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace vasker {
+
+class FileShare : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QString message READ message NOTIFY messageChanged)
+
+  public:
+    /// Asks portal and file manager on `bus`; one that is not connected is fine. Without a portal
+    /// `engine` shows a dialog of its own; it may be null: then there is none.
+    explicit FileShare(const QDBusConnection& bus,
+                       QQmlEngine* engine = nullptr,
+                       QObject* parent = nullptr);
+    ~FileShare() override;
+    /// The one object of the process, made on first use.
+    static FileShare* create(QQmlEngine* engine, QJSEngine*);
+
+    /// How the last action ended, in one sentence for the user; empty before the first, while one
+    /// is under way, and where there is nothing to say.
+    [[nodiscard]] const QString& message() const noexcept { return m_message; }
+
+    /// Lets the user say where, then saves a copy of the file at `path` there.
+    Q_INVOKABLE void saveCopy(const QString& path, QQuickWindow* window);
+    /// Saves a copy of the file at `path` at `place`, byte for byte. Other programs see what was
+    /// there before or the whole copy, never a part; after a failure, what was there before.
+    Q_INVOKABLE void copyTo(const QString& path, const QUrl& place);
+    /// Shows the file at `path` in the file manager, else opens its folder.
+    Q_INVOKABLE void showInFolder(const QString& path);
+    /// Puts the file at `path` on the clipboard, for file managers to paste; texts get its path.
+    Q_INVOKABLE void copyFile(const QString& path);
+    /// Lets the user choose a program that then opens the file at `path`.
+    Q_INVOKABLE void openWith(const QString& path, QQuickWindow* window);
+
+  Q_SIGNALS:
+    void messageChanged();
+
+  private:
+    void setMessage(const QString& message);
+    void askByDialog(const QString& path, QQuickWindow* window);
+    void openFolder(const QString& path);
+
+    QDBusConnection m_bus;
+    QPointer<QQmlEngine> m_engine;
+    QString m_message;
+    // Last: while it ends its work, all the rest is still there.
+    QThreadPool m_threads;
+};
+
+} // namespace vasker

@@ -1,0 +1,53 @@
+#pragma once
+// One request to the desktop's portal: it is sent, and its answer comes when the user has decided.
+// Nothing here waits.
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <functional>
+
+class QWindow;
+
+namespace vasker {
+
+/// What to ask of the portal: `method` of `interface`, with `options` after the other `arguments`.
+struct PortalCall {
+    QString interface;
+    QString method;
+    QVariantList arguments;
+    QVariantMap options;
+};
+
+class PortalRequest : public QObject {
+    Q_OBJECT
+
+  public:
+    /// `unavailable`: there is no portal, it cannot do this, or it failed to.
+    enum class Outcome { done, cancelled, unavailable };
+    using Answer = std::function<void(Outcome, const QVariantMap& results)>;
+
+    /// Calls `answer` once, later, on the thread of `owner`; never when `owner` is gone by then. A
+    /// bus that is not connected is fine: it has no portal.
+    static void send(const QDBusConnection& bus, PortalCall call, QObject* owner, Answer answer);
+
+    /// How a portal is told which window a request belongs to; empty where that cannot be said.
+    [[nodiscard]] static QString parentName(const QWindow* window);
+
+  private Q_SLOTS:
+    void respond(uint code, const QVariantMap& results);
+
+  private:
+    PortalRequest(const QDBusConnection& bus, QObject* owner, Answer answer);
+    void listenAt(const QString& handle);
+    void finish(Outcome outcome, const QVariantMap& results);
+
+    QDBusConnection m_bus;
+    QString m_handle;
+    Answer m_answer;
+};
+
+} // namespace vasker

@@ -1,0 +1,41 @@
+#include "platform/SystemBrowser.h"
+
+#include "platform/Appearance.h"
+#include "platform/Portal.h"
+
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QJSEngine>
+#include <QUrl>
+
+namespace vasker {
+
+SystemBrowser::SystemBrowser(const QDBusConnection& bus, QObject* parent)
+    : QObject(parent), m_bus(bus) {}
+
+SystemBrowser* SystemBrowser::create(QQmlEngine*, QJSEngine*) {
+    static auto* const shared = new SystemBrowser(Appearance::sessionBus(), qGuiApp);
+    QJSEngine::setObjectOwnership(shared, QJSEngine::CppOwnership);
+    return shared;
+}
+
+bool SystemBrowser::open(const QString& address) {
+    const QUrl url(address, QUrl::StrictMode);
+    if (!url.isValid() || url.scheme() != u"https" || url.host().isEmpty()) {
+        return false;
+    }
+    const PortalCall call{.interface = QStringLiteral("org.freedesktop.portal.OpenURI"),
+                          .method = QStringLiteral("OpenURI"),
+                          .arguments = {PortalRequest::parentName(QGuiApplication::focusWindow()),
+                                        url.toString(QUrl::FullyEncoded)},
+                          .options = {}};
+    PortalRequest::send(
+        m_bus, call, this, [url](PortalRequest::Outcome outcome, const QVariantMap&) {
+            if (outcome == PortalRequest::Outcome::unavailable) {
+                QDesktopServices::openUrl(url);
+            }
+        });
+    return true;
+}
+
+} // namespace vasker
