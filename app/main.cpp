@@ -1,4 +1,5 @@
 #include "app/OpenMapApp.h"
+#include "platform/AccessibleIds.h"
 #include "platform/Locale.h"
 #include "platform/Memory.h"
 #include "platform/ui/Fonts.h"
@@ -19,6 +20,7 @@ int main(int argc, char* argv[]) {
     vasker::installInterfaceFont();
     vasker::installTranslation(application, vasker::messagesLocale());
 
+    const vasker::AccessibleIds identifiers;
     vasker::OpenMapApp windows(vasker::Bundle::ofApplication(),
                                vasker::TextLocale::fromEnvironment(),
                                vasker::Preferences::userPath(),

@@ -1,0 +1,151 @@
+#include "platform/AccessibleIds.h"
+
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusVariant>
+#include <QMap>
+#include <QTimer>
+
+namespace vasker {
+
+namespace {
+
+const QString connectionName = QStringLiteral("a11y");
+const QString tree = QStringLiteral("/org/a11y/atspi/accessible");
+const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
+const QString editableText = QStringLiteral("org.a11y.atspi.EditableText");
+const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
+
+using Attributes = QMap<QString, QString>;
+
+// The last part of a path in the tree is the number of what it stands for.
+QAccessibleInterface* findControl(const QString& path) {
+    bool isNumber = false;
+    const QAccessible::Id number = path.mid(tree.size() + 1).toUInt(&isNumber);
+    auto* control = isNumber ? QAccessible::accessibleInterface(number) : nullptr;
+    return control != nullptr && control->isValid() && control->object() != nullptr ? control
+                                                                                    : nullptr;
+}
+
+QString identifier(const QAccessibleInterface& control) {
+    const QString name = control.object()->objectName();
+    return name.startsWith(AccessibleIds::prefix) ? name : QString();
+}
+
+bool isTextField(const QAccessibleInterface& control) {
+    const QVariant readOnly = control.object()->property("readOnly");
+    return control.role() == QAccessible::EditableText && readOnly.isValid() && !readOnly.toBool();
+}
+
+QStringList interfaces(QAccessibleInterface& field) {
+    QStringList names{accessible, QStringLiteral("org.a11y.atspi.Component"), editableText};
+    if (field.actionInterface() != nullptr) {
+        names << QStringLiteral("org.a11y.atspi.Action");
+    }
+    if (field.textInterface() != nullptr) {
+        names << QStringLiteral("org.a11y.atspi.Text");
+    }
+    return names;
+}
+
+// The field's own text property takes what it takes from the keyboard, and tells the same of it.
+bool setText(const QAccessibleInterface& field, const QString& text) {
+    const QAccessible::State state = field.state();
+    return !state.disabled && !state.invisible && field.object()->setProperty("text", text);
+}
+
+bool edit(const QAccessibleInterface& field, const QString& method, const QVariantList& arguments) {
+    QString text = field.object()->property("text").toString();
+    if (method == u"SetTextContents" && arguments.size() == 1) {
+        return setText(field, arguments[0].toString());
+    }
+    if (method == u"InsertText" && arguments.size() == 3) {
+        const int place = arguments[0].toInt();
+        return place >= 0 && place <= text.size() &&
+               setText(field,
+                       text.insert(place, arguments[1].toString().left(arguments[2].toInt())));
+    }
+    if (method == u"DeleteText" && arguments.size() == 2) {
+        const int first = arguments[0].toInt();
+        const int last = arguments[1].toInt();
+        return first >= 0 && first <= last && last <= text.size() &&
+               setText(field, text.remove(first, last - first));
+    }
+    return false;
+}
+
+// What is to be answered in the bridge's stead; not valid where the bridge answers.
+QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
+    const QString group = question.interface();
+    const QString method = question.member();
+    const QString id = identifier(control);
+    if (!id.isEmpty() && group == properties && method == u"Get" &&
+        question.arguments() == QVariantList{accessible, QStringLiteral("AccessibleId")}) {
+        return QVariant::fromValue(QDBusVariant(id));
+    }
+    if (!id.isEmpty() && group == accessible && method == u"GetAttributes") {
+        return QVariant::fromValue(Attributes{{QStringLiteral("id"), id}});
+    }
+    if (!isTextField(control)) {
+        return {};
+    }
+    if (group == accessible && method == u"GetInterfaces") {
+        return interfaces(control);
+    }
+    return group == editableText ? edit(control, method, question.arguments()) : QVariant();
+}
+
+} // namespace
+
+AccessibleIds::AccessibleIds() {
+    qDBusRegisterMetaType<Attributes>();
+    QAccessible::installActivationObserver(this);
+    if (QAccessible::isActive()) {
+        takePlace();
+    }
+}
+
+AccessibleIds::~AccessibleIds() {
+    QAccessible::removeActivationObserver(this);
+    QDBusConnection bus(connectionName);
+    if (bus.isConnected() && bus.objectRegisteredAt(tree) == this) {
+        bus.unregisterObject(tree);
+        if (m_bridge != nullptr) {
+            bus.registerVirtualObject(tree, m_bridge, QDBusConnection::SubPath);
+        }
+    }
+}
+
+// The bridge is told of this before it takes its own place.
+void AccessibleIds::accessibilityActiveChanged(bool active) {
+    if (active) {
+        QTimer::singleShot(0, this, [this] { takePlace(); });
+    }
+}
+
+void AccessibleIds::takePlace() {
+    QDBusConnection bus(connectionName);
+    auto* found = bus.isConnected()
+                      ? qobject_cast<QDBusVirtualObject*>(bus.objectRegisteredAt(tree))
+                      : nullptr;
+    if (found != nullptr && found != this) {
+        m_bridge = found;
+        bus.unregisterObject(tree);
+        bus.registerVirtualObject(tree, this, QDBusConnection::SubPath);
+    }
+}
+
+QString AccessibleIds::introspect(const QString& path) const {
+    return m_bridge != nullptr ? m_bridge->introspect(path) : QString();
+}
+
+bool AccessibleIds::handleMessage(const QDBusMessage& message, const QDBusConnection& bus) {
+    if (QAccessibleInterface* control = findControl(message.path())) {
+        if (const QVariant known = answer(message, *control); known.isValid()) {
+            return bus.send(message.createReply(known));
+        }
+    }
+    return m_bridge != nullptr && m_bridge->handleMessage(message, bus);
+}
+
+} // namespace vasker

@@ -1,0 +1,226 @@
+"""Starts the real program and uses it over the accessibility bus, as a screen reader does.
+
+Needs a session bus and an X display of its own, see tools/headless.
+"""
+
+import os
+import signal
+import subprocess
+import tempfile
+import time
+from dataclasses import dataclass, field
+from pathlib import Path
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+gi.require_version("Gio", "2.0")
+from gi.repository import Atspi, Gio, GLib
+
+PATIENCE_SECONDS = 30
+PAUSE_SECONDS = 0.1
+
+
+class Missed(AssertionError):
+    """What a scenario waited for did not come."""
+
+
+@dataclass
+class Control:
+    """One object of the accessibility tree, as it was when the tree was read."""
+
+    node: object
+    parent: "Control | None"
+    role: str
+    name: str
+    id: str
+    description: str
+    states: frozenset
+    children: list = field(default_factory=list)
+
+    def below(self):
+        """Itself and all below it, from top to bottom."""
+        yield self
+        for child in self.children:
+            yield from child.below()
+
+    def find(self, **wanted):
+        return next((each for each in self.below() if each.fits(**wanted)), None)
+
+    def find_all(self, **wanted):
+        return [each for each in self.below() if each.fits(**wanted)]
+
+    def fits(self, id=None, role=None, name=None, state=None, starts=None):
+        return (
+            (id is None or self.id == id)
+            and (role is None or self.role == role)
+            and (name is None or self.name == name)
+            and (starts is None or self.name.startswith(starts))
+            and (state is None or state in self.states)
+        )
+
+    def names(self):
+        return [each.name for each in self.below() if each.name]
+
+    def text(self, depth=0):
+        """The tree below it, a line each, for people to read."""
+        line = f"{'  ' * depth}{self.role} {self.name!r}"
+        line += f" #{self.id}" if self.id else ""
+        line += f" ({self.description})" if self.description else ""
+        interesting = self.states & {"focused", "selected", "checked", "expanded", "editable", "modal"}
+        line += f" {sorted(interesting)}" if interesting else ""
+        return "\n".join([line] + [child.text(depth + 1) for child in self.children])
+
+    def press(self):
+        if not self.node.get_n_actions() or not self.node.do_action(0):
+            raise Missed(f"cannot be pressed: {self.text()}")
+
+    def set_text(self, text):
+        if not Atspi.EditableText.set_text_contents(self.node, text):
+            raise Missed(f"takes no text: {self.text()}")
+
+    def contents(self):
+        return Atspi.Text.get_text(self.node, 0, -1)
+
+    def focus(self):
+        return self.node.grab_focus()
+
+
+def read(node, parent=None, depth=0):
+    """The tree below a node; None where it is gone by now."""
+    try:
+        control = Control(
+            node,
+            parent,
+            node.get_role_name(),
+            node.get_name() or "",
+            node.get_accessible_id() or "",
+            node.get_description() or "",
+            frozenset(each.value_nick for each in node.get_state_set().get_states()),
+        )
+        if depth < 40:
+            for place in range(min(node.get_child_count(), 500)):
+                child = node.get_child_at_index(place)
+                seen = read(child, control, depth + 1) if child is not None else None
+                if seen is not None:
+                    control.children.append(seen)
+        return control
+    except GLib.Error:
+        return None
+
+
+def wait(question, what, patience=PATIENCE_SECONDS):
+    """The first answer to `question` that is true; it is asked again and again."""
+    end = time.monotonic() + patience
+    while True:
+        answer = question()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise Missed(what)
+        time.sleep(PAUSE_SECONDS)
+
+
+def accessibility_bus():
+    """The address of the accessibility bus of this session."""
+    session = Gio.bus_get_sync(Gio.BusType.SESSION)
+    reply = session.call_sync(
+        "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, -1
+    )
+    return reply.unpack()[0]
+
+
+class Program:
+    """The running program. Its settings are its own, and gone when it ends."""
+
+    def __init__(self, executable, home=None, **environment):
+        self._private = tempfile.TemporaryDirectory()
+        self.home = Path(home or self._private.name)
+        os.chmod(self.home, 0o700)
+        variables = dict(
+            os.environ,
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            LC_ALL="C.UTF-8",
+            HOME=str(self.home),
+            XDG_CONFIG_HOME=str(self.home / "config"),
+            XDG_CACHE_HOME=str(self.home / "cache"),
+            XDG_DATA_HOME=str(self.home / "data"),
+            XDG_RUNTIME_DIR=str(self.home),
+        )
+        variables.update({key: value for key, value in environment.items() if value is not None})
+        for key in [key for key, value in environment.items() if value is None]:
+            variables.pop(key, None)
+        self.process = subprocess.Popen([executable], env=variables)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, kind, fault, trace):
+        if kind is not None:
+            print(self.dump())
+        if self.process.poll() is None:
+            self.process.send_signal(signal.SIGTERM)
+        try:
+            self.process.wait(timeout=10)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+            self.process.wait()
+        self._private.cleanup()
+
+    def windows(self):
+        """The program's windows as they are now, in the order of their opening."""
+        desktop = Atspi.get_desktop(0)
+        for place in range(desktop.get_child_count()):
+            try:
+                application = desktop.get_child_at_index(place)
+                if application is None or application.get_process_id() != self.process.pid:
+                    continue
+                application.clear_cache()
+            except GLib.Error:
+                continue
+            tree = read(application)
+            return tree.children if tree is not None else []
+        return []
+
+    def find(self, window=0, **wanted):
+        """The first control of a window that fits, or None."""
+        windows = self.windows()
+        return windows[window].find(**wanted) if window < len(windows) else None
+
+    def wait(self, question, what):
+        def asked():
+            if self.process.poll() is not None:
+                raise Missed(f"the program ended with {self.process.poll()}; waited for {what}")
+            return question()
+
+        return wait(asked, what)
+
+    def see(self, window=0, **wanted):
+        """Waits for a control of a window that fits."""
+        return self.wait(lambda: self.find(window, **wanted), f"there is no {wanted}")
+
+    def miss(self, window=0, **wanted):
+        """Waits until no control of a window fits."""
+        self.wait(
+            lambda: window < len(self.windows()) and not self.find(window, **wanted),
+            f"there still is {wanted}",
+        )
+
+    def press(self, window=0, **wanted):
+        self.see(window, **wanted).press()
+
+    def key(self, *keys):
+        """Presses keys at once in the window that has the focus, by the names that X gives them."""
+        subprocess.run(["xdotool", "key", "+".join(keys)], check=True)
+
+    def preference(self, key):
+        """The stored text, or None."""
+        try:
+            lines = (self.home / "config/vasker-open-map/preferences").read_text("utf-8").splitlines()
+        except FileNotFoundError:
+            return None
+        found = [line.partition("=")[2] for line in lines if line.partition("=")[0] == key]
+        return found[-1] if found else None
+
+    def dump(self):
+        return "\n".join(window.text() for window in self.windows())
