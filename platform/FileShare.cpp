@@ -108,6 +108,9 @@ void FileShare::copyTo(const QString& path, const QUrl& place) {
 
 void FileShare::showInFolder(const QString& path) {
     setMessage({});
+    if (!m_bus.isConnected()) {
+        return openFolder(path);
+    }
     QDBusMessage question =
         QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),
                                        QStringLiteral("/org/freedesktop/FileManager1"),

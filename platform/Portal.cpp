@@ -6,6 +6,7 @@
 #include <QDBusPendingReply>
 #include <QGuiApplication>
 #include <QRandomGenerator>
+#include <QTimer>
 #include <QWindow>
 
 #include <utility>
@@ -34,6 +35,10 @@ void PortalRequest::send(const QDBusConnection& bus,
                          QObject* owner,
                          Answer answer) {
     auto* request = new PortalRequest(bus, owner, std::move(answer));
+    if (!bus.isConnected()) {
+        QTimer::singleShot(0, request, [request] { request->finish(Outcome::unavailable, {}); });
+        return;
+    }
     const QString token =
         QStringLiteral("vasker%1").arg(QRandomGenerator::global()->generate64(), 0, 36);
     call.options.insert(QStringLiteral("handle_token"), token);
@@ -61,7 +66,7 @@ QString PortalRequest::parentName(const QWindow* window) {
 }
 
 void PortalRequest::listenAt(const QString& handle) {
-    if (m_handle != handle && m_bus.isConnected()) {
+    if (m_handle != handle) {
         m_handle = handle;
         // From whomever: to name the portal would mean to wait for the bus to tell who that is.
         m_bus.connect(QString(),

@@ -1,0 +1,202 @@
+#include "platform/FileShare.h"
+
+#include "PlayedDesktop.h"
+
+#include <QClipboard>
+#include <QDBusUnixFileDescriptor>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace vasker {
+namespace {
+
+// A file to share, that the user cannot write to, in a folder to which they can.
+class SharedFile {
+  public:
+    SharedFile() {
+        QFile file(path());
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.setPermissions(QFileDevice::ReadOwner | QFileDevice::ReadUser);
+    }
+    [[nodiscard]] QString path() const { return folder.filePath(QStringLiteral("map data.json")); }
+    [[nodiscard]] QString beside(const QString& name) const { return folder.filePath(name); }
+
+    QTemporaryDir folder;
+    QByteArray bytes = QByteArray("{\0\r\n\xff}", 6) + QByteArray(200000, 'x');
+};
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+TEST(FileShare, ACopyIsSavedWhereThePortalSays) {
+    const SharedFile file;
+    const QString place = file.beside(QStringLiteral("a copy é.json"));
+    const Portal portal(Desktop::Answers::done,
+                        {{QStringLiteral("uris"),
+                          QStringList{QUrl::fromLocalFile(place).toString(QUrl::FullyEncoded)}}});
+    FileShare share(session());
+    share.saveCopy(file.path(), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_EQ(share.message(), QStringLiteral("Saved to ") + place);
+    EXPECT_EQ(contentOf(place), file.bytes);
+    EXPECT_TRUE(QFile::permissions(place).testFlag(QFileDevice::WriteOwner));
+    EXPECT_EQ(portal.asked.member(), QStringLiteral("SaveFile"));
+    EXPECT_EQ(portal.options().value(QStringLiteral("current_name")),
+              QStringLiteral("map data.json"));
+}
+
+TEST(FileShare, ACancelledCopyIsNotSavedAndNotSpokenOf) {
+    const SharedFile file;
+    const Portal portal(Desktop::Answers::cancelled);
+    FileShare share(session());
+    share.saveCopy(file.path(), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.asked.member().isEmpty(); }));
+    QTest::qWait(50);
+    EXPECT_TRUE(share.message().isEmpty());
+    EXPECT_EQ(QDir(file.folder.path()).count(), 3U);
+}
+
+TEST(FileShare, WithoutPortalAndDialogACopyCannotBeSaved) {
+    const SharedFile file;
+    FileShare share(noBus());
+    share.saveCopy(file.path(), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The copy could not be saved: ")));
+}
+
+TEST(FileShare, ACopyTakesThePlaceOfAnotherFile) {
+    const SharedFile file;
+    const QString place = file.beside(QStringLiteral("there"));
+    QFile there(place);
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    there.write("what was there, and is longer", 29);
+    there.close();
+    FileShare share(noBus());
+    share.copyTo(file.path(), QUrl::fromLocalFile(place));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_EQ(contentOf(place), file.bytes);
+}
+
+TEST(FileShare, ACopyOntoItselfChangesNothing) {
+    const SharedFile file;
+    FileShare share(noBus());
+    share.copyTo(file.path(), QUrl::fromLocalFile(file.path()));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_EQ(share.message(), QStringLiteral("Saved to ") + file.path());
+    EXPECT_EQ(contentOf(file.path()), file.bytes);
+}
+
+TEST(FileShare, WhatIsThereStaysWhereACopyFails) {
+    const SharedFile file;
+    const QString place = file.beside(QStringLiteral("there"));
+    QFile there(place);
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    there.write("there", 5);
+    there.close();
+    FileShare share(noBus());
+    share.copyTo(file.beside(QStringLiteral("absent")), QUrl::fromLocalFile(place));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The copy could not be saved: ")));
+    EXPECT_EQ(contentOf(place), QByteArray("there"));
+}
+
+TEST(FileShare, APlaceThatCannotBeWrittenIsToldOf) {
+    const SharedFile file;
+    FileShare share(noBus());
+    for (const QUrl& place : {QUrl::fromLocalFile(file.beside(QStringLiteral("absent/copy"))),
+                              QUrl::fromLocalFile(file.folder.path()),
+                              QUrl(QStringLiteral("sftp://example.org/copy")),
+                              QUrl()}) {
+        share.copyTo(file.path(), place);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+        EXPECT_TRUE(share.message().startsWith(QStringLiteral("The copy could not be saved: ")));
+    }
+    EXPECT_EQ(QDir(file.folder.path()).count(), 3U);
+}
+
+TEST(FileShare, TheFileManagerShowsTheFile) {
+    const SharedFile file;
+    const Desktop files(
+        filesService, QStringLiteral("/org/freedesktop/FileManager1"), Desktop::Answers::done);
+    FileShare share(session());
+    share.showInFolder(file.path());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !files.asked.member().isEmpty(); }));
+    EXPECT_EQ(files.asked.member(), QStringLiteral("ShowItems"));
+    EXPECT_EQ(files.asked.arguments().at(0).toStringList(),
+              QStringList{QUrl::fromLocalFile(file.path()).toString(QUrl::FullyEncoded)});
+}
+
+TEST(FileShare, WithoutAFileManagerThePortalOpensTheFolder) {
+    const SharedFile file;
+    const Portal portal(Desktop::Answers::done);
+    FileShare share(session());
+    share.showInFolder(file.path());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.asked.member().isEmpty(); }));
+    EXPECT_EQ(portal.asked.member(), QStringLiteral("OpenDirectory"));
+}
+
+TEST(FileShare, WithoutEitherTheFolderIsOpened) {
+    const SharedFile file;
+    Opened opened;
+    FileShare share(noBus());
+    share.showInFolder(file.path());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.url.isEmpty(); }));
+    EXPECT_EQ(opened.url, QUrl::fromLocalFile(file.folder.path()));
+}
+
+TEST(FileShare, TheClipboardHoldsTheFileForFileManagersAndItsPathForTexts) {
+    const SharedFile file;
+    FileShare share(noBus());
+    share.copyFile(file.path());
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    const QByteArray url = QUrl::fromLocalFile(file.path()).toEncoded();
+    EXPECT_EQ(content->urls(), QList{QUrl::fromLocalFile(file.path())});
+    EXPECT_EQ(content->text(), file.path());
+    EXPECT_EQ(content->data(QStringLiteral("x-special/gnome-copied-files")), "copy\n" + url);
+    EXPECT_EQ(content->data(QStringLiteral("application/x-kde-cutselection")), QByteArray("0"));
+    EXPECT_EQ(share.message(), QStringLiteral("The file is on the clipboard."));
+}
+
+TEST(FileShare, ThePortalAsksWithWhatToOpenTheFile) {
+    const SharedFile file;
+    const Portal portal(Desktop::Answers::done);
+    FileShare share(session());
+    share.openWith(file.path(), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.asked.member().isEmpty(); }));
+    EXPECT_EQ(portal.asked.member(), QStringLiteral("OpenFile"));
+    EXPECT_EQ(portal.options().value(QStringLiteral("ask")), true);
+    const auto given = portal.asked.arguments().at(1).value<QDBusUnixFileDescriptor>();
+    QFile received;
+    ASSERT_TRUE(received.open(given.fileDescriptor(), QIODevice::ReadOnly));
+    EXPECT_EQ(received.readAll(), file.bytes);
+}
+
+TEST(FileShare, WithoutAPortalTheDesktopOpensTheFile) {
+    const SharedFile file;
+    Opened opened;
+    FileShare share(noBus());
+    share.openWith(file.path(), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.url.isEmpty(); }));
+    EXPECT_EQ(opened.url, QUrl::fromLocalFile(file.path()));
+}
+
+TEST(FileShare, AnActionForgetsTheMessageOfTheOneBefore) {
+    const SharedFile file;
+    const Portal portal(Desktop::Answers::cancelled);
+    FileShare share(session());
+    share.copyFile(file.path());
+    ASSERT_FALSE(share.message().isEmpty());
+    share.saveCopy(file.path(), nullptr);
+    EXPECT_TRUE(share.message().isEmpty());
+}
+
+} // namespace
+} // namespace vasker
