@@ -21,6 +21,8 @@ Item {
     // Whether its mark is pointed at on the map.
     property bool answering: false
     property bool current: false
+    // Whether the list keeps it for a record to come: then it lies there unseen.
+    property bool kept: false
     property bool separatorVisible: true
     readonly property bool filled: selected || answering || hover.hovered || tap.pressed
     readonly property bool hovered: hover.hovered
@@ -30,7 +32,10 @@ Item {
 
     objectName: "open-map-record-" + root.recordId
     implicitHeight: texts.height + 16
+    ListView.onPooled: root.kept = true
+    ListView.onReused: root.kept = false
     Accessible.role: Accessible.ListItem
+    Accessible.ignored: root.kept
     Accessible.name: root.accessibleText
     Accessible.selectable: true
     Accessible.selected: root.selected
