@@ -72,7 +72,9 @@ class Control:
         return "\n".join([line] + [child.text(depth + 1) for child in self.children])
 
     def press(self):
-        if not self.node.get_n_actions() or not self.node.do_action(0):
+        """What a screen reader does when its user presses the control."""
+        actions = [Atspi.Action.get_action_name(self.node, place) for place in range(self.node.get_n_actions())]
+        if "Press" not in actions or not self.node.do_action(actions.index("Press")):
             raise Missed(f"cannot be pressed: {self.text()}")
 
     def set_text(self, text):

@@ -1,0 +1,63 @@
+"""The catalogue, as found in a small release: Plant 2 and Plant 10, both gas plants."""
+
+from bundle import RELEASE, changed, program_with_release
+from driver import Missed, Program
+
+PROMPT = "Facility, pipeline or reporting company"
+ROWS = ["Plant 2, Gas plant, source period 2016", "Plant 10, Gas plant, source period 2016"]
+
+
+def rows(program):
+    records = program.find(id="open-map-records")
+    return [row.name for row in records.find_all(role="list item")] if records else None
+
+
+def see_rows(program, expected):
+    program.wait(lambda: rows(program) == expected, f"rows are {rows(program)}, not {expected}")
+
+
+def a_record_is_found_by_search(executable):
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        program.see(name="2 of 2 records")
+        see_rows(program, ROWS)
+        field = program.see(name=PROMPT)
+        if "editable" not in field.states:
+            raise Missed(field.text())
+        field.set_text("pLANT 1")
+        program.see(name="1 of 2 records")
+        see_rows(program, ROWS[1:])
+        program.see(name=PROMPT).set_text("nothing of that name")
+        program.see(name="0 of 2 records")
+        program.miss(id="open-map-records")
+        program.press(name="Clear search")
+        program.see(name="2 of 2 records")
+        if program.find(name=PROMPT).contents() != "":
+            raise Missed("the field still holds a text")
+        see_rows(program, ROWS)
+
+
+def a_record_is_picked(executable):
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        row = program.see(id="open-map-record-A-10")
+        if row.role != "list item" or row.name != ROWS[1] or "selectable" not in row.states:
+            raise Missed(row.text())
+        row.press()
+        program.see(id="open-map-record-A-10", state="selected")
+        program.miss(id="open-map-record-A-2", state="selected")
+
+
+def a_category_is_chosen(executable):
+    release = changed("assets", 1, "kind", to="refinery")
+    with program_with_release(executable, release) as copy, Program(copy) as program:
+        program.press(id="open-map-layer", role="combo box", name="Layer")
+        # The window's other lists do not offer it.
+        program.press(role="menu item", name="Gas plant")
+        program.see(name="1 of 2 records")
+        see_rows(program, ROWS[:1])
+        picker = program.see(id="open-map-layer")
+        if picker.description != "Gas plant":
+            raise Missed(picker.text())
+        program.press(id="open-map-layer")
+        program.see(role="menu item", name="Gas plant", state="checked")
+        program.press(role="menu item", name="All categories")
+        program.see(name="2 of 2 records")
