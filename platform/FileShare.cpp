@@ -10,6 +10,7 @@
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -17,6 +18,7 @@
 #include <QMimeData>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QStandardPaths>
 
 #include <memory>
 
@@ -71,23 +73,29 @@ void FileShare::saveCopy(const QString& path, QQuickWindow* window) {
 }
 
 void FileShare::askByDialog(const QString& path, QQuickWindow* window) {
-    const QVariantMap properties{{QStringLiteral("path"), path},
-                                 {QStringLiteral("fileName"), QFileInfo(path).fileName()},
-                                 {QStringLiteral("parentWindow"), QVariant::fromValue(window)}};
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QDir folder = documents.exists() ? documents : QDir::home();
+    const QString place = folder.filePath(QFileInfo(path).fileName());
     std::unique_ptr<QObject> dialog;
     if (m_engine != nullptr) {
         QQmlComponent component(m_engine,
                                 QUrl(QStringLiteral("qrc:/qt/qml/Vasker/Platform/SaveDialog.qml")));
-        dialog.reset(component.createWithInitialProperties(properties));
+        dialog.reset(component.createWithInitialProperties(
+            {{QStringLiteral("path"), path},
+             {QStringLiteral("place"), QUrl::fromLocalFile(place)},
+             {QStringLiteral("parentWindow"), QVariant::fromValue(window)}}));
     }
-    if (dialog == nullptr) {
+    if (dialog == nullptr || !dialog->property("visible").toBool()) {
         setMessage(tr("The copy could not be saved: this desktop has no dialog to ask where."));
         return;
     }
     // By name: the dialog's type is not public.
-    connect(dialog.get(), SIGNAL(accepted()), dialog.get(), SLOT(deleteLater()));
-    connect(dialog.get(), SIGNAL(rejected()), dialog.get(), SLOT(deleteLater()));
+    connect(dialog.get(), SIGNAL(finished()), dialog.get(), SLOT(deleteLater()));
     dialog.release()->setParent(this);
+}
+
+bool FileShare::exists(const QUrl& place) const {
+    return place.isLocalFile() && QFileInfo::exists(place.toLocalFile());
 }
 
 void FileShare::copyTo(const QString& path, const QUrl& place) {

@@ -41,6 +41,8 @@ class FileShare : public QObject {
     /// Saves a copy of the file at `path` at `place`, byte for byte. Other programs see what was
     /// there before or the whole copy, never a part; after a failure, what was there before.
     Q_INVOKABLE void copyTo(const QString& path, const QUrl& place);
+    /// Whether a copy at `place` would take the place of another file.
+    [[nodiscard]] Q_INVOKABLE bool exists(const QUrl& place) const;
     /// Shows the file at `path` in the file manager, else opens its folder.
     Q_INVOKABLE void showInFolder(const QString& path);
     /// Puts the file at `path` on the clipboard, for file managers to paste; texts get its path.

@@ -16,7 +16,8 @@ build_packages=(
 run_packages=(
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-layouts
-    qml6-module-qtquick-controls qml6-module-qtquick-templates qml6-module-qtquick-dialogs
+    qml6-module-qtquick-controls qml6-module-qtquick-templates
+    qml6-module-qtquick-dialogs qml6-module-qt-labs-folderlistmodel
     qt6-qpa-plugins qt6-wayland
     libgl1 libegl1 libopengl0 libgl1-mesa-dri
     ca-certificates

@@ -234,6 +234,14 @@
         <source>Save a copy</source>
         <translation>Enregistrer une copie</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>There is a file of this name already. Replace it?</source>
+        <translation>Il y a déjà un fichier de ce nom. Le remplacer ?</translation>
+    </message>
 </context>
 <context>
     <name>vasker::FileShare</name>
