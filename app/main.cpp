@@ -14,6 +14,8 @@ Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 int main(int argc, char* argv[]) {
     vasker::returnFreedPictures();
+    // Qt asks once, when it starts, whether there is a screen reader: one may be started later.
+    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("vasker-open-map"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vasker Beta"));

@@ -71,9 +71,12 @@ class Control:
         line += f" {sorted(interesting)}" if interesting else ""
         return "\n".join([line] + [child.text(depth + 1) for child in self.children])
 
+    def actions(self):
+        return [Atspi.Action.get_action_name(self.node, at) for at in range(self.node.get_n_actions())]
+
     def press(self):
         """What a screen reader does when its user presses the control."""
-        actions = [Atspi.Action.get_action_name(self.node, place) for place in range(self.node.get_n_actions())]
+        actions = self.actions()
         if "Press" not in actions or not self.node.do_action(actions.index("Press")):
             raise Missed(f"cannot be pressed: {self.text()}")
 
@@ -86,6 +89,14 @@ class Control:
 
     def focus(self):
         return self.node.grab_focus()
+
+    def is_there(self):
+        """Whether the program still knows it."""
+        try:
+            self.node.clear_cache()
+            return bool(self.node.get_accessible_id() or self.node.get_role_name())
+        except GLib.Error:
+            return False
 
 
 def read(node, parent=None, depth=0):
@@ -123,25 +134,35 @@ def wait(question, what, patience=PATIENCE_SECONDS):
         time.sleep(PAUSE_SECONDS)
 
 
+def ask_accessibility(interface, method, arguments=None):
+    """Calls the service that every session has for assistive tools."""
+    session = Gio.bus_get_sync(Gio.BusType.SESSION)
+    return session.call_sync(
+        "org.a11y.Bus", "/org/a11y/bus", interface, method, arguments, None, 0, -1
+    ).unpack()
+
+
 def accessibility_bus():
     """The address of the accessibility bus of this session."""
-    session = Gio.bus_get_sync(Gio.BusType.SESSION)
-    reply = session.call_sync(
-        "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, 0, -1
-    )
-    return reply.unpack()[0]
+    return ask_accessibility("org.a11y.Bus", "GetAddress")[0]
+
+
+def switch_accessibility(on):
+    """What a desktop does when its user starts a screen reader, or ends it."""
+    change = GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", on)))
+    ask_accessibility("org.freedesktop.DBus.Properties", "Set", change)
 
 
 class Program:
-    """The running program. Its settings are its own, and gone when it ends."""
+    """The running program. Its settings are its own, and gone when it ends. What is given besides
+    changes its environment; None takes a variable away."""
 
-    def __init__(self, executable, home=None, **environment):
+    def __init__(self, executable, **environment):
         self._private = tempfile.TemporaryDirectory()
-        self.home = Path(home or self._private.name)
+        self.home = Path(self._private.name)
         os.chmod(self.home, 0o700)
         variables = dict(
             os.environ,
-            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             LC_ALL="C.UTF-8",
             HOME=str(self.home),
             XDG_CONFIG_HOME=str(self.home / "config"),
@@ -149,10 +170,10 @@ class Program:
             XDG_DATA_HOME=str(self.home / "data"),
             XDG_RUNTIME_DIR=str(self.home),
         )
-        variables.update({key: value for key, value in environment.items() if value is not None})
-        for key in [key for key, value in environment.items() if value is None]:
-            variables.pop(key, None)
-        self.process = subprocess.Popen([executable], env=variables)
+        variables.update(environment)
+        self.variables = {key: value for key, value in variables.items() if value is not None}
+        self.executable = executable
+        self.process = subprocess.Popen([executable], env=self.variables)
 
     def __enter__(self):
         return self
@@ -211,9 +232,16 @@ class Program:
     def press(self, window=0, **wanted):
         self.see(window, **wanted).press()
 
-    def key(self, *keys):
-        """Presses keys at once in the window that has the focus, by the names that X gives them."""
-        subprocess.run(["xdotool", "key", "+".join(keys)], check=True)
+    def key(self, keys, window=0):
+        """Presses keys in a window, as in "ctrl+f"; nobody but us gives it the keyboard here."""
+        search = ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)]
+        found = wait(
+            lambda: subprocess.run(search, capture_output=True, text=True).stdout.split(),
+            "there is no window",
+        )
+        target = sorted(int(number) for number in found)[window]
+        focus = ["xdotool", "windowfocus", "--sync", str(target)]
+        subprocess.run(focus + ["key", "--clearmodifiers", keys], check=True)
 
     def preference(self, key):
         """The stored text, or None."""
