@@ -27,6 +27,9 @@ QtObject {
     readonly property color selected: dark ? "#2A3A50" : "#E4EDFB"
     readonly property color hover: Qt.alpha(ink, 0.06)
     readonly property color pressed: Qt.alpha(ink, 0.11)
+    // Over what lies behind a sheet; the second where it stays in use to the eye.
+    readonly property color scrim: dark ? Qt.rgba(0, 0, 0, 0.5) : Qt.alpha("#14181D", 0.28)
+    readonly property color sideScrim: dark ? Qt.rgba(0, 0, 0, 0.24) : Qt.alpha("#14181D", 0.14)
     readonly property color thumb: Qt.alpha(ink3, 0.45)
 
     // The desktop's text size; all text and the controls around it follow, widths and gaps do not.
@@ -41,9 +44,14 @@ QtObject {
     readonly property real menuRowRadius: 7
     readonly property real controlRadius: 9
     readonly property real cardRadius: 11
+    readonly property real sheetRadius: 14
 
     readonly property int hoverDuration: Appearance.reducedMotion ? 0 : 80
     readonly property int menuDuration: Appearance.reducedMotion ? 0 : 120
+    readonly property int sheetDuration: Appearance.reducedMotion ? 0 : 220
+    readonly property int riseDuration: Appearance.reducedMotion ? 0 : 280
+    readonly property int leaveDuration: Appearance.reducedMotion ? 0 : 160
+    readonly property int settleDuration: Appearance.reducedMotion ? 0 : 180
     readonly property int spinnerTurn: 1100
     readonly property bool still: Appearance.reducedMotion
 

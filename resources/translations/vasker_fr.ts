@@ -200,6 +200,24 @@
     </message>
 </context>
 <context>
+    <name>SheetFrame</name>
+    <message>
+        <source>Done</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SheetGrabber</name>
+    <message>
+        <source>Make the sheet larger</source>
+        <translation>Agrandir la feuille</translation>
+    </message>
+    <message>
+        <source>Make the sheet smaller</source>
+        <translation>Réduire la feuille</translation>
+    </message>
+</context>
+<context>
     <name>ScaleBar</name>
     <message>
         <source>Scale: %1</source>

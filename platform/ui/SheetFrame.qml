@@ -1,0 +1,155 @@
+import QtQuick
+import Vasker.Platform
+
+// The surface of a sheet: its title row, "Done", and the content below.
+Item {
+    id: root
+
+    required property string title
+    required property Component content
+    required property bool atBottom
+    required property bool atSide
+    required property bool scrolled
+    required property bool large
+    // 0 gone, 1 in place.
+    required property real shown
+    required property size usualSize
+    readonly property bool holdsFocus: holder.activeFocus
+    readonly property real away: 1 - shown
+    readonly property real largeHeight: Math.max(0, parent.height - 40)
+    readonly property real mediumHeight: Math.min(usualSize.height, atBottom ? largeHeight : parent.height)
+
+    signal dismissed
+    signal resized(bool large)
+
+    function open(): void {
+        holder.made = root.content.createObject(holder, {
+            "width": Qt.binding(() => holder.width),
+            "height": Qt.binding(() => holder.height)
+        }) as Item;
+    }
+    function close(): void {
+        holder.made.visible = false;
+        holder.made.destroy();
+    }
+    function focusDone(): void {
+        done.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    width: Math.min(parent.width, usualSize.width)
+    height: Math.round(mediumHeight + (atBottom ? (largeHeight - mediumHeight) * grabber.reach : 0))
+    x: atSide ? parent.width - width - 16 + 24 * away : Math.round((parent.width - width) / 2)
+    y: atBottom ? parent.height - height * shown : atSide ? 16 : Math.round((parent.height - height) / 2) + 16 * away
+    opacity: atBottom ? 1 : shown
+    Accessible.role: Accessible.Dialog
+    Accessible.name: root.title
+    Accessible.ignored: !root.visible
+
+    Shadow {
+        anchors.fill: ground
+        radius: Theme.sheetRadius
+        dark: Theme.dark
+        level: 3
+    }
+    Rectangle {
+        id: ground
+
+        width: parent.width
+        // At the bottom its lower corners are below the edge of the window.
+        height: parent.height + (root.atBottom ? radius : 0)
+        radius: Theme.sheetRadius
+        color: Theme.sheet
+    }
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+    }
+    Item {
+        id: titleRow
+
+        width: parent.width
+        height: Math.max(Theme.headerHeight, title.implicitHeight + 20)
+
+        SheetGrabber {
+            id: grabber
+
+            visible: root.atBottom
+            anchors.horizontalCenter: parent.horizontalCenter
+            handle: titleRow
+            large: root.large
+            travel: root.largeHeight - root.mediumHeight
+            onMoved: large => root.resized(large)
+        }
+        Label {
+            id: title
+
+            anchors.centerIn: parent
+            width: parent.width - 2 * (done.width + 24)
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            textStyle: Theme.headline
+            text: root.title
+        }
+        Item {
+            id: done
+
+            anchors.right: parent.right
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            width: doneLabel.implicitWidth + 24
+            height: Theme.controlHeight
+            activeFocusOnTab: true
+            Accessible.role: Accessible.Button
+            Accessible.name: doneLabel.text
+            Accessible.focusable: true
+            Accessible.ignored: !root.visible
+            Accessible.onPressAction: root.dismissed()
+            Keys.onSpacePressed: root.dismissed()
+            Keys.onReturnPressed: root.dismissed()
+            Keys.onEnterPressed: root.dismissed()
+
+            Rectangle {
+                anchors.fill: parent
+                radius: Theme.controlRadius
+                color: tap.pressed ? Theme.pressed : Theme.hover
+                visible: hover.hovered || tap.pressed
+            }
+            FocusRing {}
+            Label {
+                id: doneLabel
+
+                anchors.centerIn: parent
+                textStyle: Theme.headline
+                color: Theme.accent
+                text: qsTr("Done")
+            }
+            HoverHandler {
+                id: hover
+            }
+            TapHandler {
+                id: tap
+
+                gesturePolicy: TapHandler.ReleaseWithinBounds
+                onTapped: root.dismissed()
+            }
+        }
+        Rectangle {
+            visible: root.scrolled
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.line
+        }
+    }
+    FocusScope {
+        id: holder
+
+        property Item made
+
+        anchors.top: titleRow.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        clip: true
+        focus: true
+    }
+}

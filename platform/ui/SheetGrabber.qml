@@ -1,0 +1,83 @@
+import QtQuick
+import Vasker.Platform
+
+// Takes a sheet from one height to the other: by dragging `handle`, by keys, or pressed.
+Item {
+    id: root
+
+    required property Item handle
+    required property bool large
+    // From one height to the other, in logical pixels.
+    required property real travel
+    property bool dragging: false
+    property real dragged: 0
+    // 0 at the lower height, 1 at the larger one.
+    property real reach: dragging ? dragged : large ? 1 : 0
+
+    signal moved(bool large)
+
+    width: 60
+    height: 18
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Button
+    Accessible.name: root.large ? qsTr("Make the sheet smaller") : qsTr("Make the sheet larger")
+    Accessible.focusable: true
+    Accessible.ignored: !root.visible
+    Accessible.onPressAction: root.moved(!root.large)
+    Accessible.onIncreaseAction: root.moved(true)
+    Accessible.onDecreaseAction: root.moved(false)
+    Keys.onSpacePressed: root.moved(!root.large)
+    Keys.onReturnPressed: root.moved(!root.large)
+    Keys.onEnterPressed: root.moved(!root.large)
+    Keys.onUpPressed: root.moved(true)
+    Keys.onDownPressed: root.moved(false)
+
+    Behavior on reach {
+        enabled: !root.dragging
+
+        NumberAnimation {
+            duration: Theme.settleDuration
+            easing.type: Easing.OutCubic
+        }
+    }
+    Rectangle {
+        id: bar
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 7
+        width: 36
+        height: 4
+        radius: 2
+        color: Qt.alpha(Theme.ink3, 0.55)
+
+        FocusRing {
+            around: 2
+            shown: root.activeFocus && FocusVisibility.visible
+        }
+    }
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: root.moved(!root.large)
+    }
+    DragHandler {
+        property real startReach
+
+        parent: root.handle
+        enabled: root.visible && root.travel > 0
+        target: null
+        xAxis.enabled: false
+        onActiveChanged: {
+            if (active) {
+                startReach = root.reach;
+                root.dragged = root.reach;
+                root.dragging = true;
+            } else {
+                root.moved(root.dragged > 0.5);
+                root.dragging = false;
+            }
+        }
+        onTranslationChanged: if (active) {
+            root.dragged = Math.max(0, Math.min(1, startReach - translation.y / root.travel));
+        }
+    }
+}
