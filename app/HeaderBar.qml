@@ -1,16 +1,23 @@
 import QtQuick
 import Vasker.Platform
 
-// The bar over the map: the title, and the buttons at the trailing edge. When room runs out the
-// title goes first, then the labels of the buttons.
+// The bar over the map: the title, the toolbar and, apart from it, the primary menu. When room runs
+// out the title goes first, then the labels of the buttons.
 Rectangle {
     id: root
 
-    readonly property real buttonsWidth: reset.fullWidth
-    readonly property bool labelsVisible: width >= buttonsWidth + 24
-    readonly property bool titleVisible: width >= buttonsWidth + 12 + 20 + title.implicitWidth + 20
+    required property WindowActions actions
+    property string basemap
 
+    readonly property real endWidth: 12 + primary.width + 12
+    readonly property real toolsWidth: options.fullWidth + reset.fullWidth + sources.fullWidth + 2 * tools.spacing
+    readonly property bool labelsVisible: width >= 12 + toolsWidth + endWidth
+    readonly property bool titleVisible: width >= 20 + title.implicitWidth + 20 + toolsWidth + endWidth
+
+    signal basemapPicked(string basemap)
     signal cameraReset
+    signal sourcesWanted
+    signal recordsWanted
 
     implicitHeight: Theme.headerHeight
     color: Theme.window
@@ -23,13 +30,23 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         textStyle: Theme.headline
         text: qsTr("Vasker Beta")
+        spoken: true
     }
     Row {
+        id: tools
+
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: root.endWidth
         anchors.verticalCenter: parent.verticalCenter
         spacing: 4
 
+        MapOptionsMenu {
+            id: options
+
+            basemap: root.basemap
+            labelVisible: root.labelsVisible
+            onBasemapPicked: basemap => root.basemapPicked(basemap)
+        }
         HeaderButton {
             id: reset
 
@@ -39,6 +56,24 @@ Rectangle {
             labelVisible: root.labelsVisible
             onClicked: root.cameraReset()
         }
+        HeaderButton {
+            id: sources
+
+            objectName: "open-map-sources"
+            icon: "info.circle"
+            text: qsTr("Sources & coverage")
+            labelVisible: root.labelsVisible
+            onClicked: root.sourcesWanted()
+        }
+    }
+    PrimaryMenu {
+        id: primary
+
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        actions: root.actions
+        onRecordsWanted: root.recordsWanted()
     }
     Rectangle {
         anchors.bottom: parent.bottom

@@ -22,13 +22,20 @@ Window {
         if (root.screen === OpenMapRoot.Ready) {
             view.setSource("WorkspaceView.qml", {
                 "workspace": root.workspace,
-                "tiles": window.application.tiles
+                "tiles": window.application.tiles,
+                "actions": actions
             });
         }
     }
 
     Component.onCompleted: showWorkspace()
 
+    WindowActions {
+        id: actions
+
+        onWindowWanted: window.application.openWindow()
+        onQuitWanted: window.application.closeAllWindows()
+    }
     LoadingScreen {
         anchors.fill: parent
         visible: window.root.screen === OpenMapRoot.Loading
@@ -53,7 +60,7 @@ Window {
     }
     Shortcut {
         sequence: "Ctrl+N"
-        onActivated: window.application.openWindow()
+        onActivated: actions.windowWanted()
     }
     Shortcut {
         sequence: "Ctrl+W"
@@ -61,6 +68,6 @@ Window {
     }
     Shortcut {
         sequence: "Ctrl+Q"
-        onActivated: Qt.quit()
+        onActivated: actions.quitWanted()
     }
 }

@@ -7,6 +7,7 @@
 #include <QQuickWindow>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <memory>
 
 namespace vasker {
@@ -53,6 +54,10 @@ OpenMapApp::~OpenMapApp() {
     }
 }
 
+QString OpenMapApp::version() {
+    return QStringLiteral(VASKER_VERSION);
+}
+
 QQuickWindow* OpenMapApp::openWindow() {
     // Loading starts first: it goes on while the window is being made.
     auto root = std::make_unique<OpenMapRoot>(m_bundle, m_locale, m_preferences, m_threads);
@@ -75,6 +80,32 @@ QQuickWindow* OpenMapApp::openWindow() {
     m_windows.removeIf([](const QPointer<QQuickWindow>& each) { return each.isNull(); });
     m_windows.append(window);
     return window;
+}
+
+void OpenMapApp::openWindowInFront(const LaunchToken& token) {
+    QQuickWindow* const window = openWindow();
+    const auto request = [window, token] {
+        if (!token.activation.isEmpty()) {
+            // Where Qt looks for it.
+            qputenv("XDG_ACTIVATION_TOKEN", token.activation.toUtf8());
+        }
+        window->requestActivate();
+    };
+    connect(window, &QQuickWindow::frameSwapped, window, request, Qt::SingleShotConnection);
+}
+
+bool OpenMapApp::hasWindows() const {
+    return std::any_of(
+        m_windows.cbegin(), m_windows.cend(), [](const auto& window) { return window != nullptr; });
+}
+
+void OpenMapApp::closeAllWindows() {
+    const QList<QPointer<QQuickWindow>> windows = m_windows;
+    for (const QPointer<QQuickWindow>& window : windows) {
+        if (window != nullptr) {
+            window->close();
+        }
+    }
 }
 
 } // namespace vasker

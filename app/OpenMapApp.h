@@ -5,6 +5,7 @@
 #include "data/Text.h"
 #include "map/basemap/TileLibrary.h"
 #include "platform/Bundle.h"
+#include "platform/DesktopActivation.h"
 #include "platform/Preferences.h"
 
 #include <QList>
@@ -23,6 +24,7 @@ class OpenMapApp : public QObject {
     QML_UNCREATABLE("There is one, made at the start")
     /// The TileLibrary of all maps.
     Q_PROPERTY(QObject* tiles READ tiles CONSTANT)
+    Q_PROPERTY(QString version READ version CONSTANT)
 
   public:
     /// Tiles of services are kept below `cachePath`.
@@ -34,11 +36,20 @@ class OpenMapApp : public QObject {
 
     [[nodiscard]] QObject* tiles() noexcept { return &m_tiles; }
 
+    /// The program's own, as in "1.2.3".
+    [[nodiscard]] static QString version();
+
     /// "vasker-open-map" in the user's XDG cache folder.
     [[nodiscard]] static QString userCachePath();
 
     /// Opens one more window, which loads the release by itself and goes when it is closed.
     Q_INVOKABLE QQuickWindow* openWindow();
+    /// The same; once it is seen, the window asks to come to the front, for which `token` is the
+    /// permission.
+    void openWindowInFront(const LaunchToken& token);
+    [[nodiscard]] bool hasWindows() const;
+    /// Which ends the program, as the closing of the last window does.
+    Q_INVOKABLE void closeAllWindows();
 
   private:
     Bundle m_bundle;

@@ -9,6 +9,7 @@ FocusScope {
 
     required property OpenMapWorkspace workspace
     required property QtObject tiles
+    required property WindowActions actions
 
     Rectangle {
         id: column
@@ -61,7 +62,14 @@ FocusScope {
 
         anchors.left: divider.right
         anchors.right: parent.right
+        // Its tips hang over the map.
+        z: 1
+        actions: root.actions
+        basemap: root.workspace.basemap
+        onBasemapPicked: basemap => root.workspace.basemap = basemap
         onCameraReset: root.workspace.resetCamera()
+        onSourcesWanted: root.workspace.showingSources = true
+        onRecordsWanted: root.workspace.showingRecords = true
     }
     MapCanvas {
         id: map

@@ -1,5 +1,7 @@
 #include "app/OpenMapApp.h"
 #include "platform/AccessibleIds.h"
+#include "platform/Appearance.h"
+#include "platform/DesktopActivation.h"
 #include "platform/Locale.h"
 #include "platform/Memory.h"
 #include "platform/ui/Fonts.h"
@@ -7,18 +9,52 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QQmlExtensionPlugin>
+#include <QTimer>
+
+#include <chrono>
 
 Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
+namespace {
+
+using vasker::DesktopActivation;
+
+/// How long a program that the bus has started waits for the request behind that.
+constexpr std::chrono::seconds idleTime(10);
+
+/// Set by the bus's service file: a request for a window waits there, so that none is opened
+/// before.
+bool startedByBus() {
+    constexpr auto variable = "VASKER_OPEN_MAP_STARTED_BY_BUS";
+    const bool started = qEnvironmentVariableIsSet(variable);
+    qunsetenv(variable);
+    return started;
+}
+
+} // namespace
+
 int main(int argc, char* argv[]) {
     vasker::returnFreedPictures();
     // Qt asks once, when it starts, whether there is a screen reader: one may be started later.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    const bool serves = startedByBus();
+    const auto token = vasker::LaunchToken::fromEnvironment();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("vasker-open-map"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vasker Beta"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(VASKER_DESKTOP_NAME));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/application.svg")));
+
+    DesktopActivation activation(vasker::Appearance::sessionBus(),
+                                 QStringLiteral(VASKER_DESKTOP_NAME));
+    const bool isNeeded = serves
+                              ? activation.claim()
+                              : activation.start(token) != DesktopActivation::Outcome::handedOver;
+    if (!isNeeded) {
+        return 0;
+    }
     vasker::installInterfaceFont();
     vasker::installTranslation(application, vasker::messagesLocale());
 
@@ -27,6 +63,23 @@ int main(int argc, char* argv[]) {
                                vasker::TextLocale::fromEnvironment(),
                                vasker::Preferences::userPath(),
                                vasker::OpenMapApp::userCachePath());
-    windows.openWindow();
+    QObject::connect(&activation,
+                     &DesktopActivation::windowWanted,
+                     &windows,
+                     &vasker::OpenMapApp::openWindowInFront);
+    // From the last window on, a request is for whoever comes next.
+    QObject::connect(&application,
+                     &QGuiApplication::lastWindowClosed,
+                     &activation,
+                     &DesktopActivation::withdraw);
+    if (serves) {
+        QTimer::singleShot(idleTime, &windows, [&] {
+            if (!windows.hasWindows()) {
+                QGuiApplication::quit();
+            }
+        });
+    } else {
+        windows.openWindowInFront(token);
+    }
     return QGuiApplication::exec();
 }

@@ -66,6 +66,7 @@ PopupSurface {
             text: label
             note: count
             spokenNote: countText
+            checkable: true
             checked: index === root.kinds.currentRow
             current: index === list.currentIndex
             onPointed: list.currentIndex = index

@@ -1,35 +1,55 @@
 import QtQuick
 import Vasker.Platform
 
-// A button of the header bar: an icon and, where there is room, its label.
+// A button of the header bar: an icon and, where there is room, its label. With a menu it opens that.
 Item {
     id: root
 
     required property string icon
     required property string text
+    property Menu menu: null
     property bool labelVisible: true
-    readonly property real fullWidth: 20 * Theme.iconScale + 7 + label.implicitWidth + 22
-    readonly property real compactWidth: 44
+    property real compactWidth: 44
+    readonly property real fullWidth: 20 * Theme.iconScale + 7 + label.implicitWidth + (menu === null ? 0 : 4 + chevron.width) + 22
+    readonly property bool menuOpened: menu !== null && menu.opened
 
     signal clicked
+
+    function press(): void {
+        if (root.menu === null) {
+            root.clicked();
+            return;
+        }
+        root.forceActiveFocus(Qt.OtherFocusReason);
+        root.menu.toggle();
+    }
+    function pressAlong(event: var): void {
+        event.accepted = root.menu !== null;
+        if (event.accepted) {
+            root.press();
+        }
+    }
 
     implicitWidth: labelVisible ? fullWidth : compactWidth
     implicitHeight: Theme.controlHeight
     activeFocusOnTab: true
 
-    Accessible.role: Accessible.Button
+    Accessible.role: root.menu === null ? Accessible.Button : Accessible.ButtonMenu
     Accessible.name: root.text
     Accessible.focusable: true
-    Accessible.onPressAction: root.clicked()
-    Keys.onSpacePressed: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    Accessible.pressed: root.menuOpened
+    Accessible.onPressAction: root.press()
+    Keys.onSpacePressed: root.press()
+    Keys.onReturnPressed: root.press()
+    Keys.onEnterPressed: root.press()
+    Keys.onDownPressed: event => root.pressAlong(event)
+    Keys.onUpPressed: event => root.pressAlong(event)
 
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: tap.pressed ? Theme.pressed : Theme.hover
-        opacity: hover.hovered || tap.pressed ? 1 : 0
+        color: tap.pressed || root.menuOpened ? Theme.pressed : Theme.hover
+        opacity: hover.hovered || tap.pressed || root.menuOpened ? 1 : 0
         Behavior on opacity {
             NumberAnimation {
                 duration: Theme.hoverDuration
@@ -56,9 +76,20 @@ Item {
         textStyle: Theme.subheadline
         text: root.text
     }
+    Icon {
+        id: chevron
+
+        visible: root.labelVisible && root.menu !== null
+        anchors.left: label.right
+        anchors.leftMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
+        name: "chevron.down"
+        size: 14 * Theme.iconScale
+        color: Theme.ink2
+    }
     ToolTip {
         text: root.text
-        wanted: hover.hovered && !root.labelVisible
+        wanted: hover.hovered && !root.labelVisible && !root.menuOpened
     }
     HoverHandler {
         id: hover
@@ -67,6 +98,6 @@ Item {
         id: tap
 
         gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.clicked()
+        onTapped: root.press()
     }
 }

@@ -7,68 +7,90 @@ Item {
     id: root
 
     required property string text
+    property string icon
     property string note
     property string spokenNote: note
+    property bool checkable: false
     property bool checked: false
     property bool current: false
+    // Whether the text leaves room for a mark or an icon before it.
+    property bool indented: true
+    property bool startsGroup: false
+
+    readonly property real rowHeight: Math.max(34 * Theme.iconScale, label.implicitHeight + 12)
 
     signal pointed
     signal picked
 
-    implicitHeight: Math.max(34 * Theme.iconScale, label.implicitHeight + 12)
+    implicitWidth: label.anchors.leftMargin + label.implicitWidth + 10 + (note.length > 0 ? noteLabel.implicitWidth + 24 : 0)
+    implicitHeight: rowHeight + (startsGroup ? 9 : 0)
     Accessible.role: Accessible.MenuItem
     Accessible.name: root.text
     Accessible.description: root.spokenNote
     Accessible.ignored: !root.visible
-    Accessible.checkable: true
+    Accessible.focusable: true
+    Accessible.checkable: root.checkable
     Accessible.checked: root.checked
     Accessible.onPressAction: root.picked()
 
     Rectangle {
-        anchors.fill: parent
-        radius: Theme.menuRowRadius
-        color: tap.pressed ? Theme.pressed : Theme.hover
-        visible: root.current
+        visible: root.startsGroup
+        y: 4
+        width: parent.width
+        height: 1
+        color: Theme.line
     }
-    Icon {
-        visible: root.checked
-        x: 8
-        anchors.verticalCenter: parent.verticalCenter
-        name: "check"
-        size: 16 * Theme.iconScale
-        color: Theme.accent
-    }
-    Label {
-        id: label
+    Item {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: root.rowHeight
 
-        anchors.left: parent.left
-        anchors.leftMargin: 12 + 16 * Theme.iconScale
-        anchors.right: noteLabel.left
-        anchors.rightMargin: 10
-        anchors.verticalCenter: parent.verticalCenter
-        wrapMode: Text.Wrap
-        textStyle: Theme.subheadline
-        text: root.text
-    }
-    Label {
-        id: noteLabel
-
-        anchors.right: parent.right
-        anchors.rightMargin: root.note.length > 0 ? 10 : 0
-        anchors.verticalCenter: parent.verticalCenter
-        textStyle: Theme.caption
-        color: Theme.ink2
-        text: root.note
-    }
-    HoverHandler {
-        onHoveredChanged: if (hovered) {
-            root.pointed();
+        Rectangle {
+            anchors.fill: parent
+            radius: Theme.menuRowRadius
+            color: tap.pressed ? Theme.pressed : Theme.hover
+            visible: root.current
         }
-    }
-    TapHandler {
-        id: tap
+        Icon {
+            visible: root.checked || root.icon.length > 0
+            x: 8
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.checked ? "check" : root.icon
+            size: 16 * Theme.iconScale
+            color: root.checked ? Theme.accent : Theme.ink
+        }
+        Label {
+            id: label
 
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.picked()
+            anchors.left: parent.left
+            anchors.leftMargin: root.indented ? 12 + 16 * Theme.iconScale : 10
+            anchors.right: noteLabel.left
+            anchors.rightMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+            wrapMode: Text.Wrap
+            textStyle: Theme.subheadline
+            text: root.text
+        }
+        Label {
+            id: noteLabel
+
+            anchors.right: parent.right
+            anchors.rightMargin: root.note.length > 0 ? 10 : 0
+            anchors.verticalCenter: parent.verticalCenter
+            textStyle: Theme.caption
+            color: Theme.ink2
+            text: root.note
+        }
+        HoverHandler {
+            onHoveredChanged: if (hovered) {
+                root.pointed();
+            }
+        }
+        TapHandler {
+            id: tap
+
+            gesturePolicy: TapHandler.ReleaseWithinBounds
+            onTapped: root.picked()
+        }
     }
 }

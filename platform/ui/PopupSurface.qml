@@ -1,8 +1,9 @@
 import QtQuick
 import Vasker.Platform
 
-// A raised surface that opens 4 px below `anchor`, above everything else in the window. Escape, Tab
-// or a press beside it closes it.
+// A raised surface that opens 4 px below `anchor`, or at a point, above everything else in the window.
+// Where it would leave the window at the side, its end is the anchor's. Escape, Tab or a press beside
+// it closes it.
 Item {
     id: root
 
@@ -10,14 +11,26 @@ Item {
     property real contentHeight: 0
     property real surfaceWidth: anchor.width
     property bool opened: false
+    // Where the surface begins, how far along it may end instead, and whether it may go up.
+    property point corner
+    property real span: 0
+    property bool turns: false
     default property alias content: holder.data
 
     signal closed
 
     function open(): void {
-        const place = root.anchor.mapToItem(root.parent, 0, root.anchor.height + 4);
-        surface.x = Math.round(Math.max(4, Math.min(place.x, root.width - surface.width - 4)));
-        surface.y = Math.round(place.y);
+        root.corner = root.anchor.mapToItem(root.parent, 0, root.anchor.height + 4);
+        root.span = root.anchor.width;
+        root.turns = false;
+        root.opened = true;
+    }
+    // `place` is the surface's corner, in the coordinates of `item`; where there is no room the
+    // surface goes to the other side of it.
+    function openAt(item: Item, place: point): void {
+        root.corner = item.mapToItem(root.parent, place.x, place.y);
+        root.span = 0;
+        root.turns = true;
         root.opened = true;
     }
     function close(): void {
@@ -35,6 +48,9 @@ Item {
     visible: opened || surface.opacity > 0
     enabled: opened
     z: 100
+    // It would stand in the wrong place.
+    onWidthChanged: root.close()
+    onHeightChanged: root.close()
 
     Keys.onEscapePressed: root.close()
     Keys.onTabPressed: root.close()
@@ -50,8 +66,14 @@ Item {
     Item {
         id: surface
 
+        readonly property real wanted: Math.min(root.contentHeight + 12, root.height - 16)
+        readonly property bool fitsAlong: root.corner.x + width <= root.width - 4
+        readonly property bool goesUp: root.turns && root.corner.y + wanted > root.height - 8
+
+        x: Math.round(Math.max(4, fitsAlong ? root.corner.x : root.corner.x + root.span - width))
+        y: Math.round(goesUp ? Math.max(8, root.corner.y - wanted) : root.corner.y)
         width: root.surfaceWidth
-        height: Math.min(root.contentHeight + 12, root.height - y - 8)
+        height: Math.min(wanted, root.height - y - 8)
         opacity: root.opened ? 1 : 0
 
         Behavior on opacity {

@@ -1,7 +1,9 @@
 import QtQuick
+import QtQuick.Window
 import Vasker.Platform
 
-// What a control without a visible label is called, below it, once the pointer rests there.
+// What a control without a visible label is called, below it and within the window, once the pointer
+// rests there.
 Rectangle {
     id: root
 
@@ -10,7 +12,6 @@ Rectangle {
 
     visible: false
     z: 10
-    x: Math.round((parent.width - width) / 2)
     y: parent.height + 4
     width: label.implicitWidth + 20
     height: label.implicitHeight + 12
@@ -21,6 +22,11 @@ Rectangle {
 
     onWantedChanged: wanted ? delay.restart() : hide()
 
+    function show(): void {
+        const room = root.Window.width - 4 - parent.mapToItem(null, 0, 0).x - width;
+        x = Math.round(Math.min((parent.width - width) / 2, room));
+        visible = true;
+    }
     function hide(): void {
         delay.stop();
         visible = false;
@@ -30,7 +36,7 @@ Rectangle {
         id: delay
 
         interval: 600
-        onTriggered: root.visible = true
+        onTriggered: root.show()
     }
     Label {
         id: label

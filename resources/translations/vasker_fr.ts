@@ -80,6 +80,10 @@
         <source>Canada</source>
         <translation>Canada</translation>
     </message>
+    <message>
+        <source>Sources &amp; coverage</source>
+        <translation>Sources et couverture</translation>
+    </message>
 </context>
 <context>
     <name>KindMenu</name>
@@ -107,6 +111,56 @@
     <message>
         <source>Vasker Beta</source>
         <translation>Vasker Beta</translation>
+    </message>
+</context>
+<context>
+    <name>MapOptionsMenu</name>
+    <message>
+        <source>Map options</source>
+        <translation>Options de la carte</translation>
+    </message>
+    <message>
+        <source>Basemap</source>
+        <translation>Fond de carte</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Satellite</source>
+        <translation>Satellite</translation>
+    </message>
+    <message>
+        <source>Hybrid</source>
+        <translation>Hybride</translation>
+    </message>
+</context>
+<context>
+    <name>PrimaryMenu</name>
+    <message>
+        <source>Main menu</source>
+        <translation>Menu principal</translation>
+    </message>
+    <message>
+        <source>New window</source>
+        <translation>Nouvelle fenêtre</translation>
+    </message>
+    <message>
+        <source>Records…</source>
+        <translation>Fiches…</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>About Vasker Beta</source>
+        <translation>À propos de Vasker Beta</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
     </message>
 </context>
 <context>
