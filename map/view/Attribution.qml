@@ -7,7 +7,7 @@ import Vasker.Platform
 Item {
     id: root
 
-    // Of { text, address }.
+    // Of { text, address }; one without an address is read only.
     property var links: []
     property string note: ""
     property real maximumWidth: 1000
@@ -90,24 +90,27 @@ Item {
 
                 required property var modelData
                 required property int index
+                readonly property string address: entry.modelData.address
+                readonly property bool leads: entry.address.length > 0
 
                 Piece {
                     id: link
 
                     objectName: "open-map-credit-" + entry.index
                     text: entry.modelData.text
-                    underlined: hover.hovered
-                    activeFocusOnTab: true
-                    Accessible.role: Accessible.Link
+                    underlined: entry.leads && hover.hovered
+                    activeFocusOnTab: entry.leads
+                    Accessible.role: entry.leads ? Accessible.Link : Accessible.StaticText
                     Accessible.name: link.text
-                    Accessible.focusable: true
+                    Accessible.description: entry.address
+                    Accessible.focusable: entry.leads
                     Accessible.onPressAction: link.open()
                     Keys.onReturnPressed: link.open()
                     Keys.onEnterPressed: link.open()
                     Keys.onSpacePressed: link.open()
 
                     function open(): void {
-                        SystemBrowser.open(entry.modelData.address);
+                        SystemBrowser.open(entry.address);
                     }
 
                     FocusRing {
@@ -116,9 +119,11 @@ Item {
                     HoverHandler {
                         id: hover
 
+                        enabled: entry.leads
                         cursorShape: Qt.PointingHandCursor
                     }
                     TapHandler {
+                        enabled: entry.leads
                         gesturePolicy: TapHandler.ReleaseWithinBounds
                         onTapped: link.open()
                     }
