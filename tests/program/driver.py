@@ -142,24 +142,29 @@ def ask_accessibility(interface, method, arguments=None):
     ).unpack()
 
 
-def accessibility_bus():
-    """The address of the accessibility bus of this session."""
-    return ask_accessibility("org.a11y.Bus", "GetAddress")[0]
-
-
 def switch_accessibility(on):
     """What a desktop does when its user starts a screen reader, or ends it."""
     change = GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", on)))
     ask_accessibility("org.freedesktop.DBus.Properties", "Set", change)
 
 
+def ask_display(*words):
+    """What the display answers; nothing where it finds nothing."""
+    return subprocess.run(["xdotool", *words], capture_output=True, text=True).stdout
+
+
 class Program:
     """The running program. Its settings are its own, and gone when it ends. What is given besides
     changes its environment; None takes a variable away."""
 
-    def __init__(self, executable, **environment):
+    def __init__(self, executable, preferences=None, **environment):
         self._private = tempfile.TemporaryDirectory()
         self.home = Path(self._private.name)
+        self._stored = self.home / "config/vasker-open-map/preferences"
+        if preferences is not None:
+            self._stored.parent.mkdir(parents=True)
+            lines = [f"{key}={value}\n" for key, value in preferences.items()]
+            self._stored.write_text("".join(lines), "utf-8")
         os.chmod(self.home, 0o700)
         variables = dict(
             os.environ,
@@ -232,21 +237,23 @@ class Program:
     def press(self, window=0, **wanted):
         self.see(window, **wanted).press()
 
+    def titles(self):
+        """The titles of its windows on the display, in the order of their opening."""
+        return [ask_display("getwindowname", number).strip() for number in self._on_display()]
+
     def key(self, keys, window=0):
         """Presses keys in a window, as in "ctrl+f"; nobody but us gives it the keyboard here."""
-        search = ["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)]
-        found = wait(
-            lambda: subprocess.run(search, capture_output=True, text=True).stdout.split(),
-            "there is no window",
-        )
-        target = sorted(int(number) for number in found)[window]
-        focus = ["xdotool", "windowfocus", "--sync", str(target)]
-        subprocess.run(focus + ["key", "--clearmodifiers", keys], check=True)
+        found = self.wait(lambda: self._on_display()[window:], "there is no such window")
+        ask_display("windowfocus", "--sync", found[0], "key", "--clearmodifiers", keys)
+
+    def _on_display(self):
+        found = ask_display("search", "--onlyvisible", "--pid", str(self.process.pid)).split()
+        return sorted(found, key=int)
 
     def preference(self, key):
         """The stored text, or None."""
         try:
-            lines = (self.home / "config/vasker-open-map/preferences").read_text("utf-8").splitlines()
+            lines = self._stored.read_text("utf-8").splitlines()
         except FileNotFoundError:
             return None
         found = [line.partition("=")[2] for line in lines if line.partition("=")[0] == key]

@@ -68,10 +68,11 @@ class Portal:
         self._context.invoke_full(GLib.PRIORITY_DEFAULT, self._loop.quit)
         self._thread.join(10)
 
-    def asked(self, method):
-        """Waits until `method` has been called; its arguments, of the last call."""
+    def asked(self, method, times=1):
+        """Waits until `method` has been called so often; its arguments, of the last call."""
         found = lambda: [arguments for name, arguments in self.calls if name == method]
-        return wait(found, f"nobody called {method}; called: {self.calls}")[-1]
+        wait(lambda: len(found()) >= times, f"nobody called {method}")
+        return found()[-1]
 
     def _serve(self, ready):
         self._context = GLib.MainContext.new()
