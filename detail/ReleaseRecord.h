@@ -3,6 +3,8 @@
 // value; copies share the release.
 
 #include "data/OpenMapRelease.h"
+#include "detail/OpenMapInspector.h"
+#include "detail/OpenMapSources.h"
 
 #include <QMetaType>
 #include <QtQmlIntegration>
@@ -17,6 +19,9 @@ namespace vasker {
 struct ReleaseRecord {
     Q_GADGET
     QML_VALUE_TYPE(releaseRecord)
+    /// Composed anew with every reading; without record or release, all texts are empty.
+    Q_PROPERTY(vasker::OpenMapInspector inspector READ inspector CONSTANT)
+    Q_PROPERTY(vasker::OpenMapSources sources READ sources CONSTANT)
 
   public:
     std::shared_ptr<const OpenMapRelease> release; ///< null: nothing is shown
@@ -26,6 +31,14 @@ struct ReleaseRecord {
     [[nodiscard]] const OpenMapRelease::Asset* record() const noexcept {
         return release && asset && *asset < release->assets.size() ? &release->assets[*asset]
                                                                    : nullptr;
+    }
+
+    [[nodiscard]] OpenMapInspector inspector() const {
+        const OpenMapRelease::Asset* const shown = record();
+        return shown == nullptr ? OpenMapInspector{} : OpenMapInspector::of(*release, *shown);
+    }
+    [[nodiscard]] OpenMapSources sources() const {
+        return release ? OpenMapSources::of(*release) : OpenMapSources{};
     }
 
     friend bool operator==(const ReleaseRecord&, const ReleaseRecord&) = default;

@@ -1,13 +1,17 @@
 import QtQuick
 import Vasker.Platform
 
-// A text that can be selected and copied; taken literally.
+// A text that can be selected and copied, with the mouse and with the keyboard; taken literally.
 TextEdit {
     id: root
 
     property TextStyle textStyle: Theme.body
+    // Gets every key before the text does: the list that the keys scroll.
+    property Item keyTarget: null
 
     font: root.textStyle.font
+    topPadding: root.textStyle.halfLeading
+    bottomPadding: root.textStyle.halfLeading
     color: Theme.ink
     selectionColor: Theme.accent
     selectedTextColor: Theme.onAccent
@@ -15,11 +19,19 @@ TextEdit {
     wrapMode: TextEdit.Wrap
     readOnly: true
     selectByMouse: true
+    selectByKeyboard: true
     activeFocusOnPress: true
+    activeFocusOnTab: true
+    cursorVisible: activeFocus && FocusVisibility.visible
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
     Accessible.ignored: !root.visible
+    Accessible.focusable: true
+    Keys.forwardTo: root.keyTarget === null ? [] : [root.keyTarget]
 
+    FocusRing {
+        around: 4
+    }
     HoverHandler {
         cursorShape: Qt.IBeamCursor
     }

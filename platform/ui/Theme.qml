@@ -123,4 +123,22 @@ QtObject {
         weight: Font.Medium
         scale: root.textScale
     }
+    readonly property TextStyle publisher: TextStyle {
+        size: 14
+        line: 20
+        weight: Font.Bold
+        scale: root.textScale
+    }
+    readonly property TextStyle sectionTitle: TextStyle {
+        size: 13
+        line: 19
+        weight: Font.DemiBold
+        scale: root.textScale
+    }
+    readonly property TextStyle link: TextStyle {
+        size: 12
+        line: 16
+        weight: Font.Medium
+        scale: root.textScale
+    }
 }

@@ -9,11 +9,12 @@ Rectangle {
 
     required property string text
     property bool wanted: false
+    property real mostWidth: 480
 
     visible: false
     z: 10
     y: parent.height + 4
-    width: label.implicitWidth + 20
+    width: label.width + 20
     height: label.implicitHeight + 12
     radius: Theme.menuRowRadius
     color: Theme.raised
@@ -42,6 +43,8 @@ Rectangle {
         id: label
 
         anchors.centerIn: parent
+        width: Math.min(implicitWidth, root.mostWidth - 20)
+        wrapMode: Text.Wrap
         textStyle: Theme.caption
         text: root.text
     }

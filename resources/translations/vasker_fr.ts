@@ -100,6 +100,13 @@
     </message>
 </context>
 <context>
+    <name>LabelledRow</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>LoadingScreen</name>
     <message>
         <source>Opening the bundled map…</source>
@@ -164,6 +171,63 @@
     </message>
 </context>
 <context>
+    <name>OpenMapCredit</name>
+    <message>
+        <source>Source data</source>
+        <translation>Données source</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licence</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMapInspector</name>
+    <message>
+        <source>Source period</source>
+        <translation>Période de la source</translation>
+    </message>
+    <message>
+        <source>Reported status</source>
+        <translation>État déclaré</translation>
+    </message>
+    <message>
+        <source>Reporting company</source>
+        <translation>Entreprise déclarante</translation>
+    </message>
+    <message>
+        <source>Reported information</source>
+        <translation>Informations déclarées</translation>
+    </message>
+    <message>
+        <source>Sources &amp; licences</source>
+        <translation>Sources et licences</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Emplacement</translation>
+    </message>
+</context>
+<context>
+    <name>OpenMapSources</name>
+    <message>
+        <source>This release</source>
+        <translation>Cette version</translation>
+    </message>
+    <message>
+        <source>Coverage &amp; limitations</source>
+        <translation>Couverture et limites</translation>
+    </message>
+    <message>
+        <source>Sources &amp; reuse</source>
+        <translation>Sources et réutilisation</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>Confidentialité</translation>
+    </message>
+</context>
+<context>
     <name>RecordList</name>
     <message>
         <source>Records</source>
@@ -175,6 +239,97 @@
     <message>
         <source>Clear search</source>
         <translation>Effacer la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>ShareMenu</name>
+    <message>
+        <source>Save a copy…</source>
+        <translation>Enregistrer une copie…</translation>
+    </message>
+    <message>
+        <source>Show in file manager</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Copy file</source>
+        <translation>Copier le fichier</translation>
+    </message>
+    <message>
+        <source>Open with…</source>
+        <translation>Ouvrir avec…</translation>
+    </message>
+    <message>
+        <source>Share the open-data file</source>
+        <translation>Partager le fichier de données ouvertes</translation>
+    </message>
+</context>
+<context>
+    <name>ShareRow</name>
+    <message>
+        <source>Share the open-data file</source>
+        <translation>Partager le fichier de données ouvertes</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::Citation</name>
+    <message>
+        <source>%1 (%2), %3</source>
+        <translation>%1 (%2), %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Source data: %1</source>
+        <translation>Données source : %1</translation>
+    </message>
+    <message>
+        <source>Licence: %1</source>
+        <translation>Licence : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::OpenMapInspector</name>
+    <message>
+        <source>Company and status describe the cited release. They do not establish the current operator or current operation.</source>
+        <translation>L’entreprise et l’état décrivent la version citée. Ils n’établissent ni l’exploitant actuel ni l’exploitation actuelle.</translation>
+    </message>
+    <message>
+        <source>Route vertices from the cited GEM release. No inferred connections are drawn.</source>
+        <translation>Sommets du tracé tirés de la version citée de GEM. Aucun raccordement déduit n’est dessiné.</translation>
+    </message>
+    <message>
+        <source>Publisher-reported location. Equipment position, physical-site boundary and survey precision are not established.</source>
+        <translation>Emplacement déclaré par l’éditeur. La position des équipements, les limites physiques du site et la précision du levé ne sont pas établies.</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::OpenMapSources</name>
+    <message>
+        <source>%1 records · %2 routes</source>
+        <translation>%1 fiches · %2 tracés</translation>
+    </message>
+    <message>
+        <source>%1 · packaged %2</source>
+        <translation>%1 · préparée le %2</translation>
+    </message>
+    <message>
+        <source>The packaged date is not the observation date. Each record shows its source period.</source>
+        <translation>La date de préparation n’est pas la date d’observation. Chaque fiche indique la période de sa source.</translation>
+    </message>
+    <message>
+        <source>The data retain their source licences. Vasker app terms do not restrict your rights under OGL-Canada or CC BY 4.0. No government or publisher endorsement is implied.</source>
+        <translation>Les données conservent les licences de leurs sources. Les conditions de l’application Vasker ne restreignent pas vos droits selon la LGO – Canada ou CC BY 4.0. Aucune approbation d’un gouvernement ou d’un éditeur n’est sous-entendue.</translation>
+    </message>
+    <message>
+        <source>This beta has no account, advertising, analytics or location tracking. Search and filters run on your device. Apple Maps downloads its basemap from Apple; source links open the publisher's website. Those services receive the requests you make to them.</source>
+        <translation>Cette version bêta n’a ni compte, ni publicité, ni mesure d’audience, ni suivi de position. La recherche et les filtres s’exécutent sur votre appareil. Apple Maps télécharge son fond de carte auprès d’Apple; les liens vers les sources ouvrent le site de l’éditeur. Ces services reçoivent les requêtes que vous leur adressez.</translation>
+    </message>
+    <message>
+        <source>No private Vasker library or raw source documents are included. Data updates arrive in a new app release.</source>
+        <translation>Aucune bibliothèque Vasker privée ni aucun document source brut n’est inclus. Les mises à jour des données arrivent avec une nouvelle version de l’application.</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,35 @@
+import QtQuick
+import Vasker.Detail
+import Vasker.Platform
+
+// A reported value below its label, and the link to where it was reported.
+SectionRow {
+    id: root
+
+    required property openMapFact fact
+    property Item keyTarget: null
+
+    spacing: 5
+
+    Label {
+        width: parent.width
+        horizontalAlignment: Text.AlignLeft
+        wrapMode: Text.Wrap
+        textStyle: Theme.caption
+        color: Theme.ink2
+        text: root.fact.label
+        spoken: true
+    }
+    SelectableText {
+        width: parent.width
+        horizontalAlignment: TextEdit.AlignLeft
+        text: root.fact.value
+        keyTarget: root.keyTarget
+    }
+    LinkText {
+        visible: address.length > 0
+        width: Math.min(implicitWidth, parent.width)
+        text: root.fact.linkTitle
+        address: root.fact.linkAddress
+    }
+}

@@ -1,0 +1,21 @@
+import QtQuick
+import Vasker.Platform
+
+// A row that is one text.
+SectionRow {
+    id: root
+
+    required property string text
+    property TextStyle textStyle: Theme.footnote
+    property color color: Theme.ink
+
+    Label {
+        width: parent.width
+        horizontalAlignment: Text.AlignLeft
+        wrapMode: Text.Wrap
+        textStyle: root.textStyle
+        color: root.color
+        text: root.text
+        spoken: true
+    }
+}

@@ -1,0 +1,27 @@
+#pragma once
+// How much of a list is laid out at once, so that a sheet opens within two frames whatever the
+// release holds. A view makes the other rows right after, a few a frame.
+
+#include <QtGlobal>
+
+namespace vasker {
+
+/// Of the rows that make up a list, as many from the start as hold `mostCharacters` together, at
+/// least one and at most `mostRows`. `length` tells a row's number of characters.
+template <typename Rows, typename Length>
+[[nodiscard]] int promptCount(const Rows& rows, Length length) {
+    constexpr qsizetype mostCharacters = 3000; // about what a sheet's height holds
+    constexpr int mostRows = 12;
+    qsizetype characters = 0;
+    int count = 0;
+    for (const auto& row : rows) {
+        characters += length(row);
+        if (count == mostRows || (count > 0 && characters > mostCharacters)) {
+            break;
+        }
+        ++count;
+    }
+    return count;
+}
+
+} // namespace vasker

@@ -1,0 +1,43 @@
+import QtQuick
+import Vasker.Platform
+
+// A label and its value, side by side; the value below its label where it needs more room.
+SectionRow {
+    id: root
+
+    required property string label
+    required property string value
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: qsTr("%1: %2").arg(root.label).arg(root.value)
+
+    Item {
+        id: pair
+
+        // Half of the list, whose edges are 34 away on both sides.
+        readonly property real half: (width + 68) / 2
+        readonly property bool stacked: valueText.implicitWidth > half || labelText.implicitWidth + 16 + valueText.implicitWidth > width
+
+        width: parent.width
+        height: valueText.y + valueText.height
+
+        Label {
+            id: labelText
+
+            width: Math.min(implicitWidth, parent.width)
+            wrapMode: Text.Wrap
+            text: root.label
+        }
+        Label {
+            id: valueText
+
+            y: pair.stacked ? labelText.height + 2 : 0
+            x: pair.stacked ? 0 : parent.width - width
+            width: pair.stacked ? parent.width : implicitWidth
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.Wrap
+            color: Theme.ink2
+            text: root.value
+        }
+    }
+}

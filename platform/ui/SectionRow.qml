@@ -1,0 +1,31 @@
+import QtQuick
+import Vasker.Platform
+
+// One row of a section: its content one below the other, a line above unless it is the first.
+Item {
+    id: root
+
+    default property alias content: column.data
+    property real spacing: 0
+    property real padding: 10
+    property bool separated: y > 0
+
+    width: parent?.width ?? 0
+    implicitHeight: column.height + 2 * root.padding
+
+    Rectangle {
+        visible: root.separated
+        x: 14
+        width: parent.width - x - 1
+        height: 1
+        color: Theme.line
+    }
+    Column {
+        id: column
+
+        x: 14
+        y: root.padding
+        width: parent.width - 2 * x
+        spacing: root.spacing
+    }
+}
