@@ -46,8 +46,9 @@ class CoveredBackdrop : public QAccessibleObject {
 };
 
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    // Asked for also while it is not covered; then it is ignored, and what is in it found past it.
     auto* const backdrop = qobject_cast<Backdrop*>(object);
-    return backdrop != nullptr && backdrop->isCovered() ? new CoveredBackdrop(backdrop) : nullptr;
+    return backdrop != nullptr ? new CoveredBackdrop(backdrop) : nullptr;
 }
 
 } // namespace

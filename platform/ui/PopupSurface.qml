@@ -52,6 +52,8 @@ Item {
     onWidthChanged: root.close()
     onHeightChanged: root.close()
 
+    // While it is open, keys are its own: no shortcut opens something above it.
+    Keys.onShortcutOverride: event => event.accepted = true
     Keys.onEscapePressed: root.close()
     Keys.onTabPressed: root.close()
     Keys.onBacktabPressed: root.close()

@@ -60,6 +60,11 @@ FocusScope {
     }
     function move(to: real, duration: int, easing: int): void {
         motion.stop();
+        if (Theme.still) {
+            root.shown = to;
+            stillPause.restart();
+            return;
+        }
         motion.to = to;
         motion.duration = duration;
         motion.easing.type = easing;
@@ -93,6 +98,13 @@ FocusScope {
         target: root
         property: "shown"
         onFinished: root.settle()
+    }
+    // Where nothing moves it is gone as soon as what asked for that is done.
+    Timer {
+        id: stillPause
+
+        interval: 0
+        onTriggered: root.settle()
     }
     Shortcut {
         sequence: "Ctrl+Up"

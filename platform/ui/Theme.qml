@@ -39,6 +39,8 @@ QtObject {
     readonly property real headerHeight: Math.round(20 * textScale + 32)
     readonly property real iconColumn: Math.round(20 * textScale)
     readonly property real columnWidth: 320
+    // From this width of a window on, a sheet at its side leaves the map in use to the eye.
+    readonly property real besideWidth: 1216
 
     readonly property real thumbRadius: 5
     readonly property real menuRowRadius: 7
@@ -48,9 +50,9 @@ QtObject {
 
     readonly property int hoverDuration: Appearance.reducedMotion ? 0 : 80
     readonly property int menuDuration: Appearance.reducedMotion ? 0 : 120
-    readonly property int sheetDuration: Appearance.reducedMotion ? 0 : 220
-    readonly property int riseDuration: Appearance.reducedMotion ? 0 : 280
-    readonly property int leaveDuration: Appearance.reducedMotion ? 0 : 160
+    readonly property int sheetDuration: 220
+    readonly property int riseDuration: 280
+    readonly property int leaveDuration: 160
     readonly property int settleDuration: Appearance.reducedMotion ? 0 : 180
     readonly property int spinnerTurn: 1100
     readonly property bool still: Appearance.reducedMotion
