@@ -13,6 +13,9 @@ Item {
     // How many records of the current search each of the kinds holds.
     property list<int> counts
     required property string selection
+    property color headColor: Theme.window
+    // Whether the count line can be pressed.
+    property bool countOpens: true
     // The id of the record that is pointed at on the map; empty: none.
     property string answering
     // The id of the record whose row is under the pointer; empty: none.
@@ -21,6 +24,7 @@ Item {
     signal kindPicked(string kind)
     signal recordPicked(string id)
     signal selectionCleared
+    signal countPressed
 
     function enterList(): void {
         (list.item as RecordList)?.enter();
@@ -44,8 +48,8 @@ Item {
         id: head
 
         width: parent.width
-        height: countLine.y + countLine.height + 6 + 1
-        color: Theme.window
+        height: countLine.y + countLine.height + 2 + 1
+        color: root.headColor
 
         KindPicker {
             id: picker
@@ -56,17 +60,15 @@ Item {
             kinds: kindModel
             onPicked: kind => root.kindPicked(kind)
         }
-        Label {
+        CountLine {
             id: countLine
 
-            x: 16
-            y: picker.y + picker.height + 6
-            width: parent.width - 32
-            wrapMode: Text.Wrap
-            textStyle: Theme.caption
-            color: Theme.ink2
+            x: 8
+            y: picker.y + picker.height + 2
+            width: Math.min(implicitWidth, parent.width - 16)
             text: recordModel.countText
-            spoken: true
+            pressable: root.countOpens
+            onClicked: root.countPressed()
         }
         Rectangle {
             anchors.bottom: parent.bottom
