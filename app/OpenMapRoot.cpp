@@ -77,8 +77,11 @@ void OpenMapRoot::finish(const LoadOutcome& outcome) {
         fail(failure->description);
         return;
     }
-    m_workspace = new OpenMapWorkspace(
-        std::get<std::shared_ptr<const LoadedRelease>>(outcome), m_preferences, this);
+    m_workspace =
+        new OpenMapWorkspace(std::get<std::shared_ptr<const LoadedRelease>>(outcome),
+                             m_preferences,
+                             m_bundle.resource(resourceName, resourceExtension).value_or(QString()),
+                             this);
     Q_EMIT screenChanged();
 }
 

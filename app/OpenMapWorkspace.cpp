@@ -17,8 +17,10 @@ const QString defaultBasemap = QStringLiteral("standard");
 
 OpenMapWorkspace::OpenMapWorkspace(std::shared_ptr<const LoadedRelease> loaded,
                                    Preferences& preferences,
+                                   QString packagedFile,
                                    QObject* parent)
-    : QObject(parent), m_loaded(std::move(loaded)), m_preferences(preferences), m_kind(allKinds) {
+    : QObject(parent), m_loaded(std::move(loaded)), m_preferences(preferences),
+      m_packagedFile(std::move(packagedFile)), m_kind(allKinds) {
     m_basemap = basemap();
     connect(&m_preferences, &Preferences::changed, this, [this] {
         if (std::exchange(m_basemap, basemap()) != m_basemap) {
@@ -68,7 +70,11 @@ void OpenMapWorkspace::open(AssetIndex record) {
 void OpenMapWorkspace::setInspector(Picked record) {
     if (m_inspector != record) {
         m_inspector = record;
+        if (record) {
+            m_inspected = record;
+        }
         Q_EMIT inspectorChanged();
+        present();
     }
 }
 
@@ -76,6 +82,7 @@ void OpenMapWorkspace::setShowingSources(bool showing) {
     if (m_showingSources != showing) {
         m_showingSources = showing;
         Q_EMIT showingSourcesChanged();
+        present();
     }
 }
 
@@ -83,7 +90,39 @@ void OpenMapWorkspace::setShowingRecords(bool showing) {
     if (m_showingRecords != showing) {
         m_showingRecords = showing;
         Q_EMIT showingRecordsChanged();
+        present();
     }
+}
+
+void OpenMapWorkspace::present() {
+    if (m_sheet != Sheet::NoSheet) {
+        return;
+    }
+    m_sheet = m_showingSources   ? Sheet::Sources
+              : m_showingRecords ? Sheet::Records
+              : m_inspector      ? Sheet::Inspector
+                                 : Sheet::NoSheet;
+    if (m_sheet != Sheet::NoSheet) {
+        Q_EMIT sheetChanged();
+    }
+}
+
+void OpenMapWorkspace::yield(Sheet sheet) {
+    if (m_sheet == sheet) {
+        m_sheet = Sheet::NoSheet;
+        Q_EMIT sheetChanged();
+        present();
+    }
+}
+
+ReleaseRecord OpenMapWorkspace::inspected() const {
+    ReleaseRecord record = whole();
+    record.asset = m_inspected;
+    return record;
+}
+
+ReleaseRecord OpenMapWorkspace::whole() const {
+    return {std::shared_ptr<const OpenMapRelease>(m_loaded, &release()), std::nullopt};
 }
 
 QString OpenMapWorkspace::basemap() const {
@@ -125,9 +164,14 @@ void OpenMapWorkspace::resetCamera() {
     setCamera(canadaOverview);
 }
 
+void OpenMapWorkspace::closeInspector() {
+    setInspector(std::nullopt);
+}
+
 void OpenMapWorkspace::dismissInspector() {
     setInspector(std::nullopt);
     setSelection(QString());
+    yield(Sheet::Inspector);
 }
 
 void OpenMapWorkspace::dismissRecords() {
@@ -135,6 +179,12 @@ void OpenMapWorkspace::dismissRecords() {
     if (m_pendingInspector) {
         setInspector(std::exchange(m_pendingInspector, std::nullopt));
     }
+    yield(Sheet::Records);
+}
+
+void OpenMapWorkspace::dismissSources() {
+    setShowingSources(false);
+    yield(Sheet::Sources);
 }
 
 void OpenMapWorkspace::filter() {

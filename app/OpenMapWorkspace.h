@@ -3,6 +3,7 @@
 // `kind`, `selection`, `camera` and `basemap`; everything else they see is derived here.
 // User-interface thread only.
 
+#include "detail/ReleaseRecord.h"
 #include "map/RecordSet.h"
 #include "map/geometry/Camera.h"
 
@@ -31,6 +32,10 @@ class OpenMapWorkspace : public QObject {
                    showingSourcesChanged)
     Q_PROPERTY(bool showingRecords READ showingRecords WRITE setShowingRecords NOTIFY
                    showingRecordsChanged)
+    Q_PROPERTY(Sheet sheet READ sheet NOTIFY sheetChanged)
+    Q_PROPERTY(vasker::ReleaseRecord inspected READ inspected NOTIFY inspectorChanged)
+    Q_PROPERTY(vasker::ReleaseRecord whole READ whole CONSTANT)
+    Q_PROPERTY(QString packagedFile READ packagedFile CONSTANT)
     Q_PROPERTY(QString basemap READ basemap WRITE setBasemap NOTIFY basemapChanged)
     Q_PROPERTY(vasker::CameraPosition camera READ camera WRITE setCamera NOTIFY cameraChanged)
     Q_PROPERTY(vasker::RecordSet records READ records NOTIFY recordsChanged)
@@ -38,9 +43,15 @@ class OpenMapWorkspace : public QObject {
     Q_PROPERTY(QList<int> counts READ counts NOTIFY queryChanged)
 
   public:
-    /// `loaded` is not null; `preferences` outlive the workspace.
+    /// What may be on screen over the window; there is never more than one.
+    enum class Sheet { NoSheet, Sources, Records, Inspector };
+    Q_ENUM(Sheet)
+
+    /// `loaded` is not null; `preferences` outlive the workspace. `packagedFile` is the path of the
+    /// file that the release was read from; empty: there is none to hand out.
     OpenMapWorkspace(std::shared_ptr<const LoadedRelease> loaded,
                      Preferences& preferences,
+                     QString packagedFile = {},
                      QObject* parent = nullptr);
 
     [[nodiscard]] const OpenMapRelease& release() const noexcept {
@@ -69,6 +80,16 @@ class OpenMapWorkspace : public QObject {
     [[nodiscard]] bool showingRecords() const noexcept { return m_showingRecords; }
     void setShowingRecords(bool showing);
 
+    /// The sheet that is on screen, also while it leaves: another one has its turn when its
+    /// dismissal has been told.
+    [[nodiscard]] Sheet sheet() const noexcept { return m_sheet; }
+    /// The record of the inspector. It stays when the inspector is to close, so that it does not
+    /// change while it leaves.
+    [[nodiscard]] ReleaseRecord inspected() const;
+    /// The release, and no record of it.
+    [[nodiscard]] ReleaseRecord whole() const;
+    [[nodiscard]] const QString& packagedFile() const noexcept { return m_packagedFile; }
+
     /// The stored preference as it stands, known or not; "standard" where nothing is stored.
     [[nodiscard]] QString basemap() const;
     void setBasemap(const QString& basemap);
@@ -88,10 +109,14 @@ class OpenMapWorkspace : public QObject {
     void focus(const OpenMapRelease::Asset& asset);
     /// Back to the overview of Canada; changes nothing else.
     Q_INVOKABLE void resetCamera();
+    /// The inspector is to close; what is picked stays until it has.
+    Q_INVOKABLE void closeInspector();
     /// The inspector has closed, by whatever means: nothing is picked any more.
     Q_INVOKABLE void dismissInspector();
     /// The records sheet has closed, by whatever means: a waiting record goes to the inspector.
     Q_INVOKABLE void dismissRecords();
+    /// The sources sheet has closed, by whatever means.
+    Q_INVOKABLE void dismissSources();
 
   Q_SIGNALS:
     void queryChanged();
@@ -100,6 +125,7 @@ class OpenMapWorkspace : public QObject {
     void inspectorChanged();
     void showingSourcesChanged();
     void showingRecordsChanged();
+    void sheetChanged();
     void basemapChanged();
     void cameraChanged();
     void recordsChanged();
@@ -109,17 +135,24 @@ class OpenMapWorkspace : public QObject {
     void filter();
     void open(AssetIndex record);
     void setInspector(Picked record);
+    /// Gives the screen to a sheet that is to be shown, unless one has it.
+    void present();
+    /// `sheet` has left the screen.
+    void yield(Sheet sheet);
     [[nodiscard]] QString idOf(Picked record) const;
 
     std::shared_ptr<const LoadedRelease> m_loaded;
     Preferences& m_preferences;
+    QString m_packagedFile;
     QString m_query;
     QString m_kind;
     QString m_selection;
     Picked m_inspector;
+    Picked m_inspected; ///< m_inspector, or what it was last
     Picked m_pendingInspector;
     bool m_showingSources = false;
     bool m_showingRecords = false;
+    Sheet m_sheet = Sheet::NoSheet;
     QString m_basemap;
     CameraPosition m_camera = canadaOverview;
     std::shared_ptr<const std::vector<AssetIndex>> m_filtered;

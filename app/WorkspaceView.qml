@@ -3,95 +3,129 @@ import Vasker.App
 import Vasker.Map
 import Vasker.Platform
 
-// The workspace: search field and catalogue, a divider, and the map below its header.
+// The workspace: search field and catalogue, a divider, and the map below its header. The sheets
+// stand over all of it, one at a time.
 FocusScope {
     id: root
 
     required property OpenMapWorkspace workspace
     required property QtObject tiles
     required property WindowActions actions
+    // From when a sheet is to be shown until it has left the screen completely.
+    readonly property bool sheetOnScreen: sources.onScreen || records.onScreen || inspector.onScreen
 
-    Rectangle {
-        id: column
+    Backdrop {
+        id: behind
 
-        width: Theme.columnWidth
-        height: parent.height
-        color: Theme.window
-        // One picture while nothing in it changes: the map moves without the texts being drawn anew.
-        layer.enabled: true
+        anchors.fill: parent
+        covered: root.sheetOnScreen
 
-        SearchField {
-            id: search
+        Rectangle {
+            id: column
 
-            x: 12
-            y: Math.round((Theme.headerHeight - height) / 2)
-            width: parent.width - 24
-            prompt: qsTr("Facility, pipeline or reporting company")
-            text: root.workspace.query
-            onEdited: text => root.workspace.query = text
-            onLeaveDown: catalogue.enterList()
+            width: Theme.columnWidth
+            height: parent.height
+            color: Theme.window
+            // One picture while nothing in it changes: the map moves without the texts being drawn anew.
+            layer.enabled: true
+
+            SearchField {
+                id: search
+
+                x: 12
+                y: Math.round((Theme.headerHeight - height) / 2)
+                width: parent.width - 24
+                prompt: qsTr("Facility, pipeline or reporting company")
+                text: root.workspace.query
+                onEdited: text => root.workspace.query = text
+                onLeaveDown: catalogue.enterList()
+            }
+            Catalogue {
+                id: catalogue
+
+                anchors.top: parent.top
+                anchors.topMargin: Theme.headerHeight
+                anchors.bottom: parent.bottom
+                width: parent.width
+                records: root.workspace.records
+                query: root.workspace.query
+                kind: root.workspace.kind
+                kinds: root.workspace.kinds
+                counts: root.workspace.counts
+                selection: root.workspace.selection
+                answering: map.pointed
+                onKindPicked: kind => root.workspace.kind = kind
+                onRecordPicked: id => root.workspace.selection = id
+                onSelectionCleared: root.workspace.selection = ""
+                onCountPressed: root.workspace.showingRecords = true
+            }
         }
-        Catalogue {
-            id: catalogue
+        Rectangle {
+            id: divider
 
-            anchors.top: parent.top
-            anchors.topMargin: Theme.headerHeight
+            anchors.left: column.right
+            width: 1
+            height: parent.height
+            color: Theme.line
+        }
+        HeaderBar {
+            id: header
+
+            anchors.left: divider.right
+            anchors.right: parent.right
+            // Its tips hang over the map.
+            z: 1
+            actions: root.actions
+            basemap: root.workspace.basemap
+            onBasemapPicked: basemap => root.workspace.basemap = basemap
+            onCameraReset: root.workspace.resetCamera()
+            onSourcesWanted: root.workspace.showingSources = true
+            onRecordsWanted: root.workspace.showingRecords = true
+        }
+        MapCanvas {
+            id: map
+
+            anchors.left: divider.right
+            anchors.right: parent.right
+            anchors.top: header.bottom
             anchors.bottom: parent.bottom
-            width: parent.width
+            objectName: "open-map-canvas"
             records: root.workspace.records
-            query: root.workspace.query
-            kind: root.workspace.kind
-            kinds: root.workspace.kinds
             selection: root.workspace.selection
-            answering: map.pointed
-            onKindPicked: kind => root.workspace.kind = kind
-            onRecordPicked: id => root.workspace.selection = id
-            onSelectionCleared: root.workspace.dismissInspector()
+            camera: root.workspace.camera
+            basemap: root.workspace.basemap
+            tiles: root.tiles
+            coveredRight: inspector.covered
+            hovered: map.pointed.length > 0 ? map.pointed : catalogue.pointed
+            onPicked: id => root.workspace.selection = id
+            onMoved: camera => root.workspace.camera = camera
+            onOverviewWanted: root.workspace.resetCamera()
+            Keys.onEscapePressed: root.workspace.selection = ""
         }
     }
-    Rectangle {
-        id: divider
+    SourcesSheet {
+        id: sources
 
-        anchors.left: column.right
-        width: 1
-        height: parent.height
-        color: Theme.line
+        workspace: root.workspace
     }
-    HeaderBar {
-        id: header
+    RecordsSheet {
+        id: records
 
-        anchors.left: divider.right
-        anchors.right: parent.right
-        // Its tips hang over the map.
-        z: 1
-        actions: root.actions
-        basemap: root.workspace.basemap
-        onBasemapPicked: basemap => root.workspace.basemap = basemap
-        onCameraReset: root.workspace.resetCamera()
-        onSourcesWanted: root.workspace.showingSources = true
-        onRecordsWanted: root.workspace.showingRecords = true
+        workspace: root.workspace
     }
-    MapCanvas {
-        id: map
+    InspectorSheet {
+        id: inspector
 
-        anchors.left: divider.right
-        anchors.right: parent.right
-        anchors.top: header.bottom
-        anchors.bottom: parent.bottom
-        objectName: "open-map-canvas"
-        records: root.workspace.records
-        selection: root.workspace.selection
-        camera: root.workspace.camera
-        basemap: root.workspace.basemap
-        tiles: root.tiles
-        hovered: map.pointed.length > 0 ? map.pointed : catalogue.pointed
-        onPicked: id => id.length > 0 ? root.workspace.selection = id : root.workspace.dismissInspector()
-        onMoved: camera => root.workspace.camera = camera
-        onOverviewWanted: root.workspace.resetCamera()
-        Keys.onEscapePressed: root.workspace.dismissInspector()
+        workspace: root.workspace
     }
     Shortcut {
         sequence: "Ctrl+F"
+        enabled: !root.sheetOnScreen
         onActivated: search.focusText()
+    }
+    Shortcut {
+        sequence: "Ctrl+R"
+        enabled: !root.sheetOnScreen
+        onActivated: root.workspace.showingRecords = true
     }
 }

@@ -37,6 +37,7 @@
 #include <vector>
 
 Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 

@@ -412,7 +412,7 @@
     <name>SheetFrame</name>
     <message>
         <source>Done</source>
-        <translation>OK</translation>
+        <translation>Terminé</translation>
     </message>
 </context>
 <context>
@@ -503,6 +503,38 @@
     <message>
         <source>The file could not be opened: %1</source>
         <translation>Le fichier n’a pas pu être ouvert : %1</translation>
+    </message>
+</context>
+<context>
+    <name>CountLine</name>
+    <message>
+        <source>Opens the list of records</source>
+        <translation>Ouvre la liste des fiches</translation>
+    </message>
+</context>
+<context>
+    <name>InspectorSheet</name>
+    <message>
+        <source>Record</source>
+        <translation>Fiche</translation>
+    </message>
+</context>
+<context>
+    <name>RecordsSheet</name>
+    <message>
+        <source>Records</source>
+        <translation>Fiches</translation>
+    </message>
+    <message>
+        <source>Name or reporting company</source>
+        <translation>Nom ou entreprise déclarante</translation>
+    </message>
+</context>
+<context>
+    <name>SourcesSheet</name>
+    <message>
+        <source>Sources &amp; coverage</source>
+        <translation>Sources et couverture</translation>
     </message>
 </context>
 </TS>

@@ -190,6 +190,38 @@ TEST_F(Workspace, ClosingTheRecordsSheetWithoutAPickOpensNothing) {
     EXPECT_EQ(m_workspace.inspector(), none);
 }
 
+TEST_F(Workspace, OneSheetIsGoneBeforeTheNextHasItsTurn) {
+    using Sheet = OpenMapWorkspace::Sheet;
+    EXPECT_EQ(m_workspace.sheet(), Sheet::NoSheet);
+    m_workspace.setShowingRecords(true);
+    EXPECT_EQ(m_workspace.sheet(), Sheet::Records);
+    pick("two");
+    m_workspace.setShowingSources(true);
+    EXPECT_EQ(m_workspace.sheet(), Sheet::Records);
+    m_workspace.dismissRecords();
+    EXPECT_EQ(m_workspace.sheet(), Sheet::Sources);
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("two"));
+    m_workspace.setShowingSources(false);
+    EXPECT_EQ(m_workspace.sheet(), Sheet::Sources);
+    m_workspace.dismissSources();
+    EXPECT_EQ(m_workspace.sheet(), Sheet::Inspector);
+    m_workspace.dismissInspector();
+    EXPECT_EQ(m_workspace.sheet(), Sheet::NoSheet);
+    EXPECT_EQ(m_workspace.selection(), none);
+}
+
+TEST_F(Workspace, TheRecordOfTheInspectorStaysWhileThatLeaves) {
+    EXPECT_EQ(m_workspace.inspected().record(), nullptr);
+    EXPECT_EQ(m_workspace.inspected(), m_workspace.whole());
+    EXPECT_EQ(m_workspace.whole().release.get(), &m_workspace.release());
+    pick("two");
+    m_workspace.closeInspector();
+    EXPECT_EQ(m_workspace.inspector(), none);
+    EXPECT_EQ(m_workspace.selection(), QStringLiteral("two"));
+    ASSERT_NE(m_workspace.inspected().record(), nullptr);
+    EXPECT_EQ(m_workspace.inspected().record()->id, "two");
+}
+
 TEST_F(Workspace, SheetsLeaveTheQueryAndTheKindAlone) {
     m_workspace.setQuery(QStringLiteral("twin"));
     m_workspace.setKind(QStringLiteral("refinery"));

@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 

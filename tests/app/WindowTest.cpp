@@ -1,117 +1,16 @@
-#include "app/OpenMapApp.h"
-#include "app/OpenMapRoot.h"
-#include "data/Digest.h"
-#include "data/ReleaseWriter.h"
-#include "tests/support/ReleaseBuilder.h"
+#include "tests/app/OpenWindow.h"
 
-#include <QAccessible>
-#include <QFile>
 #include <QQmlExtensionPlugin>
-#include <QQuickItem>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
 Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 namespace vasker {
 namespace {
 
-constexpr std::size_t recordCount = 300;
-
-// "Plant 0" to "Plant 299"; every tenth is a refinery.
-OpenMapRelease longRelease() {
-    OpenMapRelease release = makeRelease();
-    release.assets.clear();
-    for (std::size_t number = 0; number < recordCount; ++number) {
-        release.assets.push_back(makeAsset(number));
-        release.assets.back().kind = number % 10 == 0 ? "refinery" : "gas_plant";
-    }
-    return release;
-}
-
-QQuickItem* find(QQuickItem* from, const QString& name) {
-    if (from->objectName() == name && from->isVisible()) {
-        return from;
-    }
-    for (QQuickItem* child : from->childItems()) {
-        if (QQuickItem* found = find(child, name)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-// The real window, without a screen.
-class Window : public testing::Test {
-  protected:
-    void open(const std::string& bytes) {
-        write("OpenMap.json", bytes);
-        write("BundleInformation.json", R"({"VaskerOpenMapSHA256": ")" + sha256(bytes) + R"("})");
-        m_application =
-            std::make_unique<OpenMapApp>(Bundle(m_folder.path()),
-                                         TextLocale("en"),
-                                         m_folder.filePath(QStringLiteral("preferences")),
-                                         m_folder.filePath(QStringLiteral("cache")));
-        m_window = m_application->openWindow();
-        m_root = m_window->findChild<OpenMapRoot*>();
-        ASSERT_NE(m_root, nullptr);
-        ASSERT_TRUE(QTest::qWaitFor(
-            [&] { return m_root->screen() != OpenMapRoot::Screen::Loading; }, 10'000));
-        m_window->requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
-    }
-    void openRecords() {
-        open(encode(longRelease()));
-        ASSERT_NE(m_root->workspace(), nullptr);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-records") != nullptr; }));
-    }
-    void write(const char* name, const std::string& bytes) const {
-        QFile file(m_folder.filePath(QString::fromLatin1(name)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes.data(), static_cast<qint64>(bytes.size()));
-    }
-    [[nodiscard]] QQuickItem* item(const char* name) const {
-        return find(m_window->contentItem(), QString::fromLatin1(name));
-    }
-    void type(const char* text) const {
-        for (const char* each = text; *each != '\0'; ++each) {
-            QTest::keyClick(m_window, *each);
-        }
-    }
-    void key(Qt::Key pressed, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
-        QTest::keyClick(m_window, pressed, modifiers);
-    }
-    void click(QQuickItem* target) const {
-        const QPointF middle(target->width() / 2, target->height() / 2);
-        QTest::mouseClick(
-            m_window, Qt::LeftButton, Qt::NoModifier, target->mapToScene(middle).toPoint());
-    }
-    static void press(QQuickItem* target) {
-        QAccessibleInterface* const access = QAccessible::queryAccessibleInterface(target);
-        ASSERT_NE(access, nullptr);
-        QAccessibleActionInterface* const actions = access->actionInterface();
-        ASSERT_NE(actions, nullptr);
-        actions->doAction(QAccessibleActionInterface::pressAction());
-    }
-    [[nodiscard]] OpenMapWorkspace& workspace() const { return *m_root->workspace(); }
-    [[nodiscard]] std::string selection() const { return workspace().selection().toStdString(); }
-    [[nodiscard]] bool isInView(const char* row) const {
-        const QQuickItem* const list = item("open-map-records");
-        const QQuickItem* const found = item(row);
-        return list != nullptr && found != nullptr &&
-               QRectF(0, 0, list->width(), list->height())
-                   .contains(found->mapRectToItem(list, found->boundingRect()));
-    }
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<OpenMapApp> m_application;
-    QQuickWindow* m_window = nullptr;
-    OpenMapRoot* m_root = nullptr;
-};
+using Window = OpenWindow;
 
 TEST_F(Window, OpensWithItsTitleAndSizes) {
     openRecords();
@@ -163,22 +62,23 @@ TEST_F(Window, KeysMoveThroughTheListAndEnterPicks) {
     key(Qt::Key_Down);
     key(Qt::Key_Down);
     EXPECT_EQ(selection(), "");
-    key(Qt::Key_Return);
-    EXPECT_EQ(selection(), "A-1");
+    const auto picked = [&] {
+        key(Qt::Key_Return);
+        const std::string id = selection();
+        key(Qt::Key_Escape); // the inspector
+        EXPECT_TRUE(QTest::qWaitFor([&] { return selection().empty(); }));
+        return id;
+    };
+    EXPECT_EQ(picked(), "A-1");
     key(Qt::Key_End);
-    key(Qt::Key_Return);
-    EXPECT_EQ(selection(), "A-299");
+    EXPECT_EQ(picked(), "A-299");
     EXPECT_TRUE(isInView("open-map-record-A-299"));
     key(Qt::Key_PageUp);
-    key(Qt::Key_Return);
-    EXPECT_NE(selection(), "A-299");
-    EXPECT_NE(selection(), "A-298");
+    const std::string above = picked();
+    EXPECT_NE(above, "A-299");
+    EXPECT_NE(above, "A-298");
     key(Qt::Key_Home);
-    key(Qt::Key_Return);
-    EXPECT_EQ(selection(), "A-0");
-    key(Qt::Key_Escape);
-    EXPECT_EQ(selection(), "");
-    EXPECT_EQ(workspace().inspector(), QString());
+    EXPECT_EQ(picked(), "A-0");
 }
 
 TEST_F(Window, AClickOnARowPicksItsRecord) {
@@ -217,16 +117,42 @@ TEST_F(Window, TheCategoryIsChosenByTypingItsName) {
     EXPECT_EQ(workspace().filtered().size(), 30);
 }
 
-TEST_F(Window, CanadaBringsTheOverviewBackAndLeavesTheSelection) {
+TEST_F(Window, CanadaBringsTheOverviewBack) {
     openRecords();
-    workspace().setSelection(QStringLiteral("A-7"));
-    ASSERT_NE(workspace().camera(), CameraPosition(canadaOverview));
+    workspace().setCamera(MapRect{1, 2, 3, 4});
     press(item("open-map-reset"));
     EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
-    EXPECT_EQ(selection(), "A-7");
     workspace().setCamera(MapRect{1, 2, 3, 4});
     click(item("open-map-reset"));
     EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
+}
+
+TEST_F(Window, TabGoesFromTheSearchThroughTheColumnAndTheHeaderToTheMap) {
+    openRecords();
+    item("open-map-canvas")->setProperty("reducedMotion", true);
+    key(Qt::Key_F, Qt::ControlModifier);
+    QStringList names;
+    while (names.size() < 20 && !names.endsWith(QStringLiteral("open-map-zoom-out"))) {
+        key(Qt::Key_Tab);
+        const QQuickItem* at = m_window->activeFocusItem();
+        while (at->objectName().isEmpty() ||
+               at->objectName().startsWith(QStringLiteral("open-map-record-"))) {
+            at = at->parentItem();
+        }
+        names.append(at->objectName());
+    }
+    EXPECT_EQ(names.mid(0, 3),
+              (QStringList{QStringLiteral("open-map-layer"),
+                           QStringLiteral("open-map-count"),
+                           QStringLiteral("open-map-records")}));
+    const auto reset = names.indexOf(QStringLiteral("open-map-reset"));
+    EXPECT_GE(reset, 3);
+    EXPECT_LT(reset, names.indexOf(QStringLiteral("open-map-canvas")));
+    EXPECT_EQ(names.mid(names.size() - 4),
+              (QStringList{QStringLiteral("open-map-canvas"),
+                           QStringLiteral("open-map-compass"),
+                           QStringLiteral("open-map-zoom-in"),
+                           QStringLiteral("open-map-zoom-out")}));
 }
 
 TEST_F(Window, TheCaptionStripIsAMarginOfTheMap) {

@@ -1,0 +1,437 @@
+#include "platform/Appearance.h"
+#include "tests/app/OpenWindow.h"
+
+#include <QPointer>
+
+#include <map>
+#include <set>
+
+namespace vasker {
+namespace {
+
+// The sheets of the workspace, in the real window.
+class Sheets : public OpenWindow {
+  protected:
+    void SetUp() override { openRecords(); }
+    void TearDown() override { setReducedMotion(0); }
+
+    static void setReducedMotion(int value) {
+        QMetaObject::invokeMethod(Appearance::create(nullptr, nullptr),
+                                  "apply",
+                                  Q_ARG(QString, QStringLiteral("org.gnome.desktop.interface")),
+                                  Q_ARG(QString, QStringLiteral("enable-animations")),
+                                  Q_ARG(QDBusVariant, QDBusVariant(value == 0)));
+    }
+    [[nodiscard]] static QString nameOf(QAccessibleInterface* access) {
+        return access->text(QAccessible::Name);
+    }
+    // What assistive tools come to from the window.
+    [[nodiscard]] std::vector<QAccessibleInterface*> reachable() const {
+        std::vector<QAccessibleInterface*> found{QAccessible::queryAccessibleInterface(m_window)};
+        for (std::size_t i = 0; i < found.size(); ++i) {
+            for (int child = 0; child < found[i]->childCount(); ++child) {
+                found.push_back(found[i]->child(child));
+            }
+        }
+        return found;
+    }
+    [[nodiscard]] QQuickItem* named(QAccessible::Role role, const char* name) const {
+        for (QAccessibleInterface* const access : reachable()) {
+            if (access->role() == role && nameOf(access) == QString::fromLatin1(name)) {
+                return qobject_cast<QQuickItem*>(access->object());
+            }
+        }
+        return nullptr;
+    }
+    [[nodiscard]] QQuickItem* sheet(const char* title) const {
+        return named(QAccessible::Dialog, title);
+    }
+    [[nodiscard]] QStringList sheetsOnScreen() const {
+        QStringList titles;
+        for (QAccessibleInterface* const access : reachable()) {
+            if (access->role() == QAccessible::Dialog) {
+                titles.append(nameOf(access));
+            }
+        }
+        return titles;
+    }
+    // When it has come to its place.
+    void waitFor(const char* title) const {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return sheet(title) != nullptr; })) << title;
+        const QQuickItem* const view = sheet(title)->parentItem();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return view->property("shown").toDouble() == 1; }));
+    }
+    void waitForNone() const {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return sheetsOnScreen().isEmpty(); }));
+    }
+    void waitForSheet(OpenMapWorkspace::Sheet kind) const {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return workspace().sheet() == kind; }));
+    }
+    void openInspector(const char* id) const {
+        workspace().setSelection(QString::fromLatin1(id));
+        waitFor("Record");
+    }
+    void openRecordsSheet() const {
+        key(Qt::Key_R, Qt::ControlModifier);
+        waitFor("Records");
+    }
+    void openSources() const {
+        workspace().setShowingSources(true);
+        waitFor("Sources & coverage");
+    }
+    [[nodiscard]] QQuickItem* inRecordsSheet(const char* name) const {
+        return find(sheet("Records"), QString::fromLatin1(name));
+    }
+    void clickBeside() const {
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, QPoint(40, 30));
+    }
+    void close(const QString& way) const {
+        if (way == QStringLiteral("Done")) {
+            click(named(QAccessible::Button, "Done"));
+        } else if (way == QStringLiteral("Done, by assistive tools")) {
+            press(named(QAccessible::Button, "Done"));
+        } else if (way == QStringLiteral("Escape")) {
+            key(Qt::Key_Escape);
+        } else {
+            clickBeside();
+        }
+    }
+    void resize(int width, int height) const {
+        m_window->resize(width, height);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_window->contentItem()->width() == width; }));
+    }
+    [[nodiscard]] static QRectF place(const QQuickItem* shown) {
+        return shown->mapRectToScene(shown->boundingRect());
+    }
+};
+
+class SheetsClosedBy : public Sheets, public testing::WithParamInterface<const char*> {
+  protected:
+    void close() const { Sheets::close(QString::fromLatin1(GetParam())); }
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways,
+    SheetsClosedBy,
+    testing::Values("Done", "Done, by assistive tools", "Escape", "a click beside it"),
+    [](const auto& way) { return std::to_string(way.index); });
+
+TEST_P(SheetsClosedBy, TheInspectorLeavesNothingPickedAndOpensAgainOnTheSameRecord) {
+    openInspector("A-3");
+    close();
+    EXPECT_EQ(workspace().inspector(), QString());
+    waitForNone();
+    EXPECT_EQ(selection(), "");
+    click(item("open-map-record-A-3"));
+    waitFor("Record");
+    EXPECT_EQ(workspace().inspector(), QStringLiteral("A-3"));
+}
+
+TEST_P(SheetsClosedBy, TheSourcesSheetLeavesItsFlagCleared) {
+    openSources();
+    close();
+    EXPECT_FALSE(workspace().showingSources());
+    waitForNone();
+}
+
+TEST_P(SheetsClosedBy, TheRecordsSheetOpensNothing) {
+    openRecordsSheet();
+    close();
+    EXPECT_FALSE(workspace().showingRecords());
+    waitForNone();
+    EXPECT_EQ(workspace().sheet(), OpenMapWorkspace::Sheet::NoSheet);
+    EXPECT_EQ(workspace().inspector(), QString());
+}
+
+TEST_F(Sheets, TheRecordsSheetIsOpenedByTheCountLineAndByKeys) {
+    QQuickItem* const count = named(QAccessible::Button, "300 of 300 records");
+    ASSERT_NE(count, nullptr);
+    click(count);
+    waitFor("Records");
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    press(count);
+    waitFor("Records");
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    count->forceActiveFocus();
+    key(Qt::Key_Space);
+    waitFor("Records");
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    key(Qt::Key_R, Qt::ControlModifier);
+    waitFor("Records");
+}
+
+TEST_F(Sheets, TypingInTheRecordsSheetFiltersTheMainColumn) {
+    QQuickItem* const main = item("open-map-records");
+    workspace().setQuery(QStringLiteral("plant"));
+    openRecordsSheet();
+    QQuickItem* const search = named(QAccessible::EditableText, "Name or reporting company");
+    ASSERT_NE(search, nullptr);
+    EXPECT_EQ(search->property("text").toString(), QStringLiteral("plant"));
+    type("plant 29"); // what is there is selected
+    EXPECT_EQ(workspace().query(), QStringLiteral("plant 29"));
+    EXPECT_EQ(main->property("count").toInt(), 11);
+    EXPECT_EQ(inRecordsSheet("open-map-records")->property("count").toInt(), 11);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(workspace().query(), QString());
+    EXPECT_TRUE(workspace().showingRecords());
+}
+
+TEST_F(Sheets, TheRecordsSheetHasTheStateOfTheColumnAndKeepsItWhenItCloses) {
+    workspace().setKind(QStringLiteral("refinery"));
+    openRecordsSheet();
+    EXPECT_EQ(inRecordsSheet("open-map-records")->property("count").toInt(), 30);
+    inRecordsSheet("open-map-layer")->forceActiveFocus();
+    key(Qt::Key_Down);
+    key(Qt::Key_Home);
+    key(Qt::Key_Return);
+    EXPECT_EQ(workspace().kind(), QStringLiteral("all"));
+    workspace().setQuery(QStringLiteral("7"));
+    close(QStringLiteral("Done"));
+    waitForNone();
+    EXPECT_EQ(workspace().query(), QStringLiteral("7"));
+}
+
+TEST_F(Sheets, ARecordPickedInTheRecordsSheetIsFramedThenTheSheetClosesThenTheInspectorOpens) {
+    openRecordsSheet();
+    QStringList story;
+    QObject context;
+    QObject::connect(&workspace(), &OpenMapWorkspace::cameraChanged, &context, [&] {
+        story.append(QStringLiteral("framed"));
+    });
+    QObject::connect(&workspace(), &OpenMapWorkspace::showingRecordsChanged, &context, [&] {
+        story.append(QStringLiteral("records close"));
+    });
+    QObject::connect(&workspace(), &OpenMapWorkspace::inspectorChanged, &context, [&] {
+        story.append(QStringLiteral("inspector of ") + workspace().inspector() +
+                     QStringLiteral(" beside ") + QString::number(sheetsOnScreen().size()));
+    });
+    click(inRecordsSheet("open-map-record-A-2"));
+    EXPECT_EQ(workspace().pendingInspector(), QStringLiteral("A-2"));
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Records")));
+    waitFor("Record");
+    EXPECT_EQ(story,
+              (QStringList{QStringLiteral("framed"),
+                           QStringLiteral("records close"),
+                           QStringLiteral("inspector of A-2 beside 0")}));
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Record")));
+    EXPECT_EQ(workspace().pendingInspector(), QString());
+}
+
+TEST_F(Sheets, ARecordPickedByKeysInTheRecordsSheetOpensItsInspector) {
+    openRecordsSheet();
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    waitFor("Record");
+    EXPECT_EQ(workspace().inspector(), QStringLiteral("A-1"));
+}
+
+TEST_F(Sheets, ThereAreNeverTwo) {
+    openSources();
+    workspace().setSelection(QStringLiteral("A-4"));
+    workspace().setShowingRecords(true);
+    EXPECT_EQ(workspace().inspector(), QStringLiteral("A-4"));
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Sources & coverage")));
+    close(QStringLiteral("Escape"));
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Sources & coverage")));
+    waitFor("Records");
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Records")));
+    close(QStringLiteral("Escape"));
+    waitFor("Record");
+    workspace().setShowingSources(true);
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Record")));
+    close(QStringLiteral("Escape"));
+    waitFor("Sources & coverage");
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Sources & coverage")));
+    EXPECT_EQ(selection(), "");
+}
+
+TEST_F(Sheets, TheOrderIsTheSameWhereNothingMoves) {
+    setReducedMotion(1);
+    key(Qt::Key_R, Qt::ControlModifier);
+    waitFor("Records");
+    click(inRecordsSheet("open-map-record-A-2"));
+    waitFor("Record");
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Record")));
+    key(Qt::Key_Escape);
+    waitForNone();
+    EXPECT_EQ(selection(), "");
+}
+
+TEST_F(Sheets, AnUnknownSelectionOpensNothing) {
+    const CameraPosition before = workspace().camera();
+    workspace().setSelection(QStringLiteral("nobody"));
+    QTest::qWait(50);
+    EXPECT_EQ(sheetsOnScreen(), QStringList());
+    EXPECT_EQ(workspace().camera(), before);
+}
+
+TEST_F(Sheets, CanadaLeavesAnOpenInspectorTheSearchAndTheKindAlone) {
+    workspace().setQuery(QStringLiteral("plant"));
+    workspace().setKind(QStringLiteral("gas_plant"));
+    openInspector("A-7");
+    workspace().resetCamera();
+    QTest::qWait(20);
+    EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("Record")));
+    EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
+    EXPECT_EQ(workspace().query(), QStringLiteral("plant"));
+    EXPECT_EQ(workspace().kind(), QStringLiteral("gas_plant"));
+    EXPECT_EQ(selection(), "A-7");
+}
+
+TEST_F(Sheets, NothingBehindASheetIsReachableByAssistiveTools) {
+    for (const char* const each : {"open-map-layer", "open-map-records", "open-map-reset"}) {
+        ASSERT_NE(item(each), nullptr);
+    }
+    ASSERT_NE(named(QAccessible::Graphic, "Canadian energy infrastructure map"), nullptr);
+    openInspector("A-7");
+    // New rows behind it are out of reach as well.
+    workspace().setQuery(QStringLiteral("plant 1"));
+    QTest::qWait(20);
+    std::set<QString> above;
+    for (QAccessibleInterface* const access : reachable()) {
+        const auto* const found = qobject_cast<const QQuickItem*>(access->object());
+        if (found != nullptr && access->role() != QAccessible::Grouping) {
+            EXPECT_TRUE(found == sheet("Record") || sheet("Record")->isAncestorOf(found))
+                << nameOf(access).toStdString();
+        }
+    }
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    EXPECT_NE(named(QAccessible::Graphic, "Canadian energy infrastructure map"), nullptr);
+    EXPECT_NE(named(QAccessible::List, "Records"), nullptr);
+}
+
+TEST_F(Sheets, NothingBehindASheetIsReachableByKeyboard) {
+    openInspector("A-7");
+    const QQuickItem* const inspector = item("open-map-inspector");
+    for (int tab = 0; tab < 40; ++tab) {
+        key(Qt::Key_Tab);
+        ASSERT_TRUE(inspector->isAncestorOf(m_window->activeFocusItem()));
+    }
+    for (int tab = 0; tab < 40; ++tab) {
+        key(Qt::Key_Tab, Qt::ShiftModifier);
+        ASSERT_TRUE(inspector->isAncestorOf(m_window->activeFocusItem()));
+    }
+    key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(inspector->isAncestorOf(m_window->activeFocusItem()));
+    key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_FALSE(workspace().showingRecords());
+    type("x");
+    EXPECT_EQ(workspace().query(), QString());
+}
+
+TEST_F(Sheets, NothingBehindASheetIsReachableByPointer) {
+    openSources();
+    const CameraPosition before = workspace().camera();
+    const QPointF canada = item("open-map-reset")->mapToScene({10, 10});
+    for (const QPointF at : {QPointF(700, 400), QPointF(1200, 600), QPointF(100, 400), canada}) {
+        QWheelEvent turn(at,
+                         m_window->mapToGlobal(at),
+                         {},
+                         {0, 120},
+                         Qt::NoButton,
+                         Qt::NoModifier,
+                         Qt::NoScrollPhase,
+                         false);
+        QCoreApplication::sendEvent(m_window, &turn);
+    }
+    EXPECT_EQ(workspace().camera(), before);
+    workspace().setCamera(MapRect{1, 2, 3, 4});
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, canada.toPoint());
+    EXPECT_EQ(workspace().camera(), CameraPosition(MapRect{1, 2, 3, 4}));
+    EXPECT_FALSE(workspace().showingSources()); // that was a click beside it
+}
+
+TEST_F(Sheets, ControlAndFFocusesTheSearchFieldOfTheRecordsSheet) {
+    openRecordsSheet();
+    inRecordsSheet("open-map-layer")->forceActiveFocus();
+    key(Qt::Key_F, Qt::ControlModifier);
+    type("29");
+    EXPECT_EQ(workspace().query(), QStringLiteral("29"));
+    EXPECT_TRUE(sheet("Records")->isAncestorOf(m_window->activeFocusItem()));
+}
+
+TEST_F(Sheets, TheFocusComesBackToTheRowThatOpenedTheInspector) {
+    key(Qt::Key_F, Qt::ControlModifier);
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    waitFor("Record");
+    EXPECT_TRUE(item("open-map-inspector")->isAncestorOf(m_window->activeFocusItem()));
+    key(Qt::Key_Escape);
+    waitForNone();
+    EXPECT_TRUE(item("open-map-records")->hasActiveFocus());
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    waitFor("Record");
+    EXPECT_EQ(selection(), "A-2");
+}
+
+TEST_F(Sheets, ADoubleClickOnARowLeavesTheInspectorOpen) {
+    const QPoint row = item("open-map-record-A-3")->mapToScene({40, 20}).toPoint();
+    QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier, row);
+    waitFor("Record");
+    EXPECT_EQ(workspace().inspector(), QStringLiteral("A-3"));
+}
+
+TEST_F(Sheets, TheInspectorStandsBesideTheMapWhereThereIsRoom) {
+    openInspector("A-7");
+    EXPECT_EQ(place(item("open-map-inspector")), QRectF(1280 - 16 - 560, 16, 560, 800 - 32));
+    EXPECT_EQ(item("open-map-canvas")->property("coveredRight").toDouble(), 576);
+    const CameraPosition framed = workspace().camera();
+    resize(1216, 1000);
+    EXPECT_EQ(place(item("open-map-inspector")), QRectF(1216 - 16 - 560, 16, 560, 900));
+    resize(1215, 800);
+    EXPECT_EQ(place(item("open-map-inspector")), QRectF(328, 16, 560, 768));
+    EXPECT_EQ(item("open-map-canvas")->property("coveredRight").toDouble(), 0);
+    EXPECT_EQ(workspace().camera(), framed);
+    resize(1280, 800);
+    close(QStringLiteral("Escape"));
+    EXPECT_EQ(item("open-map-canvas")->property("coveredRight").toDouble(), 0);
+    EXPECT_EQ(workspace().camera(), framed);
+}
+
+TEST_F(Sheets, EachFitsTheSmallestWindow) {
+    resize(900, 620);
+    openInspector("A-7");
+    EXPECT_EQ(place(item("open-map-inspector")), QRectF(170, 16, 560, 588));
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    openSources();
+    EXPECT_EQ(place(sheet("Sources & coverage")), QRectF(130, 10, 640, 600));
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    openRecordsSheet();
+    EXPECT_EQ(place(sheet("Records")), QRectF(130, 310, 640, 310));
+    key(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return place(sheet("Records")) == QRectF(130, 40, 640, 580); }));
+    EXPECT_GT(inRecordsSheet("open-map-records")->height(), 300);
+}
+
+TEST_F(Sheets, SourcesAndRecordsAreAsLargeAsTheWindowLets) {
+    resize(1600, 1200);
+    openSources();
+    EXPECT_EQ(place(sheet("Sources & coverage")), QRectF(480, 120, 640, 960));
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    openRecordsSheet();
+    EXPECT_EQ(place(sheet("Records")), QRectF(480, 600, 640, 600));
+}
+
+TEST_F(Sheets, AWindowCanBeClosedWithASheetOnIt) {
+    const QPointer<QQuickWindow> first = m_window;
+    openRecordsSheet();
+    QQuickWindow* const second = m_application->openWindow();
+    click(inRecordsSheet("open-map-record-A-2"));
+    first->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
+    EXPECT_TRUE(second->isVisible());
+}
+
+} // namespace
+} // namespace vasker
