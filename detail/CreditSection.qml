@@ -10,6 +10,11 @@ Section {
     required property list<var> credits
     required property int promptCredits
 
+    readonly property RowSteps steps: RowSteps {
+        promptCount: root.promptCredits
+        count: root.credits.length
+    }
+
     Repeater {
         model: root.credits
         delegate: Loader {
@@ -17,10 +22,11 @@ Section {
             required property openMapCredit modelData
 
             width: parent?.width ?? 0
-            asynchronous: index >= root.promptCredits
+            active: index < root.steps.made
             Component.onCompleted: setSource("OpenMapCredit.qml", {
                 "credit": modelData,
-                "separated": index > 0
+                "separated": index > 0,
+                "width": width
             })
         }
     }

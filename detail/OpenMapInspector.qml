@@ -40,6 +40,12 @@ Item {
         acceptedDevices: PointerDevice.TouchScreen
         onLongPressed: root.menuRequested(point.position)
     }
+    RowSteps {
+        id: factSteps
+
+        promptCount: root.content.promptFacts
+        count: root.content.facts.length
+    }
     GroupedList {
         id: list
 
@@ -97,10 +103,11 @@ Item {
                     required property openMapFact modelData
 
                     width: parent?.width ?? 0
-                    asynchronous: index >= root.content.promptFacts
+                    active: index < factSteps.made
                     Component.onCompleted: setSource("FactRow.qml", {
                         "fact": modelData,
                         "separated": index > 0,
+                        "width": width,
                         "keyTarget": list
                     })
                 }

@@ -17,6 +17,12 @@ Item {
         list.forceActiveFocus(Qt.TabFocusReason);
     }
 
+    RowSteps {
+        id: limitationSteps
+
+        promptCount: root.content.promptLimitations
+        count: root.content.limitations.length
+    }
     GroupedList {
         id: list
 
@@ -52,10 +58,11 @@ Item {
                     required property string modelData
 
                     width: parent?.width ?? 0
-                    asynchronous: index >= root.content.promptLimitations
+                    active: index < limitationSteps.made
                     Component.onCompleted: setSource("NoteRow.qml", {
                         "text": modelData,
-                        "separated": index > 0
+                        "separated": index > 0,
+                        "width": width
                     })
                 }
             }

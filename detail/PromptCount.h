@@ -1,6 +1,6 @@
 #pragma once
 // How much of a list is laid out at once, so that a sheet opens within two frames whatever the
-// release holds. A view makes the other rows right after, a few a frame.
+// release holds. A view makes the other rows right after, one a frame.
 
 #include <QtGlobal>
 

@@ -75,9 +75,11 @@ TestCase {
     }
     function test_both_views_show_the_same_credit(): void {
         const here = creditOf(open(Releases.twoFacts(), ""));
-        const there = creditOf(createTemporaryObject(inspectorMaker, test, {
+        const inspector = createTemporaryObject(inspectorMaker, test, {
             "record": Releases.twoFacts()
-        }));
+        });
+        waitForRendering(inspector);
+        const there = creditOf(inspector);
         compare(Walk.texts(here), Walk.texts(there));
         compare(here.width, there.width);
         compare(here.height, there.height);
