@@ -110,7 +110,7 @@ class Setup : public QObject {
     void qmlEngineAvailable(QQmlEngine* engine) {
         engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
         qmlRegisterSingletonType<Releases>(
-            "Vasker.DetailTest", 1, 0, "Releases", [](QQmlEngine*, QJSEngine*) -> QObject* {
+            "DetailTest", 1, 0, "Releases", [](QQmlEngine*, QJSEngine*) -> QObject* {
                 return new Releases;
             });
     }

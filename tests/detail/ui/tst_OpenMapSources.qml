@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import Vasker.Detail
-import Vasker.DetailTest
+import DetailTest
 import Vasker.Platform
 import "walk.js" as Walk
 
