@@ -33,23 +33,46 @@ Window {
     WindowActions {
         id: actions
 
+        windowSheetOnScreen: about.onScreen || shortcuts.onScreen
         onWindowWanted: window.application.openWindow()
+        onAboutWanted: if (actions.sheetsAllowed) {
+            about.wanted = true;
+        }
+        onShortcutsWanted: if (actions.sheetsAllowed) {
+            shortcuts.wanted = true;
+        }
         onQuitWanted: window.application.closeAllWindows()
     }
-    LoadingScreen {
+    Backdrop {
         anchors.fill: parent
-        visible: window.root.screen === OpenMapRoot.Loading
-    }
-    FailureScreen {
-        anchors.fill: parent
-        visible: window.root.screen === OpenMapRoot.Failed
-        description: window.root.failureText
-    }
-    Loader {
-        id: view
+        covered: actions.windowSheetOnScreen
 
-        anchors.fill: parent
-        focus: true
+        LoadingScreen {
+            anchors.fill: parent
+            visible: window.root.screen === OpenMapRoot.Loading
+        }
+        FailureScreen {
+            anchors.fill: parent
+            visible: window.root.screen === OpenMapRoot.Failed
+            description: window.root.failureText
+        }
+        Loader {
+            id: view
+
+            anchors.fill: parent
+            focus: true
+        }
+    }
+    AboutSheet {
+        id: about
+
+        version: window.application.version
+        onDismissed: wanted = false
+    }
+    ShortcutsSheet {
+        id: shortcuts
+
+        onDismissed: wanted = false
     }
     Connections {
         target: window.root
@@ -61,6 +84,10 @@ Window {
     Shortcut {
         sequence: "Ctrl+N"
         onActivated: actions.windowWanted()
+    }
+    Shortcut {
+        sequence: "Ctrl+?"
+        onActivated: actions.shortcutsWanted()
     }
     Shortcut {
         sequence: "Ctrl+W"

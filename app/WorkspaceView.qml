@@ -118,14 +118,19 @@ FocusScope {
 
         workspace: root.workspace
     }
+    Binding {
+        target: root.actions
+        property: "workspaceSheetOnScreen"
+        value: root.sheetOnScreen
+    }
     Shortcut {
         sequence: "Ctrl+F"
-        enabled: !root.sheetOnScreen
+        enabled: root.actions.sheetsAllowed
         onActivated: search.focusText()
     }
     Shortcut {
         sequence: "Ctrl+R"
-        enabled: !root.sheetOnScreen
+        enabled: root.actions.sheetsAllowed
         onActivated: root.workspace.showingRecords = true
     }
 }

@@ -26,7 +26,6 @@ struct LaunchToken {
     /// That of this program. To be asked before there is an application object, which takes it
     /// away.
     [[nodiscard]] static LaunchToken fromEnvironment();
-    [[nodiscard]] bool isEmpty() const { return activation.isEmpty() && startup.isEmpty(); }
 };
 
 class DesktopActivation : public QObject {

@@ -44,7 +44,7 @@ PopupSurface {
                 list.currentIndex = 0;
             } else if (event.key === Qt.Key_End) {
                 list.currentIndex = list.count - 1;
-            } else if (event.text.trim().length > 0 || (event.key === Qt.Key_Space && root.typed.length > 0)) {
+            } else if (/^[^\x00-\x20\x7f]/.test(event.text) || (event.key === Qt.Key_Space && root.typed.length > 0)) {
                 root.typed += event.text;
                 pause.restart();
                 const row = root.kinds.rowStartingWith(root.typed, list.currentIndex);

@@ -135,7 +135,7 @@ PopupSurface {
                                 root.step(root.entries.length, -1);
                             } else if (event.key === Qt.Key_Space && root.typed.length === 0) {
                                 picked();
-                            } else if (event.text.trim().length > 0 || event.key === Qt.Key_Space) {
+                            } else if (/^[^\x00-\x1f\x7f]/.test(event.text)) {
                                 root.find(event.text, index);
                             } else {
                                 event.accepted = false;

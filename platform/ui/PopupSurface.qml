@@ -3,7 +3,7 @@ import Vasker.Platform
 
 // A raised surface that opens 4 px below `anchor`, or at a point, above everything else in the window.
 // Where it would leave the window at the side, its end is the anchor's. Escape, Tab or a press beside
-// it closes it.
+// it closes it; what lies there does not learn of it.
 Item {
     id: root
 
@@ -62,7 +62,8 @@ Item {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons
         hoverEnabled: true
-        onPressed: root.close()
+        // Not when it is pressed: what lies below would take that for its own.
+        onReleased: root.close()
         onWheel: wheel => wheel.accepted = true
     }
     Item {

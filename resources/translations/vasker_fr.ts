@@ -2,6 +2,65 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AboutSheet</name>
+    <message>
+        <source>About Vasker Beta</source>
+        <translation>À propos de Vasker Beta</translation>
+    </message>
+    <message>
+        <source>Vasker Beta</source>
+        <translation>Vasker Beta</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>A map of Canadian energy infrastructure from one packaged release of open data, each value with its source and its period. No account, no log; it edits nothing.</source>
+        <translation>Une carte de l’infrastructure énergétique canadienne, tirée d’une édition de données ouvertes fournie avec le programme; chaque valeur avec sa source et sa période. Pas de compte, pas de journal; il ne modifie rien.</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Données</translation>
+    </message>
+    <message>
+        <source>Environment and Climate Change Canada</source>
+        <translation>Environnement et Changement climatique Canada</translation>
+    </message>
+    <message>
+        <source>Open Government Licence – Canada</source>
+        <translation>Licence du gouvernement ouvert – Canada</translation>
+    </message>
+    <message>
+        <source>Public domain</source>
+        <translation>Domaine public</translation>
+    </message>
+    <message>
+        <source>© OpenStreetMap contributors</source>
+        <translation>© les contributeurs d’OpenStreetMap</translation>
+    </message>
+    <message>
+        <source>“Sources &amp; coverage” tells the sources of this release one by one. None of these publishers endorses this program.</source>
+        <translation>« Sources et couverture » donne les sources de cette édition une à une. Aucun de ces organismes ne cautionne ce programme.</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliothèques</translation>
+    </message>
+    <message>
+        <source>Unicode licence</source>
+        <translation>Licence Unicode</translation>
+    </message>
+    <message>
+        <source>Inter, the typeface</source>
+        <translation>Inter, la police de caractères</translation>
+    </message>
+</context>
+<context>
     <name>Catalogue</name>
     <message>
         <source>Check the spelling or try a new search.</source>
@@ -330,6 +389,181 @@
     <message>
         <source>No private Vasker library or raw source documents are included. Data updates arrive in a new app release.</source>
         <translation>Aucune bibliothèque Vasker privée ni aucun document source brut n’est inclus. Les mises à jour des données arrivent avec une nouvelle version de l’application.</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutsSheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>New window</source>
+        <translation>Nouvelle fenêtre</translation>
+    </message>
+    <message>
+        <source>Close window</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Next control, previous control</source>
+        <translation>Commande suivante, précédente</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Maj+Tab</translation>
+    </message>
+    <message>
+        <source>Press a button, open a menu</source>
+        <translation>Appuyer sur un bouton, ouvrir un menu</translation>
+    </message>
+    <message>
+        <source>Enter or Space</source>
+        <translation>Entrée ou Espace</translation>
+    </message>
+    <message>
+        <source>Records</source>
+        <translation>Fiches</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>From the search to the list</source>
+        <translation>De la recherche à la liste</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Next, previous record</source>
+        <translation>Fiche suivante, précédente</translation>
+    </message>
+    <message>
+        <source>Down, Up</source>
+        <translation>Bas, Haut</translation>
+    </message>
+    <message>
+        <source>A page further, back</source>
+        <translation>Une page plus loin, en arrière</translation>
+    </message>
+    <message>
+        <source>Page Down, Page Up</source>
+        <translation>Page suiv., Page préc.</translation>
+    </message>
+    <message>
+        <source>First, last record</source>
+        <translation>Première, dernière fiche</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Début, Fin</translation>
+    </message>
+    <message>
+        <source>Pick a record</source>
+        <translation>Choisir une fiche</translation>
+    </message>
+    <message>
+        <source>Pick none</source>
+        <translation>N’en choisir aucune</translation>
+    </message>
+    <message>
+        <source>Records in a sheet</source>
+        <translation>Fiches dans un volet</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Flèches</translation>
+    </message>
+    <message>
+        <source>Zoom in, out</source>
+        <translation>Zoom avant, arrière</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Tourner</translation>
+    </message>
+    <message>
+        <source>Shift+Left, Shift+Right</source>
+        <translation>Maj+Gauche, Maj+Droite</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Incliner</translation>
+    </message>
+    <message>
+        <source>Shift+Up, Shift+Down</source>
+        <translation>Maj+Haut, Maj+Bas</translation>
+    </message>
+    <message>
+        <source>North up, from above</source>
+        <translation>Nord en haut, vue d’en haut</translation>
+    </message>
+    <message>
+        <source>Overview of Canada</source>
+        <translation>Vue d’ensemble du Canada</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Pick what is in the middle</source>
+        <translation>Choisir ce qui est au milieu</translation>
+    </message>
+    <message>
+        <source>Sheets and menus</source>
+        <translation>Volets et menus</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Scroll a sheet</source>
+        <translation>Faire défiler un volet</translation>
+    </message>
+    <message>
+        <source>Make the records sheet large, medium</source>
+        <translation>Agrandir, réduire le volet des fiches</translation>
+    </message>
+    <message>
+        <source>Ctrl+Up, Ctrl+Down</source>
+        <translation>Ctrl+Haut, Ctrl+Bas</translation>
+    </message>
+    <message>
+        <source>Another row of a menu</source>
+        <translation>Une autre ligne d’un menu</translation>
+    </message>
+    <message>
+        <source>Arrow keys or first letters</source>
+        <translation>Flèches ou premières lettres</translation>
     </message>
 </context>
 <context>
