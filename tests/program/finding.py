@@ -61,3 +61,7 @@ def a_category_is_chosen(executable):
         program.see(role="menu item", name="Gas plant", state="checked")
         program.press(role="menu item", name="All categories")
         program.see(name="2 of 2 records")
+        program.press(id="open-map-layer")
+        program.see(role="menu item", name="Gas plant")
+        program.key("Escape")
+        program.miss(role="menu item")
