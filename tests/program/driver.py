@@ -25,7 +25,7 @@ class Missed(AssertionError):
     """What a scenario waited for did not come."""
 
 
-@dataclass
+@dataclass(repr=False)
 class Control:
     """One object of the accessibility tree, as it was when the tree was read."""
 
@@ -37,6 +37,9 @@ class Control:
     description: str
     states: frozenset
     children: list = field(default_factory=list)
+
+    def __repr__(self):
+        return self.text()
 
     def below(self):
         """Itself and all below it, from top to bottom."""

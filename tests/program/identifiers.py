@@ -7,6 +7,8 @@ from driver import Missed, Program, switch_accessibility
 CONTROLS = {
     "open-map-layer": ("combo box", "Layer", True),
     "open-map-records": ("list", "Records", False),
+    "open-map-options": ("push button", "Map options", True),
+    "open-map-sources": ("push button", "Sources & coverage", True),
     "open-map-reset": ("push button", "Canada", True),
     "open-map-canvas": ("image", "Canadian energy infrastructure map", False),
 }
