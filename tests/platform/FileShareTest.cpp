@@ -1,6 +1,6 @@
 #include "platform/FileShare.h"
 
-#include "PlayedDesktop.h"
+#include "tests/platform/PlayedDesktop.h"
 
 #include <QClipboard>
 #include <QDBusUnixFileDescriptor>

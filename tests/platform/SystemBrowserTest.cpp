@@ -1,6 +1,6 @@
 #include "platform/SystemBrowser.h"
 
-#include "PlayedDesktop.h"
+#include "tests/platform/PlayedDesktop.h"
 
 #include <QTest>
 
