@@ -36,16 +36,6 @@ def a_record_is_found_by_search(executable):
         see_rows(program, ROWS)
 
 
-def a_record_is_picked(executable):
-    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
-        row = program.see(id="open-map-record-A-10")
-        if row.role != "list item" or row.name != ROWS[1] or "selectable" not in row.states:
-            raise Missed(row.text())
-        row.press()
-        program.see(id="open-map-record-A-10", state="selected")
-        program.miss(id="open-map-record-A-2", state="selected")
-
-
 def a_category_is_chosen(executable):
     release = changed("assets", 1, "kind", to="refinery")
     with program_with_release(executable, release) as copy, Program(copy) as program:

@@ -1,0 +1,179 @@
+"""The sheets over the workspace: what they tell, their order, and what is out of reach behind."""
+
+from bundle import RELEASE, changed, program_with_release
+from driver import Missed, Program
+from portal import Portal
+
+PROMPT = "Facility, pipeline or reporting company"
+BEHIND = [
+    "open-map-options",
+    "open-map-reset",
+    "open-map-sources",
+    "open-map-layer",
+    "open-map-records",
+    "open-map-canvas",
+]
+CREDIT = ["A publisher", "An attribution.", "Conditions.", "Modifications."]
+
+
+def expect_in_order(names, expected):
+    """Whether `expected` stands in `names` in that order; other texts may stand between."""
+    rest = iter(names)
+    for text in expected:
+        if text not in rest:
+            raise Missed(f"{text!r} is missing, or not in its place, in {names}")
+
+
+def expect_nothing_behind(program, dialog):
+    program.see(role="dialog", name=dialog)
+    inside = program.find(role="dialog", name=dialog)
+    reachable = {each.id for each in inside.below()}
+    for id in BEHIND:
+        if id not in reachable:
+            program.miss(id=id)
+    program.miss(name=PROMPT)
+
+
+def the_inspector_tells_of_a_record(executable):
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        program.press(id="open-map-record-A-10")
+        sheet = program.see(id="open-map-inspector", role="dialog", name="Record")
+        expected = [
+            "Plant 10",
+            "Gas plant · A-10",
+            "Source period: 2016",
+            "Reported status: Reported for 2016",
+            "Reporting company: A company",
+            "Company and status describe the cited release."
+            " They do not establish the current operator or current operation.",
+            "Reported information",
+            "City",
+            "Fairview",
+            "NPRI · 2016",
+            "Sources & licences",
+            *CREDIT,
+            "Source data",
+            "Licence",
+            "Location",
+            "Publisher-reported location."
+            " Equipment position, physical-site boundary and survey precision are not established.",
+        ]
+        expect_in_order(sheet.names(), expected)
+        expect_nothing_behind(program, "Record")
+
+
+def closing_the_inspector_clears_the_selection(executable):
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        for close in (lambda: program.press(name="Done"), lambda: program.key("Escape")):
+            row = program.see(id="open-map-record-A-10")
+            name = "Plant 10, Gas plant, source period 2016"
+            if not row.fits(role="list item", name=name, state="selectable"):
+                raise Missed(row.text())
+            row.press()
+            program.see(id="open-map-inspector")
+            close()
+            program.miss(id="open-map-inspector")
+            row = program.see(id="open-map-record-A-10")
+            if "selected" in row.states:
+                raise Missed(row.text())
+
+
+def a_source_link_opens_in_the_browser(executable):
+    with Portal() as portal, program_with_release(executable, RELEASE) as copy:
+        with Program(copy) as program:
+            program.press(id="open-map-record-A-10")
+            link = program.see(role="link", name="NPRI · 2016")
+            if "https://example.org/data" not in link.description:
+                raise Missed(link.text())
+            link.press()
+            if portal.asked("OpenURI")[1] != "https://example.org/data":
+                raise Missed(f"opened: {portal.calls}")
+            program.press(role="link", name="Licence")
+            if portal.asked("OpenURI", times=2)[1] != "https://example.org/licence":
+                raise Missed(f"opened: {portal.calls}")
+
+
+def the_sources_sheet_tells_of_the_release(executable):
+    release = changed("assets", 0, "routes", to=[[[-112.0, 54.0], [-111.0, 55.0]]])
+    with program_with_release(executable, release) as copy, Program(copy) as program:
+        program.press(id="open-map-sources")
+        sheet = program.see(role="dialog", name="Sources & coverage")
+        expected = [
+            "This release",
+            "Two records",
+            "2 records · 1 routes",
+            "test-1 · packaged 2025-01-31",
+            "The packaged date is not the observation date."
+            " Each record shows its source period.",
+            "Coverage & limitations",
+            "Two records are few.",
+            "Sources & reuse",
+            *CREDIT,
+            "The data retain their source licences. Vasker app terms do not restrict your rights"
+            " under OGL-Canada or CC BY 4.0. No government or publisher endorsement is implied.",
+            "Share the open-data file",
+            "Privacy",
+            "This beta has no account, advertising, analytics or location tracking. Search and"
+            " filters run on your device. Apple Maps downloads its basemap from Apple; source links"
+            " open the publisher's website. Those services receive the requests you make to them.",
+            "No private Vasker library or raw source documents are included."
+            " Data updates arrive in a new app release.",
+        ]
+        expect_in_order(sheet.names(), expected)
+        expect_nothing_behind(program, "Sources & coverage")
+        program.press(name="Done")
+        program.miss(role="dialog")
+        program.see(id="open-map-sources")
+
+
+def a_copy_of_the_release_is_saved(executable):
+    with program_with_release(executable, RELEASE) as copy:
+        original = (copy.parent / "resources/OpenMap.json").read_bytes()
+        place = copy.parent / "saved copy.json"
+        with Portal(save_to=place) as portal, Program(copy) as program:
+            program.press(id="open-map-sources")
+            program.press(role="push button", name="Share the open-data file")
+            program.press(role="menu item", starts="Save")
+            if portal.asked("SaveFile")[2]["current_name"] != "OpenMap.json":
+                raise Missed(f"asked: {portal.calls}")
+            program.see(name=f"Saved to {place}")
+            if place.read_bytes() != original:
+                raise Missed("the copy is not the file")
+
+
+def the_records_sheet_comes_before_the_inspector(executable):
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        program.see(name="2 of 2 records")
+        program.key("ctrl+r")
+        program.see(role="dialog", name="Records")
+        expect_nothing_behind(program, "Records")
+        program.see(name="Name or reporting company").set_text("plant 1")
+        program.wait(
+            lambda: program.see(role="dialog", name="Records").find(name="1 of 2 records"),
+            "the sheet's own search does not filter",
+        )
+        sheet = program.see(role="dialog", name="Records")
+        sheet.find(id="open-map-record-A-10").press()
+
+        def inspector_alone():
+            dialogs = program.windows()[0].find_all(role="dialog")
+            if len(dialogs) > 1:
+                raise Missed(f"two sheets at once: {[each.name for each in dialogs]}")
+            return [each.name for each in dialogs] == ["Record"]
+
+        program.wait(inspector_alone, "the inspector does not follow")
+        program.press(name="Done")
+        program.miss(role="dialog")
+        program.see(name="1 of 2 records")
+        if program.see(name=PROMPT).contents() != "plant 1":
+            raise Missed("the two search fields are not one")
+
+
+def done_closes_the_records_sheet_and_opens_nothing(executable):
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        program.see(name="2 of 2 records")
+        program.key("ctrl+r")
+        program.see(role="dialog", name="Records")
+        program.press(name="Done")
+        program.miss(role="dialog")
+        program.see(id="open-map-records")
