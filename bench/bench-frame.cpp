@@ -10,6 +10,7 @@
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
 #include "bench/FrameClock.h"
+#include "bench/Process.h"
 #include "data/Digest.h"
 #include "map/Symbols.h"
 #include "map/view/MapView.h"
@@ -51,19 +52,6 @@ double milliseconds(std::int64_t nanoseconds) {
 double percentile(std::vector<double> values, double fraction) {
     std::sort(values.begin(), values.end());
     return values[static_cast<std::size_t>(fraction * static_cast<double>(values.size() - 1))];
-}
-
-/// Proportional set size of this process, in megabytes of 1,000,000 bytes.
-double proportionalMemory() {
-    QFile file(QStringLiteral("/proc/self/smaps_rollup"));
-    if (file.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : file.readAll().split('\n')) {
-            if (line.startsWith("Pss:")) {
-                return line.mid(4).trimmed().split(' ').front().toDouble() * 1024 / 1e6;
-            }
-        }
-    }
-    throw std::runtime_error("the kernel tells no proportional memory");
 }
 
 /// Steps `script` once for every picture, and prints the times between the pictures.

@@ -1,0 +1,110 @@
+// How long the inspector takes to open, for every record of the packaged release, and what the
+// process weighs after thousands of openings. Without motion, so that only the work is measured.
+//
+//   xvfb-run -a -s '-screen 0 1400x900x24' bench-inspector
+
+#include "app/OpenMapApp.h"
+#include "app/OpenMapRoot.h"
+#include "bench/FrameClock.h"
+#include "bench/Process.h"
+#include "platform/Appearance.h"
+#include "platform/Memory.h"
+#include "platform/ui/Fonts.h"
+
+#include <QDBusVariant>
+#include <QGuiApplication>
+#include <QQmlExtensionPlugin>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <stdexcept>
+#include <vector>
+
+Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
+Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
+
+namespace vasker {
+namespace {
+
+using Sheet = OpenMapWorkspace::Sheet;
+
+constexpr std::size_t openings = 5'000;
+/// The first openings fill caches of fonts, glyphs and components.
+constexpr std::size_t openingsToWarmUp = 500;
+
+/// As a desktop that asks for less motion tells it.
+void stopMotion() {
+    QMetaObject::invokeMethod(Appearance::create(nullptr, nullptr),
+                              "apply",
+                              Q_ARG(QString, QStringLiteral("org.freedesktop.appearance")),
+                              Q_ARG(QString, QStringLiteral("reduced-motion")),
+                              Q_ARG(QDBusVariant, QDBusVariant(1U)));
+}
+
+void expectPicture(std::int64_t shown, const char* what) {
+    if (shown == 0) {
+        throw std::runtime_error(std::string("no picture: ") + what);
+    }
+}
+
+void measure() {
+    stopMotion();
+    const QTemporaryDir user;
+    OpenMapApp windows(Bundle(QStringLiteral(VASKER_PACKAGED_RESOURCES)),
+                       TextLocale::fromEnvironment(),
+                       user.filePath(QStringLiteral("settings")),
+                       user.filePath(QStringLiteral("cache")));
+    QQuickWindow& window = *windows.openWindow();
+    FrameClock clock(window);
+    const auto& root = *window.property("root").value<OpenMapRoot*>();
+    expectPicture(clock.waitForPicture([&] { return root.workspace() != nullptr; }), "the release");
+    OpenMapWorkspace& workspace = *root.workspace();
+    const auto& assets = workspace.release().assets;
+
+    std::vector<double> times;
+    double warm = 0;
+    for (std::size_t opening = 0; opening < openings; ++opening) {
+        const std::int64_t start = monotonicNow();
+        workspace.setSelection(QString::fromStdString(assets[opening % assets.size()].id));
+        const std::int64_t shown =
+            clock.waitForPicture([&] { return workspace.sheet() == Sheet::Inspector; });
+        expectPicture(shown, "the inspector");
+        times.push_back(static_cast<double>(shown - start) / 1e6);
+        workspace.closeInspector();
+        expectPicture(clock.waitForPicture([&] { return workspace.sheet() == Sheet::NoSheet; }),
+                      "the map");
+        if (opening == openingsToWarmUp) {
+            warm = proportionalMemory();
+        }
+    }
+    std::sort(times.begin(), times.end());
+    std::printf("inspector to picture   median %6.2f ms   95th percentile %6.2f ms   longest %6.2f "
+                "ms\n",
+                times[openings / 2],
+                times[openings * 95 / 100],
+                times.back());
+    std::printf("memory                 %6.0f MB after %zu openings, %.0f MB after %zu\n",
+                warm,
+                openingsToWarmUp,
+                proportionalMemory(),
+                openings);
+}
+
+} // namespace
+} // namespace vasker
+
+int main(int argc, char* argv[]) {
+    vasker::returnFreedPictures();
+    const QGuiApplication application(argc, argv);
+    vasker::installInterfaceFont();
+    try {
+        vasker::measure();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "bench-inspector: %s\n", error.what());
+        return 1;
+    }
+    return 0;
+}
