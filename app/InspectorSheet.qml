@@ -12,6 +12,8 @@ Sheet {
     // How much of the window it takes from the map at the trailing edge, in logical pixels.
     readonly property real covered: wanted && placement === Sheet.Trailing ? preferredWidth + 16 : 0
 
+    signal menuWanted(Item over, point place)
+
     identifier: "open-map-inspector"
     title: qsTr("Record")
     placement: width >= Theme.besideWidth ? Sheet.Trailing : Sheet.Centered
@@ -24,8 +26,11 @@ Sheet {
     onClosed: root.workspace.dismissInspector()
 
     content: OpenMapInspector {
+        id: view
+
         record: root.workspace.inspected
         onScrolledChanged: root.scrolled = scrolled
+        onMenuRequested: place => root.menuWanted(view, place)
         Component.onCompleted: takeFocus()
     }
 }

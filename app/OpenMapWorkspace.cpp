@@ -125,6 +125,12 @@ ReleaseRecord OpenMapWorkspace::whole() const {
     return {std::shared_ptr<const OpenMapRelease>(m_loaded, &release()), std::nullopt};
 }
 
+ReleaseRecord OpenMapWorkspace::recordOf(const QString& id) const {
+    ReleaseRecord record = whole();
+    record.asset = m_loaded->index.find(id.toStdString());
+    return record;
+}
+
 QString OpenMapWorkspace::basemap() const {
     return m_preferences.text(basemapKey).value_or(defaultBasemap);
 }

@@ -88,6 +88,8 @@ class OpenMapWorkspace : public QObject {
     [[nodiscard]] ReleaseRecord inspected() const;
     /// The release, and no record of it.
     [[nodiscard]] ReleaseRecord whole() const;
+    /// The release and its record with this id; no record where none has it.
+    Q_INVOKABLE vasker::ReleaseRecord recordOf(const QString& id) const;
     [[nodiscard]] const QString& packagedFile() const noexcept { return m_packagedFile; }
 
     /// The stored preference as it stands, known or not; "standard" where nothing is stored.

@@ -10,6 +10,8 @@ Sheet {
 
     required property OpenMapWorkspace workspace
 
+    signal menuWanted(string id, Item over, point place)
+
     title: qsTr("Records")
     placement: Sheet.BottomEdge
     wanted: root.workspace.showingRecords && root.workspace.sheet === OpenMapWorkspace.Records
@@ -49,6 +51,7 @@ Sheet {
             onKindPicked: kind => root.workspace.kind = kind
             onRecordPicked: id => root.workspace.selection = id
             onSelectionCleared: root.dismissed()
+            onMenuWanted: (id, over, place) => root.menuWanted(id, over, place)
         }
         Shortcut {
             sequence: "Ctrl+F"

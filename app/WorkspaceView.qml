@@ -58,6 +58,7 @@ FocusScope {
                 onRecordPicked: id => root.workspace.selection = id
                 onSelectionCleared: root.workspace.selection = ""
                 onCountPressed: root.workspace.showingRecords = true
+                onMenuWanted: (id, over, place) => menu.offer(id, over, place)
             }
         }
         Rectangle {
@@ -100,6 +101,7 @@ FocusScope {
             onPicked: id => root.workspace.selection = id
             onMoved: camera => root.workspace.camera = camera
             onOverviewWanted: root.workspace.resetCamera()
+            onMenuWanted: (id, place) => menu.offer(id, map, place)
             Keys.onEscapePressed: root.workspace.selection = ""
         }
     }
@@ -112,11 +114,19 @@ FocusScope {
         id: records
 
         workspace: root.workspace
+        onMenuWanted: (id, over, place) => menu.offer(id, over, place)
     }
     InspectorSheet {
         id: inspector
 
         workspace: root.workspace
+        onMenuWanted: (over, place) => menu.offer(root.workspace.inspector, over, place)
+    }
+    RecordMenu {
+        id: menu
+
+        workspace: root.workspace
+        anchor: root
     }
     Binding {
         target: root.actions

@@ -46,10 +46,6 @@ QString Citation::of(const OpenMapRelease& release, const OpenMapRelease::Asset&
     return lines.join(QLatin1Char('\n'));
 }
 
-QString citation(const OpenMapRelease& release, const OpenMapRelease::Asset& asset) {
-    return Citation::of(release, asset);
-}
-
 QString coordinatesText(const OpenMapRelease::Asset& asset) {
     return degrees(asset.latitude) + QStringLiteral(", ") + degrees(asset.longitude);
 }

@@ -19,9 +19,6 @@ class Citation {
                                     const OpenMapRelease::Asset& asset);
 };
 
-/// Citation::of().
-[[nodiscard]] QString citation(const OpenMapRelease& release, const OpenMapRelease::Asset& asset);
-
 /// Latitude and longitude in decimal degrees, to six decimals at most: "54.12345, -112.12345". The
 /// same in every language, for other programs to read.
 [[nodiscard]] QString coordinatesText(const OpenMapRelease::Asset& asset);

@@ -3,6 +3,7 @@
 // value; copies share the release.
 
 #include "data/OpenMapRelease.h"
+#include "detail/Citation.h"
 #include "detail/OpenMapInspector.h"
 #include "detail/OpenMapSources.h"
 
@@ -22,6 +23,9 @@ struct ReleaseRecord {
     /// Composed anew with every reading; without record or release, all texts are empty.
     Q_PROPERTY(vasker::OpenMapInspector inspector READ inspector CONSTANT)
     Q_PROPERTY(vasker::OpenMapSources sources READ sources CONSTANT)
+    /// The record as texts to paste elsewhere.
+    Q_PROPERTY(QString citation READ citation CONSTANT)
+    Q_PROPERTY(QString coordinates READ coordinates CONSTANT)
 
   public:
     std::shared_ptr<const OpenMapRelease> release; ///< null: nothing is shown
@@ -39,6 +43,15 @@ struct ReleaseRecord {
     }
     [[nodiscard]] OpenMapSources sources() const {
         return release ? OpenMapSources::of(*release) : OpenMapSources{};
+    }
+
+    [[nodiscard]] QString citation() const {
+        const OpenMapRelease::Asset* const shown = record();
+        return shown == nullptr ? QString() : Citation::of(*release, *shown);
+    }
+    [[nodiscard]] QString coordinates() const {
+        const OpenMapRelease::Asset* const shown = record();
+        return shown == nullptr ? QString() : coordinatesText(*shown);
     }
 
     friend bool operator==(const ReleaseRecord&, const ReleaseRecord&) = default;

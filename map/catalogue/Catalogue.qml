@@ -25,6 +25,8 @@ Item {
     signal recordPicked(string id)
     signal selectionCleared
     signal countPressed
+    // What can be done with a record is asked for, at a place of `over`.
+    signal menuWanted(string id, Item over, point place)
 
     function enterList(): void {
         (list.item as RecordList)?.enter();
@@ -106,6 +108,9 @@ Item {
             }
             function onCleared(): void {
                 root.selectionCleared();
+            }
+            function onMenuWanted(id: string, over: Item, place: point): void {
+                root.menuWanted(id, over, place);
             }
         }
         EmptyState {

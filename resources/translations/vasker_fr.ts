@@ -203,6 +203,25 @@
     </message>
 </context>
 <context>
+    <name>RecordMenu</name>
+    <message>
+        <source>Record</source>
+        <translation>Fiche</translation>
+    </message>
+    <message>
+        <source>Show details</source>
+        <translation>Afficher les détails</translation>
+    </message>
+    <message>
+        <source>Copy citation</source>
+        <translation>Copier la référence</translation>
+    </message>
+    <message>
+        <source>Copy coordinates</source>
+        <translation>Copier les coordonnées</translation>
+    </message>
+</context>
+<context>
     <name>PrimaryMenu</name>
     <message>
         <source>Main menu</source>

@@ -8,7 +8,7 @@ namespace vasker {
 namespace {
 
 std::string citationOfFirst(const OpenMapRelease& release) {
-    return citation(release, release.assets.at(0)).toStdString();
+    return Citation::of(release, release.assets.at(0)).toStdString();
 }
 
 std::string coordinates(double latitude, double longitude) {
