@@ -81,12 +81,21 @@ Item {
         y: 8
         spacing: 4
 
+        // Two labels: one that took both would for a moment read a name as markup.
         Label {
             width: parent.width
+            visible: root.markup.length === 0
             wrapMode: Text.Wrap
             textStyle: Theme.rowName
-            textFormat: root.markup.length > 0 ? Text.StyledText : Text.PlainText
-            text: root.markup.length > 0 ? root.markup : root.name
+            text: root.name
+        }
+        Label {
+            width: parent.width
+            visible: root.markup.length > 0
+            wrapMode: Text.Wrap
+            textStyle: Theme.rowName
+            textFormat: Text.StyledText
+            text: root.markup
         }
         Label {
             width: parent.width

@@ -56,6 +56,27 @@ TEST_F(Window, TypingSearchesAndEscapeClears) {
     EXPECT_NE(item("open-map-records"), nullptr);
 }
 
+TEST_F(Window, ANameIsNeverReadAsMarkupWhateverWasInItsRowBefore) {
+    OpenMapRelease release = longRelease();
+    release.assets[0].name = "Plant <img src=\"file:///nowhere.png\">"; // first in the list
+    open(encode(release));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-records") != nullptr; }));
+    static int attempts = 0;
+    const auto handler =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+            attempts += text.contains(QStringLiteral("nowhere.png")) ? 1 : 0;
+        });
+    key(Qt::Key_F, Qt::ControlModifier);
+    for (const char* query : {"2", "plant", "nowhere"}) {
+        type(query); // part of the name is bold
+        QTest::qWait(50);
+        key(Qt::Key_Escape); // nothing is
+        QTest::qWait(50);
+    }
+    qInstallMessageHandler(handler);
+    EXPECT_EQ(attempts, 0);
+}
+
 TEST_F(Window, KeysMoveThroughTheListAndEnterPicks) {
     openRecords();
     key(Qt::Key_F, Qt::ControlModifier);
