@@ -82,7 +82,8 @@ MapView {
 
         objectName: "open-map-compass"
         anchors.right: parent.right
-        anchors.rightMargin: 12 + root.coveredRight
+        // What covers the map there keeps it from use as well: no need to make way.
+        anchors.rightMargin: 12
         y: 12
         bearing: readout.bearing
         pitch: readout.pitch
