@@ -28,6 +28,8 @@ Sheet {
             id: search
 
             x: 12
+            // Its ring is over the catalogue's head.
+            z: 1
             width: parent.width - 24
             prompt: qsTr("Name or reporting company")
             text: root.workspace.query

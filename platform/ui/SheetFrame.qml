@@ -149,7 +149,6 @@ Item {
         anchors.top: titleRow.bottom
         anchors.bottom: parent.bottom
         width: parent.width
-        clip: true
         focus: true
     }
 }

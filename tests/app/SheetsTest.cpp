@@ -60,6 +60,7 @@ class Sheets : public OpenWindow {
         ASSERT_TRUE(QTest::qWaitFor([&] { return sheet(title) != nullptr; })) << title;
         const QQuickItem* const view = sheet(title)->parentItem();
         ASSERT_TRUE(QTest::qWaitFor([&] { return view->property("shown").toDouble() == 1; }));
+        m_window->grabWindow(); // a picture is drawn when all in it has its place
     }
     void waitForNone() const {
         ASSERT_TRUE(QTest::qWaitFor([&] { return sheetsOnScreen().isEmpty(); }));
@@ -161,6 +162,16 @@ TEST_F(Sheets, TheRecordsSheetIsOpenedByTheCountLineAndByKeys) {
     waitForNone();
     key(Qt::Key_R, Qt::ControlModifier);
     waitFor("Records");
+}
+
+TEST_F(Sheets, NoSheetOpensBelowAnOpenMenu) {
+    item("open-map-layer")->forceActiveFocus();
+    key(Qt::Key_Down);
+    key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_FALSE(workspace().showingRecords());
+    key(Qt::Key_Escape);
+    key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_TRUE(workspace().showingRecords());
 }
 
 TEST_F(Sheets, TypingInTheRecordsSheetFiltersTheMainColumn) {
