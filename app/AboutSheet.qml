@@ -26,7 +26,8 @@ Sheet {
                     anchors.horizontalCenter: parent.horizontalCenter
                     width: 64 * Theme.iconScale
                     height: width
-                    sourceSize: Qt.size(width, height)
+                    sourceSize.width: width
+                    sourceSize.height: height
                     source: "qrc:/icons/application.svg"
                     Accessible.ignored: true
                 }

@@ -27,7 +27,7 @@ run_packages=(
 # To test without a screen: test libraries, linters, a virtual display and the accessibility bus.
 test_packages=(
     libgtest-dev libgmock-dev qml6-module-qttest
-    clang-format clang-tidy
+    clang-format clang-tidy desktop-file-utils appstream
     xvfb xauth x11-utils xdotool dbus-daemon at-spi2-core python3 python3-gi gir1.2-atspi-2.0
 )
 

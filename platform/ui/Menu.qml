@@ -44,11 +44,15 @@ PopupSurface {
         const checked = nextRow(-1, 1, entry => entry.checked);
         enter(checked >= 0 ? checked : nextRow(-1, 1, () => true));
     }
+    // Without accents and capitals, which nobody types to get there.
+    function folded(text: string): string {
+        return text.normalize("NFD").replace(/[\u0300-\u036f]/g, "").toLocaleLowerCase();
+    }
     function find(letters: string, from: int): void {
-        root.typed += letters.toLocaleLowerCase();
+        root.typed += folded(letters);
         pause.restart();
         // A single letter goes on to the next row, further ones make sure of this one.
-        enter(nextRow(root.typed.length > 1 ? from - 1 : from, 1, entry => entry.text.toLocaleLowerCase().startsWith(root.typed)));
+        enter(nextRow(root.typed.length > 1 ? from - 1 : from, 1, entry => folded(entry.text).startsWith(root.typed)));
     }
     function show(row: Item): void {
         view.contentY = Math.max(Math.min(view.contentY, row.y), row.y + row.height - view.height);

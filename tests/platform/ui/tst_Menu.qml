@@ -66,17 +66,9 @@ Item {
         }
 
         function test_the_button_opens_it_on_its_first_row_data(): var {
-            return [
-                {
-                    key: Qt.Key_Return
-                },
-                {
-                    key: Qt.Key_Space
-                },
-                {
-                    key: Qt.Key_Down
-                }
-            ];
+            return [Qt.Key_Return, Qt.Key_Space, Qt.Key_Down].map(key => ({
+                        key: key
+                    }));
         }
         function test_the_button_opens_it_on_its_first_row(data: var): void {
             keyClick(data.key);
@@ -104,6 +96,10 @@ Item {
         }
         function test_letters_go_to_the_row_that_starts_with_them(): void {
             keyClick(Qt.Key_Return);
+            keyClick("e");
+            compare(current(), "Énergie");
+            keyClick(Qt.Key_Home);
+            wait(1100);
             keyClick("s");
             keyClick("a");
             compare(current(), "Satellite");
@@ -119,14 +115,9 @@ Item {
             verify(button.activeFocus);
         }
         function test_escape_and_tab_close_it_and_pick_nothing_data(): var {
-            return [
-                {
-                    key: Qt.Key_Escape
-                },
-                {
-                    key: Qt.Key_Tab
-                }
-            ];
+            return [Qt.Key_Escape, Qt.Key_Tab].map(key => ({
+                        key: key
+                    }));
         }
         function test_escape_and_tab_close_it_and_pick_nothing(data: var): void {
             keyClick(Qt.Key_Return);
@@ -135,39 +126,20 @@ Item {
             verify(button.activeFocus);
             compare(stage.picked, "");
         }
-        function test_a_press_beside_it_closes_it(): void {
+        function test_a_press_beside_it_closes_it_the_button_included(): void {
             mouseClick(button);
-            verify(menu.opened);
             mouseClick(stage, 500, 350);
             verify(!menu.opened);
-            compare(stage.picked, "");
-        }
-        function test_the_button_closes_it_again(): void {
             mouseClick(button);
             verify(menu.opened);
             mouseClick(button);
             verify(!menu.opened);
+            compare(stage.picked, "");
         }
         function test_a_click_on_a_row_picks_it(): void {
             mouseClick(button);
             mouseClick(stage, 60, button.height + 4 + 6 + 26 + 34 + 17);
             compare(stage.picked, "Satellite");
-        }
-        function test_at_a_point_it_turns_where_there_is_no_room(): void {
-            menu.openAt(stage, Qt.point(100, 100));
-            tryCompare(stage.Window.activeFocusItem, "text", "Map");
-            const row = stage.Window.activeFocusItem;
-            compare(row.mapToItem(stage, 0, 0).x, 106);
-            menu.close();
-            menu.openAt(stage, Qt.point(590, 390));
-            const corner = row.mapToItem(stage, row.width + 6, 0);
-            compare(corner.x, 590);
-            verify(corner.y + row.height < 390);
-        }
-        function test_a_changed_window_closes_it(): void {
-            keyClick(Qt.Key_Return);
-            stage.Window.window.width += 10;
-            tryVerify(() => !menu.opened);
         }
     }
 }

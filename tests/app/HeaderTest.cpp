@@ -1,0 +1,169 @@
+// The header bar, its menus, and what the windows of the program have in common.
+
+#include "platform/Preferences.h"
+#include "tests/app/OpenWindow.h"
+
+#include <QGuiApplication>
+#include <QPointer>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vasker {
+namespace {
+
+class Header : public OpenWindow {
+  protected:
+    void activate() const {
+        m_window->requestActivate();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
+    }
+    static std::string nameOf(QQuickItem* target) {
+        return QAccessible::queryAccessibleInterface(target)->text(QAccessible::Name).toStdString();
+    }
+    /// Presses a button and returns the rows of its menu, which is open then.
+    [[nodiscard]] std::vector<QQuickItem*> openMenu(const char* button) const {
+        item(button)->forceActiveFocus();
+        key(Qt::Key_Return);
+        std::vector<QQuickItem*> rows;
+        for (QQuickItem* row : m_window->activeFocusItem()->parentItem()->childItems()) {
+            if (row->property("checkable").isValid()) {
+                rows.push_back(row);
+            }
+        }
+        return rows;
+    }
+    static std::vector<std::string> texts(const std::vector<QQuickItem*>& rows) {
+        std::vector<std::string> texts;
+        for (const QQuickItem* row : rows) {
+            texts.push_back(row->property("text").toString().toStdString());
+        }
+        return texts;
+    }
+    /// As another program finds it in the file.
+    [[nodiscard]] QString storedBasemap() const {
+        return Preferences(m_folder.filePath(QStringLiteral("preferences")))
+            .text(QStringLiteral("open-map.basemap"))
+            .value_or(QString());
+    }
+};
+
+TEST_F(Header, TheHeaderHasThreeToolsInOrderAndApartFromThemAMenu) {
+    openRecords();
+    double end = 0;
+    for (const auto& [id, text] : {std::pair("open-map-options", "Map options"),
+                                   std::pair("open-map-reset", "Canada"),
+                                   std::pair("open-map-sources", "Sources & coverage"),
+                                   std::pair("open-map-menu", "Main menu")}) {
+        const QQuickItem* const button = item(id);
+        ASSERT_NE(button, nullptr) << id;
+        EXPECT_EQ(nameOf(item(id)), text);
+        EXPECT_GE(button->mapToScene({}).x(), end + (end == 0 ? 0 : 4)) << id;
+        end = button->mapToScene({button->width(), 0}).x();
+    }
+    EXPECT_EQ(end, 1280 - 12);
+    EXPECT_EQ(item("open-map-menu")->width(), 36);
+}
+
+TEST_F(Header, WithoutRoomTheHeaderShowsIconsAndKeepsTheirNames) {
+    openRecords();
+    EXPECT_GT(item("open-map-sources")->width(), 44);
+    const QQuickItem* const header = item("open-map-sources")->parentItem()->parentItem();
+    m_window->setMinimumSize({1, 1});
+    for (const int width : {959, 579, 300}) {
+        m_window->resize(321 + width, 620);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return header->width() == width; }));
+        EXPECT_EQ(item("open-map-sources")->width() > 44, width > 500) << width;
+        EXPECT_EQ(header->property("titleVisible").toBool(), width > 900) << width;
+        EXPECT_GE(item("open-map-options")->mapToItem(header, QPointF()).x(), 12) << width;
+        EXPECT_EQ(nameOf(item("open-map-sources")), "Sources & coverage");
+    }
+}
+
+TEST_F(Header, TheChoicesOfTheBasemapAreStoredAndShownByEveryWindow) {
+    openRecords();
+    QQuickWindow* const second = m_application->openWindow();
+    auto* const other = second->findChild<OpenMapRoot*>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return other->workspace() != nullptr; }));
+    activate();
+    for (const auto& [row, stored] :
+         {std::pair(1, "satellite"), std::pair(2, "hybrid"), std::pair(0, "standard")}) {
+        const std::vector<QQuickItem*> rows = openMenu("open-map-options");
+        ASSERT_EQ(texts(rows), (std::vector<std::string>{"Map", "Satellite", "Hybrid"}));
+        click(rows[static_cast<std::size_t>(row)]);
+        EXPECT_EQ(workspace().basemap(), QString::fromLatin1(stored));
+        EXPECT_EQ(other->workspace()->basemap(), QString::fromLatin1(stored));
+        const QQuickItem* const map =
+            find(second->contentItem(), QStringLiteral("open-map-canvas"));
+        EXPECT_EQ(map->property("basemap").toString(), QString::fromLatin1(stored));
+        EXPECT_EQ(storedBasemap(), QString::fromLatin1(stored));
+    }
+}
+
+TEST_F(Header, AnUnknownBasemapMarksNoChoiceAndStaysAsItIsStored) {
+    write("preferences", "open-map.basemap=terrain\n");
+    openRecords();
+    for (QQuickItem* row : openMenu("open-map-options")) {
+        EXPECT_FALSE(row->property("checked").toBool());
+    }
+    key(Qt::Key_Escape);
+    EXPECT_EQ(workspace().basemap(), QStringLiteral("terrain"));
+    EXPECT_EQ(storedBasemap(), QStringLiteral("terrain"));
+}
+
+TEST_F(Header, TheMainMenuConcernsTheProgram) {
+    openRecords();
+    std::vector<QQuickItem*> rows = openMenu("open-map-menu");
+    ASSERT_EQ(texts(rows),
+              (std::vector<std::string>{
+                  "New window", "Records…", "Keyboard shortcuts", "About Vasker Beta", "Quit"}));
+    key(Qt::Key_R);
+    key(Qt::Key_Return);
+    EXPECT_TRUE(workspace().showingRecords());
+}
+
+TEST_F(Header, AboutAndShortcutsAreSheetsNeverTwoAtOnce) {
+    openRecords();
+    click(openMenu("open-map-menu")[3]);
+    ASSERT_NE(item("open-map-about"), nullptr);
+    EXPECT_EQ(nameOf(item("open-map-about")), "About Vasker Beta");
+    key(Qt::Key_Question, Qt::ControlModifier);
+    key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(item("open-map-shortcuts"), nullptr);
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-about") == nullptr; }));
+    EXPECT_EQ(m_window->activeFocusItem(), item("open-map-menu"));
+    key(Qt::Key_Question, Qt::ControlModifier);
+    EXPECT_NE(item("open-map-shortcuts"), nullptr);
+}
+
+TEST_F(Header, WindowsAreOpenedAndClosedFromTheFailureScreenToo) {
+    open("{}");
+    const QPointer<QQuickWindow> first = m_window;
+    key(Qt::Key_N, Qt::ControlModifier);
+    activate();
+    key(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
+    EXPECT_TRUE(m_application->hasWindows());
+}
+
+TEST_F(Header, QuittingClosesEveryWindow) {
+    openRecords();
+    m_application->openWindow();
+    activate();
+    key(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_application->hasWindows(); }));
+}
+
+TEST_F(Header, AWindowThatTheDesktopWantsComesToTheFront) {
+    openRecords();
+    m_application->openWindowInFront({.activation = QStringLiteral("token"), .startup = {}});
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        const QWindow* const active = QGuiApplication::focusWindow();
+        return active != nullptr && active != m_window;
+    }));
+}
+
+} // namespace
+} // namespace vasker
