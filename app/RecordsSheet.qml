@@ -17,7 +17,7 @@ Sheet {
     wanted: root.workspace.showingRecords && root.workspace.sheet === OpenMapWorkspace.Records
     preferredWidth: Math.min(640, width - 48)
     preferredHeight: Math.round(height / 2)
-    minimumHeight: 310 * Theme.textScale
+    minimumHeight: 250 * Theme.textScale
     onDismissed: root.workspace.showingRecords = false
     onClosed: root.workspace.dismissRecords()
 

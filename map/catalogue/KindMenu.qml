@@ -8,7 +8,6 @@ PopupSurface {
     id: root
 
     required property KindListModel kinds
-    property string typed
 
     signal picked(string kind)
 
@@ -44,10 +43,8 @@ PopupSurface {
                 list.currentIndex = 0;
             } else if (event.key === Qt.Key_End) {
                 list.currentIndex = list.count - 1;
-            } else if (/^[^\x00-\x20\x7f]/.test(event.text) || (event.key === Qt.Key_Space && root.typed.length > 0)) {
-                root.typed += event.text;
-                pause.restart();
-                const row = root.kinds.rowStartingWith(root.typed, list.currentIndex);
+            } else if (search.takes(event.text)) {
+                const row = root.kinds.rowStartingWith(search.typed, list.currentIndex);
                 list.currentIndex = row < 0 ? list.currentIndex : row;
             } else if (event.key === Qt.Key_Space) {
                 root.pick(list.currentIndex);
@@ -73,10 +70,7 @@ PopupSurface {
             onPicked: root.pick(index)
         }
     }
-    Timer {
-        id: pause
-
-        interval: 1000
-        onTriggered: root.typed = ""
+    TypeAhead {
+        id: search
     }
 }

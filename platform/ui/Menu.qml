@@ -14,7 +14,6 @@ PopupSurface {
     property string name: title
     default property list<MenuEntry> entries
 
-    property string typed
     property Item before: null
 
     function pick(entry: MenuEntry): void {
@@ -44,15 +43,9 @@ PopupSurface {
         const checked = nextRow(-1, 1, entry => entry.checked);
         enter(checked >= 0 ? checked : nextRow(-1, 1, () => true));
     }
-    // Without accents and capitals, which nobody types to get there.
-    function folded(text: string): string {
-        return text.normalize("NFD").replace(/[\u0300-\u036f]/g, "").toLocaleLowerCase();
-    }
-    function find(letters: string, from: int): void {
-        root.typed += folded(letters);
-        pause.restart();
-        // A single letter goes on to the next row, further ones make sure of this one.
-        enter(nextRow(root.typed.length > 1 ? from - 1 : from, 1, entry => folded(entry.text).startsWith(root.typed)));
+    // A single letter goes on to the next row, further ones make sure of this one.
+    function find(from: int): void {
+        enter(nextRow(search.typed.length > 1 ? from - 1 : from, 1, entry => search.begins(entry.text)));
     }
     function show(row: Item): void {
         view.contentY = Math.max(Math.min(view.contentY, row.y), row.y + row.height - view.height);
@@ -62,7 +55,7 @@ PopupSurface {
     surfaceWidth: Math.min(Math.max(216, column.implicitWidth + 12), root.width - 8)
 
     onOpenedChanged: {
-        root.typed = "";
+        search.forget();
         if (opened) {
             root.before = root.Window.activeFocusItem;
             root.enterFirst();
@@ -137,10 +130,10 @@ PopupSurface {
                                 root.step(-1, 1);
                             } else if (event.key === Qt.Key_End) {
                                 root.step(root.entries.length, -1);
-                            } else if (event.key === Qt.Key_Space && root.typed.length === 0) {
+                            } else if (search.takes(event.text)) {
+                                root.find(index);
+                            } else if (event.key === Qt.Key_Space) {
                                 picked();
-                            } else if (/^[^\x00-\x1f\x7f]/.test(event.text)) {
-                                root.find(event.text, index);
                             } else {
                                 event.accepted = false;
                             }
@@ -149,11 +142,8 @@ PopupSurface {
                 }
             }
         },
-        Timer {
-            id: pause
-
-            interval: 1000
-            onTriggered: root.typed = ""
+        TypeAhead {
+            id: search
         }
     ]
 }

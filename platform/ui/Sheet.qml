@@ -106,16 +106,6 @@ FocusScope {
         interval: 0
         onTriggered: root.settle()
     }
-    Shortcut {
-        sequence: "Ctrl+Up"
-        enabled: root.enabled && root.placement === Sheet.BottomEdge
-        onActivated: root.large = true
-    }
-    Shortcut {
-        sequence: "Ctrl+Down"
-        enabled: root.enabled && root.placement === Sheet.BottomEdge
-        onActivated: root.large = false
-    }
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons

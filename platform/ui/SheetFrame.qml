@@ -90,48 +90,15 @@ Item {
             textStyle: Theme.headline
             text: root.title
         }
-        Item {
+        PlainButton {
             id: done
 
             anchors.right: parent.right
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
-            width: doneLabel.implicitWidth + 24
-            height: Theme.controlHeight
-            activeFocusOnTab: true
-            Accessible.role: Accessible.Button
-            Accessible.name: doneLabel.text
-            Accessible.focusable: true
+            text: qsTr("Done")
             Accessible.ignored: !root.visible
-            Accessible.onPressAction: root.dismissed()
-            Keys.onSpacePressed: root.dismissed()
-            Keys.onReturnPressed: root.dismissed()
-            Keys.onEnterPressed: root.dismissed()
-
-            Rectangle {
-                anchors.fill: parent
-                radius: Theme.controlRadius
-                color: tap.pressed ? Theme.pressed : Theme.hover
-                visible: hover.hovered || tap.pressed
-            }
-            FocusRing {}
-            Label {
-                id: doneLabel
-
-                anchors.centerIn: parent
-                textStyle: Theme.headline
-                color: Theme.accent
-                text: qsTr("Done")
-            }
-            HoverHandler {
-                id: hover
-            }
-            TapHandler {
-                id: tap
-
-                gesturePolicy: TapHandler.ReleaseWithinBounds
-                onTapped: root.dismissed()
-            }
+            onClicked: root.dismissed()
         }
         Rectangle {
             visible: root.scrolled

@@ -32,6 +32,16 @@ Item {
     Keys.onUpPressed: root.moved(true)
     Keys.onDownPressed: root.moved(false)
 
+    Shortcut {
+        sequence: "Ctrl+Up"
+        enabled: root.visible && root.enabled
+        onActivated: root.moved(true)
+    }
+    Shortcut {
+        sequence: "Ctrl+Down"
+        enabled: root.visible && root.enabled
+        onActivated: root.moved(false)
+    }
     Behavior on reach {
         enabled: !root.dragging
 
