@@ -136,7 +136,8 @@ void AccessibleIds::takePlace() {
 }
 
 QString AccessibleIds::introspect(const QString& path) const {
-    return m_bridge != nullptr ? m_bridge->introspect(path) : QString();
+    const QDBusVirtualObject* const bridge = m_bridge;
+    return bridge != nullptr ? bridge->introspect(path) : QString();
 }
 
 bool AccessibleIds::handleMessage(const QDBusMessage& message, const QDBusConnection& bus) {
@@ -145,7 +146,8 @@ bool AccessibleIds::handleMessage(const QDBusMessage& message, const QDBusConnec
             return bus.send(message.createReply(known));
         }
     }
-    return m_bridge != nullptr && m_bridge->handleMessage(message, bus);
+    QDBusVirtualObject* const bridge = m_bridge;
+    return bridge != nullptr && bridge->handleMessage(message, bus);
 }
 
 } // namespace vasker
