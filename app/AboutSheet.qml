@@ -22,14 +22,10 @@ Sheet {
                 padding: 20
                 spacing: 6
 
-                Image {
+                Icon {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    width: 64 * Theme.iconScale
-                    height: width
-                    sourceSize.width: width
-                    sourceSize.height: height
-                    source: "qrc:/icons/application.svg"
-                    Accessible.ignored: true
+                    name: "application"
+                    size: 64 * Theme.iconScale
                 }
                 Label {
                     width: parent.width

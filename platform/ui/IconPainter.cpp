@@ -45,8 +45,12 @@ QSvgRenderer& renderer(QStringView name, const QColor& color, double strokeScale
     const QString key = QStringLiteral("%1 %2 %3").arg(name, color.name()).arg(strokeScale);
     std::shared_ptr<QSvgRenderer>& cached = cache[key];
     if (!cached) {
-        QByteArray svg = withScaledStrokes(drawing(name), strokeScale);
-        svg.replace("currentColor", color.name().toUtf8());
+        QByteArray svg = drawing(name);
+        // A drawing with colours of its own is drawn as it is.
+        if (svg.contains("currentColor")) {
+            svg =
+                withScaledStrokes(svg, strokeScale).replace("currentColor", color.name().toUtf8());
+        }
         cached = std::make_shared<QSvgRenderer>(svg);
     }
     return *cached;
