@@ -5,13 +5,23 @@
 
 namespace vasker {
 
+namespace {
+
+/// The first pixel beyond a tile that ends at `end` map points: at the world's end all is its own.
+std::int64_t endPixel(double end, double scale) noexcept {
+    const double pixel = end * scale;
+    return static_cast<std::int64_t>(end < worldSize ? std::floor(pixel) : std::ceil(pixel));
+}
+
+} // namespace
+
 PixelRect TileRequest::pixels() const noexcept {
     const MapRect bounds = key.bounds();
     const double scale = devicePixelsPerMapPoint;
     const auto west = static_cast<std::int64_t>(std::floor(bounds.x * scale));
     const auto north = static_cast<std::int64_t>(std::floor(bounds.y * scale));
-    const auto east = static_cast<std::int64_t>(std::ceil((bounds.x + bounds.width) * scale));
-    const auto south = static_cast<std::int64_t>(std::ceil((bounds.y + bounds.height) * scale));
+    const std::int64_t east = endPixel(bounds.x + bounds.width, scale);
+    const std::int64_t south = endPixel(bounds.y + bounds.height, scale);
     return {west, north, static_cast<int>(east - west), static_cast<int>(south - north)};
 }
 

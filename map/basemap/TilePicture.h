@@ -50,8 +50,9 @@ struct TileRequest {
     MapLanguage language = MapLanguage::english;
     std::shared_ptr<const TileInk> ink; ///< null: nothing
 
-    /// What the picture covers: all pixels that the tile touches. Pictures of one scale stand on
-    /// one grid of pixels, so that they meet without a seam and need no smoothing.
+    /// What the picture covers. Pictures of one scale stand on one grid of pixels, so that they
+    /// meet without a seam and need no smoothing. A pixel that two tiles touch is the eastern's and
+    /// the southern's alone: covered twice, it would be seen while a picture fades in.
     [[nodiscard]] PixelRect pixels() const noexcept;
 };
 

@@ -261,7 +261,7 @@ TEST(TilePainter, ASenselessScaleGivesAPictureAllTheSame) {
     }
 }
 
-TEST(TilePainter, NeighboursAgreeOnThePixelsThatTheyShare) {
+TEST(TilePainter, NeighboursMeetWithoutASeamAndShareNoPixel) {
     // At this scale the tiles' edge runs through the middle of a column of pixels.
     TileRequest west = requestFor(tile, BasemapLook::light, 600.5);
     TileRequest east = west;
@@ -270,7 +270,7 @@ TEST(TilePainter, NeighboursAgreeOnThePixelsThatTheyShare) {
         TileGround ground = groundOf({{"ocean",
                                        {area("",
                                              {{{-1 + shift, 0.2F},
-                                               {1 + shift, 0.6F},
+                                               {1 + shift, 0.24F},
                                                {1 + shift, 3},
                                                {-1 + shift, 3},
                                                {-1 + shift, 0.2F}}})}}});
@@ -279,12 +279,22 @@ TEST(TilePainter, NeighboursAgreeOnThePixelsThatTheyShare) {
     };
     const QImage left = paintTile(slanted(west.key, 1), west);
     const QImage right = paintTile(slanted(east.key, 0), east);
-    ASSERT_EQ(west.pixels().x + left.width(), east.pixels().x + 1);
+    ASSERT_EQ(west.pixels().x + left.width(), east.pixels().x);
     for (int y = 0; y < left.height(); ++y) {
         const QColor a = left.pixelColor(left.width() - 1, y);
         const QColor b = right.pixelColor(0, y);
+        // The edge of the water falls a fiftieth of a pixel from one column to the next.
         EXPECT_NEAR(a.lightness(), b.lightness(), 2) << y;
     }
+}
+
+TEST(TilePainter, TheLastTileReachesTheWorldsEnd) {
+    TileRequest last = requestFor(tile, BasemapLook::light, 600.5);
+    last.key = {2, 3, 3};
+    last.devicePixelsPerMapPoint = 100.3 / worldSize;
+    const PixelRect pixels = last.pixels();
+    EXPECT_EQ(pixels.x + pixels.width, 101);
+    EXPECT_EQ(pixels.y + pixels.height, 101);
 }
 
 } // namespace
