@@ -1,7 +1,7 @@
 // How long the inspector takes to open, for every record of the packaged release, and what the
 // process weighs after thousands of openings. Without motion, so that only the work is measured.
 //
-//   xvfb-run -a -s '-screen 0 1400x900x24' bench-inspector
+//   xvfb-run -a -s '-screen 0 1400x900x24' bench-inspector [openings]
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
@@ -31,8 +32,7 @@ namespace {
 
 using Sheet = OpenMapWorkspace::Sheet;
 
-constexpr std::size_t openings = 5'000;
-/// The first openings fill caches of fonts, glyphs and components.
+/// The first openings fill caches of tiles, fonts, glyphs and components.
 constexpr std::size_t openingsToWarmUp = 500;
 
 /// As a desktop that asks for less motion tells it.
@@ -50,7 +50,7 @@ void expectPicture(std::int64_t shown, const char* what) {
     }
 }
 
-void measure() {
+void measure(std::size_t openings) {
     stopMotion();
     const QTemporaryDir user;
     OpenMapApp windows(Bundle(QStringLiteral(VASKER_PACKAGED_RESOURCES)),
@@ -86,11 +86,13 @@ void measure() {
                 times[openings / 2],
                 times[openings * 95 / 100],
                 times.back());
-    std::printf("memory                 %6.0f MB after %zu openings, %.0f MB after %zu\n",
-                warm,
-                openingsToWarmUp,
-                proportionalMemory(),
-                openings);
+    if (openings > openingsToWarmUp) {
+        std::printf("memory                 %6.0f MB after %zu openings, %.0f MB after %zu\n",
+                    warm,
+                    openingsToWarmUp,
+                    proportionalMemory(),
+                    openings);
+    }
 }
 
 } // namespace
@@ -101,7 +103,7 @@ int main(int argc, char* argv[]) {
     const QGuiApplication application(argc, argv);
     vasker::installInterfaceFont();
     try {
-        vasker::measure();
+        vasker::measure(argc > 1 ? std::max(1UL, std::stoul(argv[1])) : 5'000UL);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "bench-inspector: %s\n", error.what());
         return 1;
