@@ -13,6 +13,7 @@ namespace {
 const QString connectionName = QStringLiteral("a11y");
 const QString tree = QStringLiteral("/org/a11y/atspi/accessible");
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
+const QString action = QStringLiteral("org.a11y.atspi.Action");
 const QString editableText = QStringLiteral("org.a11y.atspi.EditableText");
 const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
 
@@ -40,12 +41,18 @@ bool isTextField(const QAccessibleInterface& control) {
 QStringList interfaces(QAccessibleInterface& field) {
     QStringList names{accessible, QStringLiteral("org.a11y.atspi.Component"), editableText};
     if (field.actionInterface() != nullptr) {
-        names << QStringLiteral("org.a11y.atspi.Action");
+        names << action;
     }
     if (field.textInterface() != nullptr) {
         names << QStringLiteral("org.a11y.atspi.Text");
     }
     return names;
+}
+
+// As what lies behind a sheet is, which a tool may still know from before.
+bool isOutOfReach(const QAccessibleInterface& control) {
+    const QVariant enabled = control.object()->property("enabled");
+    return enabled.isValid() && !enabled.toBool();
 }
 
 // The field's own text property takes what it takes from the keyboard, and tells the same of it.
@@ -85,6 +92,9 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
     }
     if (!id.isEmpty() && group == accessible && method == u"GetAttributes") {
         return QVariant::fromValue(Attributes{{QStringLiteral("id"), id}});
+    }
+    if (group == action && method == u"DoAction" && isOutOfReach(control)) {
+        return false;
     }
     if (!isTextField(control)) {
         return {};

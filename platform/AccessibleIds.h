@@ -1,7 +1,8 @@
 #pragma once
-// Gives controls their identifiers on the accessibility bus, and lets assistive tools set texts.
+// Gives controls their identifiers on the accessibility bus, lets assistive tools set texts, and
+// keeps them from pressing what is disabled.
 //
-// Qt's bridge to that bus publishes neither. This object takes the bridge's place there, answers
+// Qt's bridge to that bus does none of it. This object takes the bridge's place there, answers
 // what the bridge does not know, and hands all else on to it. It relies on the names under which
 // the bridge is found; where it is not found so, everything stays as Qt has it.
 

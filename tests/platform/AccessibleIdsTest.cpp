@@ -143,6 +143,20 @@ TEST_F(AccessibleIdsTest, AllElseIsTheBridges) {
     }
 }
 
+TEST_F(AccessibleIdsTest, WhatIsDisabledCannotBePressed) {
+    takePlace();
+    QObject button;
+    const QString path = pathOf(button);
+    const auto press = [&] {
+        return ask(path, QStringLiteral("org.a11y.atspi.Action"), QStringLiteral("DoAction"), {0});
+    };
+    EXPECT_EQ(press(), byBridge);
+    button.setProperty("enabled", true);
+    EXPECT_EQ(press(), byBridge);
+    button.setProperty("enabled", false);
+    EXPECT_EQ(press(), QVariant(false));
+}
+
 TEST_F(AccessibleIdsTest, AnObjectThatIsGoneIsTheBridgesToo) {
     takePlace();
     auto button = std::make_unique<QObject>();
