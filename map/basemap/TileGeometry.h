@@ -14,7 +14,7 @@ namespace vasker {
 using PackedNumbers = protozero::iterator_range<protozero::pbf_reader::const_uint32_iterator>;
 
 /// The parts of a feature as VectorFeature tells them; `extent` is the tile's side in the numbers'
-/// unit, not 0. None where the commands break the specification or leave the tile by more than 64
+/// unit, not 0. None where the commands break the format or leave the tile by more than 64
 /// of its sides; parts too short to be a line or a ring are left out. Throws what protozero does
 /// where the bytes are no numbers.
 [[nodiscard]] std::vector<std::vector<TilePoint>>

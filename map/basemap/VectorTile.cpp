@@ -15,7 +15,7 @@ namespace vasker {
 
 namespace {
 
-// The fields of the messages, by the specification.
+// The fields of the messages, by the format of vector tiles.
 enum class TileField : protozero::pbf_tag_type { layers = 3 };
 enum class LayerField : protozero::pbf_tag_type {
     name = 1,
@@ -37,7 +37,7 @@ enum class ValueField : protozero::pbf_tag_type {
 
 using Wire = protozero::pbf_wire_type;
 
-/// A field of another type than the specification's is an unknown one: protozero trusts its caller.
+/// A field of another type than the format's is an unknown one: protozero trusts its caller.
 template <typename Field>
 constexpr std::uint32_t field(Field number, Wire type) {
     return protozero::tag_and_type(number, type);

@@ -64,7 +64,7 @@ inline constexpr std::size_t maximumTileBytes = 8'000'000;
 /// Version 2.1 of the Mapbox vector tile specification. Nothing where the bytes are no vector tile;
 /// none at all are an empty one. Passed over: attributes that this map does not use; layers without
 /// a name or with an extent of zero or beyond 2^24; features without geometry, with geometry that
-/// breaks the specification, or that reach further than 64 tiles away; texts of more than 256
+/// breaks the format, or that reach further than 64 tiles away; texts of more than 256
 /// bytes. Takes time in proportion to the bytes, and at most some fifty times their memory: a tile
 /// whose features repeat one long text to fill more is refused.
 [[nodiscard]] std::optional<VectorTile> decodeVectorTile(std::string_view inflated);
