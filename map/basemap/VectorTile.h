@@ -61,7 +61,7 @@ inline constexpr std::size_t maximumTileBytes = 8'000'000;
 /// off or grows beyond maximumTileBytes.
 [[nodiscard]] std::optional<std::string> inflatedTile(std::string_view bytes);
 
-/// Version 2.1 of the Mapbox vector tile specification. Nothing where the bytes are no vector tile;
+/// In version 2.1 of the format of vector tiles (MVT). Nothing where the bytes are no vector tile;
 /// none at all are an empty one. Passed over: attributes that this map does not use; layers without
 /// a name or with an extent of zero or beyond 2^24; features without geometry, with geometry that
 /// breaks the format, or that reach further than 64 tiles away; texts of more than 256
