@@ -1,4 +1,5 @@
 #include "app/OpenMapApp.h"
+#include "app/QmlModules.h"
 #include "platform/AccessibleIds.h"
 #include "platform/Appearance.h"
 #include "platform/DesktopActivation.h"
@@ -8,15 +9,9 @@
 
 #include <QGuiApplication>
 #include <QIcon>
-#include <QQmlExtensionPlugin>
 #include <QTimer>
 
 #include <chrono>
-
-Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 namespace {
 

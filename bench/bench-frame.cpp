@@ -9,6 +9,7 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
+#include "app/QmlModules.h"
 #include "bench/FrameClock.h"
 #include "bench/Process.h"
 #include "data/Digest.h"
@@ -25,7 +26,6 @@
 #include <QImage>
 #include <QMouseEvent>
 #include <QProcess>
-#include <QQmlExtensionPlugin>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWheelEvent>
@@ -36,11 +36,6 @@
 #include <set>
 #include <stdexcept>
 #include <vector>
-
-Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 namespace vasker {
 namespace {

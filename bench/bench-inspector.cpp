@@ -5,6 +5,7 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
+#include "app/QmlModules.h"
 #include "bench/FrameClock.h"
 #include "bench/Process.h"
 #include "platform/Appearance.h"
@@ -13,7 +14,6 @@
 
 #include <QDBusVariant>
 #include <QGuiApplication>
-#include <QQmlExtensionPlugin>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -21,11 +21,6 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 namespace vasker {
 namespace {

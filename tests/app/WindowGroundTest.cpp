@@ -3,6 +3,7 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
+#include "app/QmlModules.h"
 #include "data/Digest.h"
 #include "data/ReleaseWriter.h"
 #include "map/view/MapView.h"
@@ -10,16 +11,10 @@
 
 #include <QDir>
 #include <QFile>
-#include <QQmlExtensionPlugin>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
-
-Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 namespace vasker {
 namespace {

@@ -1,11 +1,5 @@
+#include "app/QmlModules.h"
 #include "tests/app/OpenWindow.h"
-
-#include <QQmlExtensionPlugin>
-
-Q_IMPORT_QML_PLUGIN(Vasker_PlatformPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_DetailPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_MapPlugin)
-Q_IMPORT_QML_PLUGIN(Vasker_AppPlugin)
 
 namespace vasker {
 namespace {
