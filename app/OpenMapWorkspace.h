@@ -4,8 +4,8 @@
 // User-interface thread only.
 
 #include "detail/ReleaseRecord.h"
-#include "map/RecordSet.h"
 #include "map/geometry/Camera.h"
+#include "map/records/RecordSet.h"
 
 #include <QList>
 #include <QObject>

@@ -2,7 +2,7 @@
 // The work of the load task: from a file's path to a release that is ready for views, or to the
 // reason why there is none. Touches nothing but its arguments; any thread.
 
-#include "map/RecordSet.h"
+#include "map/records/RecordSet.h"
 
 #include <memory>
 #include <string>

@@ -13,10 +13,10 @@
 #include "bench/FrameClock.h"
 #include "bench/Process.h"
 #include "data/Digest.h"
-#include "map/Symbols.h"
 #include "map/view/MapView.h"
 #include "platform/Memory.h"
 #include "platform/ui/Fonts.h"
+#include "presentation/Symbols.h"
 #include "tools/openmap-release/Synthesis.h"
 
 #include <QDir>

@@ -1,7 +1,8 @@
 // Any bytes are inflated and decoded as a vector tile, or refused; what is accepted keeps what the
 // header promises of its geometry and its memory.
 
-#include "map/basemap/VectorTile.h"
+#include "map/tiles/TileInflation.h"
+#include "map/tiles/VectorTile.h"
 
 #include <cmath>
 #include <cstddef>

@@ -1,6 +1,7 @@
 #include "map/basemap/GroundReader.h"
 
-#include "map/basemap/ImageryDecoding.h"
+#include "map/style/ImageryDecoding.h"
+#include "map/tiles/TileInflation.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,9 +3,9 @@
 // thread.
 
 #include "map/basemap/RecentlyUsed.h"
-#include "map/basemap/TileArchive.h"
-#include "map/basemap/TilePicture.h"
-#include "map/basemap/TileService.h"
+#include "map/style/TilePicture.h"
+#include "map/tiles/TileArchive.h"
+#include "map/tileservice/TileService.h"
 
 #include <QByteArray>
 #include <QString>

@@ -3,8 +3,8 @@
 // that decode and paint. User-interface thread.
 
 #include "map/basemap/GroundReader.h"
-#include "map/basemap/TileService.h"
 #include "map/basemap/TileWorkers.h"
+#include "map/tileservice/TileService.h"
 
 #include <QObject>
 

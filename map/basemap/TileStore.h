@@ -9,8 +9,8 @@
 // the whole world, so that there is never a hole. User-interface thread.
 
 #include "map/basemap/TileLibrary.h"
-#include "map/basemap/TilePicture.h"
 #include "map/geometry/TileCover.h"
+#include "map/style/TilePicture.h"
 
 #include <QObject>
 

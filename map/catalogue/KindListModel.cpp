@@ -1,6 +1,6 @@
 #include "map/catalogue/KindListModel.h"
 
-#include "map/CategoryText.h"
+#include "presentation/CategoryText.h"
 
 #include <algorithm>
 #include <numeric>

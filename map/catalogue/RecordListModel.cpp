@@ -1,8 +1,8 @@
 #include "map/catalogue/RecordListModel.h"
 
-#include "map/CategoryText.h"
-#include "map/Symbols.h"
 #include "map/catalogue/NameMatch.h"
+#include "presentation/CategoryText.h"
+#include "presentation/Symbols.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 // The rows of the catalogue: one per record that passes the filter, in its order.
 
-#include "map/RecordSet.h"
+#include "map/records/RecordSet.h"
 
 #include <QAbstractListModel>
 #include <QString>

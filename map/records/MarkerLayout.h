@@ -6,9 +6,9 @@
 // holds for all scales of one level and for every place of the world, so that nothing changes while
 // the map is dragged or a record is selected.
 
-#include "map/RecordSet.h"
 #include "map/geometry/DetailLevel.h"
 #include "map/geometry/Projection.h"
+#include "map/records/RecordSet.h"
 
 #include <vector>
 

@@ -2,8 +2,8 @@
 // Paints the routes and the dots of records into a picture of a part of the map, for machines that
 // draw pictures more quickly than triangles. Immutable; any thread.
 
-#include "map/RecordSet.h"
 #include "map/records/MarkerLayout.h"
+#include "map/records/RecordSet.h"
 #include "map/records/RouteLines.h"
 
 #include <QColor>

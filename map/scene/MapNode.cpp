@@ -1,7 +1,7 @@
 #include "map/scene/MapNode.h"
 
 #include "map/records/RouteStyle.h"
-#include "map/scene/MapColors.h"
+#include "map/style/MapColors.h"
 
 #include <QQuickWindow>
 

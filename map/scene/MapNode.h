@@ -2,7 +2,7 @@
 // The whole map as scene-graph nodes, in drawing order: ground, tiles, routes, dots, names,
 // balloons.
 
-#include "map/scene/BalloonPicture.h"
+#include "map/records/BalloonPicture.h"
 #include "map/scene/DotLayer.h"
 #include "map/scene/GroundLayer.h"
 #include "map/scene/RouteLayer.h"

@@ -1,7 +1,7 @@
 #pragma once
 // What the stored choice of a basemap means.
 
-#include "map/basemap/TilePicture.h"
+#include "map/style/TilePicture.h"
 
 #include <QString>
 

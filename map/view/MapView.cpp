@@ -1,7 +1,7 @@
 #include "map/view/MapView.h"
 
-#include "map/scene/MapColors.h"
 #include "map/scene/Renderer.h"
+#include "map/style/MapColors.h"
 #include "map/view/BasemapChoice.h"
 #include "platform/Locale.h"
 

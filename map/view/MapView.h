@@ -2,12 +2,12 @@
 // The map item: wishes in (records, selection, camera, appearance), scene-graph nodes out. It never
 // writes what others own: what the user wants leaves as a signal.
 
-#include "map/RecordSet.h"
 #include "map/basemap/TileStore.h"
+#include "map/records/MapRecords.h"
+#include "map/records/RecordSet.h"
 #include "map/scene/MapNode.h"
 #include "map/view/Gestures.h"
 #include "map/view/MapMotion.h"
-#include "map/view/MapRecords.h"
 
 #include <QElapsedTimer>
 #include <QQuickItem>

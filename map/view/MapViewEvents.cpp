@@ -1,8 +1,8 @@
 // The events of MapView: pointer, wheel and fingers become picks and camera moves.
 
-#include "map/CategoryText.h"
 #include "map/records/BalloonShape.h"
 #include "map/view/MapView.h"
+#include "presentation/CategoryText.h"
 
 #include <QGuiApplication>
 #include <QHoverEvent>

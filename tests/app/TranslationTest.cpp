@@ -1,8 +1,8 @@
-#include "map/CategoryText.h"
 #include "map/catalogue/KindListModel.h"
 #include "map/catalogue/RecordListModel.h"
 #include "map/view/CameraReadout.h"
 #include "platform/Locale.h"
+#include "presentation/CategoryText.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <QCoreApplication>

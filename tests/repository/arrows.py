@@ -9,47 +9,20 @@ import re
 import sys
 from pathlib import Path
 
-FOLDERS = ("data", "platform", "map", "detail", "app", "tools", "bench", "fuzz", "tests")
+FOLDERS = ("data", "platform", "presentation", "map", "detail", "app", "tools", "bench", "fuzz", "tests")
 
 # What a folder may include. The innermost folder that a file stands in decides. A name that ends in
 # a stroke is a folder, any other the beginning of a header's name.
 ARROWS = {
     "data/": {"data/"},
     "platform/": {"platform/"},
-    "map/": {"map/", "data/", "platform/"},
+    "presentation/": {"presentation/", "data/", "platform/"},
+    "map/": {"map/", "presentation/", "data/", "platform/"},
     "map/geometry/": {"map/geometry/"},
-    "map/basemap/": {"map/basemap/", "map/geometry/"},
-    "map/records/": {"map/records/", "map/RecordSet", "map/geometry/", "data/"},
-    "map/scene/": {
-        "map/scene/",
-        "map/Symbols",
-        "map/records/",
-        "map/basemap/",
-        "map/geometry/",
-        "platform/",
-    },
-    "map/view/": {
-        "map/view/",
-        "map/scene/",
-        "map/CategoryText",
-        "map/RecordSet",
-        "map/Symbols",
-        "map/records/",
-        "map/basemap/",
-        "map/geometry/",
-        "data/",
-        "platform/",
-    },
-    "map/catalogue/": {
-        "map/catalogue/",
-        "map/CategoryText",
-        "map/RecordSet",
-        "map/Symbols",
-        "data/",
-        "platform/",
-    },
-    "detail/": {"detail/", "data/", "platform/"},
-    "app/": {"app/", "map/", "detail/", "data/", "platform/"},
+    "map/tiles/": {"map/tiles/", "map/geometry/"},
+    "map/tileservice/": {"map/tileservice/", "map/tiles/", "map/geometry/"},
+    "detail/": {"detail/", "presentation/", "data/", "platform/"},
+    "app/": {"app/", "map/", "detail/", "presentation/", "data/", "platform/"},
     "tools/": {"tools/", "data/"},
     "bench/": {folder + "/" for folder in FOLDERS},
     "fuzz/": {folder + "/" for folder in FOLDERS},
@@ -57,7 +30,7 @@ ARROWS = {
 }
 
 # The folders of the product; tests, tools and benches may look behind any curtain.
-PRODUCT = ("data/", "platform/", "map/", "detail/", "app/")
+PRODUCT = ("data/", "platform/", "presentation/", "map/", "detail/", "app/")
 
 # Headers that only some files of the product may include: pattern, who may, what to call it.
 PRIVATE_HEADERS = (
@@ -65,12 +38,12 @@ PRIVATE_HEADERS = (
     (r"unicode/", ("data/Text", "data/IcuText"), "ICU"),
     (r"openssl/", ("data/Digest",), "libcrypto"),
     (r"uriparser/", ("data/WebAddress",), "the URL parser"),
-    (r"sqlite3", ("map/basemap/",), "SQLite"),
-    (r"protozero/", ("map/basemap/",), "protozero"),
-    (r"zlib|zconf", ("map/basemap/",), "zlib"),
+    (r"sqlite3", ("map/tiles/", "map/tileservice/"), "SQLite"),
+    (r"protozero/", ("map/tiles/",), "protozero"),
+    (r"zlib|zconf", ("map/tiles/",), "zlib"),
     (
         r"QtNetwork$|QNetwork|QSsl|QTcp|QUdp|QHttp|QHost|QDns|QAbstractSocket|QLocalS(erver|ocket)",
-        ("map/basemap/",),
+        ("map/tileservice/",),
         "the network",
     ),
     (r"QSGNode$", ("map/scene/", "map/view/MapView", "platform/ui/"), "the scene graph"),

@@ -1,8 +1,9 @@
 // What the archive that travels with the program holds.
 
-#include "map/basemap/TileArchive.h"
-#include "map/basemap/VectorTile.h"
 #include "map/geometry/Projection.h"
+#include "map/tiles/TileArchive.h"
+#include "map/tiles/TileInflation.h"
+#include "map/tiles/VectorTile.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ namespace {
 constexpr int deepestZoom = 7;
 
 std::unique_ptr<TileArchive> basemap() {
-    return TileArchive::open(VASKER_BASEMAP);
+    return TileArchive::open(VASKER_RESOURCES "/basemap.mbtiles");
 }
 
 TileKey keyAt(Coordinate place, int zoom) {
@@ -117,7 +118,7 @@ void expectFrench(const std::string& layer, const std::map<std::string, std::str
 }
 
 TEST(Basemap, IsSmall) {
-    EXPECT_LT(std::filesystem::file_size(VASKER_BASEMAP), 12'000'000U);
+    EXPECT_LT(std::filesystem::file_size(VASKER_RESOURCES "/basemap.mbtiles"), 12'000'000U);
     EXPECT_LT(contents().largestTile, 500'000U);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // Ink that lets no picture be finished before the test says so, and remembers which were begun.
 
-#include "map/basemap/TilePicture.h"
+#include "map/style/TilePicture.h"
 
 #include <condition_variable>
 #include <mutex>

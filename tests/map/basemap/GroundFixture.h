@@ -3,8 +3,8 @@
 // view that looks at it.
 
 #include "map/basemap/TileStore.h"
-#include "tests/map/basemap/GroundBuilder.h"
-#include "tests/map/basemap/ServiceFixture.h"
+#include "tests/map/style/GroundBuilder.h"
+#include "tests/map/tileservice/ServiceFixture.h"
 
 #include <chrono>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "map/basemap/GroundReader.h"
 
-#include "tests/map/basemap/GroundBuilder.h"
+#include "tests/map/style/GroundBuilder.h"
 
 #include <QTemporaryDir>
 

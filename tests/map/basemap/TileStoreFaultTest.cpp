@@ -1,6 +1,6 @@
 // What is seen of the ground while services fail: always something, and nothing false is said.
 
-#include "map/basemap/BasemapStyle.h"
+#include "map/style/BasemapStyle.h"
 #include "tests/map/basemap/GroundFixture.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "map/basemap/TileStore.h"
 
-#include "map/basemap/BasemapStyle.h"
+#include "map/style/BasemapStyle.h"
 #include "tests/map/basemap/GatedInk.h"
 #include "tests/map/basemap/GroundFixture.h"
 

@@ -1,6 +1,6 @@
 #include "map/catalogue/RecordListModel.h"
 
-#include "map/Symbols.h"
+#include "presentation/Symbols.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <QAbstractItemModelTester>

@@ -1,7 +1,7 @@
 #pragma once
 // Record sets for tests of the map.
 
-#include "map/RecordSet.h"
+#include "map/records/RecordSet.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <memory>

@@ -1,10 +1,10 @@
 // What the map looks like with ground under the records: the picture of a real window, drawn by
 // OpenGL.
 
-#include "map/basemap/BasemapStyle.h"
+#include "map/style/BasemapStyle.h"
 #include "map/view/MapView.h"
-#include "tests/map/basemap/GroundBuilder.h"
 #include "tests/map/records/RecordSetBuilder.h"
+#include "tests/map/style/GroundBuilder.h"
 
 #include <QQuickWindow>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // What the map looks like: the picture of a real window, drawn by OpenGL.
 
-#include "map/scene/MapColors.h"
+#include "map/style/MapColors.h"
 #include "map/view/MapView.h"
 #include "tests/map/records/RecordSetBuilder.h"
 

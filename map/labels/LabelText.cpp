@@ -1,0 +1,216 @@
+#include "map/labels/LabelText.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace vasker {
+
+namespace {
+
+/// A name longer than this is cut before it is set; its end would not be seen anyway.
+constexpr qsizetype mostLetters = 300;
+constexpr double haloRadius = 1.35;
+constexpr int haloSteps = 8;
+constexpr double pointsPerPixel = 72.0 / 96.0;
+constexpr QChar ellipsis(0x2026);
+
+struct TextStyle {
+    double pixels = 11.5;
+    QFont::Weight weight = QFont::Medium;
+    double lineHeight = 14;
+    double widest = 120; ///< of a line
+    double tracking = 0;
+    bool isItalic = false;
+    bool isCapitals = false;
+};
+
+TextStyle textStyleOf(LabelStyle style) {
+    switch (style) {
+    case LabelStyle::country:
+        return {12, QFont::DemiBold, 15, 190, 2.2, false, true};
+    case LabelStyle::region:
+        return {10.5, QFont::Medium, 14, 150, 1.6, false, true};
+    case LabelStyle::city:
+        return {12.5, QFont::DemiBold, 15, 130};
+    case LabelStyle::town:
+    case LabelStyle::village:
+        return {11.5, QFont::Medium, 14, 120};
+    case LabelStyle::water:
+        return {11.5, QFont::Normal, 14, 110, 0.2, true};
+    case LabelStyle::title:
+        break;
+    }
+    return {11.5, QFont::DemiBold, 14, 170};
+}
+
+QTextOption centred() {
+    QTextOption option(Qt::AlignHCenter);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+/// Sets all of a layout's text in lines of `width`. The number of lines.
+int breakLines(QTextLayout& layout, double width, double lineHeight) {
+    layout.beginLayout();
+    int count = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, count * lineHeight + (lineHeight - line.height()) / 2});
+        ++count;
+    }
+    layout.endLayout();
+    return count;
+}
+
+double widestLine(const QTextLayout& layout) {
+    double width = 0;
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        width = std::max(width, layout.lineAt(i).naturalTextWidth());
+    }
+    return width;
+}
+
+QString lineOf(const QTextLayout& layout, int index) {
+    const QTextLine line = layout.lineAt(index);
+    return layout.text().mid(line.textStart(), line.textLength()).trimmed();
+}
+
+/// The narrowest width, to a few pixels, at which two lines suffice.
+double balancedWidth(QTextLayout& layout, double widest) {
+    double tooNarrow = widestLine(layout) / 2;
+    double enough = widest;
+    while (enough - tooNarrow > 4) {
+        const double middle = (tooNarrow + enough) / 2;
+        (breakLines(layout, middle, 1) <= 2 ? enough : tooNarrow) = middle;
+    }
+    return enough;
+}
+
+QString inLines(const QString& text, const QFont& font, double widest, const QPaintDevice* device) {
+    QTextLayout layout(text, font, device);
+    layout.setTextOption(centred());
+    const int count = breakLines(layout, widest, 1);
+    if (count <= 1) {
+        return text;
+    }
+    if (count == 2) {
+        breakLines(layout, balancedWidth(layout, widest), 1);
+        return lineOf(layout, 0) + QChar::LineSeparator + lineOf(layout, 1);
+    }
+    const QString rest = text.mid(layout.lineAt(1).textStart()).trimmed();
+    return lineOf(layout, 0) + QChar::LineSeparator +
+           QFontMetricsF(font, device).elidedText(rest, Qt::ElideRight, widest);
+}
+
+QString tidied(const QString& text, bool isCapitals) {
+    QString tidy = text.simplified();
+    if (tidy.size() > mostLetters) {
+        tidy.truncate(mostLetters);
+        if (tidy.back().isHighSurrogate()) {
+            tidy.chop(1);
+        }
+        tidy += ellipsis;
+    }
+    return isCapitals ? tidy.toUpper() : tidy;
+}
+
+QColor translucent(QRgb value, double opacity) {
+    QColor color = QColor::fromRgb(value);
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+} // namespace
+
+LabelColors labelColors(LabelStyle style, BasemapLook look) {
+    struct Dress {
+        QRgb place = 0;
+        QColor region;
+        QRgb water = 0;
+        QRgb title = 0;
+        QColor halo;
+    };
+    static const Dress light{
+        0x3B4047, QColor(0x65, 0x5B, 0x70), 0x2F6480, 0x1A1D21, translucent(0xFAF9F6, 0.92)};
+    static const Dress dark{
+        0xC6CBD1, QColor(0xAB, 0xA3, 0xB5), 0x7FA9C2, 0xECEEF0, translucent(0x1E2328, 0.92)};
+    static const Dress imagery{
+        0xFFFFFF, translucent(0xFFFFFF, 0.86), 0xCFE6F5, 0xFFFFFF, translucent(0x0A0F14, 0.82)};
+    const Dress& dress = look == BasemapLook::light  ? light
+                         : look == BasemapLook::dark ? dark
+                                                     : imagery;
+    switch (style) {
+    case LabelStyle::country:
+    case LabelStyle::region:
+        return {dress.region, dress.halo};
+    case LabelStyle::water:
+        return {QColor::fromRgb(dress.water), dress.halo};
+    case LabelStyle::title:
+        return {QColor::fromRgb(dress.title), dress.halo};
+    case LabelStyle::city:
+    case LabelStyle::town:
+    case LabelStyle::village:
+        break;
+    }
+    return {QColor::fromRgb(dress.place), dress.halo};
+}
+
+QFont labelFont(LabelStyle style, double textScale) {
+    const TextStyle text = textStyleOf(style);
+    QFont font = QGuiApplication::font();
+    font.setPointSizeF(text.pixels * textScale * pointsPerPixel);
+    font.setWeight(text.weight);
+    font.setItalic(text.isItalic);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, text.tracking * textScale);
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);
+    return font;
+}
+
+SetText
+setText(const QString& text, LabelStyle style, double textScale, const QPaintDevice* device) {
+    const TextStyle how = textStyleOf(style);
+    const QFont font = labelFont(style, textScale);
+    SetText set{inLines(tidied(text, how.isCapitals), font, how.widest * textScale, device), {}};
+    if (set.lines.isEmpty()) {
+        return set;
+    }
+    QTextLayout layout(set.lines, font, device);
+    layout.setTextOption(centred());
+    const double lineHeight = std::ceil(how.lineHeight * textScale);
+    const int count = breakLines(layout, 1e6, lineHeight);
+    set.size = {std::ceil(widestLine(layout)), count * lineHeight};
+    return set;
+}
+
+void paintLabel(QPainter& painter, const SetText& text, const Label& label, double textScale) {
+    const TextStyle how = textStyleOf(label.style);
+    const LabelColors colors = labelColors(label.style, label.look);
+    QTextLayout layout(text.lines, labelFont(label.style, textScale), painter.device());
+    QTextOption option = centred();
+    option.setWrapMode(QTextOption::ManualWrap);
+    layout.setTextOption(option);
+    breakLines(layout, text.size.width(), std::ceil(how.lineHeight * textScale));
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    const auto draw = [&](QPointF shift) {
+        for (const QGlyphRun& run : runs) {
+            painter.drawGlyphRun(shift, run);
+        }
+    };
+    painter.setPen(colors.halo);
+    for (int step = 0; step < haloSteps; ++step) {
+        const double angle = 2 * M_PI * step / haloSteps;
+        draw(QPointF(std::cos(angle), std::sin(angle)) * (haloRadius * textScale));
+    }
+    painter.setPen(colors.text);
+    draw({0, 0});
+}
+
+} // namespace vasker

@@ -1,0 +1,38 @@
+#pragma once
+// How a name is set: typeface, colours, lines.
+
+#include "map/labels/LabelPicture.h"
+
+#include <QColor>
+#include <QFont>
+#include <QSizeF>
+#include <QString>
+
+class QPainter;
+class QPaintDevice;
+
+namespace vasker {
+
+struct LabelColors {
+    QColor text;
+    QColor halo;
+};
+
+[[nodiscard]] LabelColors labelColors(LabelStyle style, BasemapLook look);
+
+/// Sizes count in pixels of a device of 96 dots per inch.
+[[nodiscard]] QFont labelFont(LabelStyle style, double textScale);
+
+struct SetText {
+    QString lines; ///< one or two, a line separator between
+    QSizeF size;   ///< of the block, in whole pixels
+};
+
+/// `text` in at most two lines of about equal length, the last elided where it does not fit.
+[[nodiscard]] SetText
+setText(const QString& text, LabelStyle style, double textScale, const QPaintDevice* device);
+
+/// Lines centred in a block of that size whose corner is the painter's origin, with halo.
+void paintLabel(QPainter& painter, const SetText& text, const Label& label, double textScale);
+
+} // namespace vasker

@@ -1,0 +1,21 @@
+#pragma once
+// The request for a tile, in the manners of the services: who asks, and nothing about whom for.
+
+#include "map/tileservice/TileCache.h"
+#include "map/tileservice/TileService.h"
+
+#include <QNetworkRequest>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+namespace vasker {
+
+/// `kept` is what the cache has that is no longer fresh: the service is asked whether it changed.
+[[nodiscard]] QNetworkRequest serviceRequest(const QUrl& address,
+                                             TileContent content,
+                                             const QString& userAgent,
+                                             const std::optional<TileCache::Entry>& kept);
+
+} // namespace vasker

@@ -1,0 +1,57 @@
+#pragma once
+// Which services are left alone at the moment, because they failed or asked for it. A service is a
+// host and port. Pure: the time is an argument.
+
+#include "map/tileservice/RetryPause.h"
+
+#include <QString>
+#include <QUrl>
+
+#include <chrono>
+#include <map>
+#include <optional>
+
+namespace vasker {
+
+class TileServiceHosts {
+  public:
+    using Clock = std::chrono::steady_clock;
+
+    explicit TileServiceHosts(RetryRule rule) : m_rule(rule) {}
+
+    /// How many requests may run at once for the host of `address`: after a failure one, to try.
+    [[nodiscard]] int mostAtOnce(const QUrl& address) const;
+    /// Until when the host of `address` is left alone; past where it is not.
+    [[nodiscard]] Clock::time_point pausedUntil(const QUrl& address) const;
+
+    void succeeded(const QUrl& address);
+    /// A request that was started at `started` failed at `now`. Requests that ran together and fail
+    /// together are one failure.
+    void failed(const QUrl& address,
+                Clock::time_point started,
+                Clock::time_point now,
+                std::optional<std::chrono::seconds> asked);
+    /// Ends the pauses that came of there being no answer; called when the network is back.
+    void networkReturned();
+    /// As failed(), where there was no answer at all.
+    void unreachable(const QUrl& address, Clock::time_point started, Clock::time_point now);
+
+  private:
+    struct Host {
+        int failures = 0;
+        bool isUnreachable = false;
+        Clock::time_point failedAt;
+        Clock::time_point pausedUntil;
+    };
+    [[nodiscard]] const Host* host(const QUrl& address) const;
+    void fail(const QUrl& address,
+              Clock::time_point started,
+              Clock::time_point now,
+              std::optional<std::chrono::seconds> asked,
+              bool isUnreachable);
+
+    RetryRule m_rule;
+    std::map<QString, Host> m_hosts; ///< those that failed last; as many as there are sources
+};
+
+} // namespace vasker

@@ -1,0 +1,301 @@
+#include "map/style/BasemapStyle.h"
+#include "map/style/TilePicture.h"
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace vasker {
+namespace {
+
+using Points = std::vector<TilePoint>;
+
+constexpr TileKey tile{6, 12, 20};
+constexpr TileKey itsFirstChild{7, 24, 40};
+constexpr TileKey itsLastChild{7, 25, 41};
+
+VectorFeature area(const char* kind, std::vector<Points> rings) {
+    VectorFeature feature;
+    feature.geometry = VectorFeature::Geometry::polygon;
+    feature.kind = kind;
+    feature.parts = std::move(rings);
+    return feature;
+}
+
+VectorFeature line(const char* kind, Points points) {
+    VectorFeature feature;
+    feature.geometry = VectorFeature::Geometry::lines;
+    feature.kind = kind;
+    feature.parts = {std::move(points)};
+    return feature;
+}
+
+VectorFeature border(int adminLevel, Points points) {
+    VectorFeature feature = line("", std::move(points));
+    feature.adminLevel = adminLevel;
+    return feature;
+}
+
+Points square(float from, float to) {
+    return {{from, from}, {to, from}, {to, to}, {from, to}, {from, from}};
+}
+
+TileGround groundOf(std::vector<VectorLayer> layers) {
+    TileGround ground;
+    ground.vector = std::make_shared<VectorTile>(VectorTile{std::move(layers)});
+    ground.vectorKey = tile;
+    return ground;
+}
+
+TileRequest
+requestFor(TileKey key, BasemapLook look = BasemapLook::light, double devicePixels = 512) {
+    TileRequest request;
+    request.key = key;
+    request.devicePixelsPerMapPoint = devicePixels / key.side();
+    request.look = look;
+    return request;
+}
+
+QColor at(const QImage& picture, double x, double y) {
+    return picture.pixelColor(static_cast<int>(x * picture.width()),
+                              static_cast<int>(y * picture.height()));
+}
+
+const BasemapColors& light() {
+    return basemapColors(BasemapLook::light);
+}
+
+/// The darkness of a row or column of pixels from the paper, as text: '#' where a line covers it.
+std::string profile(const QImage& picture, bool along, int position) {
+    std::string text;
+    for (int i = 0; i < picture.width(); ++i) {
+        const QColor color =
+            along ? picture.pixelColor(i, position) : picture.pixelColor(position, i);
+        text += color.lightness() < light().land.lightness() - 20 ? '#' : '.';
+    }
+    return text;
+}
+
+TEST(TilePainter, TheSeaLiesUponLand) {
+    const QImage picture =
+        paintTile(groundOf({{"ocean", {area("", {square(0.25F, 0.75F)})}}}), requestFor(tile));
+    EXPECT_EQ(at(picture, 0.5, 0.5), light().water);
+    EXPECT_EQ(at(picture, 0.1, 0.1), light().land);
+}
+
+TEST(TilePainter, AHoleInALakeIsAnIsland) {
+    const QImage picture = paintTile(
+        groundOf({{"water_polygons", {area("lake", {square(0.2F, 0.8F), square(0.4F, 0.6F)})}}}),
+        requestFor(tile));
+    EXPECT_EQ(at(picture, 0.3, 0.3), light().water);
+    EXPECT_EQ(at(picture, 0.5, 0.5), light().land);
+}
+
+TEST(TilePainter, ThePictureIsOpaqueAndHasTheSizeAskedFor) {
+    const TileRequest request = requestFor(tile, BasemapLook::light, 724.08);
+    const QImage picture = paintTile(TileGround(), request);
+    EXPECT_EQ(picture.size(), QSize(request.pixels().width, request.pixels().height));
+    EXPECT_GE(picture.width(), 725);
+    EXPECT_EQ(picture.format(), QImage::Format_RGB32);
+}
+
+TEST(TilePainter, AChildShowsItsQuarterOfTheAncestorsData) {
+    const TileGround ground = groundOf({{"ocean", {area("", {square(-0.1F, 0.5F)})}}});
+    const QImage first = paintTile(ground, requestFor(itsFirstChild));
+    const QImage last = paintTile(ground, requestFor(itsLastChild));
+    EXPECT_EQ(at(first, 0.01, 0.01), light().water);
+    EXPECT_EQ(at(first, 0.95, 0.95), light().water);
+    EXPECT_EQ(at(last, 0.5, 0.5), light().land);
+}
+
+TEST(TilePainter, AFarDescendantIsStillDrawnFromItsAncestor) {
+    const TileGround ground = groundOf(
+        {{"ocean", {area("", {{{-0.1F, -0.1F}, {1.1F, -0.1F}, {-0.1F, 1.1F}, {-0.1F, -0.1F}}})}}});
+    // The tile at zoom 22 whose north-west corner the coast runs through, at 1/2, 1/2.
+    const std::int32_t half = 1 << 15;
+    const QImage picture =
+        paintTile(ground, requestFor({22, (12 << 16) + half - 1, (20 << 16) + half}));
+    EXPECT_EQ(at(picture, 0.1, 0.1), light().water);
+    EXPECT_EQ(at(picture, 0.9, 0.9), light().land);
+}
+
+TEST(TilePainter, WhereTheDataWereCutThereIsNoCoast) {
+    // Data that end at the tile's edge itself, without any margin.
+    const QImage picture =
+        paintTile(groundOf({{"ocean", {area("", {square(0, 1)})}}}), requestFor(tile));
+    for (int i = 2; i < 510; ++i) {
+        ASSERT_EQ(picture.pixelColor(0, i), light().water) << i;
+        ASSERT_EQ(picture.pixelColor(511, i), light().water) << i;
+        ASSERT_EQ(picture.pixelColor(i, 0), light().water) << i;
+    }
+}
+
+TEST(TilePainter, ARegionsBorderGoesOnInTheNeighbourWhereItLeftOff) {
+    const auto bordered = [](float from, float to) {
+        TileGround ground = groundOf({{"boundaries", {border(4, {{from, 0.5F}, {to, 0.5F}})}}});
+        return ground;
+    };
+    // One line, cut with the margins of two neighbours.
+    TileRequest west = requestFor(tile);
+    TileRequest east = requestFor({6, 13, 20});
+    TileGround eastern = bordered(-0.02F, 0.73F);
+    eastern.vectorKey = east.key;
+    const std::string text = profile(paintTile(bordered(0.13F, 1.02F), west), true, 255) +
+                             profile(paintTile(eastern, east), true, 255);
+    // No dash around the seam is longer or shorter than the pattern's.
+    const std::string around = text.substr(460, 104);
+    const std::size_t dash = around.rfind('.', 52);
+    const std::size_t end = around.find('.', 52);
+    EXPECT_GE(end - dash - 1, 4U) << around;
+    EXPECT_LE(end - dash - 1, 6U) << around;
+    EXPECT_EQ(around.find("########"), std::string::npos) << around;
+    EXPECT_EQ(around.find("......"), std::string::npos) << around;
+}
+
+TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
+    TileGround ground = groundOf({{"boundaries", {border(2, {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
+    const auto inkOf = [&](int devicePixels, double density) {
+        TileRequest request = requestFor(tile, BasemapLook::light, devicePixels);
+        request.devicePixelsPerPixel = density;
+        const QImage picture = paintTile(ground, request);
+        double ink = 0;
+        for (int x = 0; x < devicePixels; ++x) {
+            ink += light().land.lightness() - picture.pixelColor(x, devicePixels / 2).lightness();
+        }
+        return ink / density;
+    };
+    EXPECT_NEAR(inkOf(1024, 2), inkOf(512, 1), 0.15 * inkOf(512, 1));
+}
+
+TEST(TilePainter, AStretchedTileShowsWhatItsZoomOnTheScreenShows) {
+    // A street comes at zoom 11: half way between the tile's own and the next, not at its own.
+    TileGround ground =
+        groundOf({{"streets", {line("residential", {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
+    ground.vectorKey = {10, 5, 5};
+    TileRequest request = requestFor(ground.vectorKey);
+    EXPECT_EQ(profile(paintTile(ground, request), true, 100).find('#'), std::string::npos);
+    request.devicePixelsPerMapPoint = 1100 / request.key.side();
+    EXPECT_NE(paintTile(ground, request).pixelColor(550, 100), light().land);
+}
+
+TEST(TilePainter, PhotographsAreDrawnInTheirPlaces) {
+    TileGround ground;
+    QImage red(256, 256, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QImage blue = red;
+    blue.fill(Qt::blue);
+    ground.imagery = {{tile.ancestor(2), red}, {itsLastChild, blue}};
+    const QImage picture = paintTile(ground, requestFor(tile, BasemapLook::satellite));
+    EXPECT_EQ(at(picture, 0.25, 0.25), QColor(Qt::red));
+    EXPECT_EQ(at(picture, 0.75, 0.25), QColor(Qt::red));
+    EXPECT_EQ(at(picture, 0.75, 0.75), QColor(Qt::blue));
+}
+
+TEST(TilePainter, OnlyHybridDrawsBordersUponPhotographs) {
+    TileGround ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}},
+                                  {"boundaries", {border(2, {{-0.1F, 0.5F}, {1.1F, 0.5F}})}}});
+    QImage red(512, 512, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ground.imagery = {{tile, red}};
+    const QImage satellite = paintTile(ground, requestFor(tile, BasemapLook::satellite));
+    const QImage hybrid = paintTile(ground, requestFor(tile, BasemapLook::hybrid));
+    EXPECT_EQ(at(satellite, 0.3, 0.5), QColor(Qt::red));
+    EXPECT_GT(at(hybrid, 0.3, 0.5).blue(), 100);
+    EXPECT_EQ(at(hybrid, 0.3, 0.2), QColor(Qt::red));
+}
+
+TEST(TilePainter, WithoutPhotographsTheMapIsDrawnInItsDarkDress) {
+    const TileGround ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}}});
+    for (const BasemapLook look : {BasemapLook::satellite, BasemapLook::hybrid}) {
+        EXPECT_EQ(paintTile(ground, requestFor(tile, look)),
+                  paintTile(ground, requestFor(tile, BasemapLook::dark)));
+    }
+}
+
+TEST(TilePainter, TheInkIsDrawnLastInDevicePixels) {
+    struct Spot : TileInk {
+        void paint(QPainter& painter,
+                   const MapRect& bounds,
+                   double devicePixelsPerMapPoint) const override {
+            EXPECT_EQ(bounds, tile.bounds());
+            EXPECT_DOUBLE_EQ(devicePixelsPerMapPoint, 1024 / tile.side());
+            painter.fillRect(1000, 1000, 10, 10, Qt::green);
+        }
+    };
+    TileRequest request = requestFor(tile, BasemapLook::light, 1024);
+    request.devicePixelsPerPixel = 2;
+    request.ink = std::make_shared<Spot>();
+    EXPECT_EQ(paintTile(TileGround(), request).pixelColor(1005, 1005), QColor(Qt::green));
+}
+
+TEST(TilePainter, OddGeometryCostsOnlyItself) {
+    constexpr float nan = std::numeric_limits<float>::quiet_NaN();
+    constexpr float infinite = std::numeric_limits<float>::infinity();
+    constexpr float far = std::numeric_limits<float>::max();
+    const Points odd{{nan, 0.5F}, {0.5F, infinite}, {-far, far}, {far, -far}, {0.5F, 0.5F}};
+    TileGround ground = groundOf(
+        {{"ocean", {area("", {odd, {}, {{0.5F, 0.5F}}}), area("", {square(0.2F, 0.3F)})}},
+         {"water_polygons", {area("lake", {{{nan, nan}, {nan, nan}, {nan, nan}}}), area("", {})}},
+         {"streets", {line("motorway", odd), line("motorway", {}), line("ferry", odd)}},
+         {"boundaries", {border(2, odd), border(4, odd)}}});
+    for (const TileKey key : {tile, TileKey{22, 12 << 16, 20 << 16}}) {
+        for (const BasemapLook look : {BasemapLook::light, BasemapLook::hybrid}) {
+            EXPECT_FALSE(paintTile(ground, requestFor(key, look)).isNull());
+        }
+    }
+    // What is sound beside it is still there.
+    ground = groundOf({{"ocean", {area("", {{{nan, nan}}}), area("", {square(0.2F, 0.3F)})}}});
+    EXPECT_EQ(at(paintTile(ground, requestFor(tile)), 0.25, 0.25), light().water);
+}
+
+TEST(TilePainter, ASenselessScaleGivesAPictureAllTheSame) {
+    const TileGround ground = groundOf({{"ocean", {area("", {square(0, 1)})}}});
+    for (const double scale : {-5.0, 0.0, 1e300, std::nan(""), HUGE_VAL}) {
+        TileRequest request = requestFor(tile);
+        request.devicePixelsPerMapPoint = scale;
+        request.devicePixelsPerPixel = std::nan("");
+        EXPECT_FALSE(paintTile(ground, request).isNull()) << scale;
+    }
+}
+
+TEST(TilePainter, NeighboursMeetWithoutASeamAndShareNoPixel) {
+    // At this scale the tiles' edge runs through the middle of a column of pixels.
+    TileRequest west = requestFor(tile, BasemapLook::light, 600.5);
+    TileRequest east = west;
+    east.key = {6, 13, 20};
+    const auto slanted = [](TileKey key, float shift) {
+        TileGround ground = groundOf({{"ocean",
+                                       {area("",
+                                             {{{-1 + shift, 0.2F},
+                                               {1 + shift, 0.24F},
+                                               {1 + shift, 3},
+                                               {-1 + shift, 3},
+                                               {-1 + shift, 0.2F}}})}}});
+        ground.vectorKey = key;
+        return ground;
+    };
+    const QImage left = paintTile(slanted(west.key, 1), west);
+    const QImage right = paintTile(slanted(east.key, 0), east);
+    ASSERT_EQ(west.pixels().x + left.width(), east.pixels().x);
+    for (int y = 0; y < left.height(); ++y) {
+        const QColor a = left.pixelColor(left.width() - 1, y);
+        const QColor b = right.pixelColor(0, y);
+        // The edge of the water falls a fiftieth of a pixel from one column to the next.
+        EXPECT_NEAR(a.lightness(), b.lightness(), 2) << y;
+    }
+}
+
+TEST(TilePainter, TheLastTileReachesTheWorldsEnd) {
+    TileRequest last = requestFor(tile, BasemapLook::light, 600.5);
+    last.key = {2, 3, 3};
+    last.devicePixelsPerMapPoint = 100.3 / worldSize;
+    const PixelRect pixels = last.pixels();
+    EXPECT_EQ(pixels.x + pixels.width, 101);
+    EXPECT_EQ(pixels.y + pixels.height, 101);
+}
+
+} // namespace
+} // namespace vasker
