@@ -14,7 +14,7 @@ unsigned paintingThreads() {
 
 } // namespace
 
-TileLibrary::TileLibrary(GroundArchives archives,
+TileLibrary::TileLibrary(TileArchivePaths archives,
                          const TileSources& sources,
                          TileService::Options serviceOptions,
                          QObject* parent)

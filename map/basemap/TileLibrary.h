@@ -2,7 +2,7 @@
 // All that tiles are made of and by, one for the whole program: archives, services, and the threads
 // that decode and paint. User-interface thread.
 
-#include "map/basemap/GroundReader.h"
+#include "map/basemap/TileProvider.h"
 #include "map/basemap/TileWorkers.h"
 #include "map/tileservice/TileService.h"
 
@@ -20,14 +20,14 @@ class TileLibrary : public QObject {
   public:
     /// Of `sources` those that are usable. Nothing of the service is made before its first tile is
     /// wanted.
-    TileLibrary(GroundArchives archives,
+    TileLibrary(TileArchivePaths archives,
                 const TileSources& sources,
                 TileService::Options serviceOptions,
                 QObject* parent = nullptr);
     ~TileLibrary() override;
 
     /// Any thread.
-    [[nodiscard]] GroundReader& reader() noexcept { return m_reader; }
+    [[nodiscard]] TileProvider& reader() noexcept { return m_reader; }
     [[nodiscard]] TileWorkers& workers() noexcept { return m_workers; }
 
     /// What `client` looks at now, the most wanted first, replaces what it looked at before.
@@ -40,7 +40,7 @@ class TileLibrary : public QObject {
   private:
     TileSources m_sources;
     TileService::Options m_serviceOptions;
-    GroundReader m_reader;
+    TileProvider m_reader;
     std::map<const void*, std::vector<ServiceTile>> m_wanted;
     std::unique_ptr<TileService> m_service;
     TileWorkers m_workers;

@@ -109,7 +109,7 @@ constexpr double farthest = 20;
 
 } // namespace
 
-std::vector<double> worldShifts(const MapRect& rect) {
+std::vector<double> worldCopyOffsets(const MapRect& rect) {
     std::vector<double> shifts;
     const double first = std::floor(rect.x / worldSize);
     const double last = std::floor((rect.x + rect.width) / worldSize);
@@ -192,7 +192,7 @@ MapPoint Camera::screenToWorld(ScreenPoint point) const noexcept {
             m_pose.center.y + (down * m_bearingCosine + right * m_bearingSine) / m_pose.scale};
 }
 
-std::array<MapPoint, 4> Camera::visibleGround(double margin) const noexcept {
+std::array<MapPoint, 4> Camera::visibleCorners(double margin) const noexcept {
     const double right = m_viewport.width + margin;
     const double bottom = m_viewport.height + margin;
     return {screenToWorld({-margin, -margin}),
@@ -203,7 +203,7 @@ std::array<MapPoint, 4> Camera::visibleGround(double margin) const noexcept {
 
 MapRect Camera::visibleRect(double margin) const noexcept {
     MapRect bounds = MapRect::null();
-    for (const MapPoint& corner : visibleGround(margin)) {
+    for (const MapPoint& corner : visibleCorners(margin)) {
         bounds = bounds.united({corner.x, corner.y, 0, 0});
     }
     return bounds;

@@ -65,7 +65,7 @@ struct Viewport {
 
 /// How far to the east, in map points, lie those copies of the world that `rect` reaches into:
 /// multiples of worldSize, west to east.
-[[nodiscard]] std::vector<double> worldShifts(const MapRect& rect);
+[[nodiscard]] std::vector<double> worldCopyOffsets(const MapRect& rect);
 
 class Camera {
   public:
@@ -103,8 +103,8 @@ class Camera {
     [[nodiscard]] MapPoint screenToWorld(ScreenPoint point) const noexcept;
     /// The ground under the viewport's corners, each moved outwards by `margin` pixels: top left,
     /// top right, bottom right, bottom left. All that is seen lies between them.
-    [[nodiscard]] std::array<MapPoint, 4> visibleGround(double margin = 0) const noexcept;
-    /// The smallest rectangle around visibleGround(); may reach into other copies of the world.
+    [[nodiscard]] std::array<MapPoint, 4> visibleCorners(double margin = 0) const noexcept;
+    /// The smallest rectangle around visibleCorners(); may reach into other copies of the world.
     [[nodiscard]] MapRect visibleRect(double margin = 0) const noexcept;
 
     /// The moves below stop at the limits; by numbers that are not finite nothing moves.

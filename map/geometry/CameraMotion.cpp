@@ -33,7 +33,7 @@ void DragTrail::add(MapPoint center, double seconds) {
     m_samples.push_back({center, seconds});
 }
 
-GroundVelocity DragTrail::velocityAt(double seconds) const {
+MapVelocity DragTrail::velocityAt(double seconds) const {
     const auto first = std::ranges::find_if(
         m_samples, [&](const Sample& sample) { return sample.seconds >= seconds - trailLength; });
     if (first == m_samples.end()) {
@@ -44,7 +44,7 @@ GroundVelocity DragTrail::velocityAt(double seconds) const {
     return {(last.x - first->center.x) / time, (last.y - first->center.y) / time};
 }
 
-Glide::Glide(const Camera& camera, GroundVelocity velocity)
+Inertia::Inertia(const Camera& camera, MapVelocity velocity)
     : m_start(camera), m_velocity(velocity) {
     const double speed = std::hypot(velocity.x, velocity.y) * camera.scale();
     if (speed < slowestGlide || !std::isfinite(speed)) {
@@ -56,7 +56,7 @@ Glide::Glide(const Camera& camera, GroundVelocity velocity)
     m_duration = glideDecay * std::log(limited / glideEnd);
 }
 
-Camera Glide::cameraAt(double seconds) const {
+Camera Inertia::cameraAt(double seconds) const {
     const double time = std::clamp(seconds, 0.0, m_duration);
     const double way = glideDecay * (1 - std::exp(-time / glideDecay));
     CameraPose pose = m_start.pose();
@@ -80,11 +80,11 @@ Camera SmoothZoom::cameraAt(double seconds) const {
     return m_start.zoomed(std::pow(m_factor, easedOut(seconds / m_duration)), m_anchor);
 }
 
-Leveling::Leveling(const Camera& camera, double bearing, double pitch)
+NorthReset::NorthReset(const Camera& camera, double bearing, double pitch)
     : m_start(camera), m_bearing(bearing), m_pitch(pitch),
       m_turn(std::remainder(bearing - camera.pose().bearing, 360)) {}
 
-Camera Leveling::cameraAt(double seconds) const {
+Camera NorthReset::cameraAt(double seconds) const {
     CameraPose pose = m_start.pose();
     if (isFinished(seconds)) { // to the very bearing, without what rounding leaves
         pose.bearing = m_bearing;

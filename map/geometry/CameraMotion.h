@@ -9,7 +9,7 @@
 namespace vasker {
 
 /// Map points per second, to the east and to the south.
-struct GroundVelocity {
+struct MapVelocity {
     double x = 0;
     double y = 0;
 };
@@ -20,7 +20,7 @@ class DragTrail {
     /// The seconds may count from anywhere and never run backwards.
     void add(MapPoint center, double seconds);
     /// How fast the centre has moved in the 0.1 s before `seconds`; zero if the pointer rested.
-    [[nodiscard]] GroundVelocity velocityAt(double seconds) const;
+    [[nodiscard]] MapVelocity velocityAt(double seconds) const;
 
   private:
     struct Sample {
@@ -31,17 +31,17 @@ class DragTrail {
 };
 
 /// The camera glides on after a drag, slower and slower: the speed falls to 1/e every 0.325 s.
-class Glide {
+class Inertia {
   public:
-    Glide(const Camera& camera, GroundVelocity velocity);
+    Inertia(const Camera& camera, MapVelocity velocity);
 
     [[nodiscard]] Camera cameraAt(double seconds) const;
     [[nodiscard]] bool isFinished(double seconds) const noexcept { return seconds >= m_duration; }
 
   private:
     Camera m_start;
-    GroundVelocity m_velocity; ///< at the start
-    double m_duration = 0;     ///< 0: too slow to glide at all
+    MapVelocity m_velocity; ///< at the start
+    double m_duration = 0;  ///< 0: too slow to glide at all
 };
 
 /// The camera comes nearer or goes farther with the ground under a place kept there: fast at first,
@@ -66,10 +66,10 @@ class SmoothZoom {
 };
 
 /// The camera turns the short way to a bearing and leans to a pitch, about its centre.
-class Leveling {
+class NorthReset {
   public:
     /// In degrees.
-    Leveling(const Camera& camera, double bearing, double pitch);
+    NorthReset(const Camera& camera, double bearing, double pitch);
 
     [[nodiscard]] Camera cameraAt(double seconds) const;
     [[nodiscard]] static bool isFinished(double seconds) noexcept { return seconds >= duration; }

@@ -19,7 +19,7 @@ Corners cornersOf(const Camera& camera, const MapRect& bounds) {
             camera.worldToPerspective({bounds.x, south})};
 }
 
-MapRect boundsOf(const CoveringTile& tile) {
+MapRect boundsOf(const CoverTile& tile) {
     MapRect bounds = tile.key.bounds();
     bounds.x += tile.shift;
     return bounds;
@@ -43,7 +43,7 @@ class Cover {
   public:
     Cover(const Camera& camera, int zoom, double margin)
         : m_camera(camera), m_zoom(zoom), m_margin(margin),
-          m_nearest(camera.worldToPerspective(camera.visibleGround()[2]).w) {}
+          m_nearest(camera.worldToPerspective(camera.visibleCorners()[2]).w) {}
 
     void add(TileKey key, double shift) {
         const MapRect bounds = boundsOf({key, shift});
@@ -60,11 +60,11 @@ class Cover {
         }
     }
 
-    [[nodiscard]] std::vector<CoveringTile> found() {
+    [[nodiscard]] std::vector<CoverTile> found() {
         std::stable_sort(m_found.begin(), m_found.end(), [](const auto& a, const auto& b) {
             return a.distance < b.distance;
         });
-        std::vector<CoveringTile> tiles;
+        std::vector<CoverTile> tiles;
         tiles.reserve(m_found.size());
         for (const Found& found : m_found) {
             tiles.push_back(found.tile);
@@ -74,7 +74,7 @@ class Cover {
 
   private:
     struct Found {
-        CoveringTile tile;
+        CoverTile tile;
         double distance; ///< map points
     };
 
@@ -109,13 +109,13 @@ int tileZoom(double scale) noexcept {
                       maximumTileZoom);
 }
 
-bool seesTile(const Camera& camera, const CoveringTile& tile, double margin) {
+bool seesTile(const Camera& camera, const CoverTile& tile, double margin) {
     return isSeen(camera, cornersOf(camera, boundsOf(tile)), margin);
 }
 
-std::vector<CoveringTile> tileCover(const Camera& camera, int zoom, double margin) {
+std::vector<CoverTile> tileCover(const Camera& camera, int zoom, double margin) {
     Cover cover(camera, std::clamp(zoom, 0, maximumTileZoom), margin);
-    for (const double shift : worldShifts(camera.visibleRect(margin))) {
+    for (const double shift : worldCopyOffsets(camera.visibleRect(margin))) {
         cover.add({0, 0, 0}, shift);
     }
     return cover.found();

@@ -129,7 +129,7 @@ QColor translucent(QRgb value, double opacity) {
 
 } // namespace
 
-LabelColors labelColors(LabelStyle style, BasemapLook look) {
+LabelColors labelColors(LabelStyle style, BasemapTheme look) {
     struct Dress {
         QRgb place = 0;
         QColor region;
@@ -143,9 +143,9 @@ LabelColors labelColors(LabelStyle style, BasemapLook look) {
         0xC6CBD1, QColor(0xAB, 0xA3, 0xB5), 0x7FA9C2, 0xECEEF0, translucent(0x1E2328, 0.92)};
     static const Dress imagery{
         0xFFFFFF, translucent(0xFFFFFF, 0.86), 0xCFE6F5, 0xFFFFFF, translucent(0x0A0F14, 0.82)};
-    const Dress& dress = look == BasemapLook::light  ? light
-                         : look == BasemapLook::dark ? dark
-                                                     : imagery;
+    const Dress& dress = look == BasemapTheme::light  ? light
+                         : look == BasemapTheme::dark ? dark
+                                                      : imagery;
     switch (style) {
     case LabelStyle::country:
     case LabelStyle::region:

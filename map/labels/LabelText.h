@@ -1,7 +1,7 @@
 #pragma once
 // How a name is set: typeface, colours, lines.
 
-#include "map/labels/LabelPicture.h"
+#include "map/labels/LabelAtlas.h"
 
 #include <QColor>
 #include <QFont>
@@ -18,7 +18,7 @@ struct LabelColors {
     QColor halo;
 };
 
-[[nodiscard]] LabelColors labelColors(LabelStyle style, BasemapLook look);
+[[nodiscard]] LabelColors labelColors(LabelStyle style, BasemapTheme look);
 
 /// Sizes count in pixels of a device of 96 dots per inch.
 [[nodiscard]] QFont labelFont(LabelStyle style, double textScale);

@@ -1,7 +1,7 @@
 #include "map/records/HitTest.h"
 
 #include "map/geometry/Segment.h"
-#include "map/records/BalloonShape.h"
+#include "map/records/PinShape.h"
 #include "map/records/RouteStyle.h"
 
 #include <algorithm>
@@ -11,11 +11,11 @@ namespace vasker {
 
 namespace {
 
-/// How far `point` is from the box of a balloon that is `scale` times as large as usual; 0 inside.
-double distanceToBalloon(ScreenPoint point, ScreenPoint tip, double scale) {
-    const double dx = std::abs(point.x - tip.x) - balloonWidth / 2 * scale;
-    const double above = tip.y - balloonTipY * scale - point.y;
-    const double below = point.y - tip.y - (balloonHeight - balloonTipY) * scale;
+/// How far `point` is from the box of a pin that is `scale` times as large as usual; 0 inside.
+double distanceToPin(ScreenPoint point, ScreenPoint tip, double scale) {
+    const double dx = std::abs(point.x - tip.x) - pinWidth / 2 * scale;
+    const double above = tip.y - pinTipY * scale - point.y;
+    const double below = point.y - tip.y - (pinHeight - pinTipY) * scale;
     return std::hypot(std::max(0.0, dx), std::max({0.0, above, below}));
 }
 
@@ -57,7 +57,7 @@ MapRect groundAround(ScreenPoint point, double reach, const Camera& camera) {
 std::optional<AssetIndex> markAt(ScreenPoint point, double reach, const HitScene& scene) {
     Nearest nearest(reach);
     const MapRect around = groundAround(point, reach + dotRadius + dotCasing, scene.camera);
-    for (const double shift : worldShifts(around)) {
+    for (const double shift : worldCopyOffsets(around)) {
         for (std::size_t i = scene.markers.size(); i-- > 0;) { // the first is on top
             const Marker& marker = scene.markers[i];
             const MapPoint place{marker.point.x + shift, marker.point.y};
@@ -67,11 +67,11 @@ std::optional<AssetIndex> markAt(ScreenPoint point, double reach, const HitScene
             }
         }
     }
-    for (const PlacedMarker& balloon : scene.frame.balloons) {
-        nearest.offer(balloon.asset, distanceToBalloon(point, balloon.point, 1));
+    for (const PlacedMarker& pin : scene.frame.pins) {
+        nearest.offer(pin.asset, distanceToPin(point, pin.point, 1));
     }
     if (const auto& hovered = scene.frame.hovered) {
-        nearest.offer(hovered->asset, distanceToBalloon(point, hovered->point, 1));
+        nearest.offer(hovered->asset, distanceToPin(point, hovered->point, 1));
     }
     return nearest.asset();
 }
@@ -84,7 +84,7 @@ std::optional<AssetIndex> routeAt(ScreenPoint point,
     Nearest nearest(reach);
     const MapRect around = groundAround(point, reach + halfWidth, scene.camera);
     const auto tolerance = static_cast<float>(routeTolerancePixels / scene.camera.scale());
-    for (const double shift : worldShifts(around)) {
+    for (const double shift : worldCopyOffsets(around)) {
         MapRect there = around;
         there.x -= shift;
         for (const RouteRun& run : runs) {
@@ -116,7 +116,7 @@ std::optional<AssetIndex> routeAt(ScreenPoint point,
 
 bool hitsTheSelected(ScreenPoint point, double reach, const HitScene& scene) {
     if (const auto& marker = scene.frame.selected) {
-        return distanceToBalloon(point, marker->point, selectedBalloonScale) <= reach;
+        return distanceToPin(point, marker->point, selectedPinScale) <= reach;
     }
     return scene.selected &&
            routeAt(
@@ -145,7 +145,7 @@ std::vector<AssetIndex> sharingPlace(AssetIndex asset, std::span<const Marker> m
     for (const Marker& marker : markers) {
         const double dx = std::abs(marker.point.x - place->point.x) * Camera::maximumScale;
         const double dy = std::abs(marker.point.y - place->point.y) * Camera::maximumScale;
-        if (dx < balloonSpacingX && dy < balloonSpacingY) {
+        if (dx < pinSpacingX && dy < pinSpacingY) {
             sharing.push_back(marker.asset);
         }
     }

@@ -17,8 +17,8 @@ inline constexpr double touchReach = 12;
 /// What can be hit.
 struct HitScene {
     const Camera& camera;
-    const MarkerFrame& frame;        ///< its balloons
-    std::span<const Marker> markers; ///< of every point record that is shown: balloons and dots
+    const MarkerFrame& frame;        ///< its pins
+    std::span<const Marker> markers; ///< of every point record that is shown: pins and dots
     const RecordGeometry& geometry;  ///< of all routes
     const RouteColors& colors;       ///< tells which of these are shown
     std::optional<AssetIndex> selected;
@@ -29,7 +29,7 @@ struct HitScene {
 [[nodiscard]] std::optional<AssetIndex>
 hitTest(ScreenPoint point, double reach, const HitScene& scene);
 
-/// The markers that no zoom separates from that of `asset`: even at the nearest, their balloons
+/// The markers that no zoom separates from that of `asset`: even at the nearest, their pins
 /// would stand on one another. In the order of `markers`, itself included; empty if it is none of
 /// these.
 [[nodiscard]] std::vector<AssetIndex> sharingPlace(AssetIndex asset,

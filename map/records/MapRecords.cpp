@@ -1,6 +1,6 @@
 #include "map/records/MapRecords.h"
 
-#include "map/records/BalloonShape.h"
+#include "map/records/PinShape.h"
 #include "map/records/RecordPainter.h"
 #include "map/style/MapColors.h"
 #include "presentation/Symbols.h"
@@ -20,7 +20,7 @@ Rgb rgbOf(const QColor& color) {
 } // namespace
 
 /// What is painted into the pictures of one scale, and the layout that it follows.
-class MapRecords::Ink final : public TileInk {
+class MapRecords::Ink final : public RecordOverlay {
   public:
     Ink(const LoadedRelease* release,
         std::shared_ptr<const MarkerLayout> layout,
@@ -52,7 +52,7 @@ void MapRecords::setRecords(const RecordSet& records) {
     findLifted();
 }
 
-void MapRecords::setLook(BasemapLook look) {
+void MapRecords::setLook(BasemapTheme look) {
     m_look = look;
     m_balloons.reset();
     refreshTints();
@@ -123,7 +123,7 @@ std::shared_ptr<const MarkerLayout> MapRecords::layout(double scale) const {
     return known;
 }
 
-std::shared_ptr<const TileInk> MapRecords::ink(double scale, double devicePixels) const {
+std::shared_ptr<const RecordOverlay> MapRecords::ink(double scale, double devicePixels) const {
     if (!m_records.loaded) {
         return nullptr;
     }
@@ -147,10 +147,13 @@ RouteStrip MapRecords::stripOf(std::optional<AssetIndex> index, const Camera& ca
     return routeStrip(geometry, geometry.runsOf(*index), m_routeColors, camera);
 }
 
-void MapRecords::place(const Camera& camera, Dots dots, const TileInk* shown, MapPicture& picture) {
+void MapRecords::place(const Camera& camera,
+                       Dots dots,
+                       const RecordOverlay* shown,
+                       MapFrame& picture) {
     picture.routes.clear();
     picture.dots.clear();
-    picture.balloons.sprites.clear();
+    picture.pins.sprites.clear();
     picture.selectedRoute = stripOf(m_selectedAsset, camera);
     picture.hoveredRoute =
         m_hoveredAsset == m_selectedAsset ? RouteStrip() : stripOf(m_hoveredAsset, camera);
@@ -173,45 +176,45 @@ void MapRecords::place(const Camera& camera, Dots dots, const TileInk* shown, Ma
             {static_cast<float>(dot.point.x), static_cast<float>(dot.point.y), m_tints[dot.asset]});
     }
     if (!m_balloons) {
-        m_balloons = std::make_shared<const BalloonPicture>(
+        m_balloons = std::make_shared<const PinAtlas>(
             m_records.loaded->index.kinds(), m_look, static_cast<double>(picture.devicePixels));
     }
-    picture.balloons.image = m_balloons->image();
-    const auto add = [&](const PlacedMarker& balloon, BalloonState state) {
-        const ScreenPoint tip = BalloonPicture::tip(state);
-        picture.balloons.sprites.push_back({{balloon.point.x - tip.x, balloon.point.y - tip.y},
-                                            m_balloons->cut(asset(balloon.asset).kind, state)});
+    picture.pins.image = m_balloons->image();
+    const auto add = [&](const PlacedMarker& pin, PinState state) {
+        const ScreenPoint tip = PinAtlas::tip(state);
+        picture.pins.sprites.push_back({{pin.point.x - tip.x, pin.point.y - tip.y},
+                                        m_balloons->cut(asset(pin.asset).kind, state)});
     };
-    for (const PlacedMarker& balloon : m_frame.balloons) {
-        add(balloon, BalloonState::plain);
+    for (const PlacedMarker& pin : m_frame.pins) {
+        add(pin, PinState::plain);
     }
     if (m_frame.hovered) {
-        add(*m_frame.hovered, BalloonState::hovered);
+        add(*m_frame.hovered, PinState::hovered);
     }
     if (m_frame.selected) {
-        add(*m_frame.selected, BalloonState::selected);
+        add(*m_frame.selected, PinState::selected);
     }
 }
 
-std::vector<TitledBalloon> MapRecords::titledBalloons(std::optional<AssetIndex> untitled) const {
-    std::vector<TitledBalloon> balloons;
+std::vector<LabelledPin> MapRecords::labelledPins(std::optional<AssetIndex> untitled) const {
+    std::vector<LabelledPin> pins;
     const auto add = [&](const PlacedMarker& placed, double scale, bool isRequired) {
-        TitledBalloon balloon{placed.point, scale, {}, placed.asset, isRequired};
+        LabelledPin pin{placed.point, scale, {}, placed.asset, isRequired};
         if ((isRequired || placed.isAlone) && placed.asset != untitled) {
-            balloon.title = QString::fromStdString(asset(placed.asset).name);
+            pin.title = QString::fromStdString(asset(placed.asset).name);
         }
-        balloons.push_back(std::move(balloon));
+        pins.push_back(std::move(pin));
     };
     if (m_frame.selected) {
-        add(*m_frame.selected, selectedBalloonScale, true);
+        add(*m_frame.selected, selectedPinScale, true);
     }
     if (m_frame.hovered) {
-        add(*m_frame.hovered, hoveredBalloonScale, true);
+        add(*m_frame.hovered, hoveredPinScale, true);
     }
-    for (const PlacedMarker& balloon : m_frame.balloons) {
-        add(balloon, 1, false);
+    for (const PlacedMarker& pin : m_frame.pins) {
+        add(pin, 1, false);
     }
-    return balloons;
+    return pins;
 }
 
 std::optional<ScreenPoint> MapRecords::placeOf(AssetIndex record, const Camera& camera) const {

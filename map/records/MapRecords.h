@@ -2,7 +2,7 @@
 // The records as one map shows them: which are drawn, in which colours, as what; and which of them
 // is under the pointer. User-interface thread.
 
-#include "map/labels/MapNames.h"
+#include "map/labels/MapLabels.h"
 #include "map/records/HitTest.h"
 #include "map/records/MarkerFrame.h"
 #include "map/records/RecordSet.h"
@@ -22,7 +22,7 @@ namespace vasker {
 class MapRecords {
   public:
     void setRecords(const RecordSet& records);
-    void setLook(BasemapLook look);
+    void setLook(BasemapTheme look);
     /// An id that no record has, or none that is shown, selects or lifts nothing.
     void setSelection(const QString& id);
     void setHovered(const QString& id);
@@ -35,17 +35,16 @@ class MapRecords {
     [[nodiscard]] std::uint64_t revision() const noexcept { return m_revision; }
     /// The routes and dots for pictures of `scale` logical pixels per map point; null while no
     /// records are set.
-    [[nodiscard]] std::shared_ptr<const TileInk> ink(double scale, double devicePixels) const;
+    [[nodiscard]] std::shared_ptr<const RecordOverlay> ink(double scale, double devicePixels) const;
 
     /// Puts marks and lines into `picture`, which has its density. With Dots::painted, routes and
     /// dots stand in the pictures that were painted with `shown`, which came from ink(); null:
     /// there are none yet.
-    void place(const Camera& camera, Dots dots, const TileInk* shown, MapPicture& picture);
+    void place(const Camera& camera, Dots dots, const RecordOverlay* shown, MapFrame& picture);
 
-    /// The balloons of the last place(), with the titles of those that stand alone or stand out;
+    /// The pins of the last place(), with the titles of those that stand alone or stand out;
     /// the selected comes first. `untitled` needs no title: it is named in another way.
-    [[nodiscard]] std::vector<TitledBalloon>
-    titledBalloons(std::optional<AssetIndex> untitled) const;
+    [[nodiscard]] std::vector<LabelledPin> labelledPins(std::optional<AssetIndex> untitled) const;
     /// The marks of the last place().
     [[nodiscard]] const MarkerFrame& frame() const noexcept { return m_frame; }
 
@@ -70,7 +69,7 @@ class MapRecords {
     void findLifted();
 
     RecordSet m_records;
-    BasemapLook m_look = BasemapLook::light;
+    BasemapTheme m_look = BasemapTheme::light;
     QString m_selection;
     QString m_hovered;
     std::optional<AssetIndex> m_selectedAsset;
@@ -79,10 +78,10 @@ class MapRecords {
 
     std::vector<Rgb> m_tints;      ///< by AssetIndex
     RouteColors m_routeColors;     ///< by AssetIndex; none: not shown
-    std::vector<Marker> m_markers; ///< in order of precedence
+    std::vector<Marker> m_markers; ///< in order of priority
     mutable std::map<DetailLevel, std::shared_ptr<const MarkerLayout>> m_layouts; ///< as needed
     MarkerFrame m_frame;
-    std::shared_ptr<const BalloonPicture> m_balloons; ///< null: to be made
+    std::shared_ptr<const PinAtlas> m_balloons; ///< null: to be made
 };
 
 } // namespace vasker

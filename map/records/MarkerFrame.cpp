@@ -7,14 +7,15 @@ namespace vasker {
 
 namespace {
 
-/// A selected balloon is 47 pixels high with its ring; no mark reaches farther from its point.
+/// A selected pin is 47 pixels high with its ring; no mark reaches farther from its point.
 constexpr double markReach = 48;
 
 /// Projects markers into one view.
 class Placing {
   public:
     explicit Placing(const Camera& camera)
-        : m_camera(camera), m_seen(camera.visibleRect(markReach)), m_shifts(worldShifts(m_seen)) {}
+        : m_camera(camera), m_seen(camera.visibleRect(markReach)),
+          m_shifts(worldCopyOffsets(m_seen)) {}
 
     /// Calls `use` with the marker as it stands in each copy of the world that is seen.
     template <typename Use>
@@ -59,7 +60,7 @@ class Placing {
 } // namespace
 
 MarkerFrame markerFrame(const MarkerLayout& layout,
-                        const LiftedMarkers& lifted,
+                        const HighlightedMarkers& lifted,
                         Dots dots,
                         const Camera& camera) {
     const Placing placing(camera);
@@ -74,13 +75,13 @@ MarkerFrame markerFrame(const MarkerLayout& layout,
         return (lifted.selected && lifted.selected->asset == asset) ||
                (lifted.hovered && lifted.hovered->asset == asset);
     };
-    for (const Marker& marker : layout.balloons) {
+    for (const Marker& marker : layout.pins) {
         if (isLifted(marker.asset)) {
             continue;
         }
         placing.place(marker, [&frame](const PlacedMarker& placed) {
-            const bool hasRoom = frame.balloons.size() < maximumBalloons;
-            (hasRoom ? frame.balloons : frame.dots).push_back(placed);
+            const bool hasRoom = frame.pins.size() < maximumPins;
+            (hasRoom ? frame.pins : frame.dots).push_back(placed);
         });
     }
     if (dots == Dots::drawn) {
@@ -90,9 +91,9 @@ MarkerFrame markerFrame(const MarkerLayout& layout,
         }
     }
     std::reverse(frame.dots.begin(), frame.dots.end());
-    std::stable_sort(frame.balloons.begin(),
-                     frame.balloons.end(),
-                     [](const auto& a, const auto& b) { return a.point.y < b.point.y; });
+    std::stable_sort(frame.pins.begin(), frame.pins.end(), [](const auto& a, const auto& b) {
+        return a.point.y < b.point.y;
+    });
     return frame;
 }
 

@@ -13,14 +13,14 @@ namespace vasker {
 
 namespace {
 
-/// Balloons that keep their distance.
-class BalloonSpacing {
+/// Pins that keep their distance.
+class PinSpacing {
   public:
-    BalloonSpacing(double scale, std::size_t expected)
-        : m_width(balloonSpacingX / scale), m_height(balloonSpacingY / scale),
+    PinSpacing(double scale, std::size_t expected)
+        : m_width(pinSpacingX / scale), m_height(pinSpacingY / scale),
           m_placed(m_width, m_height, expected) {}
 
-    /// Places a balloon at `point` if there is room.
+    /// Places a pin at `point` if there is room.
     bool place(MapPoint point) {
         const bool isCrowded = m_placed.anyNear(point, [&](MapPoint other) {
             return std::abs(point.x - other.x) < m_width && std::abs(point.y - other.y) < m_height;
@@ -140,13 +140,13 @@ std::vector<Marker> markersByPrecedence(const RecordSet& records) {
 
 MarkerLayout markerLayout(const std::vector<Marker>& markers, DetailLevel level) {
     MarkerLayout layout;
-    BalloonSpacing balloons(level.minimumScale(), markers.size());
+    PinSpacing pins(level.minimumScale(), markers.size());
     DotCover dots(level.maximumScale(), markers.size());
     const Neighbours neighbours(markers, level.minimumScale());
     for (const Marker& marker : markers) {
-        if (balloons.place(marker.point)) {
-            layout.balloons.push_back(marker);
-            layout.balloons.back().isAlone = neighbours.isAlone(marker.point);
+        if (pins.place(marker.point)) {
+            layout.pins.push_back(marker);
+            layout.pins.back().isAlone = neighbours.isAlone(marker.point);
         } else if (dots.place(marker.point)) {
             layout.dots.push_back(marker);
         }

@@ -1,8 +1,8 @@
 #pragma once
-// Which records stand as balloons and which as dots. No record is ever without a mark; only a dot
+// Which records stand as pins and which as dots. No record is ever without a mark; only a dot
 // that lies wholly under others, but for slivers of less than half a pixel, is not drawn.
 //
-// Where balloons would crowd, rarer kinds have the room, then the order of the list. The layout
+// Where pins would crowd, rarer kinds have the room, then the order of the list. The layout
 // holds for all scales of one level and for every place of the world, so that nothing changes while
 // the map is dragged or a record is selected.
 
@@ -14,39 +14,38 @@
 
 namespace vasker {
 
-/// No other balloon's point stands nearer than this to a balloon's, in logical pixels: across or
+/// No other pin's point stands nearer than this to a pin's, in logical pixels: across or
 /// down.
-inline constexpr double balloonSpacingX = 34;
-inline constexpr double balloonSpacingY = 36;
+inline constexpr double pinSpacingX = 34;
+inline constexpr double pinSpacingY = 36;
 
 /// The size of a dot in logical pixels: its radius, and the casing around it.
 inline constexpr double dotRadius = 3.25;
 inline constexpr double dotCasing = 1;
 
-/// The most balloons that are drawn at once.
-inline constexpr std::size_t maximumBalloons = 500;
+/// The most pins that are drawn at once.
+inline constexpr std::size_t maximumPins = 500;
 
 /// A record's mark, ready to be projected.
 struct Marker {
     AssetIndex asset;
     MapPoint point;
-    bool isAlone = false; ///< of a balloon in a layout: no other mark stands near it
+    bool isAlone = false; ///< of a pin in a layout: no other mark stands near it
 };
 
-/// A balloon stands alone where no other mark is nearer than this, in logical pixels: its title
+/// A pin stands alone where no other mark is nearer than this, in logical pixels: its title
 /// covers nobody.
 inline constexpr double aloneDistance = 64;
 
 struct MarkerLayout {
-    std::vector<Marker> balloons; ///< in order of precedence
-    std::vector<Marker>
-        dots; ///< in order of precedence, without those that lie wholly under others
+    std::vector<Marker> pins; ///< in order of priority
+    std::vector<Marker> dots; ///< in order of priority, without those that lie wholly under others
 };
 
-/// The records of a set that have no route, in order of precedence.
+/// The records of a set that have no route, in order of priority.
 [[nodiscard]] std::vector<Marker> markersByPrecedence(const RecordSet& records);
 
-/// `markers` in order of precedence.
+/// `markers` in order of priority.
 [[nodiscard]] MarkerLayout markerLayout(const std::vector<Marker>& markers, DetailLevel level);
 
 } // namespace vasker

@@ -105,7 +105,7 @@ void RecordPainter::paintRoutes(QPainter& painter, const MapRect& bounds, double
 
 void RecordPainter::paintDots(QPainter& painter, const MapRect& bounds, double scale) const {
     const double margin = (dotRadius + dotCasing + 1) * m_devicePixels / scale;
-    for (const double shift : worldShifts(bounds.inset(-margin, -margin))) {
+    for (const double shift : worldCopyOffsets(bounds.inset(-margin, -margin))) {
         MapRect around = bounds.inset(-margin, -margin);
         around.x -= shift;
         for (auto dot = m_dots.rbegin(); dot != m_dots.rend(); ++dot) {

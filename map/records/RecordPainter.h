@@ -25,7 +25,7 @@ struct RecordColors {
 
 class RecordPainter {
   public:
-    /// `dots` in order of precedence: the first is drawn on top. `devicePixels` per logical pixel.
+    /// `dots` in order of priority: the first is drawn on top. `devicePixels` per logical pixel.
     RecordPainter(std::shared_ptr<const LoadedRelease> loaded,
                   RouteColors routes,
                   std::vector<Marker> dots,

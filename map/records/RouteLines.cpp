@@ -135,7 +135,7 @@ void drawRouteLines(const RecordGeometry& geometry,
                     const std::function<void(Rgb, std::span<const ScreenPoint>)>& draw) {
     const auto tolerance = static_cast<float>(routeTolerancePixels / view.scale);
     LineCutter cutter(view, draw);
-    for (const double shift : worldShifts(view.seen)) {
+    for (const double shift : worldCopyOffsets(view.seen)) {
         for (const RouteRun& run : runs) {
             const std::optional<Rgb>& color = colors[run.asset];
             MapRect bounds = run.bounds;

@@ -54,7 +54,7 @@ MapNode::MapNode() {
     }
 }
 
-void MapNode::update(const MapPicture& picture, QQuickWindow& window) {
+void MapNode::update(const MapFrame& picture, QQuickWindow& window) {
     const MapColors& colors = mapColors(picture.look);
     const QColor blue = colorValue(PaletteColor::blue, colors.records);
     const float density = picture.devicePixels;
@@ -75,7 +75,7 @@ void MapNode::update(const MapPicture& picture, QQuickWindow& window) {
 
     m_dots.update(picture.dots, colors.casing, density);
     m_names.update(picture.names, density, window);
-    m_balloons.update(picture.balloons, density, window);
+    m_balloons.update(picture.pins, density, window);
 }
 
 } // namespace vasker

@@ -1,8 +1,8 @@
 #pragma once
 // The whole map as scene-graph nodes, in drawing order: ground, tiles, routes, dots, names,
-// balloons.
+// pins.
 
-#include "map/records/BalloonPicture.h"
+#include "map/records/PinAtlas.h"
 #include "map/scene/DotLayer.h"
 #include "map/scene/GroundLayer.h"
 #include "map/scene/RouteLayer.h"
@@ -25,9 +25,9 @@ struct SpriteSheet {
 };
 
 /// Everything that one frame shows.
-struct MapPicture {
+struct MapFrame {
     QSizeF size;
-    BasemapLook look = BasemapLook::light;
+    BasemapTheme look = BasemapTheme::light;
     float devicePixels = 1; ///< per logical pixel
     std::vector<TileQuad> tiles;
     RouteStrip routes;
@@ -35,7 +35,7 @@ struct MapPicture {
     RouteStrip selectedRoute;
     std::vector<Dot> dots;
     SpriteSheet names;
-    SpriteSheet balloons;
+    SpriteSheet pins;
 };
 
 class MapNode final : public QSGNode {
@@ -43,7 +43,7 @@ class MapNode final : public QSGNode {
     MapNode();
 
     /// Render thread, while the item's thread waits. Makes textures for `window`.
-    void update(const MapPicture& picture, QQuickWindow& window);
+    void update(const MapFrame& picture, QQuickWindow& window);
 
   private:
     /// Sprites that are there once there is a picture to cut them from.

@@ -1,5 +1,5 @@
 #pragma once
-// Upright pictures such as balloons and names: textured quads, cut from one picture and set on
+// Upright pictures such as pins and names: textured quads, cut from one picture and set on
 // whole device pixels.
 
 #include "map/geometry/Camera.h"

@@ -1,7 +1,7 @@
 #pragma once
 // The pictures of the ground, each on a quadrilateral in perspective.
 
-#include "map/basemap/TileStore.h"
+#include "map/basemap/TilePyramid.h"
 
 #include <QSGMaterial>
 #include <QSGNode>

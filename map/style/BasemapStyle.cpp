@@ -161,17 +161,17 @@ double zoomOnScreen(const TileRequest& request) noexcept {
                      tilePixels);
 }
 
-const BasemapColors& basemapColors(BasemapLook look) {
+const BasemapColors& basemapColors(BasemapTheme look) {
     static const BasemapColors light = lightColors();
     static const BasemapColors dark = darkColors();
     static const BasemapColors hybrid = hybridColors();
     switch (look) {
-    case BasemapLook::light:
+    case BasemapTheme::light:
         return light;
-    case BasemapLook::hybrid:
+    case BasemapTheme::hybrid:
         return hybrid;
-    case BasemapLook::dark:
-    case BasemapLook::satellite:
+    case BasemapTheme::dark:
+    case BasemapTheme::satellite:
         break;
     }
     return dark;

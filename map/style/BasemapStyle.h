@@ -45,7 +45,7 @@ struct BasemapColors {
 
 /// The dress of a look; of hybrid what is drawn over imagery, of satellite (nothing is drawn over
 /// it) the dark one. Roles that a look does not draw are transparent.
-[[nodiscard]] const BasemapColors& basemapColors(BasemapLook look);
+[[nodiscard]] const BasemapColors& basemapColors(BasemapTheme look);
 
 /// The role of a colour.
 using BasemapRole = QColor BasemapColors::*;

@@ -10,7 +10,7 @@ const QColor darkWater(0x15, 0x1E, 0x27);
 
 } // namespace
 
-const MapColors& mapColors(BasemapLook look) noexcept {
+const MapColors& mapColors(BasemapTheme look) noexcept {
     static const MapColors light{.records = ColorScheme::light,
                                  .beyond = QColor(0xCB, 0xDF, 0xEA),
                                  .casing = white,
@@ -32,12 +32,12 @@ const MapColors& mapColors(BasemapLook look) noexcept {
                                    .outerLine = QColor(0xFF, 0xFF, 0xFF, 230),
                                    .glyph = night};
     switch (look) {
-    case BasemapLook::light:
+    case BasemapTheme::light:
         return light;
-    case BasemapLook::dark:
+    case BasemapTheme::dark:
         return dark;
-    case BasemapLook::satellite:
-    case BasemapLook::hybrid:
+    case BasemapTheme::satellite:
+    case BasemapTheme::hybrid:
         break;
     }
     return imagery;

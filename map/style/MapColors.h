@@ -11,12 +11,12 @@ namespace vasker {
 struct MapColors {
     ColorScheme records; ///< which values the records' own colours take
     QColor beyond;       ///< of the ground where no tile is, beyond the poles' limit
-    QColor casing;       ///< around dots and balloons
+    QColor casing;       ///< around dots and pins
     QColor routeCasing;  ///< around lines: translucent
-    QColor outerLine; ///< around balloons and the selected route on photographs; else transparent
-    QColor glyph;     ///< on a balloon
+    QColor outerLine;    ///< around pins and the selected route on photographs; else transparent
+    QColor glyph;        ///< on a pin
 };
 
-[[nodiscard]] const MapColors& mapColors(BasemapLook look) noexcept;
+[[nodiscard]] const MapColors& mapColors(BasemapTheme look) noexcept;
 
 } // namespace vasker

@@ -1,6 +1,6 @@
 #include "map/style/BasemapStyle.h"
-#include "map/style/GroundPainter.h"
 #include "map/style/TilePicture.h"
+#include "map/style/VectorTilePainter.h"
 
 #include <QPainter>
 
@@ -57,12 +57,12 @@ TileRequest sane(TileRequest request) {
 
 } // namespace
 
-QImage paintTile(const TileGround& ground, const TileRequest& request) {
+QImage paintTile(const TileData& ground, const TileRequest& request) {
     const TileRequest sound = sane(request);
     const bool asksForImagery =
-        sound.look == BasemapLook::satellite || sound.look == BasemapLook::hybrid;
+        sound.look == BasemapTheme::satellite || sound.look == BasemapTheme::hybrid;
     const bool isDrawn = !asksForImagery || !ground.isPhotographed(sound.key);
-    const BasemapLook dress = asksForImagery ? BasemapLook::dark : sound.look;
+    const BasemapTheme dress = asksForImagery ? BasemapTheme::dark : sound.look;
 
     const PixelRect pixels = sound.pixels();
     QImage picture(pixels.width, pixels.height, QImage::Format_RGB32);
@@ -70,15 +70,15 @@ QImage paintTile(const TileGround& ground, const TileRequest& request) {
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
     if (isDrawn) {
-        paintGround(painter, ground, sound, dress);
+        paintVectorTile(painter, ground, sound, dress);
     }
     if (asksForImagery && !ground.imagery.empty()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         for (const ImageryPiece& piece : ground.imagery) {
             paintImagery(painter, piece, sound);
         }
-        if (sound.look == BasemapLook::hybrid) {
-            paintGround(painter, ground, sound, BasemapLook::hybrid);
+        if (sound.look == BasemapTheme::hybrid) {
+            paintVectorTile(painter, ground, sound, BasemapTheme::hybrid);
         }
     }
     if (sound.ink) {

@@ -25,7 +25,7 @@ PixelRect TileRequest::pixels() const noexcept {
     return {west, north, static_cast<int>(east - west), static_cast<int>(south - north)};
 }
 
-bool TileGround::isPhotographed(TileKey key) const noexcept {
+bool TileData::isPhotographed(TileKey key) const noexcept {
     const auto covers = [key](const ImageryPiece& piece) { return piece.key.zoom <= key.zoom; };
     const auto isQuarter = [key](const ImageryPiece& piece) {
         return piece.key.zoom == key.zoom + 1;

@@ -17,15 +17,15 @@ class QPainter;
 namespace vasker {
 
 /// What the ground looks like.
-enum class BasemapLook : std::uint8_t { light, dark, satellite, hybrid };
+enum class BasemapTheme : std::uint8_t { light, dark, satellite, hybrid };
 
 /// Which names a map shows where a place has several.
 enum class MapLanguage : std::uint8_t { english, french };
 
 /// What is drawn on the ground, into the same picture: the records, where the map bakes them in.
-class TileInk {
+class RecordOverlay {
   public:
-    virtual ~TileInk() = default;
+    virtual ~RecordOverlay() = default;
     /// Paints what lies in and around `bounds` (map points), which is all that the picture covers.
     /// The painter's unit is the device pixel, its origin the corner of `bounds`. Any thread,
     /// several at once.
@@ -46,9 +46,9 @@ struct TileRequest {
     TileKey key{};
     double devicePixelsPerMapPoint = 1; ///< exactly as the picture will be seen at rest
     double devicePixelsPerPixel = 1;    ///< the screen's density
-    BasemapLook look = BasemapLook::light;
+    BasemapTheme look = BasemapTheme::light;
     MapLanguage language = MapLanguage::english;
-    std::shared_ptr<const TileInk> ink; ///< null: nothing
+    std::shared_ptr<const RecordOverlay> ink; ///< null: nothing
 
     /// What the picture covers. Pictures of one scale stand on one grid of pixels, so that they
     /// meet without a seam and need no smoothing. A pixel that two tiles touch is the eastern's and
@@ -64,7 +64,7 @@ struct ImageryPiece {
 };
 
 /// What is known of the ground of a tile: its own data, or an ancestor's, of which a part is shown.
-struct TileGround {
+struct TileData {
     std::shared_ptr<const VectorTile> vector; ///< null: none
     TileKey vectorKey{};                      ///< the tile itself or an ancestor
     std::vector<ImageryPiece> imagery;        ///< drawn in this order; ancestors and descendants
@@ -75,21 +75,21 @@ struct TileGround {
 };
 
 /// A name to be set on the map.
-struct PlaceName {
+struct PlaceLabel {
     enum class Kind : std::uint8_t { country, region, capital, city, town, village, water };
     QString text;
     MapPoint point;
     Kind kind;
-    double precedence; ///< the smaller goes first where names compete
-    friend bool operator==(const PlaceName&, const PlaceName&) = default;
+    double priority; ///< the smaller goes first where names compete
+    friend bool operator==(const PlaceLabel&, const PlaceLabel&) = default;
 };
 
 /// The picture of a tile, opaque, of the size of request.pixels(). Where the look asks for imagery
 /// and there is none, also in a part of the tile, the drawn map in its dark dress.
-[[nodiscard]] QImage paintTile(const TileGround& ground, const TileRequest& request);
+[[nodiscard]] QImage paintTile(const TileData& ground, const TileRequest& request);
 
 /// The names whose points lie in the tile, in the request's language, those that its zoom shows.
-[[nodiscard]] std::vector<PlaceName> placeNames(const TileGround& ground,
-                                                const TileRequest& request);
+[[nodiscard]] std::vector<PlaceLabel> placeLabels(const TileData& ground,
+                                                  const TileRequest& request);
 
 } // namespace vasker

@@ -13,7 +13,7 @@ void TileFetch::LaterDeleted::operator()(QNetworkReply* reply) const {
 TileFetch::TileFetch(QNetworkAccessManager& network,
                      const QNetworkRequest& request,
                      const Limits& limits,
-                     std::function<void(const TileAnswer&)> finished)
+                     std::function<void(const TileResponse&)> finished)
     : m_reply(network.get(request)), m_mostBytes(limits.bytes), m_finished(std::move(finished)) {
     QNetworkReply* const reply = m_reply.get();
     // Where the network's thread waits, since nothing is read before the end; it may wait a little
@@ -58,7 +58,7 @@ void TileFetch::finish(bool isWhole, bool isTooLong) {
     }
     m_time.stop();
     m_silence.stop();
-    TileAnswer answer;
+    TileResponse answer;
     answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     answer.isWhole = isWhole;
     answer.isTooLong = isTooLong || m_reply->bytesAvailable() > m_mostBytes;

@@ -1,7 +1,7 @@
 #pragma once
 // One request for a tile, bounded in size and time. Gives up, without a word, when it is destroyed.
 
-#include "map/tileservice/TileAnswer.h"
+#include "map/tileservice/TileResponse.h"
 
 #include <QNetworkReply>
 #include <QTimer>
@@ -26,7 +26,7 @@ class TileFetch {
     TileFetch(QNetworkAccessManager& network,
               const QNetworkRequest& request,
               const Limits& limits,
-              std::function<void(const TileAnswer&)> finished);
+              std::function<void(const TileResponse&)> finished);
     ~TileFetch();
     TileFetch(const TileFetch&) = delete;
     TileFetch& operator=(const TileFetch&) = delete;
@@ -43,7 +43,7 @@ class TileFetch {
     QTimer m_time;
     QTimer m_silence;
     qint64 m_mostBytes;
-    std::function<void(const TileAnswer&)> m_finished;
+    std::function<void(const TileResponse&)> m_finished;
 };
 
 } // namespace vasker

@@ -3,9 +3,9 @@
 #include "map/tileservice/MissingTiles.h"
 #include "map/tileservice/NetworkReturn.h"
 #include "map/tileservice/ServiceRequest.h"
-#include "map/tileservice/TileAnswer.h"
 #include "map/tileservice/TileCache.h"
 #include "map/tileservice/TileFetch.h"
+#include "map/tileservice/TileResponse.h"
 #include "map/tileservice/TileServiceHosts.h"
 
 #include <QNetworkAccessManager>
@@ -45,7 +45,7 @@ struct Wish {
     int refusals = 0;
     Clock::time_point started;
     std::unique_ptr<TileFetch> fetch;
-    TileAnswer answer;
+    TileResponse answer;
 };
 
 } // namespace
@@ -208,13 +208,13 @@ bool TileService::Implementation::start() {
         if (wish.state != Wish::State::waiting) {
             continue;
         }
-        const Clock::time_point pausedUntil = m_hosts.pausedUntil(wish.address);
-        if (pausedUntil > now) {
+        const Clock::time_point delayedUntil = m_hosts.delayedUntil(wish.address);
+        if (delayedUntil > now) {
             if (wish.stale) {
                 arrive(ServiceTile(tile), wish, wish.stale->bytes);
                 return true;
             }
-            wakeUp = std::min(wakeUp, pausedUntil);
+            wakeUp = std::min(wakeUp, delayedUntil);
         } else if ((next == nullptr || wish.tries < m_wishes.at(*next).tries) &&
                    running(&wish.address) < m_hosts.mostAtOnce(wish.address)) {
             next = &tile;
@@ -239,11 +239,11 @@ void TileService::Implementation::start(const ServiceTile& tile, Wish& wish) {
     wish.state = Wish::State::running;
     wish.started = Clock::now();
     ++wish.tries;
-    const TileFetch::Limits limits{.bytes = m_options.answerBytes,
-                                   .time = m_options.answerTime,
+    const TileFetch::Limits limits{.bytes = m_options.responseBytes,
+                                   .time = m_options.responseTime,
                                    .silentTime = m_options.silentTime};
     wish.fetch = std::make_unique<TileFetch>(
-        *m_network, request, limits, [this, &wish](const TileAnswer& answer) {
+        *m_network, request, limits, [this, &wish](const TileResponse& answer) {
             wish.answer = answer;
             wish.state = Wish::State::answered;
             schedule();
@@ -252,7 +252,7 @@ void TileService::Implementation::start(const ServiceTile& tile, Wish& wish) {
 
 void TileService::Implementation::settle(const ServiceTile& tile, Wish& wish) {
     wish.fetch.reset();
-    const TileAnswer answer = std::exchange(wish.answer, {});
+    const TileResponse answer = std::exchange(wish.answer, {});
     const TileVerdict found = verdict(tile.content, answer);
     const QDateTime now = QDateTime::currentDateTimeUtc();
     const QString address = wish.address.toString();

@@ -5,7 +5,7 @@
 // as signals, later.
 
 #include "map/geometry/TileKey.h"
-#include "map/tileservice/RetryPause.h"
+#include "map/tileservice/RetryDelay.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -67,9 +67,9 @@ class TileService : public QObject {
         QString userAgent;
         qint64 cacheBytes = 200'000'000;
         PlainLoopback plainLoopback = PlainLoopback::refused;
-        qint64 answerBytes = 4'000'000;               ///< longer answers are no tiles
-        std::chrono::milliseconds answerTime{20'000}; ///< for one answer as a whole
-        std::chrono::milliseconds silentTime{10'000}; ///< in which nothing of it comes
+        qint64 responseBytes = 4'000'000;               ///< longer answers are no tiles
+        std::chrono::milliseconds responseTime{20'000}; ///< for one answer as a whole
+        std::chrono::milliseconds silentTime{10'000};   ///< in which nothing of it comes
         RetryRule retry;
     };
     /// Of `sources` those that are usable.

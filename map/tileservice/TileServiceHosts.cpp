@@ -19,9 +19,9 @@ int TileServiceHosts::mostAtOnce(const QUrl& address) const {
     return host(address) != nullptr ? 1 : mostAtOnceOfAHost;
 }
 
-TileServiceHosts::Clock::time_point TileServiceHosts::pausedUntil(const QUrl& address) const {
+TileServiceHosts::Clock::time_point TileServiceHosts::delayedUntil(const QUrl& address) const {
     const Host* const known = host(address);
-    return known != nullptr ? known->pausedUntil : Clock::time_point::min();
+    return known != nullptr ? known->delayedUntil : Clock::time_point::min();
 }
 
 void TileServiceHosts::succeeded(const QUrl& address) {
@@ -52,7 +52,7 @@ void TileServiceHosts::fail(const QUrl& address,
         host.failedAt = now;
         host.isUnreachable = isUnreachable;
     }
-    host.pausedUntil = std::max(host.pausedUntil, now + retryPause(host.failures, asked, m_rule));
+    host.delayedUntil = std::max(host.delayedUntil, now + retryDelay(host.failures, asked, m_rule));
 }
 
 void TileServiceHosts::networkReturned() {

@@ -2,7 +2,7 @@
 // Which services are left alone at the moment, because they failed or asked for it. A service is a
 // host and port. Pure: the time is an argument.
 
-#include "map/tileservice/RetryPause.h"
+#include "map/tileservice/RetryDelay.h"
 
 #include <QString>
 #include <QUrl>
@@ -22,7 +22,7 @@ class TileServiceHosts {
     /// How many requests may run at once for the host of `address`: after a failure one, to try.
     [[nodiscard]] int mostAtOnce(const QUrl& address) const;
     /// Until when the host of `address` is left alone; past where it is not.
-    [[nodiscard]] Clock::time_point pausedUntil(const QUrl& address) const;
+    [[nodiscard]] Clock::time_point delayedUntil(const QUrl& address) const;
 
     void succeeded(const QUrl& address);
     /// A request that was started at `started` failed at `now`. Requests that ran together and fail
@@ -41,7 +41,7 @@ class TileServiceHosts {
         int failures = 0;
         bool isUnreachable = false;
         Clock::time_point failedAt;
-        Clock::time_point pausedUntil;
+        Clock::time_point delayedUntil;
     };
     [[nodiscard]] const Host* host(const QUrl& address) const;
     void fail(const QUrl& address,

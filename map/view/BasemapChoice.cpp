@@ -2,14 +2,14 @@
 
 namespace vasker {
 
-BasemapLook basemapLook(const QString& basemap, bool dark) noexcept {
+BasemapTheme basemapTheme(const QString& basemap, bool dark) noexcept {
     if (basemap == QLatin1String("satellite")) {
-        return BasemapLook::satellite;
+        return BasemapTheme::satellite;
     }
     if (basemap == QLatin1String("hybrid")) {
-        return BasemapLook::hybrid;
+        return BasemapTheme::hybrid;
     }
-    return dark ? BasemapLook::dark : BasemapLook::light;
+    return dark ? BasemapTheme::dark : BasemapTheme::light;
 }
 
 } // namespace vasker

@@ -9,6 +9,6 @@ namespace vasker {
 
 /// "satellite" and "hybrid", compared exactly, show photographs; every other value the drawn map,
 /// in the appearance of the desktop.
-[[nodiscard]] BasemapLook basemapLook(const QString& basemap, bool dark) noexcept;
+[[nodiscard]] BasemapTheme basemapTheme(const QString& basemap, bool dark) noexcept;
 
 } // namespace vasker

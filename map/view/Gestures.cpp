@@ -10,10 +10,10 @@ namespace {
 /// A notch of a wheel is 120 eighths of a degree; two notches double the scale.
 constexpr double angleDeltaPerDoubling = 240;
 constexpr double touchpadPixelsPerDoubling = 150;
-constexpr double turnDegreesPerPixel = 0.5;
+constexpr double rotateDegreesPerPixel = 0.5;
 constexpr double tiltDegreesPerPixel = 0.4;
 /// Fingers that spread are never quite straight.
-constexpr double pinchTurnThreshold = 8;
+constexpr double pinchRotateThreshold = 8;
 constexpr double settlingDegrees = 4;
 
 double distance(ScreenPoint a, ScreenPoint b) {
@@ -60,13 +60,14 @@ Camera Drag::moved(const Camera& camera, ScreenPoint point) noexcept {
     return dragged;
 }
 
-Camera TurnDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
+Camera RotateDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
     if (!m_turning && distance(m_pressed, point) < dragThreshold) {
         return camera;
     }
     m_turning = true;
-    const Camera turned = camera.turned((point.x - m_last.x) * turnDegreesPerPixel, camera.focus())
-                              .tilted((m_last.y - point.y) * tiltDegreesPerPixel);
+    const Camera turned =
+        camera.turned((point.x - m_last.x) * rotateDegreesPerPixel, camera.focus())
+            .tilted((m_last.y - point.y) * tiltDegreesPerPixel);
     m_last = point;
     return turned;
 }
@@ -76,7 +77,7 @@ double Pinch::turnFor(double degrees) noexcept {
     if (m_turning) {
         return -degrees;
     }
-    const double beyond = std::abs(m_twist) - pinchTurnThreshold;
+    const double beyond = std::abs(m_twist) - pinchRotateThreshold;
     m_turning = beyond >= 0;
     return m_turning ? -std::copysign(beyond, m_twist) : 0;
 }

@@ -36,9 +36,9 @@ class Drag {
 };
 
 /// The second way to drag: across turns the camera, upwards leans it back, about its centre.
-class TurnDrag {
+class RotateDrag {
   public:
-    explicit TurnDrag(ScreenPoint pressed) noexcept : m_pressed(pressed), m_last(pressed) {}
+    explicit RotateDrag(ScreenPoint pressed) noexcept : m_pressed(pressed), m_last(pressed) {}
 
     [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint point) noexcept;
     [[nodiscard]] bool isClick() const noexcept { return !m_turning; }

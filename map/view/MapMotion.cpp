@@ -47,8 +47,8 @@ void MapMotion::begin(Motion motion) {
     start();
 }
 
-void MapMotion::glide(const Camera& now, GroundVelocity velocity) {
-    const Glide motion(now, velocity);
+void MapMotion::glide(const Camera& now, MapVelocity velocity) {
+    const Inertia motion(now, velocity);
     if (m_reduced || motion.isFinished(0)) {
         cancel();
     } else {
@@ -65,10 +65,10 @@ void MapMotion::zoom(const Camera& now, double factor, ScreenPoint anchor, doubl
 }
 
 void MapMotion::level(const Camera& now, double bearing, double pitch) {
-    begin(Leveling(now, bearing, pitch));
+    begin(NorthReset(now, bearing, pitch));
 }
 
-void MapMotion::press(const Camera& now, SteeringAxis axis, int direction, bool isRepeated) {
+void MapMotion::press(const Camera& now, NavigationAxis axis, int direction, bool isRepeated) {
     if (m_reduced) {
         Q_EMIT advanced(stepped(now, axis, direction));
         return;
@@ -76,21 +76,21 @@ void MapMotion::press(const Camera& now, SteeringAxis axis, int direction, bool 
     if (isRepeated) {
         return; // it is steered already, or something else has taken over
     }
-    if (!std::holds_alternative<Steering>(m_motion)) {
-        begin(Steering(now));
+    if (!std::holds_alternative<KeyNavigation>(m_motion)) {
+        begin(KeyNavigation(now));
     }
-    std::get<Steering>(m_motion).press(axis, direction, seconds());
+    std::get<KeyNavigation>(m_motion).press(axis, direction, seconds());
 }
 
-void MapMotion::release(SteeringAxis axis, int direction) {
-    if (auto* steering = std::get_if<Steering>(&m_motion)) {
-        steering->release(axis, direction, seconds());
+void MapMotion::release(NavigationAxis axis, int direction) {
+    if (auto* navigation = std::get_if<KeyNavigation>(&m_motion)) {
+        navigation->release(axis, direction, seconds());
     }
 }
 
 void MapMotion::releaseAll() {
-    if (auto* steering = std::get_if<Steering>(&m_motion)) {
-        steering->releaseAll(seconds());
+    if (auto* navigation = std::get_if<KeyNavigation>(&m_motion)) {
+        navigation->releaseAll(seconds());
     }
 }
 

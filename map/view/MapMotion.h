@@ -2,7 +2,7 @@
 // The motion that the map is in, advanced once a frame. While none runs nothing asks for frames.
 
 #include "map/geometry/CameraMotion.h"
-#include "map/geometry/Steering.h"
+#include "map/geometry/KeyNavigation.h"
 
 #include <QAbstractAnimation>
 
@@ -19,15 +19,15 @@ class MapMotion : public QAbstractAnimation {
     [[nodiscard]] bool isReduced() const noexcept { return m_reduced; }
 
     /// Each takes the place of the motion before; `now` is where the camera is.
-    void glide(const Camera& now, GroundVelocity velocity);
+    void glide(const Camera& now, MapVelocity velocity);
     /// A zoom that still runs is continued: factors add up.
     void zoom(const Camera& now, double factor, ScreenPoint anchor, double duration);
     /// In degrees.
     void level(const Camera& now, double bearing, double pitch);
 
     /// A key went down: again and again for one that is held, then `isRepeated`.
-    void press(const Camera& now, SteeringAxis axis, int direction, bool isRepeated);
-    void release(SteeringAxis axis, int direction);
+    void press(const Camera& now, NavigationAxis axis, int direction, bool isRepeated);
+    void release(NavigationAxis axis, int direction);
     void releaseAll();
     /// The camera stays where it is.
     void cancel();
@@ -41,7 +41,7 @@ class MapMotion : public QAbstractAnimation {
     void updateCurrentTime(int milliseconds) override;
 
   private:
-    using Motion = std::variant<std::monostate, Glide, SmoothZoom, Leveling, Steering>;
+    using Motion = std::variant<std::monostate, Inertia, SmoothZoom, NorthReset, KeyNavigation>;
 
     void begin(Motion motion);
     [[nodiscard]] double seconds() const { return currentTime() / 1000.0; }

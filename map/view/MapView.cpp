@@ -137,7 +137,7 @@ void MapView::setDark(bool dark) {
 }
 
 void MapView::refreshLook() {
-    const BasemapLook look = basemapLook(m_basemap, m_dark);
+    const BasemapTheme look = basemapTheme(m_basemap, m_dark);
     if (look != m_picture.look) {
         m_picture.look = look;
         m_mapRecords.setLook(look);
@@ -147,7 +147,7 @@ void MapView::refreshLook() {
 }
 
 bool MapView::showsImagery() const noexcept {
-    return m_picture.look == BasemapLook::satellite || m_picture.look == BasemapLook::hybrid;
+    return m_picture.look == BasemapTheme::satellite || m_picture.look == BasemapTheme::hybrid;
 }
 
 QObject* MapView::tiles() const noexcept {
@@ -162,8 +162,8 @@ void MapView::setTiles(QObject* tiles) {
     m_store.reset();
     m_tiles = library;
     if (library != nullptr) {
-        m_store = std::make_unique<TileStore>(*library);
-        connect(m_store.get(), &TileStore::changed, this, &MapView::redraw);
+        m_store = std::make_unique<TilePyramid>(*library);
+        connect(m_store.get(), &TilePyramid::changed, this, &MapView::redraw);
     }
     redraw();
     Q_EMIT tilesChanged();
@@ -222,19 +222,19 @@ void MapView::updatePolish() {
     m_picture.size = size();
     m_picture.devicePixels = static_cast<float>(window()->effectiveDevicePixelRatio());
     m_picture.tiles.clear();
-    std::shared_ptr<const TileInk> shownInk;
+    std::shared_ptr<const RecordOverlay> shownInk;
     if (m_store) {
         lookAtGround(camera);
         shownInk = m_store->shownInk();
     }
     // Without pictures of the ground nothing can be painted into them.
     m_mapRecords.place(camera, m_store ? m_dots : Dots::drawn, shownInk.get(), m_picture);
-    m_names.place(m_store ? m_store->names() : std::vector<PlaceName>(),
-                  m_mapRecords.titledBalloons(m_pointed),
+    m_names.place(m_store ? m_store->names() : std::vector<PlaceLabel>(),
+                  m_mapRecords.labelledPins(m_pointed),
                   camera,
                   m_textScale,
                   m_picture,
-                  m_rest.isActive() ? MapNames::Pace::moving : MapNames::Pace::resting);
+                  m_rest.isActive() ? MapLabels::Pace::moving : MapLabels::Pace::resting);
     if (m_names.isUnfinished()) {
         redrawSoon();
     }
@@ -243,14 +243,14 @@ void MapView::updatePolish() {
 
 void MapView::lookAtGround(const Camera& camera) {
     const auto density = static_cast<double>(m_picture.devicePixels);
-    GroundView view{.camera = camera,
-                    .devicePixelsPerPixel = density,
-                    .look = m_picture.look,
-                    .language = mapLanguage(),
-                    .isResting = !m_rest.isActive(),
-                    .fades = !reducedMotion(),
-                    .inkRevision = 0,
-                    .ink = {}};
+    BasemapView view{.camera = camera,
+                     .devicePixelsPerPixel = density,
+                     .look = m_picture.look,
+                     .language = mapLanguage(),
+                     .isResting = !m_rest.isActive(),
+                     .fades = !reducedMotion(),
+                     .inkRevision = 0,
+                     .ink = {}};
     if (m_dots == Dots::painted) {
         view.inkRevision = m_mapRecords.revision();
         view.ink = [this, density](double scale) { return m_mapRecords.ink(scale, density); };
@@ -272,7 +272,7 @@ void MapView::publishAttribution() {
     QVariantList attribution;
     bool lacksImagery = false;
     if (m_store) {
-        for (const GroundCredit& credit : m_store->credits()) {
+        for (const TileAttribution& credit : m_store->credits()) {
             attribution.append(QVariantMap{{QStringLiteral("text"), credit.text},
                                            {QStringLiteral("address"), credit.address}});
         }

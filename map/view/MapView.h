@@ -2,7 +2,7 @@
 // The map item: wishes in (records, selection, camera, appearance), scene-graph nodes out. It never
 // writes what others own: what the user wants leaves as a signal.
 
-#include "map/basemap/TileStore.h"
+#include "map/basemap/TilePyramid.h"
 #include "map/records/MapRecords.h"
 #include "map/records/RecordSet.h"
 #include "map/scene/MapNode.h"
@@ -195,12 +195,12 @@ class MapView : public QQuickItem {
     QPointF m_pointedPlace;
 
     MapRecords m_mapRecords;
-    MapNames m_names;
+    MapLabels m_names;
     TileLibrary* m_tiles = nullptr;
-    std::unique_ptr<TileStore> m_store; ///< null without m_tiles
+    std::unique_ptr<TilePyramid> m_store; ///< null without m_tiles
     Dots m_dots = Dots::painted;
     bool m_choosesDots = true; ///< when the renderer is known
-    MapPicture m_picture;
+    MapFrame m_picture;
     QVariantList m_attribution;
     bool m_lacksImagery = false;
     QTimer m_rest;         ///< runs while the camera is being moved
@@ -212,7 +212,7 @@ class MapView : public QQuickItem {
     std::optional<CameraPose> m_movedTo; ///< what moved() said last
     std::optional<Drag> m_drag;
     DragTrail m_trail; ///< of m_drag
-    std::optional<TurnDrag> m_turn;
+    std::optional<RotateDrag> m_turn;
     std::optional<Pinch> m_pinch;
     qsizetype m_fingers = 0;
     std::optional<Tap> m_lastTap;

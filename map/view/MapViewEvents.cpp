@@ -1,6 +1,6 @@
 // The events of MapView: pointer, wheel and fingers become picks and camera moves.
 
-#include "map/records/BalloonShape.h"
+#include "map/records/PinShape.h"
 #include "map/view/MapView.h"
 #include "presentation/CategoryText.h"
 
@@ -258,7 +258,7 @@ void MapView::setPointed(std::optional<AssetIndex> record, ScreenPoint pointer) 
     setCursor(record ? Qt::PointingHandCursor : Qt::ArrowCursor);
     m_pointed = record;
     const auto mark = record ? m_mapRecords.placeOf(*record, resolvedCamera()) : std::nullopt;
-    m_pointedPlace = mark ? QPointF(mark->x, mark->y - balloonTipY * hoveredBalloonScale)
+    m_pointedPlace = mark ? QPointF(mark->x, mark->y - pinTipY * hoveredPinScale)
                           : QPointF(pointer.x, pointer.y);
     Q_EMIT pointedChanged();
 }

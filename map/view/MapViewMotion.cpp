@@ -13,33 +13,33 @@ namespace {
 constexpr double buttonZoomSeconds = 0.3;
 
 struct KeyWish {
-    SteeringAxis axis;
+    NavigationAxis axis;
     int direction;
 };
 
 /// What a key asks for by itself and with Shift.
-struct SteeringKey {
+struct NavigationKey {
     int key;
     KeyWish plain;
     KeyWish shifted;
 };
 
-constexpr KeyWish nearer{SteeringAxis::nearer, 1};
-constexpr KeyWish farther{SteeringAxis::nearer, -1};
+constexpr KeyWish nearer{NavigationAxis::nearer, 1};
+constexpr KeyWish farther{NavigationAxis::nearer, -1};
 // Plus and minus stand with Shift on some keyboards and without it on others.
-constexpr std::array steeringKeys{
-    SteeringKey{Qt::Key_Left, {SteeringAxis::right, -1}, {SteeringAxis::clockwise, -1}},
-    SteeringKey{Qt::Key_Right, {SteeringAxis::right, 1}, {SteeringAxis::clockwise, 1}},
-    SteeringKey{Qt::Key_Up, {SteeringAxis::down, -1}, {SteeringAxis::back, 1}},
-    SteeringKey{Qt::Key_Down, {SteeringAxis::down, 1}, {SteeringAxis::back, -1}},
-    SteeringKey{Qt::Key_Plus, nearer, nearer},
-    SteeringKey{Qt::Key_Equal, nearer, nearer},
-    SteeringKey{Qt::Key_Minus, farther, farther},
-    SteeringKey{Qt::Key_Underscore, farther, farther},
+constexpr std::array navigationKeys{
+    NavigationKey{Qt::Key_Left, {NavigationAxis::right, -1}, {NavigationAxis::clockwise, -1}},
+    NavigationKey{Qt::Key_Right, {NavigationAxis::right, 1}, {NavigationAxis::clockwise, 1}},
+    NavigationKey{Qt::Key_Up, {NavigationAxis::down, -1}, {NavigationAxis::back, 1}},
+    NavigationKey{Qt::Key_Down, {NavigationAxis::down, 1}, {NavigationAxis::back, -1}},
+    NavigationKey{Qt::Key_Plus, nearer, nearer},
+    NavigationKey{Qt::Key_Equal, nearer, nearer},
+    NavigationKey{Qt::Key_Minus, farther, farther},
+    NavigationKey{Qt::Key_Underscore, farther, farther},
 };
 
-const SteeringKey* steeringKey(int key) {
-    for (const SteeringKey& each : steeringKeys) {
+const NavigationKey* navigationKey(int key) {
+    for (const NavigationKey& each : navigationKeys) {
         if (each.key == key) {
             return &each;
         }
@@ -114,7 +114,7 @@ void MapView::keyPressEvent(QKeyEvent* event) {
         event->ignore();
         return;
     }
-    if (const SteeringKey* key = steeringKey(event->key())) {
+    if (const NavigationKey* key = navigationKey(event->key())) {
         const KeyWish wish = modifiers != 0 ? key->shifted : key->plain;
         m_motion.press(resolvedCamera(), wish.axis, wish.direction, event->isAutoRepeat());
         return;
@@ -148,7 +148,7 @@ void MapView::keyPressEvent(QKeyEvent* event) {
 }
 
 void MapView::keyReleaseEvent(QKeyEvent* event) {
-    const SteeringKey* key = steeringKey(event->key());
+    const NavigationKey* key = navigationKey(event->key());
     if (key == nullptr) {
         event->ignore();
         return;

@@ -9,7 +9,7 @@
 
 namespace vasker {
 
-class GatedInk final : public TileInk {
+class GatedInk final : public RecordOverlay {
   public:
     void paint(QPainter& /*painter*/, const MapRect& bounds, double /*scale*/) const override {
         std::unique_lock lock(m_mutex);

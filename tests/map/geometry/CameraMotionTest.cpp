@@ -25,7 +25,7 @@ TEST(DragTrail, TellsTheSpeedOfTheLastTenthOfASecond) {
     trail.add({9000, 0}, 10.9); // long ago by the end
     trail.add({9010, 20}, 10.95);
     trail.add({9020, 40}, 11.0);
-    const GroundVelocity velocity = trail.velocityAt(11.0);
+    const MapVelocity velocity = trail.velocityAt(11.0);
     EXPECT_NEAR(velocity.x, 20 / 0.1, 1e-6);
     EXPECT_NEAR(velocity.y, 40 / 0.1, 1e-6);
 }
@@ -61,9 +61,9 @@ TEST(DragTrail, TheDateLineIsNoJump) {
     EXPECT_NEAR(trail.velocityAt(1.15).x, -20 / 0.05, 1e-3);
 }
 
-TEST(Glide, BeginsAsFastAsTheDragAndGetsSlower) {
+TEST(Inertia, BeginsAsFastAsTheDragAndGetsSlower) {
     const Camera start = cameraOf(40, 30);
-    const Glide glide(start, {2e6, -1e6}); // 671 px/s
+    const Inertia glide(start, {2e6, -1e6}); // 671 px/s
     EXPECT_EQ(glide.cameraAt(0).pose(), start.pose());
     EXPECT_NEAR(speedBetween(start, glide.cameraAt(0.001), 0.001), std::hypot(600, 300), 2);
     double before = 1e9;
@@ -74,33 +74,33 @@ TEST(Glide, BeginsAsFastAsTheDragAndGetsSlower) {
     }
 }
 
-TEST(Glide, StopsOnceItIsHardlySeenToMove) {
-    const Glide glide(cameraOf(), {2e6, 0}); // 600 px/s
+TEST(Inertia, StopsOnceItIsHardlySeenToMove) {
+    const Inertia glide(cameraOf(), {2e6, 0}); // 600 px/s
     EXPECT_FALSE(glide.isFinished(1.5));
     EXPECT_TRUE(glide.isFinished(1.6)); // 0.325 s * ln(600 / 5)
     EXPECT_EQ(glide.cameraAt(1.6).pose(), glide.cameraAt(100).pose());
 }
 
-TEST(Glide, ASlowDragEndsWhereItEnds) {
-    const Glide glide(cameraOf(), {1e5, 0}); // 30 px/s
+TEST(Inertia, ASlowDragEndsWhereItEnds) {
+    const Inertia glide(cameraOf(), {1e5, 0}); // 30 px/s
     EXPECT_TRUE(glide.isFinished(0));
     EXPECT_EQ(glide.cameraAt(5).pose(), cameraOf().pose());
 }
 
-TEST(Glide, NoDragIsEverFasterThanFiveThousandPixelsASecond) {
+TEST(Inertia, NoDragIsEverFasterThanFiveThousandPixelsASecond) {
     const Camera start = cameraOf();
-    const Glide glide(start, {1e9, 0});
+    const Inertia glide(start, {1e9, 0});
     EXPECT_NEAR(speedBetween(start, glide.cameraAt(0.001), 0.001), 5000, 20);
 }
 
-TEST(Glide, ASpeedThatIsNoNumberIsNone) {
-    const Glide glide(cameraOf(), {std::numeric_limits<double>::quiet_NaN(), 0});
+TEST(Inertia, ASpeedThatIsNoNumberIsNone) {
+    const Inertia glide(cameraOf(), {std::numeric_limits<double>::quiet_NaN(), 0});
     EXPECT_TRUE(glide.isFinished(0));
     EXPECT_EQ(glide.cameraAt(1).pose(), cameraOf().pose());
 }
 
-TEST(Glide, CrossesTheDateLine) {
-    const Glide glide(Camera(CameraPose{{worldSize - 1, 1e8}, 3e-4}, viewport), {2e6, 0});
+TEST(Inertia, CrossesTheDateLine) {
+    const Inertia glide(Camera(CameraPose{{worldSize - 1, 1e8}, 3e-4}, viewport), {2e6, 0});
     EXPECT_LT(glide.cameraAt(1).center().x, worldSize / 2);
     EXPECT_GE(glide.cameraAt(1).center().x, 0);
 }
@@ -160,17 +160,17 @@ TEST(SmoothZoom, AFactorThatIsNotPositiveMovesNothing) {
     }
 }
 
-TEST(Leveling, TurnsTheShortWayToNorth) {
-    const Leveling fromWest(cameraOf(300, 0), 0, 0);
+TEST(NorthReset, TurnsTheShortWayToNorth) {
+    const NorthReset fromWest(cameraOf(300, 0), 0, 0);
     EXPECT_GT(fromWest.cameraAt(0.05).pose().bearing, 300);
-    const Leveling fromEast(cameraOf(60, 0), 0, 0);
+    const NorthReset fromEast(cameraOf(60, 0), 0, 0);
     EXPECT_LT(fromEast.cameraAt(0.05).pose().bearing, 60);
     EXPECT_GT(fromEast.cameraAt(0.05).pose().bearing, 0);
 }
 
-TEST(Leveling, EndsUprightToTheLastBit) {
+TEST(NorthReset, EndsUprightToTheLastBit) {
     const Camera start = cameraOf(217.3, 41.7);
-    const Leveling leveling(start, 0, 0);
+    const NorthReset leveling(start, 0, 0);
     EXPECT_FALSE(leveling.isFinished(0.24));
     ASSERT_TRUE(leveling.isFinished(0.25));
     EXPECT_TRUE(leveling.cameraAt(0.25).isUpright());

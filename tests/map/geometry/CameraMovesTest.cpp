@@ -168,7 +168,7 @@ TEST(CameraMoves, TheCentreStopsAtBothPoles) {
 
 TEST(CameraMoves, AllThatIsSeenLiesBetweenTheCornersOfTheVisibleGround) {
     forEveryCamera([](const Camera& camera) {
-        const auto corners = camera.visibleGround();
+        const auto corners = camera.visibleCorners();
         expectAt(camera.worldToScreen(corners[0]), {0, 0});
         expectAt(camera.worldToScreen(corners[1]), {960, 0});
         expectAt(camera.worldToScreen(corners[2]), {960, 748});
@@ -184,7 +184,7 @@ TEST(CameraMoves, AllThatIsSeenLiesBetweenTheCornersOfTheVisibleGround) {
 
 TEST(CameraMoves, TheGroundReachesPastTheTopEvenAtTheSteepestPitch) {
     const Camera steepest(poseOf(0, Camera::maximumPitch), viewport);
-    const auto corners = steepest.visibleGround(64);
+    const auto corners = steepest.visibleCorners(64);
     for (const MapPoint& corner : corners) {
         EXPECT_GT(steepest.worldToPerspective(corner).w, 0);
     }

@@ -12,9 +12,9 @@ namespace {
 constexpr Viewport view{960, 712};
 
 /// How many tiles of the cover hold the ground under `point`.
-int tilesAt(const std::vector<CoveringTile>& cover, MapPoint point) {
+int tilesAt(const std::vector<CoverTile>& cover, MapPoint point) {
     return static_cast<int>(
-        std::count_if(cover.begin(), cover.end(), [point](const CoveringTile& tile) {
+        std::count_if(cover.begin(), cover.end(), [point](const CoverTile& tile) {
             const MapRect bounds = tile.key.bounds();
             return point.x >= bounds.x + tile.shift &&
                    point.x < bounds.x + tile.shift + bounds.width && point.y >= bounds.y &&
@@ -23,7 +23,7 @@ int tilesAt(const std::vector<CoveringTile>& cover, MapPoint point) {
 }
 
 /// Every fourth pixel of the view must lie on exactly one tile, but beyond the poles' limit.
-void expectCovered(const Camera& camera, const std::vector<CoveringTile>& cover) {
+void expectCovered(const Camera& camera, const std::vector<CoverTile>& cover) {
     for (double y = 0.5; y < camera.viewport().height; y += 41) {
         for (double x = 0.5; x < camera.viewport().width; x += 41) {
             const MapPoint ground = camera.screenToWorld({x, y});
@@ -49,8 +49,8 @@ TEST(TileCover, CrossesTheDateLine) {
     const auto cover = tileCover(camera, tileZoom(camera.scale()), 0);
     expectCovered(camera, cover);
     EXPECT_TRUE(std::any_of(
-        cover.begin(), cover.end(), [](const CoveringTile& tile) { return tile.shift > 0; }));
-    for (const CoveringTile& tile : cover) {
+        cover.begin(), cover.end(), [](const CoverTile& tile) { return tile.shift > 0; }));
+    for (const CoverTile& tile : cover) {
         EXPECT_GE(tile.key.column, 0);
         EXPECT_LT(tile.key.column, 1 << tile.key.zoom);
     }
@@ -61,7 +61,7 @@ TEST(TileCover, RepeatsTheWorldInAWideWindow) {
     const auto cover = tileCover(camera, 0, 0);
     expectCovered(camera, cover);
     std::set<double> shifts;
-    for (const CoveringTile& tile : cover) {
+    for (const CoverTile& tile : cover) {
         shifts.insert(tile.shift);
     }
     EXPECT_GE(shifts.size(), 6U);

@@ -1,6 +1,6 @@
 #include "map/records/HitTest.h"
 
-#include "map/records/BalloonShape.h"
+#include "map/records/PinShape.h"
 #include "tests/map/records/RecordSetBuilder.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ struct Scene {
         const RecordGeometry& geometry = records.loaded->geometry;
         const std::vector<Marker> markers = markersByPrecedence(records);
         const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
-        LiftedMarkers lifted;
+        HighlightedMarkers lifted;
         if (selected && !records.loaded->index.release().assets[*selected].hasRoute()) {
             lifted.selected = Marker{*selected, geometry.points()[*selected]};
         }

@@ -54,17 +54,17 @@ TEST(MarkerLayout, ARecordThatTheFilterLeavesOutHasNoMarker) {
     EXPECT_EQ(assetsOf(markersByPrecedence(records)), (std::vector<AssetIndex>{1}));
 }
 
-TEST(MarkerLayout, NoTwoBalloonsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel) {
+TEST(MarkerLayout, NoTwoPinsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel) {
     const RecordSet records = crowd();
     const MarkerLayout layout = markerLayout(markersByPrecedence(records), overview);
-    ASSERT_GT(layout.balloons.size(), 10U);
+    ASSERT_GT(layout.pins.size(), 10U);
     const double scale = overview.minimumScale();
-    for (std::size_t i = 0; i < layout.balloons.size(); ++i) {
+    for (std::size_t i = 0; i < layout.pins.size(); ++i) {
         for (std::size_t k = 0; k < i; ++k) {
-            const double dx = std::abs(layout.balloons[i].point.x - layout.balloons[k].point.x);
-            const double dy = std::abs(layout.balloons[i].point.y - layout.balloons[k].point.y);
-            ASSERT_TRUE(dx * scale >= balloonSpacingX * (1 - 1e-9) ||
-                        dy * scale >= balloonSpacingY * (1 - 1e-9));
+            const double dx = std::abs(layout.pins[i].point.x - layout.pins[k].point.x);
+            const double dy = std::abs(layout.pins[i].point.y - layout.pins[k].point.y);
+            ASSERT_TRUE(dx * scale >= pinSpacingX * (1 - 1e-9) ||
+                        dy * scale >= pinSpacingY * (1 - 1e-9));
         }
     }
 }
@@ -74,7 +74,7 @@ TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
     const auto markers = markersByPrecedence(records);
     const MarkerLayout layout = markerLayout(markers, overview);
     std::set<AssetIndex> marked;
-    for (const auto* list : {&layout.balloons, &layout.dots}) {
+    for (const auto* list : {&layout.pins, &layout.dots}) {
         for (const Marker& marker : *list) {
             EXPECT_TRUE(marked.insert(marker.asset).second) << "two marks";
         }
@@ -100,11 +100,11 @@ TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
     }
 }
 
-TEST(MarkerLayout, TwoRecordsAtOnePointHaveOneBalloonAndOneDot) {
+TEST(MarkerLayout, TwoRecordsAtOnePointHaveOnePinAndOneDot) {
     const RecordSet records =
         recordSetOf({facilityAt(50, -110, "storage"), facilityAt(50, -110, "storage")});
     const MarkerLayout layout = markerLayout(markersByPrecedence(records), DetailLevel(40));
-    EXPECT_EQ(layout.balloons.size(), 1U);
+    EXPECT_EQ(layout.pins.size(), 1U);
     EXPECT_EQ(layout.dots.size(), 1U);
 }
 
@@ -112,12 +112,12 @@ TEST(MarkerLayout, ADotOfWhichAnythingIsSeenIsDrawn) {
     const DetailLevel level(20);
     const double pixel = 360 / (worldSize * level.maximumScale()); // degrees of longitude
     std::vector<OpenMapRelease::Asset> assets;
-    for (const double x : {0.0, 30.0, 35.0, 60.0, 60.2}) { // the first takes the balloon
+    for (const double x : {0.0, 30.0, 35.0, 60.0, 60.2}) { // the first takes the pin
         assets.push_back(facilityAt(50, -110 + x * pixel, "storage"));
     }
     const MarkerLayout layout =
         markerLayout(markersByPrecedence(recordSetOf(std::move(assets))), level);
-    EXPECT_EQ(layout.balloons.size() + layout.dots.size(), 5U);
+    EXPECT_EQ(layout.pins.size() + layout.dots.size(), 5U);
 }
 
 TEST(MarkerFrame, HoldsTheMarksInViewAtTheirPlaceOnTheScreen) {
@@ -127,10 +127,10 @@ TEST(MarkerFrame, HoldsTheMarksInViewAtTheirPlaceOnTheScreen) {
     const MarkerLayout layout =
         markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
     const MarkerFrame frame = markerFrame(layout, {}, Dots::drawn, camera);
-    ASSERT_EQ(frame.balloons.size(), 1U);
-    EXPECT_EQ(frame.balloons[0].asset, 0U);
-    EXPECT_NEAR(frame.balloons[0].point.x, 480, 1e-6);
-    EXPECT_NEAR(frame.balloons[0].point.y, 356, 1e-6);
+    ASSERT_EQ(frame.pins.size(), 1U);
+    EXPECT_EQ(frame.pins[0].asset, 0U);
+    EXPECT_NEAR(frame.pins[0].point.x, 480, 1e-6);
+    EXPECT_NEAR(frame.pins[0].point.y, 356, 1e-6);
 }
 
 TEST(MarkerFrame, TheSelectedAndTheHoveredStandApartFromTheOthersWhateverTheyWere) {
@@ -138,14 +138,14 @@ TEST(MarkerFrame, TheSelectedAndTheHoveredStandApartFromTheOthersWhateverTheyWer
     const Camera camera(canadaOverview, {960, 712});
     const auto markers = markersByPrecedence(records);
     const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
-    const Marker balloon = layout.balloons.front();
+    const Marker pin = layout.pins.front();
     const Marker dot = layout.dots.front();
-    const MarkerFrame frame = markerFrame(layout, {balloon, dot}, Dots::drawn, camera);
+    const MarkerFrame frame = markerFrame(layout, {pin, dot}, Dots::drawn, camera);
     ASSERT_TRUE(frame.selected && frame.hovered);
     EXPECT_EQ(frame.selected->asset, dot.asset);
-    EXPECT_EQ(frame.hovered->asset, balloon.asset);
-    for (const PlacedMarker& other : frame.balloons) {
-        EXPECT_NE(other.asset, balloon.asset);
+    EXPECT_EQ(frame.hovered->asset, pin.asset);
+    for (const PlacedMarker& other : frame.pins) {
+        EXPECT_NE(other.asset, pin.asset);
     }
 }
 
@@ -163,15 +163,15 @@ TEST(MarkerFrame, AMarkStandsInEveryCopyOfTheWorldAndTheSelectedOnlyInTheNearest
     const Camera camera(CameraPose{{worldSize / 2, worldSize / 3}, 300 / worldSize}, {1000, 300});
     const auto markers = markersByPrecedence(records);
     const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
-    EXPECT_EQ(markerFrame(layout, {}, Dots::painted, camera).balloons.size(), 3U);
+    EXPECT_EQ(markerFrame(layout, {}, Dots::painted, camera).pins.size(), 3U);
     const MarkerFrame selected =
         markerFrame(layout, {std::nullopt, markers[0]}, Dots::painted, camera);
-    EXPECT_TRUE(selected.balloons.empty());
+    EXPECT_TRUE(selected.pins.empty());
     ASSERT_TRUE(selected.selected);
     EXPECT_NEAR(selected.selected->point.x, 500, 1e-6);
 }
 
-TEST(MarkerFrame, NeverHoldsMoreThanFiveHundredBalloonsAndKeepsTheOthersAsDots) {
+TEST(MarkerFrame, NeverHoldsMoreThanFiveHundredPinsAndKeepsTheOthersAsDots) {
     std::vector<OpenMapRelease::Asset> assets;
     for (int row = 0; row < 40; ++row) {
         for (int column = 0; column < 40; ++column) {
@@ -183,7 +183,7 @@ TEST(MarkerFrame, NeverHoldsMoreThanFiveHundredBalloonsAndKeepsTheOthersAsDots) 
     const MarkerLayout layout =
         markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
     const MarkerFrame frame = markerFrame(layout, {}, Dots::drawn, camera);
-    EXPECT_EQ(frame.balloons.size(), maximumBalloons);
+    EXPECT_EQ(frame.pins.size(), maximumPins);
     EXPECT_GT(frame.dots.size(), 500U);
 }
 

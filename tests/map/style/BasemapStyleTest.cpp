@@ -34,7 +34,7 @@ VectorFeature lineOfKind(const char* kind) {
     return feature;
 }
 
-void expectReadableRecords(BasemapLook look, ColorScheme scheme) {
+void expectReadableRecords(BasemapTheme look, ColorScheme scheme) {
     const BasemapColors& colors = basemapColors(look);
     for (int i = 0; i < paletteSize; ++i) {
         const QColor record = colorValue(static_cast<PaletteColor>(i), scheme);
@@ -51,15 +51,15 @@ void expectReadableRecords(BasemapLook look, ColorScheme scheme) {
 }
 
 TEST(BasemapStyle, RecordsStandThreeToOneAgainstEveryGroundOfTheLightMap) {
-    expectReadableRecords(BasemapLook::light, ColorScheme::light);
+    expectReadableRecords(BasemapTheme::light, ColorScheme::light);
 }
 
 TEST(BasemapStyle, RecordsStandThreeToOneAgainstEveryGroundOfTheDarkMap) {
-    expectReadableRecords(BasemapLook::dark, ColorScheme::dark);
+    expectReadableRecords(BasemapTheme::dark, ColorScheme::dark);
 }
 
 TEST(BasemapStyle, RoadsAreNearlyColourlessOnTheDrawnMap) {
-    for (const BasemapLook look : {BasemapLook::light, BasemapLook::dark}) {
+    for (const BasemapTheme look : {BasemapTheme::light, BasemapTheme::dark}) {
         const BasemapColors& colors = basemapColors(look);
         for (const BasemapRole role : {&BasemapColors::mainRoad,
                                        &BasemapColors::minorRoad,
@@ -75,7 +75,7 @@ TEST(BasemapStyle, RoadsAreNearlyColourlessOnTheDrawnMap) {
 
 TEST(BasemapStyle, OverImageryNoAreaIsFilled) {
     for (const AreaStyle& style : areaStyles()) {
-        EXPECT_EQ((basemapColors(BasemapLook::hybrid).*style.color).alpha(), 0);
+        EXPECT_EQ((basemapColors(BasemapTheme::hybrid).*style.color).alpha(), 0);
     }
 }
 

@@ -43,15 +43,15 @@ Points square(float from, float to) {
     return {{from, from}, {to, from}, {to, to}, {from, to}, {from, from}};
 }
 
-TileGround groundOf(std::vector<VectorLayer> layers) {
-    TileGround ground;
+TileData groundOf(std::vector<VectorLayer> layers) {
+    TileData ground;
     ground.vector = std::make_shared<VectorTile>(VectorTile{std::move(layers)});
     ground.vectorKey = tile;
     return ground;
 }
 
 TileRequest
-requestFor(TileKey key, BasemapLook look = BasemapLook::light, double devicePixels = 512) {
+requestFor(TileKey key, BasemapTheme look = BasemapTheme::light, double devicePixels = 512) {
     TileRequest request;
     request.key = key;
     request.devicePixelsPerMapPoint = devicePixels / key.side();
@@ -65,7 +65,7 @@ QColor at(const QImage& picture, double x, double y) {
 }
 
 const BasemapColors& light() {
-    return basemapColors(BasemapLook::light);
+    return basemapColors(BasemapTheme::light);
 }
 
 /// The darkness of a row or column of pixels from the paper, as text: '#' where a line covers it.
@@ -95,15 +95,15 @@ TEST(TilePainter, AHoleInALakeIsAnIsland) {
 }
 
 TEST(TilePainter, ThePictureIsOpaqueAndHasTheSizeAskedFor) {
-    const TileRequest request = requestFor(tile, BasemapLook::light, 724.08);
-    const QImage picture = paintTile(TileGround(), request);
+    const TileRequest request = requestFor(tile, BasemapTheme::light, 724.08);
+    const QImage picture = paintTile(TileData(), request);
     EXPECT_EQ(picture.size(), QSize(request.pixels().width, request.pixels().height));
     EXPECT_GE(picture.width(), 725);
     EXPECT_EQ(picture.format(), QImage::Format_RGB32);
 }
 
 TEST(TilePainter, AChildShowsItsQuarterOfTheAncestorsData) {
-    const TileGround ground = groundOf({{"ocean", {area("", {square(-0.1F, 0.5F)})}}});
+    const TileData ground = groundOf({{"ocean", {area("", {square(-0.1F, 0.5F)})}}});
     const QImage first = paintTile(ground, requestFor(itsFirstChild));
     const QImage last = paintTile(ground, requestFor(itsLastChild));
     EXPECT_EQ(at(first, 0.01, 0.01), light().water);
@@ -112,7 +112,7 @@ TEST(TilePainter, AChildShowsItsQuarterOfTheAncestorsData) {
 }
 
 TEST(TilePainter, AFarDescendantIsStillDrawnFromItsAncestor) {
-    const TileGround ground = groundOf(
+    const TileData ground = groundOf(
         {{"ocean", {area("", {{{-0.1F, -0.1F}, {1.1F, -0.1F}, {-0.1F, 1.1F}, {-0.1F, -0.1F}}})}}});
     // The tile at zoom 22 whose north-west corner the coast runs through, at 1/2, 1/2.
     const std::int32_t half = 1 << 15;
@@ -135,13 +135,13 @@ TEST(TilePainter, WhereTheDataWereCutThereIsNoCoast) {
 
 TEST(TilePainter, ARegionsBorderGoesOnInTheNeighbourWhereItLeftOff) {
     const auto bordered = [](float from, float to) {
-        TileGround ground = groundOf({{"boundaries", {border(4, {{from, 0.5F}, {to, 0.5F}})}}});
+        TileData ground = groundOf({{"boundaries", {border(4, {{from, 0.5F}, {to, 0.5F}})}}});
         return ground;
     };
     // One line, cut with the margins of two neighbours.
     TileRequest west = requestFor(tile);
     TileRequest east = requestFor({6, 13, 20});
-    TileGround eastern = bordered(-0.02F, 0.73F);
+    TileData eastern = bordered(-0.02F, 0.73F);
     eastern.vectorKey = east.key;
     const std::string text = profile(paintTile(bordered(0.13F, 1.02F), west), true, 255) +
                              profile(paintTile(eastern, east), true, 255);
@@ -156,9 +156,9 @@ TEST(TilePainter, ARegionsBorderGoesOnInTheNeighbourWhereItLeftOff) {
 }
 
 TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
-    TileGround ground = groundOf({{"boundaries", {border(2, {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
+    TileData ground = groundOf({{"boundaries", {border(2, {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
     const auto inkOf = [&](int devicePixels, double density) {
-        TileRequest request = requestFor(tile, BasemapLook::light, devicePixels);
+        TileRequest request = requestFor(tile, BasemapTheme::light, devicePixels);
         request.devicePixelsPerPixel = density;
         const QImage picture = paintTile(ground, request);
         double ink = 0;
@@ -172,8 +172,7 @@ TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
 
 TEST(TilePainter, AStretchedTileShowsWhatItsZoomOnTheScreenShows) {
     // A street comes at zoom 11: half way between the tile's own and the next, not at its own.
-    TileGround ground =
-        groundOf({{"streets", {line("residential", {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
+    TileData ground = groundOf({{"streets", {line("residential", {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
     ground.vectorKey = {10, 5, 5};
     TileRequest request = requestFor(ground.vectorKey);
     EXPECT_EQ(profile(paintTile(ground, request), true, 100).find('#'), std::string::npos);
@@ -182,41 +181,41 @@ TEST(TilePainter, AStretchedTileShowsWhatItsZoomOnTheScreenShows) {
 }
 
 TEST(TilePainter, PhotographsAreDrawnInTheirPlaces) {
-    TileGround ground;
+    TileData ground;
     QImage red(256, 256, QImage::Format_RGB32);
     red.fill(Qt::red);
     QImage blue = red;
     blue.fill(Qt::blue);
     ground.imagery = {{tile.ancestor(2), red}, {itsLastChild, blue}};
-    const QImage picture = paintTile(ground, requestFor(tile, BasemapLook::satellite));
+    const QImage picture = paintTile(ground, requestFor(tile, BasemapTheme::satellite));
     EXPECT_EQ(at(picture, 0.25, 0.25), QColor(Qt::red));
     EXPECT_EQ(at(picture, 0.75, 0.25), QColor(Qt::red));
     EXPECT_EQ(at(picture, 0.75, 0.75), QColor(Qt::blue));
 }
 
 TEST(TilePainter, OnlyHybridDrawsBordersUponPhotographs) {
-    TileGround ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}},
-                                  {"boundaries", {border(2, {{-0.1F, 0.5F}, {1.1F, 0.5F}})}}});
+    TileData ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}},
+                                {"boundaries", {border(2, {{-0.1F, 0.5F}, {1.1F, 0.5F}})}}});
     QImage red(512, 512, QImage::Format_RGB32);
     red.fill(Qt::red);
     ground.imagery = {{tile, red}};
-    const QImage satellite = paintTile(ground, requestFor(tile, BasemapLook::satellite));
-    const QImage hybrid = paintTile(ground, requestFor(tile, BasemapLook::hybrid));
+    const QImage satellite = paintTile(ground, requestFor(tile, BasemapTheme::satellite));
+    const QImage hybrid = paintTile(ground, requestFor(tile, BasemapTheme::hybrid));
     EXPECT_EQ(at(satellite, 0.3, 0.5), QColor(Qt::red));
     EXPECT_GT(at(hybrid, 0.3, 0.5).blue(), 100);
     EXPECT_EQ(at(hybrid, 0.3, 0.2), QColor(Qt::red));
 }
 
 TEST(TilePainter, WithoutPhotographsTheMapIsDrawnInItsDarkDress) {
-    const TileGround ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}}});
-    for (const BasemapLook look : {BasemapLook::satellite, BasemapLook::hybrid}) {
+    const TileData ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}}});
+    for (const BasemapTheme look : {BasemapTheme::satellite, BasemapTheme::hybrid}) {
         EXPECT_EQ(paintTile(ground, requestFor(tile, look)),
-                  paintTile(ground, requestFor(tile, BasemapLook::dark)));
+                  paintTile(ground, requestFor(tile, BasemapTheme::dark)));
     }
 }
 
 TEST(TilePainter, TheInkIsDrawnLastInDevicePixels) {
-    struct Spot : TileInk {
+    struct Spot : RecordOverlay {
         void paint(QPainter& painter,
                    const MapRect& bounds,
                    double devicePixelsPerMapPoint) const override {
@@ -225,10 +224,10 @@ TEST(TilePainter, TheInkIsDrawnLastInDevicePixels) {
             painter.fillRect(1000, 1000, 10, 10, Qt::green);
         }
     };
-    TileRequest request = requestFor(tile, BasemapLook::light, 1024);
+    TileRequest request = requestFor(tile, BasemapTheme::light, 1024);
     request.devicePixelsPerPixel = 2;
     request.ink = std::make_shared<Spot>();
-    EXPECT_EQ(paintTile(TileGround(), request).pixelColor(1005, 1005), QColor(Qt::green));
+    EXPECT_EQ(paintTile(TileData(), request).pixelColor(1005, 1005), QColor(Qt::green));
 }
 
 TEST(TilePainter, OddGeometryCostsOnlyItself) {
@@ -236,13 +235,13 @@ TEST(TilePainter, OddGeometryCostsOnlyItself) {
     constexpr float infinite = std::numeric_limits<float>::infinity();
     constexpr float far = std::numeric_limits<float>::max();
     const Points odd{{nan, 0.5F}, {0.5F, infinite}, {-far, far}, {far, -far}, {0.5F, 0.5F}};
-    TileGround ground = groundOf(
+    TileData ground = groundOf(
         {{"ocean", {area("", {odd, {}, {{0.5F, 0.5F}}}), area("", {square(0.2F, 0.3F)})}},
          {"water_polygons", {area("lake", {{{nan, nan}, {nan, nan}, {nan, nan}}}), area("", {})}},
          {"streets", {line("motorway", odd), line("motorway", {}), line("ferry", odd)}},
          {"boundaries", {border(2, odd), border(4, odd)}}});
     for (const TileKey key : {tile, TileKey{22, 12 << 16, 20 << 16}}) {
-        for (const BasemapLook look : {BasemapLook::light, BasemapLook::hybrid}) {
+        for (const BasemapTheme look : {BasemapTheme::light, BasemapTheme::hybrid}) {
             EXPECT_FALSE(paintTile(ground, requestFor(key, look)).isNull());
         }
     }
@@ -252,7 +251,7 @@ TEST(TilePainter, OddGeometryCostsOnlyItself) {
 }
 
 TEST(TilePainter, ASenselessScaleGivesAPictureAllTheSame) {
-    const TileGround ground = groundOf({{"ocean", {area("", {square(0, 1)})}}});
+    const TileData ground = groundOf({{"ocean", {area("", {square(0, 1)})}}});
     for (const double scale : {-5.0, 0.0, 1e300, std::nan(""), HUGE_VAL}) {
         TileRequest request = requestFor(tile);
         request.devicePixelsPerMapPoint = scale;
@@ -263,17 +262,17 @@ TEST(TilePainter, ASenselessScaleGivesAPictureAllTheSame) {
 
 TEST(TilePainter, NeighboursMeetWithoutASeamAndShareNoPixel) {
     // At this scale the tiles' edge runs through the middle of a column of pixels.
-    TileRequest west = requestFor(tile, BasemapLook::light, 600.5);
+    TileRequest west = requestFor(tile, BasemapTheme::light, 600.5);
     TileRequest east = west;
     east.key = {6, 13, 20};
     const auto slanted = [](TileKey key, float shift) {
-        TileGround ground = groundOf({{"ocean",
-                                       {area("",
-                                             {{{-1 + shift, 0.2F},
-                                               {1 + shift, 0.24F},
-                                               {1 + shift, 3},
-                                               {-1 + shift, 3},
-                                               {-1 + shift, 0.2F}}})}}});
+        TileData ground = groundOf({{"ocean",
+                                     {area("",
+                                           {{{-1 + shift, 0.2F},
+                                             {1 + shift, 0.24F},
+                                             {1 + shift, 3},
+                                             {-1 + shift, 3},
+                                             {-1 + shift, 0.2F}}})}}});
         ground.vectorKey = key;
         return ground;
     };
@@ -289,7 +288,7 @@ TEST(TilePainter, NeighboursMeetWithoutASeamAndShareNoPixel) {
 }
 
 TEST(TilePainter, TheLastTileReachesTheWorldsEnd) {
-    TileRequest last = requestFor(tile, BasemapLook::light, 600.5);
+    TileRequest last = requestFor(tile, BasemapTheme::light, 600.5);
     last.key = {2, 3, 3};
     last.devicePixelsPerMapPoint = 100.3 / worldSize;
     const PixelRect pixels = last.pixels();

@@ -70,19 +70,19 @@ TEST_F(TileServiceFaultTest, RedirectionsAreNotFollowed) {
 }
 
 TEST_F(TileServiceFaultTest, AnswersThatAreAnnouncedTooLongAreNotRead) {
-    options.answerBytes = 1'000;
+    options.responseBytes = 1'000;
     expectMissing({.body = vectorBytes + QByteArray(1'000, 'x')}, one, 1);
     expectMissing({.body = vectorBytes + QByteArray(10'000'000, 'x')}, one, 2);
 }
 
 TEST_F(TileServiceFaultTest, AnswersThatNeverEndAreCutShort) {
-    options.answerBytes = 1'000'000;
+    options.responseBytes = 1'000'000;
     expectMissing({.body = vectorBytes, .manner = Manner::endless}, one, 1);
     EXPECT_TRUE(comesTrue([&] { return server.open() == 0; }));
 }
 
 TEST_F(TileServiceFaultTest, AnAnswerOfTheGreatestLengthIsTaken) {
-    options.answerBytes = 1'000;
+    options.responseBytes = 1'000;
     server.setAnswer(vectorPath(9, 1, 1),
                      {.body = vectorBytes + QByteArray(1'000 - vectorBytes.size(), 'x')});
     service().want({one});
@@ -90,7 +90,7 @@ TEST_F(TileServiceFaultTest, AnAnswerOfTheGreatestLengthIsTaken) {
 }
 
 TEST_F(TileServiceFaultTest, ATileThatTricklesIsTriedThreeTimes) {
-    options.answerTime = std::chrono::milliseconds(40);
+    options.responseTime = std::chrono::milliseconds(40);
     expectMissing({.body = vectorBytes, .manner = Manner::trickle}, one, 3);
 }
 

@@ -7,14 +7,14 @@ namespace {
 
 TEST(BasemapChoice, SatelliteAndHybridShowPhotographsInEitherAppearance) {
     for (const bool dark : {false, true}) {
-        EXPECT_EQ(basemapLook(QStringLiteral("satellite"), dark), BasemapLook::satellite);
-        EXPECT_EQ(basemapLook(QStringLiteral("hybrid"), dark), BasemapLook::hybrid);
+        EXPECT_EQ(basemapTheme(QStringLiteral("satellite"), dark), BasemapTheme::satellite);
+        EXPECT_EQ(basemapTheme(QStringLiteral("hybrid"), dark), BasemapTheme::hybrid);
     }
 }
 
 TEST(BasemapChoice, StandardIsTheDrawnMapInTheAppearanceOfTheDesktop) {
-    EXPECT_EQ(basemapLook(QStringLiteral("standard"), false), BasemapLook::light);
-    EXPECT_EQ(basemapLook(QStringLiteral("standard"), true), BasemapLook::dark);
+    EXPECT_EQ(basemapTheme(QStringLiteral("standard"), false), BasemapTheme::light);
+    EXPECT_EQ(basemapTheme(QStringLiteral("standard"), true), BasemapTheme::dark);
 }
 
 TEST(BasemapChoice, EverythingElseIsTheDrawnMapToo) {
@@ -30,10 +30,10 @@ TEST(BasemapChoice, EverythingElseIsTheDrawnMapToo) {
                                   u"hybrid,satellite",
                                   u"terrain"}) {
         const QString basemap = QString::fromUtf16(other);
-        EXPECT_EQ(basemapLook(basemap, false), BasemapLook::light) << basemap.toStdString();
-        EXPECT_EQ(basemapLook(basemap, true), BasemapLook::dark) << basemap.toStdString();
+        EXPECT_EQ(basemapTheme(basemap, false), BasemapTheme::light) << basemap.toStdString();
+        EXPECT_EQ(basemapTheme(basemap, true), BasemapTheme::dark) << basemap.toStdString();
     }
-    EXPECT_EQ(basemapLook({}, false), BasemapLook::light);
+    EXPECT_EQ(basemapTheme({}, false), BasemapTheme::light);
 }
 
 } // namespace

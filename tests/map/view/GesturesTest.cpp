@@ -84,7 +84,7 @@ TEST(Gestures, TheGroundTurnsWithTheFingersWithoutAJump) {
 }
 
 TEST(Gestures, ATurningDragTurnsAcrossAndLeansUpwards) {
-    TurnDrag drag({100, 300});
+    RotateDrag drag({100, 300});
     Camera now = drag.moved(camera, {102, 300});
     EXPECT_TRUE(drag.isClick());
     EXPECT_TRUE(now.isUpright());

@@ -1,0 +1,149 @@
+#pragma once
+// Which names stand on the screen, and on which side of their points. Axis-parallel rectangles that
+// neither overlap each other nor an obstacle; laid out anew for every frame.
+//
+// The layout is steady. What stood in the last one counts as more important by labelHysteresis and
+// is first tried on the side where it stood: while the map moves, a name goes only where something
+// clearly more important comes or where its room is gone, and changes its side only where that side
+// is taken. A new name appears only wholly within the bounds; one that stands may be pushed out of
+// them bit by bit.
+
+#include "map/geometry/Camera.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+namespace vasker {
+
+/// On the map item: logical pixels, y down.
+struct ScreenRect {
+    double x;
+    double y;
+    double width;
+    double height;
+
+    /// Whether the two share more than an edge.
+    [[nodiscard]] constexpr bool overlaps(const ScreenRect& other) const noexcept {
+        return x < other.x + other.width && other.x < x + width && y < other.y + other.height &&
+               other.y < y + height;
+    }
+    [[nodiscard]] constexpr bool contains(const ScreenRect& other) const noexcept {
+        return other.x >= x && other.y >= y && other.x + other.width <= x + width &&
+               other.y + other.height <= y + height;
+    }
+    friend bool operator==(const ScreenRect&, const ScreenRect&) = default;
+};
+
+/// Where a label stands about its anchor. Sides are tried in this order.
+enum class LabelSide : std::uint8_t { right, left, above, below, centred };
+
+/// A set of sides.
+class LabelSides {
+  public:
+    template <typename... Sides>
+    constexpr explicit LabelSides(Sides... sides) noexcept : m_bits((0U | ... | bit(sides))) {}
+    [[nodiscard]] constexpr bool contains(LabelSide side) const noexcept {
+        return (m_bits & bit(side)) != 0;
+    }
+
+  private:
+    static constexpr unsigned bit(LabelSide side) noexcept {
+        return 1U << static_cast<unsigned>(side);
+    }
+    unsigned m_bits;
+};
+
+inline constexpr LabelSides aroundThePoint{
+    LabelSide::right, LabelSide::left, LabelSide::above, LabelSide::below};
+inline constexpr LabelSides onThePoint{LabelSide::centred};
+
+struct LabelCandidate {
+    std::uint64_t id; ///< the same in every layout, another for each label
+    ScreenPoint anchor;
+    double width; ///< of the label, in logical pixels
+    double height;
+    double gap = 0; ///< from the anchor to the label's nearest edge; centred: none
+    LabelSides sides = aroundThePoint;
+    double priority = 0; ///< the smaller goes first
+    /// Equal for labels of which one is enough where they stand near each other; 0: never.
+    std::uint64_t name = 0;
+    /// Goes before all others and stands in any case: where there is no room, on its first side.
+    bool isRequired = false;
+};
+
+struct PlacedLabel {
+    std::size_t candidate; ///< its place among the candidates
+    LabelSide side;
+    ScreenRect rect;
+};
+
+/// The least distance between two labels, in logical pixels.
+inline constexpr double labelSpacing = 3;
+/// By how much what stood in the last layout precedes others.
+inline constexpr double labelHysteresis = 1;
+/// Nearer than this, in logical pixels, no two labels of one name stand.
+inline constexpr double sameNameDistance = 300;
+
+class LabelPlacement {
+  public:
+    /// The labels that find room in `bounds`, in order of priority; equal ones in the order of
+    /// the candidates. Candidates with values that are no finite numbers, or of no size, are passed
+    /// over. Valid until the next call.
+    const std::vector<PlacedLabel>& layOut(std::span<const LabelCandidate> candidates,
+                                           std::span<const ScreenRect> obstacles,
+                                           const ScreenRect& bounds);
+    /// The result of the last call.
+    [[nodiscard]] const std::vector<PlacedLabel>& placed() const noexcept { return m_placed; }
+
+  private:
+    using LastSides = std::unordered_map<std::uint64_t, LabelSide>;
+
+    [[nodiscard]] std::vector<std::size_t>
+    inOrder(std::span<const LabelCandidate> candidates) const;
+    [[nodiscard]] bool placeAsItStood(const LabelCandidate& candidate,
+                                      LabelSide side,
+                                      const ScreenRect& bounds,
+                                      PlacedLabel& placed) const;
+    [[nodiscard]] bool
+    placeAnew(const LabelCandidate& candidate, const ScreenRect& bounds, PlacedLabel& placed) const;
+    [[nodiscard]] bool repeatsAName(const LabelCandidate& candidate) const;
+
+    /// Rectangles in the cells of a grid over the bounds.
+    class Grid {
+      public:
+        void reset(const ScreenRect& bounds);
+        void insert(const ScreenRect& rect);
+        [[nodiscard]] bool isFree(const ScreenRect& rect) const;
+
+      private:
+        struct Cells {
+            std::size_t firstColumn, lastColumn, firstRow, lastRow;
+        };
+        struct Entry {
+            std::uint32_t rect;
+            std::uint32_t next; ///< in the same cell
+        };
+        [[nodiscard]] Cells cellsUnder(const ScreenRect& rect) const;
+
+        ScreenRect m_bounds{};
+        std::size_t m_columns = 0;
+        std::size_t m_rows = 0;
+        std::vector<ScreenRect> m_rects;
+        std::vector<Entry> m_entries;
+        std::vector<std::uint32_t> m_first; ///< of each cell
+    };
+
+    Grid m_grid;
+    LastSides m_lastSides; ///< of what stood in the last layout, by id
+    std::unordered_multimap<std::uint64_t, ScreenPoint> m_names; ///< that stand, by name
+    std::vector<PlacedLabel> m_placed;
+};
+
+/// Where a label of the candidate's size stands on that side of its anchor.
+[[nodiscard]] ScreenRect labelRect(const LabelCandidate& candidate, LabelSide side) noexcept;
+
+} // namespace vasker

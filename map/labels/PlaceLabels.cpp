@@ -1,0 +1,211 @@
+#include "map/style/BasemapStyle.h"
+#include "map/style/TilePicture.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+namespace vasker {
+
+namespace {
+
+/// Sources cut long lakes in two and name both: within this many pixels once is enough.
+constexpr double sameNamePixels = 300;
+/// A water without rank is named when it is about this many pixels across.
+constexpr double namedWaterPixels = 48;
+constexpr double metresAroundTheEquator = 40'075'016.686;
+/// Smaller capitals of regions are set as towns are, and come a little later.
+constexpr std::int64_t peopleOfACity = 200'000;
+
+using Kind = PlaceLabel::Kind;
+
+/// From which zoom a name is shown, to which, and how it competes.
+struct Appearance {
+    Kind kind;
+    double firstZoom;
+    double lastZoom = never;
+    double priority;
+};
+
+/// A zoom for each rank from 0 on; ranks beyond take the last.
+template <std::size_t count>
+double byRank(const std::array<double, count>& zooms, int rank) {
+    return zooms[std::min(static_cast<std::size_t>(std::max(rank, 0)), count - 1)];
+}
+
+// clang-format off
+// rank                                         0    1    2    3    4    5    6    7    8    9    10   11   12
+constexpr std::array<double, 4>  countryZooms{  1.0, 1.5, 2.4, 3.2};
+constexpr std::array<double, 4>  regionZooms{   2.8, 2.8, 3.4, 4.2};
+constexpr std::array<double, 11> placeZooms{    1.5, 2.4, 2.9, 3.2, 4.2, 4.6, 4.9, 6.0, 6.9, 8.0, 9.0};
+constexpr std::array<double, 13> waterZooms{    3.4, 3.4, 4.0, 4.6, 5.0, 5.4, 5.8, 6.2, 6.6, 7.0, 7.4, 8.0, 8.6};
+
+struct PlaceKind {
+    std::string_view name;
+    Kind kind;
+    double rank;      ///< of one without a rank of its own, to compete with those that have one
+    double firstZoom; ///< of the same
+    double delay;     ///< zooms that one with a rank comes later than a city
+};
+constexpr std::array<PlaceKind, 10> placeKinds{{
+    {"capital",       Kind::capital, 1,  2.4,  0},
+    {"state_capital", Kind::city,    2,  3.0,  0},
+    {"city",          Kind::city,    4,  5.0,  0},
+    {"town",          Kind::town,    7,  7.5,  0.6},
+    {"suburb",        Kind::village, 9,  11,   1},
+    {"village",       Kind::village, 9,  9.5,  1},
+    {"hamlet",        Kind::village, 10, 11.5, 1},
+    {"quarter",       Kind::village, 10, 12.5, 1},
+    {"neighbourhood", Kind::village, 11, 13,   1},
+    {"island",        Kind::village, 10, 11,   1},
+}};
+// clang-format on
+
+std::optional<Appearance> placeAppearance(const VectorFeature& feature) {
+    const auto* const kind =
+        std::find_if(placeKinds.begin(), placeKinds.end(), [&](const PlaceKind& entry) {
+            return entry.name == feature.kind;
+        });
+    if (kind == placeKinds.end()) {
+        return std::nullopt;
+    }
+    const bool isCapital = feature.kind == "capital" || feature.kind == "state_capital";
+    const auto people = static_cast<double>(std::max<std::int64_t>(feature.population, 0));
+    const double rank = feature.rank > 0 ? feature.rank : kind->rank;
+    const bool isMetropolis = people >= 1e6;
+    Appearance appearance{.kind = kind->kind,
+                          .firstZoom = kind->firstZoom,
+                          .priority = 3 + rank - (isCapital ? 1 : 0) - std::log10(1 + people) / 20};
+    if (feature.rank > 0) {
+        appearance.firstZoom = byRank(placeZooms, feature.rank) + kind->delay;
+    } else if (isMetropolis) {
+        appearance.firstZoom = std::min(appearance.firstZoom, 3.0);
+    }
+    if (feature.kind == "state_capital" && feature.population < peopleOfACity) {
+        appearance.kind = Kind::town;
+        appearance.firstZoom += 0.4;
+    }
+    return appearance;
+}
+
+std::optional<Appearance> boundaryAppearance(const VectorFeature& feature) {
+    if (feature.adminLevel == 2) {
+        return Appearance{
+            Kind::country, byRank(countryZooms, feature.rank), 3.6, feature.rank / 10.0};
+    }
+    if (feature.adminLevel == 4) {
+        return Appearance{
+            Kind::region, byRank(regionZooms, feature.rank), 7.5, 1 + feature.rank / 10.0};
+    }
+    return std::nullopt;
+}
+
+Appearance waterAppearance(const VectorFeature& feature) {
+    const bool isOcean = feature.kind == "ocean";
+    if (feature.wayArea > 0) {
+        const double pixelsAtZoomZero =
+            std::sqrt(feature.wayArea) / metresAroundTheEquator * tilePixels;
+        const double firstZoom = std::log2(namedWaterPixels / pixelsAtZoomZero);
+        return {Kind::water, firstZoom, never, 6.5 + std::clamp(firstZoom - 3, 0.0, 20.0)};
+    }
+    return {Kind::water,
+            isOcean ? 1.0 : byRank(waterZooms, feature.rank),
+            isOcean ? 6.0 : never,
+            isOcean ? 1.5 : 6.5 + feature.rank};
+}
+
+std::optional<Appearance> appearanceOf(std::string_view layer, const VectorFeature& feature) {
+    if (layer == "place_labels") {
+        return placeAppearance(feature);
+    }
+    if (layer == "boundary_labels") {
+        return boundaryAppearance(feature);
+    }
+    if (layer == "water_polygons_labels") {
+        return waterAppearance(feature);
+    }
+    return std::nullopt;
+}
+
+QString textOf(const VectorFeature& feature, MapLanguage language) {
+    const std::string& own =
+        language == MapLanguage::french ? feature.nameFrench : feature.nameEnglish;
+    return QString::fromStdString(own.empty() ? feature.name : own).simplified();
+}
+
+/// The first point of a name, where it lies in the tile; the west and north edges count.
+std::optional<MapPoint> pointIn(TileKey key, TileKey dataKey, const VectorFeature& feature) {
+    if (feature.geometry != VectorFeature::Geometry::points || feature.parts.empty() ||
+        feature.parts.front().empty()) {
+        return std::nullopt;
+    }
+    const TilePoint place = feature.parts.front().front();
+    const MapRect data = dataKey.bounds();
+    const MapRect own = key.bounds();
+    const MapPoint point{data.x + static_cast<double>(place.x) * data.width,
+                         data.y + static_cast<double>(place.y) * data.height};
+    const bool isInside = point.x >= own.x && point.y >= own.y && point.x < own.x + own.width &&
+                          point.y < own.y + own.height;
+    return isInside ? std::optional(point) : std::nullopt;
+}
+
+/// Without the later of two equal names that stand near each other.
+std::vector<PlaceLabel> withoutRepetition(std::vector<PlaceLabel> names, double distance) {
+    QHash<std::pair<QString, std::pair<qint64, qint64>>, std::vector<MapPoint>> kept;
+    const auto isRepeated = [&](const PlaceLabel& name, qint64 column, qint64 row) {
+        for (qint64 y = row - 1; y <= row + 1; ++y) {
+            for (qint64 x = column - 1; x <= column + 1; ++x) {
+                for (const MapPoint& point : kept.value({name.text, {x, y}})) {
+                    if (std::hypot(point.x - name.point.x, point.y - name.point.y) < distance) {
+                        return true;
+                    }
+                }
+            }
+        }
+        return false;
+    };
+    std::erase_if(names, [&](const PlaceLabel& name) {
+        const auto column = static_cast<qint64>(name.point.x / distance);
+        const auto row = static_cast<qint64>(name.point.y / distance);
+        if (isRepeated(name, column, row)) {
+            return true;
+        }
+        kept[{name.text, {column, row}}].push_back(name.point);
+        return false;
+    });
+    return names;
+}
+
+} // namespace
+
+std::vector<PlaceLabel> placeLabels(const TileData& ground, const TileRequest& request) {
+    std::vector<PlaceLabel> names;
+    const double zoom = zoomOnScreen(request);
+    if (!ground.vector || !std::isfinite(zoom)) {
+        return names;
+    }
+    for (const VectorLayer& layer : ground.vector->layers) {
+        for (const VectorFeature& feature : layer.features) {
+            const std::optional<Appearance> appearance = appearanceOf(layer.name, feature);
+            if (!appearance || zoom < appearance->firstZoom || zoom >= appearance->lastZoom) {
+                continue;
+            }
+            const std::optional<MapPoint> point = pointIn(request.key, ground.vectorKey, feature);
+            QString text = point ? textOf(feature, request.language) : QString();
+            if (!text.isEmpty()) {
+                names.push_back({std::move(text), *point, appearance->kind, appearance->priority});
+            }
+        }
+    }
+    std::stable_sort(names.begin(), names.end(), [](const PlaceLabel& a, const PlaceLabel& b) {
+        return a.priority < b.priority;
+    });
+    const double pixelsPerMapPoint = request.devicePixelsPerMapPoint / request.devicePixelsPerPixel;
+    return withoutRepetition(std::move(names), sameNamePixels / pixelsPerMapPoint);
+}
+
+} // namespace vasker

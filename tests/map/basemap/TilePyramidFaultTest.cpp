@@ -1,0 +1,199 @@
+// What is seen of the ground while services fail: always something, and nothing false is said.
+
+#include "map/style/BasemapStyle.h"
+#include "tests/map/basemap/TilePyramidFixture.h"
+
+#include <QDir>
+
+#include <ostream>
+
+namespace vasker {
+namespace {
+
+using Manner = TileServer::Manner;
+
+class TilePyramidFaultTest : public TilePyramidFixture {
+  protected:
+    TilePyramidFaultTest() { writeLand(); }
+
+    /// Everything that is seen is the archive's, though the service was asked.
+    void expectArchive() {
+        openWithServices();
+        ASSERT_TRUE(lookUntilComplete());
+        ASSERT_TRUE(lookUntil([&] { return server.requests().size() >= 2 && server.open() == 0; }));
+        look();
+        EXPECT_TRUE(store->isComplete());
+        EXPECT_TRUE(hasNoHole());
+        EXPECT_EQ(middleColor(), land);
+        EXPECT_EQ(thanks(), std::vector{archiveThanks});
+    }
+
+    const QColor land = basemapColors(BasemapTheme::light).land;
+    const QColor darkLand = basemapColors(BasemapTheme::dark).land;
+    const QColor water = basemapColors(BasemapTheme::light).water;
+    const QByteArray sea = QByteArray::fromStdString(seaTile());
+};
+
+struct Fault {
+    const char* name;
+    TileServer::Answer answer;
+    friend void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.name; }
+};
+
+const QByteArray beginning(256, '\x1a');
+
+class FaultyServiceTest : public TilePyramidFaultTest, public testing::WithParamInterface<Fault> {
+  protected:
+    FaultyServiceTest() {
+        options.responseBytes = 100'000;
+        options.responseTime = std::chrono::milliseconds(300);
+        options.silentTime = std::chrono::milliseconds(200);
+        server.setOtherAnswer(GetParam().answer);
+    }
+};
+
+TEST_P(FaultyServiceTest, LeavesTheArchivesGround) {
+    expectArchive();
+    EXPECT_FALSE(store->lacksImagery());
+}
+
+TEST_P(FaultyServiceTest, LeavesTheDrawnMapInPlaceOfPhotographsAndThatIsSaid) {
+    view.look = BasemapTheme::satellite;
+    openWithServices();
+    ASSERT_TRUE(lookUntilComplete());
+    ASSERT_TRUE(lookUntil([&] { return server.requests().size() >= 2 && server.open() == 0; }));
+    look();
+    EXPECT_TRUE(store->isComplete());
+    EXPECT_TRUE(store->lacksImagery());
+    EXPECT_TRUE(hasNoHole());
+    EXPECT_EQ(middleColor(), darkLand);
+    EXPECT_EQ(thanks(), std::vector{archiveThanks});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OfEachKind,
+    FaultyServiceTest,
+    testing::Values(Fault{"NotFound", {.status = 404}},
+                    Fault{"Busy", {.status = 429, .headers = {"Retry-After: 30"}}},
+                    Fault{"Broken", {.status = 500}},
+                    Fault{"Elsewhere", {.status = 302, .headers = {"Location: http://localhost/"}}},
+                    Fault{"WrongType",
+                          {.body = "<html></html>", .headers = {"Content-Type: text/html"}}},
+                    Fault{"Damaged", {.body = "\x1a\x05layer"}},
+                    Fault{"DamagedPhotograph", {.body = "\xff\xd8\xff photograph"}},
+                    Fault{"NoHttp", {.body = "garbage", .manner = Manner::garbage}},
+                    Fault{"CutOff", {.body = beginning, .manner = Manner::cutOff}},
+                    Fault{"Slow", {.body = beginning, .manner = Manner::trickle}},
+                    Fault{"Silent", {.manner = Manner::silent}},
+                    Fault{"Endless", {.body = beginning, .manner = Manner::endless}}),
+    [](const auto& fault) { return std::string(fault.param.name); });
+
+TEST_F(TilePyramidFaultTest, AServerThatIsNotThereLeavesTheArchivesGround) {
+    server.close();
+    openWithServices();
+    ASSERT_TRUE(lookUntilComplete());
+    EXPECT_TRUE(hasNoHole());
+    EXPECT_EQ(thanks(), std::vector{archiveThanks});
+}
+
+TEST_F(TilePyramidFaultTest, AServerThatComesBackIsNoticed) {
+    const quint16 port = server.port();
+    server.close();
+    openWithServices();
+    ASSERT_TRUE(lookUntilComplete());
+    EXPECT_EQ(middleColor(), land);
+    TileServer again(port);
+    ASSERT_EQ(again.port(), port);
+    again.setOtherAnswer({.body = sea});
+    EXPECT_TRUE(
+        lookUntil([&] { return middleColor() == water && thanks() == std::vector{mapThanks}; }));
+}
+
+TEST_F(TilePyramidFaultTest, ADamagedTileIsNotKeptForTheNextTime) {
+    const QString path = vectorPath(homeZoom, homeTile.column, homeTile.row);
+    server.setAnswer(path, {.body = "\x1a\x05layer"});
+    openWithServices();
+    ASSERT_TRUE(lookUntil([&] { return server.requestsFor(path) == 1; }));
+    server.setAnswer(path, {.body = sea});
+    int frames = 0;
+    ASSERT_TRUE(lookUntil([&] {
+        if (++frames % 20 == 0) { // the program is started again
+            close();
+            openWithServices();
+        }
+        return server.requestsFor(path) >= 2; // not out of the cache
+    }));
+    EXPECT_TRUE(lookUntil([&] { return middleColor() == water; }));
+}
+
+TEST_F(TilePyramidFaultTest, PhotographsOfTheServiceAreShownAndTheirMakerIsThanked) {
+    server.setOtherAnswer({.body = photographOf(Qt::red)});
+    openWithServices();
+    view.look = BasemapTheme::satellite;
+    ASSERT_TRUE(lookUntil([&] { return store->isComplete() && !store->lacksImagery(); }));
+    EXPECT_EQ(middleColor(), QColor(Qt::red));
+    EXPECT_EQ(thanks(), std::vector{photographThanks});
+}
+
+TEST_F(TilePyramidFaultTest, HybridThanksForPhotographAndMap) {
+    server.setOtherAnswer({.body = photographOf(Qt::red)});
+    openWithServices();
+    view.look = BasemapTheme::hybrid;
+    ASSERT_TRUE(lookUntil([&] { return store->isComplete() && !store->lacksImagery(); }));
+    EXPECT_EQ(thanks(), (std::vector{photographThanks, archiveThanks}));
+}
+
+TEST_F(TilePyramidFaultTest, OnePhotographThatIsMissingIsSaidSoAndDrawn) {
+    server.setOtherAnswer({.body = photographOf(Qt::red)});
+    const TileKey quarter{homeZoom + 1, 2 * homeTile.column, 2 * homeTile.row};
+    server.setAnswer(imageryPath(quarter.zoom, quarter.column, quarter.row), {.status = 404});
+    openWithServices();
+    view.look = BasemapTheme::satellite;
+    ASSERT_TRUE(lookUntil([&] {
+        const auto reds = std::ranges::count_if(store->shown(), [](const ShownTile& shown) {
+            return shown.tile->image.pixelColor(400, 400) == QColor(Qt::red);
+        });
+        return store->isComplete() && reds == std::ssize(store->shown());
+    }));
+    EXPECT_TRUE(store->lacksImagery());
+    EXPECT_EQ(middleColor(), darkLand);
+    EXPECT_EQ(thanks(), (std::vector{photographThanks, archiveThanks}));
+}
+
+/// A real photograph where this machine has one, else colours that run into each other as there.
+QImage photographOfTheGround() {
+    const QDir photographs(QStringLiteral(VASKER_IMAGERY));
+    const QStringList names = photographs.entryList({QStringLiteral("*.jpg")});
+    if (!names.isEmpty()) {
+        return QImage(photographs.filePath(names.front()));
+    }
+    QImage picture(256, 256, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            picture.setPixel(x, y, qRgb(40 + x / 2, 90 + y / 3, 30 + (x + y) / 4));
+        }
+    }
+    return picture;
+}
+
+TEST_F(TilePyramidFaultTest, APhotographOfManyColoursIsSeen) {
+    const QImage photograph = photographOfTheGround();
+    ASSERT_FALSE(photograph.isNull());
+    const QImage part = photograph.copy(0, 0, 256, 256);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(part.save(&buffer, "jpeg", 95));
+    server.setOtherAnswer({.body = bytes});
+    openWithServices();
+    view.look = BasemapTheme::satellite;
+    ASSERT_TRUE(lookUntil([&] { return store->isComplete() && !store->lacksImagery(); }));
+    const QColor seen = store->shown().front().tile->image.pixelColor(100, 100);
+    const QColor sent = part.pixelColor(100, 100);
+    EXPECT_NEAR(seen.red(), sent.red(), 24);
+    EXPECT_NEAR(seen.green(), sent.green(), 24);
+    EXPECT_NEAR(seen.blue(), sent.blue(), 24);
+}
+
+} // namespace
+} // namespace vasker
