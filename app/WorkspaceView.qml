@@ -53,7 +53,7 @@ FocusScope {
                 kinds: root.workspace.kinds
                 counts: root.workspace.counts
                 selection: root.workspace.selection
-                answering: map.pointed
+                answering: map.hover.recordId
                 onKindPicked: kind => root.workspace.kind = kind
                 onRecordPicked: id => root.workspace.selection = id
                 onSelectionCleared: root.workspace.selection = ""
@@ -97,11 +97,11 @@ FocusScope {
             basemap: root.workspace.basemap
             tiles: root.tiles
             coveredRight: inspector.covered
-            hovered: map.pointed.length > 0 ? map.pointed : catalogue.pointed
+            hovered: map.hover.recordId.length > 0 ? map.hover.recordId : catalogue.pointed
             onPicked: id => root.workspace.selection = id
             onMoved: camera => root.workspace.camera = camera
-            onOverviewWanted: root.workspace.resetCamera()
-            onMenuWanted: (id, place) => menu.offer(id, map, place)
+            onOverviewRequested: root.workspace.resetCamera()
+            onMenuRequested: (id, place) => menu.offer(id, map, place)
             Keys.onEscapePressed: root.workspace.selection = ""
         }
     }

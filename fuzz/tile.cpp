@@ -24,18 +24,6 @@ void require(bool promise) {
     }
 }
 
-std::size_t memoryOf(const VectorFeature& feature) {
-    std::size_t bytes = sizeof(feature) + feature.parts.capacity() * sizeof(feature.parts.front());
-    for (const auto& part : feature.parts) {
-        bytes += part.capacity() * sizeof(part.front());
-    }
-    for (const auto* text :
-         {&feature.kind, &feature.name, &feature.nameEnglish, &feature.nameFrench}) {
-        bytes += text->size();
-    }
-    return bytes;
-}
-
 void check(const VectorFeature& feature) {
     require(!feature.parts.empty());
     for (const auto& part : feature.parts) {
@@ -62,14 +50,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!tile) {
         return 0;
     }
-    std::size_t memory = 0;
     for (const vasker::VectorLayer& layer : tile->layers) {
         require(!layer.name.empty() && tile->layer(layer.name) != nullptr);
         for (const VectorFeature& feature : layer.features) {
             check(feature);
-            memory += memoryOf(feature);
         }
     }
-    require(memory <= memoryFactor * inflated->size());
+    require(tile->memoryBytes() <= memoryFactor * inflated->size());
     return 0;
 }

@@ -7,10 +7,9 @@ namespace vasker {
 
 namespace {
 
-/// Half of the processor is left to frames, which a machine without a graphics card draws with it.
-unsigned paintingThreads() {
-    return std::clamp(std::thread::hardware_concurrency(), 1U, 4U);
-}
+constexpr unsigned mostPaintingThreads = 4;
+/// In which the service's thread has to end; its turns are short, unless a disk hangs.
+constexpr unsigned long millisecondsToEnd = 250;
 
 } // namespace
 
@@ -19,39 +18,58 @@ TileLibrary::TileLibrary(TileArchivePaths archives,
                          TileService::Options serviceOptions,
                          QObject* parent)
     : QObject(parent), m_sources(sources.usable(serviceOptions.plainLoopback)),
-      m_serviceOptions(std::move(serviceOptions)), m_reader(std::move(archives), m_sources),
-      m_workers(paintingThreads()) {}
+      m_serviceOptions(std::move(serviceOptions)),
+      m_provider(std::make_shared<TileProvider>(std::move(archives), m_sources)),
+      m_workers(std::clamp(std::thread::hardware_concurrency(), 1U, mostPaintingThreads)) {}
 
-TileLibrary::~TileLibrary() = default;
-
-void TileLibrary::want(const void* client, std::vector<ServiceTile> tiles) {
-    if (m_service) {
-        for (const ServiceTile& tile : m_reader.takeUndecodable()) {
-            m_service->discard(tile);
+TileLibrary::~TileLibrary() {
+    if (m_serviceThread) {
+        m_serviceThread->quit();
+        if (!m_serviceThread->wait(millisecondsToEnd)) {
+            (void)m_serviceThread.release(); // a disk hangs: the thread is left to itself
         }
     }
-    if (m_wanted[client] == tiles) {
+}
+
+void TileLibrary::startService() {
+    m_serviceThread = std::make_unique<QThread>();
+    m_service = new TileService(m_sources, m_serviceOptions);
+    m_service->moveToThread(m_serviceThread.get());
+    connect(m_serviceThread.get(), &QThread::finished, m_service, &QObject::deleteLater);
+    connect(m_service,
+            &TileService::arrived,
+            m_service,
+            [provider = m_provider](const ServiceTile& tile, const QByteArray& bytes) {
+                provider->put(tile, bytes);
+            });
+    connect(m_service, &TileService::arrived, this, &TileLibrary::tileArrived);
+    m_serviceThread->start();
+}
+
+void TileLibrary::discard(const std::vector<ServiceTile>& tiles) {
+    for (const ServiceTile& tile : m_service != nullptr ? tiles : std::vector<ServiceTile>()) {
+        QMetaObject::invokeMethod(m_service,
+                                  [service = m_service, tile] { service->discard(tile); });
+    }
+}
+
+void TileLibrary::request(const void* client, std::vector<ServiceTile> tiles) {
+    if (m_requested[client] == tiles) {
         return;
     }
-    m_wanted[client] = std::move(tiles);
+    m_requested[client] = std::move(tiles);
     std::vector<ServiceTile> all;
-    for (const auto& [each, wanted] : m_wanted) {
-        all.insert(all.end(), wanted.begin(), wanted.end());
+    for (const auto& [each, requested] : m_requested) {
+        all.insert(all.end(), requested.begin(), requested.end());
     }
-    if (!m_service) {
+    if (m_service == nullptr) {
         if (all.empty()) {
             return;
         }
-        m_service = std::make_unique<TileService>(m_sources, m_serviceOptions);
-        connect(m_service.get(),
-                &TileService::arrived,
-                this,
-                [this](const ServiceTile& tile, const QByteArray& bytes) {
-                    m_reader.put(tile, bytes);
-                    Q_EMIT tileArrived(tile);
-                });
+        startService();
     }
-    m_service->want(all);
+    QMetaObject::invokeMethod(
+        m_service, [service = m_service, all = std::move(all)] { service->setRequests(all); });
 }
 
 } // namespace vasker

@@ -1,12 +1,13 @@
 #pragma once
 // All that tiles are made of and by, one for the whole program: archives, services, and the threads
-// that decode and paint. User-interface thread.
+// that decode and paint. User-interface thread; the service works in a thread of its own.
 
 #include "map/basemap/TileProvider.h"
 #include "map/basemap/TileWorkers.h"
 #include "map/tileservice/TileService.h"
 
 #include <QObject>
+#include <QThread>
 
 #include <map>
 #include <memory>
@@ -19,7 +20,7 @@ class TileLibrary : public QObject {
 
   public:
     /// Of `sources` those that are usable. Nothing of the service is made before its first tile is
-    /// wanted.
+    /// requested.
     TileLibrary(TileArchivePaths archives,
                 const TileSources& sources,
                 TileService::Options serviceOptions,
@@ -27,22 +28,29 @@ class TileLibrary : public QObject {
     ~TileLibrary() override;
 
     /// Any thread.
-    [[nodiscard]] TileProvider& reader() noexcept { return m_reader; }
+    [[nodiscard]] const std::shared_ptr<TileProvider>& provider() const noexcept {
+        return m_provider;
+    }
     [[nodiscard]] TileWorkers& workers() noexcept { return m_workers; }
 
-    /// What `client` looks at now, the most wanted first, replaces what it looked at before.
-    void want(const void* client, std::vector<ServiceTile> tiles);
+    /// The tiles that `client` has in view now, the most important first, instead of those before.
+    void request(const void* client, std::vector<ServiceTile> tiles);
+    /// What a service sent for these could not be decoded.
+    void discard(const std::vector<ServiceTile>& tiles);
 
   Q_SIGNALS:
-    /// The reader now knows more of this tile.
+    /// The provider has something new of this tile.
     void tileArrived(const vasker::ServiceTile& tile);
 
   private:
+    void startService();
+
     TileSources m_sources;
     TileService::Options m_serviceOptions;
-    TileProvider m_reader;
-    std::map<const void*, std::vector<ServiceTile>> m_wanted;
-    std::unique_ptr<TileService> m_service;
+    std::shared_ptr<TileProvider> m_provider; ///< shared with jobs and with the service's thread
+    std::map<const void*, std::vector<ServiceTile>> m_requested;
+    std::unique_ptr<QThread> m_serviceThread;
+    TileService* m_service = nullptr; ///< lives in its thread, whose end deletes it
     TileWorkers m_workers;
 };
 

@@ -10,48 +10,30 @@ namespace vasker {
 
 namespace {
 
-bool asksForImagery(BasemapTheme look) {
-    return look == BasemapTheme::satellite || look == BasemapTheme::hybrid;
-}
-
 std::string_view viewOf(const QByteArray& bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
-}
-
-const std::vector<TileSource>& listOf(const TileSources& sources, TileContent content) {
-    return content == TileContent::vector ? sources.vector : sources.imagery;
-}
-
-const TileSource* sourceAt(const TileSources& sources, TileContent content, int zoom) {
-    const auto& list = listOf(sources, content);
-    const auto found = std::find_if(list.begin(), list.end(), [zoom](const TileSource& source) {
-        return source.firstZoom <= zoom && zoom <= source.lastZoom;
-    });
-    return found == list.end() ? nullptr : &*found;
-}
-
-int lastZoom(const TileSources& sources, TileContent content) {
-    int last = -1;
-    for (const TileSource& source : listOf(sources, content)) {
-        last = std::max(last, source.lastZoom);
-    }
-    return last;
 }
 
 TileKey childOf(TileKey key, int number) {
     return {key.zoom + 1, 2 * key.column + number % 2, 2 * key.row + number / 2};
 }
 
-void addCredit(std::vector<TileAttribution>& credits, TileAttribution credit) {
-    if (!credit.text.isEmpty() &&
-        std::find(credits.begin(), credits.end(), credit) == credits.end()) {
-        credits.push_back(std::move(credit));
+void add(std::vector<Attribution>& attributions, Attribution attribution) {
+    if (!attribution.text.isEmpty() &&
+        std::ranges::find(attributions, attribution) == attributions.end()) {
+        attributions.push_back(std::move(attribution));
     }
+}
+
+std::shared_ptr<const VectorTile> decode(std::string_view bytes) {
+    const auto inflated = inflatedTile(bytes);
+    auto tile = inflated ? decodeVectorTile(*inflated) : std::nullopt;
+    return tile ? std::make_shared<const VectorTile>(std::move(*tile)) : nullptr;
 }
 
 } // namespace
 
-std::unique_ptr<TileArchive> TileProvider::Handles::take() {
+std::unique_ptr<TileArchive> TileProvider::ArchivePool::take() {
     {
         const std::scoped_lock lock(m_mutex);
         if (!m_idle.empty()) {
@@ -71,7 +53,7 @@ std::unique_ptr<TileArchive> TileProvider::Handles::take() {
     return archive;
 }
 
-void TileProvider::Handles::giveBack(std::unique_ptr<TileArchive> archive) {
+void TileProvider::ArchivePool::giveBack(std::unique_ptr<TileArchive> archive) {
     if (archive) {
         const std::scoped_lock lock(m_mutex);
         m_idle.push_back(std::move(archive));
@@ -84,78 +66,76 @@ TileProvider::TileProvider(TileArchivePaths archives, TileSources sources)
 
 void TileProvider::put(const ServiceTile& tile, const QByteArray& bytes) {
     const std::scoped_lock lock(m_mutex);
-    m_received.put(tile, bytes);
-    m_decoded.erase({true, tile.key});
+    m_received.insert(tile, new Received{bytes, ++m_lastRevision}, bytes.size());
 }
 
-std::vector<ServiceTile> TileProvider::takeUndecodable() {
+void TileProvider::forget(const ServiceTile& tile, std::uint64_t revision, ProvidedTile& found) {
     const std::scoped_lock lock(m_mutex);
-    return std::exchange(m_undecodable, {});
+    const Received* const held = m_received.object(tile);
+    if (held != nullptr && held->revision == revision) {
+        m_received.remove(tile);
+        found.undecodable.push_back(tile);
+    }
 }
 
-void TileProvider::forget(const ServiceTile& tile) {
-    const std::scoped_lock lock(m_mutex);
-    m_received.erase(tile);
-    m_undecodable.push_back(tile);
-}
-
-ProvidedTile TileProvider::read(TileKey key, BasemapTheme look) {
+ProvidedTile TileProvider::read(TileKey key, BasemapTheme theme) {
     ProvidedTile found;
-    if (asksForImagery(look)) {
+    if (showsImagery(theme)) {
         readImagery(key, found);
     }
-    if (look != BasemapTheme::satellite || !found.ground.isPhotographed(key)) {
+    if (theme != BasemapTheme::satellite || !found.data.hasFullImagery(key)) {
         readVector(key, found);
     }
     return found;
 }
 
-std::vector<ServiceTile> TileProvider::wantedFor(TileKey key, BasemapTheme look) const {
-    std::vector<ServiceTile> wanted;
-    if (asksForImagery(look)) {
-        const int zoom = std::min(key.zoom + 1, lastZoom(m_sources, TileContent::imagery));
-        if (sourceAt(m_sources, TileContent::imagery, zoom) == nullptr) {
-            // Nothing covers this zoom.
+std::vector<ServiceTile> TileProvider::requestsFor(TileKey key, BasemapTheme theme) const {
+    std::vector<ServiceTile> requests;
+    if (showsImagery(theme)) {
+        const int zoom = std::min(key.zoom + 1, m_sources.lastZoom(TileContent::imagery));
+        if (m_sources.covering(TileContent::imagery, zoom) == nullptr) {
+            // There is no imagery of this zoom.
         } else if (zoom <= key.zoom) {
-            wanted.push_back({TileContent::imagery, key.ancestor(key.zoom - zoom)});
+            requests.push_back({TileContent::imagery, key.ancestor(key.zoom - zoom)});
         } else {
             for (const int child : {0, 1, 2, 3}) {
-                wanted.push_back({TileContent::imagery, childOf(key, child)});
+                requests.push_back({TileContent::imagery, childOf(key, child)});
             }
         }
     }
-    if (look != BasemapTheme::satellite) {
-        const int zoom = std::min(key.zoom, lastZoom(m_sources, TileContent::vector));
-        if (sourceAt(m_sources, TileContent::vector, zoom) != nullptr) {
-            wanted.push_back({TileContent::vector, key.ancestor(key.zoom - zoom)});
+    if (theme != BasemapTheme::satellite) {
+        const int zoom = std::min(key.zoom, m_sources.lastZoom(TileContent::vector));
+        if (m_sources.covering(TileContent::vector, zoom) != nullptr) {
+            requests.push_back({TileContent::vector, key.ancestor(key.zoom - zoom)});
         }
     }
-    return wanted;
+    return requests;
 }
 
-std::optional<QByteArray> TileProvider::received(const ServiceTile& tile) {
+std::optional<TileProvider::Received> TileProvider::received(const ServiceTile& tile) {
     const std::scoped_lock lock(m_mutex);
-    const QByteArray* bytes = m_received.find(tile);
-    return bytes == nullptr ? std::nullopt : std::optional(*bytes);
+    const Received* const held = m_received.object(tile);
+    return held == nullptr ? std::nullopt : std::optional(*held);
 }
 
 /// Null where the bytes are no tile.
 TileProvider::VectorPointer
-TileProvider::decoded(TileKey key, bool fromService, std::string_view bytes) {
+TileProvider::decoded(TileKey key, std::uint64_t revision, std::string_view bytes) {
+    const std::pair place{revision != 0, key};
     {
         const std::scoped_lock lock(m_mutex);
-        if (const VectorPointer* known = m_decoded.find({fromService, key})) {
-            return *known;
+        const Decoded* const known = m_decoded.object(place);
+        if (known != nullptr && known->revision == revision) {
+            return known->tile;
         }
     }
-    VectorPointer tile;
-    if (const auto inflated = inflatedTile(bytes)) {
-        if (auto decoded = decodeVectorTile(*inflated)) {
-            tile = std::make_shared<const VectorTile>(std::move(*decoded));
-        }
-    }
+    const VectorPointer tile = decode(bytes);
+    const auto cost = static_cast<qsizetype>(tile ? tile->memoryBytes() : 0) + 100;
     const std::scoped_lock lock(m_mutex);
-    m_decoded.put({fromService, key}, tile);
+    const Decoded* const known = m_decoded.object(place);
+    if (known == nullptr || known->revision <= revision) { // an older decode keeps off newer ones
+        m_decoded.insert(place, new Decoded{tile, revision}, cost);
+    }
     return tile;
 }
 
@@ -171,10 +151,10 @@ void TileProvider::readVector(TileKey key, ProvidedTile& found) {
     }
     auto nearest = archive->nearestTile(key);
     while (nearest) {
-        if (const auto tile = decoded(nearest->key, false, nearest->bytes)) {
-            found.ground.vector = tile;
-            found.ground.vectorKey = nearest->key;
-            addCredit(found.credits, {QString::fromStdString(archive->attribution()), {}});
+        if (const auto tile = decoded(nearest->key, 0, nearest->bytes)) {
+            found.data.vector = tile;
+            found.data.vectorKey = nearest->key;
+            add(found.attributions, {QString::fromStdString(archive->attribution()), {}});
             break;
         }
         const TileKey damaged = nearest->key;
@@ -185,52 +165,52 @@ void TileProvider::readVector(TileKey key, ProvidedTile& found) {
 
 bool TileProvider::readReceivedVector(TileKey key, ProvidedTile& found) {
     const ServiceTile sent{TileContent::vector, key};
-    const auto bytes = received(sent);
-    if (!bytes) {
+    const auto held = received(sent);
+    if (!held) {
         return false;
     }
-    const auto tile = decoded(key, true, viewOf(*bytes));
+    const auto tile = decoded(key, held->revision, viewOf(held->bytes));
     if (!tile) {
-        forget(sent);
+        forget(sent, held->revision, found);
         return false;
     }
-    found.ground.vector = tile;
-    found.ground.vectorKey = key;
-    addCredit(found.credits, creditOf(sent));
+    found.data.vector = tile;
+    found.data.vectorKey = key;
+    add(found.attributions, attributionOf(sent));
     return true;
 }
 
-/// What is there of the next zoom and, unless that is all of it, below it the nearest ancestor.
+/// What there is of the next zoom and, unless that is all of it, below it the nearest ancestor.
 void TileProvider::readImagery(TileKey key, ProvidedTile& found) {
     auto archive = m_imageryArchives.take();
-    std::vector<Photograph> photographs;
+    std::vector<CreditedImagery> tiles;
     for (const int number : {0, 1, 2, 3}) {
-        if (auto child = photograph(childOf(key, number), archive.get())) {
-            photographs.push_back(std::move(*child));
+        if (auto child = imagery(childOf(key, number), archive.get(), found)) {
+            tiles.push_back(std::move(*child));
         }
     }
-    const bool isWhole = photographs.size() == 4;
+    const bool isWhole = tiles.size() == 4;
     for (int levels = 0; levels <= key.zoom && !isWhole; ++levels) {
-        if (auto ancestor = photograph(key.ancestor(levels), archive.get())) {
-            photographs.insert(photographs.begin(), std::move(*ancestor));
+        if (auto ancestor = imagery(key.ancestor(levels), archive.get(), found)) {
+            tiles.insert(tiles.begin(), std::move(*ancestor));
             break;
         }
     }
     m_imageryArchives.giveBack(std::move(archive));
-    for (Photograph& each : photographs) {
-        found.ground.imagery.push_back(std::move(each.piece));
-        addCredit(found.credits, std::move(each.credit));
+    for (CreditedImagery& each : tiles) {
+        found.data.imagery.push_back(std::move(each.tile));
+        add(found.attributions, std::move(each.attribution));
     }
 }
 
-std::optional<TileProvider::Photograph> TileProvider::photograph(TileKey key,
-                                                                 TileArchive* archive) {
+std::optional<TileProvider::CreditedImagery>
+TileProvider::imagery(TileKey key, TileArchive* archive, ProvidedTile& found) {
     const ServiceTile sent{TileContent::imagery, key};
-    if (const auto bytes = received(sent)) {
-        if (QImage image = decodedImagery(*bytes); !image.isNull()) {
-            return Photograph{{key, std::move(image)}, creditOf(sent)};
+    if (const auto held = received(sent)) {
+        if (QImage image = decodedImagery(held->bytes); !image.isNull()) {
+            return CreditedImagery{{key, std::move(image)}, attributionOf(sent)};
         }
-        forget(sent);
+        forget(sent, held->revision, found);
     }
     const auto stored = archive != nullptr ? archive->tile(key) : std::nullopt;
     if (!stored) {
@@ -241,15 +221,15 @@ std::optional<TileProvider::Photograph> TileProvider::photograph(TileKey key,
     if (image.isNull()) {
         return std::nullopt;
     }
-    return Photograph{{key, std::move(image)},
-                      {QString::fromStdString(archive->attribution()), {}}};
+    return CreditedImagery{{key, std::move(image)},
+                           {QString::fromStdString(archive->attribution()), {}}};
 }
 
-/// What came has a source.
-TileAttribution TileProvider::creditOf(const ServiceTile& tile) const {
-    const TileSource* source = sourceAt(m_sources, tile.content, tile.key.zoom);
-    return source == nullptr ? TileAttribution()
-                             : TileAttribution{source->attribution, source->attributionAddress};
+/// What was received has a source.
+Attribution TileProvider::attributionOf(const ServiceTile& tile) const {
+    const TileSource* source = m_sources.covering(tile.content, tile.key.zoom);
+    return source == nullptr ? Attribution()
+                             : Attribution{source->attribution, source->attributionAddress};
 }
 
 } // namespace vasker

@@ -1,15 +1,14 @@
 #pragma once
-// What is known of the ground of a tile: from the archives, and from what a service has sent. Any
-// thread.
+// The data of tiles: from the archives, and from what services have sent. Any thread.
 
-#include "map/basemap/RecentlyUsed.h"
-#include "map/style/TilePicture.h"
+#include "map/basemap/Attribution.h"
+#include "map/style/BasemapTheme.h"
+#include "map/style/TileData.h"
 #include "map/tiles/TileArchive.h"
 #include "map/tileservice/TileService.h"
 
 #include <QByteArray>
-#include <QString>
-#include <QUrl>
+#include <QCache>
 
 #include <mutex>
 #include <optional>
@@ -19,20 +18,15 @@
 
 namespace vasker {
 
-/// Whom to thank for what is seen.
-struct TileAttribution {
-    QString text;
-    QUrl address; ///< empty: no link
-    friend bool operator==(const TileAttribution&, const TileAttribution&) = default;
-};
-
 struct ProvidedTile {
-    TileData ground;
-    std::vector<TileAttribution> credits;
+    TileData data;
+    std::vector<Attribution> attributions;
+    std::vector<ServiceTile> undecodable; ///< what services sent and could not be decoded
 };
 
+/// Paths; where there is no archive, there is nothing of it.
 struct TileArchivePaths {
-    std::string vector; ///< a path; where there is no archive, there is nothing of it
+    std::string vector;
     std::string imagery;
 };
 
@@ -40,26 +34,29 @@ class TileProvider {
   public:
     TileProvider(TileArchivePaths archives, TileSources sources);
 
-    /// Keeps what a service sent, for a while: the oldest unused goes first. Nothing is checked
-    /// yet: a tile that cannot be decoded is as if it had not come.
+    /// Keeps what a service sent, up to receivedBytes: what was used longest ago goes first.
+    /// Nothing is checked yet: a tile that cannot be decoded is as if it had not come.
     void put(const ServiceTile& tile, const QByteArray& bytes);
-    /// What came and could not be decoded since the last call.
-    [[nodiscard]] std::vector<ServiceTile> takeUndecodable();
 
     /// Of each place the nearest zoom that is there; of one zoom, what a service sent before what
     /// an archive holds.
-    [[nodiscard]] ProvidedTile read(TileKey key, BasemapTheme look);
+    [[nodiscard]] ProvidedTile read(TileKey key, BasemapTheme theme);
 
     /// Which tiles of services would show `key` better than what the archives hold.
-    [[nodiscard]] std::vector<ServiceTile> wantedFor(TileKey key, BasemapTheme look) const;
+    [[nodiscard]] std::vector<ServiceTile> requestsFor(TileKey key, BasemapTheme theme) const;
+
+    /// How much is kept in memory.
+    static constexpr qsizetype receivedBytes = 24'000'000;
+    static constexpr qsizetype decodedBytes = 16'000'000;
 
   private:
     using VectorPointer = std::shared_ptr<const VectorTile>;
 
-    /// An archive is used by one thread at a time; threads hand their handles back.
-    class Handles {
+    /// An archive is used by one thread at a time; threads return their handles.
+    class ArchivePool {
       public:
-        explicit Handles(std::string path) : m_path(std::move(path)) {}
+        explicit ArchivePool(std::string path) : m_path(std::move(path)) {}
+        /// Null where there is no archive.
         [[nodiscard]] std::unique_ptr<TileArchive> take();
         void giveBack(std::unique_ptr<TileArchive> archive);
 
@@ -70,30 +67,40 @@ class TileProvider {
         std::vector<std::unique_ptr<TileArchive>> m_idle;
     };
 
-    /// A photograph and whom to thank for it.
-    struct Photograph {
-        ImageryPiece piece;
-        TileAttribution credit;
+    /// What a service sent. The revision tells it apart from what it sent before.
+    struct Received {
+        QByteArray bytes;
+        std::uint64_t revision;
+    };
+    /// Of an archive's tile the revision is 0.
+    struct Decoded {
+        VectorPointer tile; ///< null: the bytes are no tile
+        std::uint64_t revision;
+    };
+    struct CreditedImagery {
+        ImageryTile tile;
+        Attribution attribution;
     };
 
-    [[nodiscard]] std::optional<QByteArray> received(const ServiceTile& tile);
-    void forget(const ServiceTile& tile);
-    /// `fromService` tells apart what archive and service say of one place.
-    [[nodiscard]] VectorPointer decoded(TileKey key, bool fromService, std::string_view bytes);
+    [[nodiscard]] std::optional<Received> received(const ServiceTile& tile);
+    /// Forgets what could not be decoded, unless something newer has come.
+    void forget(const ServiceTile& tile, std::uint64_t revision, ProvidedTile& found);
+    [[nodiscard]] VectorPointer
+    decoded(TileKey key, std::uint64_t revision, std::string_view bytes);
     void readVector(TileKey key, ProvidedTile& found);
     void readImagery(TileKey key, ProvidedTile& found);
     [[nodiscard]] bool readReceivedVector(TileKey key, ProvidedTile& found);
-    [[nodiscard]] std::optional<Photograph> photograph(TileKey key, TileArchive* archive);
-    [[nodiscard]] TileAttribution creditOf(const ServiceTile& tile) const;
+    [[nodiscard]] std::optional<CreditedImagery>
+    imagery(TileKey key, TileArchive* archive, ProvidedTile& found);
+    [[nodiscard]] Attribution attributionOf(const ServiceTile& tile) const;
 
     TileSources m_sources;
-    Handles m_vectorArchives;
-    Handles m_imageryArchives;
+    ArchivePool m_vectorArchives;
+    ArchivePool m_imageryArchives;
     std::mutex m_mutex;
-    RecentlyUsed<ServiceTile, QByteArray> m_received{600};
-    RecentlyUsed<std::pair<bool, TileKey>, VectorPointer> m_decoded{
-        48}; ///< whether from a service, key
-    std::vector<ServiceTile> m_undecodable;
+    std::uint64_t m_lastRevision = 0;
+    QCache<ServiceTile, Received> m_received{receivedBytes};
+    QCache<std::pair<bool, TileKey>, Decoded> m_decoded{decodedBytes}; ///< of a service or not
 };
 
 } // namespace vasker

@@ -110,14 +110,14 @@ constexpr double farthest = 20;
 } // namespace
 
 std::vector<double> worldCopyOffsets(const MapRect& rect) {
-    std::vector<double> shifts;
+    std::vector<double> offsets;
     const double first = std::floor(rect.x / worldSize);
     const double last = std::floor((rect.x + rect.width) / worldSize);
     const auto copies = static_cast<int>(last - first);
     for (int copy = 0; copy <= copies; ++copy) {
-        shifts.push_back((first + copy) * worldSize);
+        offsets.push_back((first + copy) * worldSize);
     }
-    return shifts;
+    return offsets;
 }
 
 Camera::Camera(const CameraPose& pose, Viewport viewport)
@@ -240,7 +240,7 @@ Camera Camera::zoomed(double factor, ScreenPoint anchor) const {
     return posed(pose).withGroundAt(screenToWorld(anchor), anchor);
 }
 
-Camera Camera::turned(double degrees, ScreenPoint anchor) const {
+Camera Camera::rotated(double degrees, ScreenPoint anchor) const {
     if (!isFinite(anchor)) {
         return *this;
     }

@@ -119,7 +119,7 @@ class Camera {
     /// as the limits of scale and centre allow. A factor that is not positive changes nothing.
     [[nodiscard]] Camera zoomed(double factor, ScreenPoint anchor) const;
     /// The camera turned clockwise by `degrees` about the ground under `anchor`.
-    [[nodiscard]] Camera turned(double degrees, ScreenPoint anchor) const;
+    [[nodiscard]] Camera rotated(double degrees, ScreenPoint anchor) const;
     /// The camera leant back by `degrees` more, about its centre.
     [[nodiscard]] Camera tilted(double degrees) const;
 

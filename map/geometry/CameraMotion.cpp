@@ -80,11 +80,11 @@ Camera SmoothZoom::cameraAt(double seconds) const {
     return m_start.zoomed(std::pow(m_factor, easedOut(seconds / m_duration)), m_anchor);
 }
 
-NorthReset::NorthReset(const Camera& camera, double bearing, double pitch)
+SmoothRotation::SmoothRotation(const Camera& camera, double bearing, double pitch)
     : m_start(camera), m_bearing(bearing), m_pitch(pitch),
       m_turn(std::remainder(bearing - camera.pose().bearing, 360)) {}
 
-Camera NorthReset::cameraAt(double seconds) const {
+Camera SmoothRotation::cameraAt(double seconds) const {
     CameraPose pose = m_start.pose();
     if (isFinished(seconds)) { // to the very bearing, without what rounding leaves
         pose.bearing = m_bearing;

@@ -66,10 +66,10 @@ class SmoothZoom {
 };
 
 /// The camera turns the short way to a bearing and leans to a pitch, about its centre.
-class NorthReset {
+class SmoothRotation {
   public:
     /// In degrees.
-    NorthReset(const Camera& camera, double bearing, double pitch);
+    SmoothRotation(const Camera& camera, double bearing, double pitch);
 
     [[nodiscard]] Camera cameraAt(double seconds) const;
     [[nodiscard]] static bool isFinished(double seconds) noexcept { return seconds >= duration; }

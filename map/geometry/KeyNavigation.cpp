@@ -36,7 +36,7 @@ Camera moved(const Camera& camera, NavigationAxis axis, double length) {
     case NavigationAxis::nearer:
         return camera.zoomed(std::exp2(length), camera.focus());
     case NavigationAxis::clockwise:
-        return camera.turned(length, camera.focus());
+        return camera.rotated(length, camera.focus());
     case NavigationAxis::back:
         return camera.tilted(length);
     }

@@ -21,7 +21,7 @@ Corners cornersOf(const Camera& camera, const MapRect& bounds) {
 
 MapRect boundsOf(const CoverTile& tile) {
     MapRect bounds = tile.key.bounds();
-    bounds.x += tile.shift;
+    bounds.x += tile.offset;
     return bounds;
 }
 
@@ -45,18 +45,18 @@ class Cover {
         : m_camera(camera), m_zoom(zoom), m_margin(margin),
           m_nearest(camera.worldToPerspective(camera.visibleCorners()[2]).w) {}
 
-    void add(TileKey key, double shift) {
-        const MapRect bounds = boundsOf({key, shift});
+    void add(TileKey key, double offset) {
+        const MapRect bounds = boundsOf({key, offset});
         const Corners corners = cornersOf(m_camera, bounds);
         if (!isSeen(m_camera, corners, m_margin)) {
             return;
         }
         if (key.zoom >= zoomAt(corners)) {
-            m_found.push_back({{key, shift}, distanceToFocus(bounds)});
+            m_found.push_back({{key, offset}, distanceToFocus(bounds)});
             return;
         }
         for (const int child : {0, 1, 2, 3}) {
-            add({key.zoom + 1, 2 * key.column + child % 2, 2 * key.row + child / 2}, shift);
+            add({key.zoom + 1, 2 * key.column + child % 2, 2 * key.row + child / 2}, offset);
         }
     }
 
@@ -115,8 +115,8 @@ bool seesTile(const Camera& camera, const CoverTile& tile, double margin) {
 
 std::vector<CoverTile> tileCover(const Camera& camera, int zoom, double margin) {
     Cover cover(camera, std::clamp(zoom, 0, maximumTileZoom), margin);
-    for (const double shift : worldCopyOffsets(camera.visibleRect(margin))) {
-        cover.add({0, 0, 0}, shift);
+    for (const double offset : worldCopyOffsets(camera.visibleRect(margin))) {
+        cover.add({0, 0, 0}, offset);
     }
     return cover.found();
 }

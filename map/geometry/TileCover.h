@@ -10,7 +10,7 @@ namespace vasker {
 
 struct CoverTile {
     TileKey key;
-    double shift; ///< the copy of the world it is seen in: map points to the east
+    double offset; ///< the copy of the world it is seen in: map points to the east
     friend bool operator==(const CoverTile&, const CoverTile&) = default;
 };
 

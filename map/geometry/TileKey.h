@@ -15,6 +15,8 @@ struct TileKey {
     std::int32_t row;    ///< 0 to 2^zoom - 1, north to south
     friend constexpr auto operator<=>(const TileKey&, const TileKey&) = default;
 
+    /// Whether the numbers are within their ranges.
+    [[nodiscard]] constexpr bool isValid() const noexcept;
     /// In map points.
     [[nodiscard]] constexpr double side() const noexcept {
         return worldSize / static_cast<double>(std::int64_t{1} << zoom);
@@ -30,5 +32,10 @@ struct TileKey {
 
 inline constexpr int tilePixels = 512; ///< logical pixels of a side at the tile's own scale
 inline constexpr int maximumTileZoom = 22;
+
+constexpr bool TileKey::isValid() const noexcept {
+    return zoom >= 0 && zoom <= maximumTileZoom && column >= 0 && column < (1 << zoom) &&
+           row >= 0 && row < (1 << zoom);
+}
 
 } // namespace vasker

@@ -1,6 +1,7 @@
 #include "map/labels/LabelAtlas.h"
 
 #include "map/labels/LabelText.h"
+#include "map/style/MapTheme.h"
 
 #include <QPainter>
 
@@ -11,12 +12,14 @@ namespace vasker {
 
 namespace {
 
-// In device pixels.
-constexpr int pictureWidth = 2048;
-constexpr int firstHeight = 256;
-constexpr int greatestHeight = 1536; // the whole picture is uploaded with every new name
+// Of a page, in logical pixels: enough for any text in two lines at a text scale of 2.
+constexpr double pageWidth = 512;
+constexpr double pageHeight = 128;
 
-/// Texts that were measured and perhaps never drawn are forgotten with the rest at this number.
+/// About four screens of labels. Pages that one frame needs are kept beyond that number.
+constexpr std::size_t mostPages = 16;
+
+/// Texts that were measured and perhaps never drawn are forgotten at this number.
 constexpr qsizetype mostEntries = 10'000;
 
 constexpr int dotsPerMetre = 3780; // 96 dots per inch, which labelFont() counts in
@@ -25,8 +28,11 @@ constexpr double markRadius = 2.2;
 constexpr double markStroke = 1.3;
 constexpr double markHalo = 1.4;
 
-QImage emptyPicture(int height, double devicePixels) {
-    QImage image(pictureWidth, height, QImage::Format_ARGB32_Premultiplied);
+QImage emptyPage(double devicePixels, double textScale) {
+    const double scale = devicePixels * std::max(1.0, textScale / 2);
+    QImage image(static_cast<int>(std::ceil(pageWidth * scale)),
+                 static_cast<int>(std::ceil(pageHeight * scale)),
+                 QImage::Format_ARGB32_Premultiplied);
     image.setDotsPerMeterX(dotsPerMetre);
     image.setDotsPerMeterY(dotsPerMetre);
     image.setDevicePixelRatio(devicePixels);
@@ -34,76 +40,60 @@ QImage emptyPicture(int height, double devicePixels) {
     return image;
 }
 
-void paintMark(QPainter& painter, QPointF centre, BasemapTheme look) {
-    const LabelColors colors = labelColors(LabelStyle::town, look);
-    painter.setBrush(colors.halo);
-    painter.setPen(QPen(colors.halo, markStroke + 2 * markHalo));
+void paintMark(QPainter& painter, QPointF centre, BasemapTheme theme) {
+    const MapTheme& colors = mapTheme(theme);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(colors.labelHalo);
+    painter.setPen(QPen(colors.labelHalo, markStroke + 2 * markHalo));
     painter.drawEllipse(centre, markRadius, markRadius);
-    painter.setPen(QPen(colors.text, markStroke));
+    painter.setPen(QPen(colors.placeLabel, markStroke));
     painter.drawEllipse(centre, markRadius, markRadius);
 }
 
 } // namespace
 
-LabelStyle labelStyleOf(PlaceLabel::Kind kind) noexcept {
-    switch (kind) {
-    case PlaceLabel::Kind::country:
-        return LabelStyle::country;
-    case PlaceLabel::Kind::region:
-        return LabelStyle::region;
-    case PlaceLabel::Kind::capital:
-    case PlaceLabel::Kind::city:
-        return LabelStyle::city;
-    case PlaceLabel::Kind::town:
-        return LabelStyle::town;
-    case PlaceLabel::Kind::water:
-        return LabelStyle::water;
-    case PlaceLabel::Kind::village:
-        break;
-    }
-    return LabelStyle::village;
-}
-
-size_t qHash(const Label& label, size_t seed) noexcept {
-    return qHashMulti(
-        seed, label.text, static_cast<int>(label.style), static_cast<int>(label.look));
-}
-
 LabelAtlas::LabelAtlas(double devicePixels, double textScale)
     : m_devicePixels(std::clamp(devicePixels, 0.5, 8.0)),
-      m_textScale(std::clamp(textScale, 0.5, 4.0)),
-      m_image(emptyPicture(firstHeight, m_devicePixels)) {}
+      m_textScale(std::clamp(textScale, 0.5, 4.0)) {
+    m_pages.push_back({emptyPage(m_devicePixels, m_textScale)});
+}
 
 QSizeF LabelAtlas::size(const Label& label) {
     return entryOf(label).size;
 }
 
-QRectF LabelAtlas::cut(const Label& label) {
-    if (const Entry& known = entryOf(label); known.size.isEmpty() || !known.cut.isEmpty()) {
-        return known.cut;
+std::optional<LabelAtlas::Place> LabelAtlas::place(const Label& label) {
+    const Entry& known = entryOf(label);
+    if (known.size.isEmpty()) {
+        return std::nullopt;
     }
-    const QSizeF size = entryOf(label).size;
-    const QRectF cut = room(size + QSizeF(2 * margin, 2 * margin));
-    // Starting anew forgets the entry.
-    Entry& entry = entryOf(label);
-    entry.cut = cut;
-    QPainter painter(&m_image);
-    painter.setClipRect(cut);
-    painter.translate(cut.topLeft() + QPointF(margin, margin));
-    paintLabel(painter, {entry.lines, size}, label, m_textScale);
-    return cut;
+    if (known.place) {
+        return used(*known.place);
+    }
+    const SetText text{known.lines, known.size};
+    const Place place = room(text.size + QSizeF(2 * margin, 2 * margin));
+    QPainter painter(&m_pages[place.page].image);
+    painter.setClipRect(place.region);
+    painter.translate(place.region.topLeft() + QPointF(margin, margin));
+    paintLabel(painter, text, label, m_textScale);
+    entryOf(label).place = place;
+    return used(place);
 }
 
-QRectF LabelAtlas::markCut(BasemapTheme look) {
-    const auto place = static_cast<std::size_t>(look);
-    if (m_marks[place].isEmpty()) {
+LabelAtlas::Place LabelAtlas::placeMark(BasemapTheme theme) {
+    std::optional<Place>& mark = m_marks[static_cast<std::size_t>(theme)];
+    if (!mark) {
         const double side = 2 * std::ceil(markRadius + markStroke / 2 + markHalo + 0.5);
-        m_marks[place] = room({side, side});
-        QPainter painter(&m_image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        paintMark(painter, m_marks[place].center(), look);
+        mark = room({side, side});
+        QPainter painter(&m_pages[mark->page].image);
+        paintMark(painter, mark->region.center(), theme);
     }
-    return m_marks[place];
+    return used(*mark);
+}
+
+LabelAtlas::Place LabelAtlas::used(const Place& place) {
+    m_pages[place.page].lastFrame = m_frame;
+    return place;
 }
 
 LabelAtlas::Entry& LabelAtlas::entryOf(const Label& label) {
@@ -112,58 +102,61 @@ LabelAtlas::Entry& LabelAtlas::entryOf(const Label& label) {
         return *known;
     }
     if (m_entries.size() >= mostEntries) {
-        startAnew();
+        m_entries.removeIf([](const auto& entry) { return !entry->place; });
     }
-    SetText set = setText(label.text, label.style, m_textScale, &m_image);
-    return *m_entries.insert(label, {std::move(set.lines), set.size, QRectF()});
+    SetText set = setText(label.text, label.style, m_textScale, &m_pages.front().image);
+    return *m_entries.insert(label, {std::move(set.lines), set.size, std::nullopt});
 }
 
-QRectF LabelAtlas::room(QSizeF size) {
-    const int width =
-        std::min(pictureWidth, static_cast<int>(std::ceil(size.width() * m_devicePixels)));
-    const int height =
-        std::min(greatestHeight, static_cast<int>(std::ceil(size.height() * m_devicePixels)));
-    if (m_shelfEnd + width > pictureWidth) {
-        m_shelfTop += m_shelfHeight;
-        m_shelfHeight = 0;
-        m_shelfEnd = 0;
+std::optional<QRectF> LabelAtlas::roomIn(Page& page, int width, int height) const {
+    if (page.shelfEnd + width > page.image.width()) {
+        page.shelfTop += page.shelfHeight;
+        page.shelfHeight = 0;
+        page.shelfEnd = 0;
     }
-    if (m_shelfTop + height > greatestHeight) {
-        startAnew();
+    if (page.shelfTop + height > page.image.height()) {
+        return std::nullopt;
     }
-    m_shelfHeight = std::max(m_shelfHeight, height);
-    growTo(m_shelfTop + m_shelfHeight);
-    const QRectF found(m_shelfEnd / m_devicePixels,
-                       m_shelfTop / m_devicePixels,
+    const QRectF found(page.shelfEnd / m_devicePixels,
+                       page.shelfTop / m_devicePixels,
                        width / m_devicePixels,
                        height / m_devicePixels);
-    m_shelfEnd += width;
-    ++m_revision;
+    page.shelfHeight = std::max(page.shelfHeight, height);
+    page.shelfEnd += width;
     return found;
 }
 
-void LabelAtlas::startAnew() {
-    m_entries.clear();
-    m_marks = {};
-    m_image.fill(Qt::transparent);
-    m_shelfTop = 0;
-    m_shelfHeight = 0;
-    m_shelfEnd = 0;
-    ++m_generation;
-    ++m_revision;
+LabelAtlas::Place LabelAtlas::room(QSizeF size) {
+    const QImage& image = m_pages.front().image;
+    const int width =
+        std::min(image.width(), static_cast<int>(std::ceil(size.width() * m_devicePixels)));
+    const int height =
+        std::min(image.height(), static_cast<int>(std::ceil(size.height() * m_devicePixels)));
+    for (std::size_t i = 0; i < m_pages.size(); ++i) {
+        if (const auto region = roomIn(m_pages[i], width, height)) {
+            return {i, *region};
+        }
+    }
+    const auto oldest = std::ranges::min_element(m_pages, {}, &Page::lastFrame);
+    auto number = static_cast<std::size_t>(oldest - m_pages.begin());
+    if (m_pages.size() < mostPages || oldest->lastFrame == m_frame) {
+        number = m_pages.size();
+        m_pages.push_back({emptyPage(m_devicePixels, m_textScale)});
+    } else {
+        clear(number);
+    }
+    return {number, *roomIn(m_pages[number], width, height)};
 }
 
-void LabelAtlas::growTo(int deviceHeight) {
-    int height = m_image.height();
-    while (height < deviceHeight) {
-        height *= 2;
+void LabelAtlas::clear(std::size_t number) {
+    m_entries.removeIf(
+        [number](const auto& entry) { return entry->place && entry->place->page == number; });
+    for (std::optional<Place>& mark : m_marks) {
+        if (mark && mark->page == number) {
+            mark.reset();
+        }
     }
-    if (height == m_image.height()) {
-        return;
-    }
-    QImage grown = emptyPicture(height, m_devicePixels);
-    std::copy_n(m_image.constBits(), m_image.sizeInBytes(), grown.bits());
-    m_image = std::move(grown);
+    m_pages[number] = {emptyPage(m_devicePixels, m_textScale)};
 }
 
 } // namespace vasker

@@ -1,82 +1,78 @@
 #pragma once
-// One picture that gathers the names on the map as they are needed: texts with their halo, drawn
-// once each, at the screen's density. It grows to a limit and then starts anew.
+// The texts on the map, drawn with their halo when first needed, at the screen's density. The atlas
+// consists of pages of equal size, so that a new text changes one small image; the page used
+// longest ago makes room for new texts.
 
-#include "map/style/TilePicture.h"
+#include "map/labels/Label.h"
 
 #include <QHash>
 #include <QImage>
 #include <QRectF>
-#include <QString>
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 namespace vasker {
 
-enum class LabelStyle : std::uint8_t { country, region, city, town, village, water, title };
-
-/// How the names of a kind of place are set.
-[[nodiscard]] LabelStyle labelStyleOf(PlaceLabel::Kind kind) noexcept;
-
-struct Label {
-    QString text;
-    LabelStyle style;
-    BasemapTheme look;
-    friend bool operator==(const Label&, const Label&) = default;
-};
-[[nodiscard]] size_t qHash(const Label& label, size_t seed = 0) noexcept;
-
 class LabelAtlas {
   public:
-    /// `devicePixels` per logical pixel; `textScale` is the desktop's.
-    explicit LabelAtlas(double devicePixels, double textScale = 1);
-
-    /// What the text covers, in logical pixels, without its halo: what a layout needs to know.
-    /// Long names take two lines; what does not fit into these ends in an ellipsis. Nothing is
-    /// drawn yet. A text without any letter has no size.
-    [[nodiscard]] QSizeF size(const Label& label);
-    /// Where the text stands in the picture, in logical pixels: its size and `margin` on each side.
-    /// Draws it if it was not yet there.
-    [[nodiscard]] QRectF cut(const Label& label);
-    /// Whether the text was measured already: size() is quick then.
-    [[nodiscard]] bool knows(const Label& label) const { return m_entries.contains(label); }
-    /// The small ring that stands on the points of places; its centre is the point.
-    [[nodiscard]] QRectF markCut(BasemapTheme look);
-
     /// Room for the halo around a text, in logical pixels.
     static constexpr double margin = 3;
 
-    [[nodiscard]] const QImage& image() const noexcept { return m_image; }
-    /// Grows with every change of the picture.
-    [[nodiscard]] std::uint64_t revision() const noexcept { return m_revision; }
-    /// Grows when the picture starts anew: all cuts from before are void then, also those of the
-    /// same frame. The picture holds the names of a screen several times.
-    [[nodiscard]] std::uint64_t generation() const noexcept { return m_generation; }
+    /// `devicePixels` per logical pixel; `textScale` is the desktop's.
+    explicit LabelAtlas(double devicePixels, double textScale = 1);
+
+    /// Places found from here on are kept until the next call.
+    void beginFrame() noexcept { ++m_frame; }
+
+    /// What the text covers, in logical pixels, without its halo. Long texts take two lines; what
+    /// does not fit into these ends in an ellipsis. Draws nothing. A text without any letter has no
+    /// size.
+    [[nodiscard]] QSizeF size(const Label& label);
+    /// Whether the text was measured already: size() is quick then.
+    [[nodiscard]] bool knows(const Label& label) const { return m_entries.contains(label); }
+
+    struct Place {
+        std::size_t page;
+        QRectF region; ///< in logical pixels
+    };
+    /// Where the text stands: its size and `margin` on each side. Nothing for a text of no size.
+    [[nodiscard]] std::optional<Place> place(const Label& label);
+    /// The small ring that marks the points of places; its centre is the point.
+    [[nodiscard]] Place placeMark(BasemapTheme theme);
+
+    [[nodiscard]] std::size_t pages() const noexcept { return m_pages.size(); }
+    [[nodiscard]] const QImage& page(std::size_t number) const { return m_pages[number].image; }
 
   private:
     struct Entry {
         QString lines; ///< as they are set, with line separators
         QSizeF size;
-        QRectF cut; ///< empty: not drawn
+        std::optional<Place> place; ///< none: not drawn
+    };
+    struct Page {
+        QImage image;
+        std::uint64_t lastFrame = 0; ///< in which a place of it was found
+        int shelfTop = 0;            ///< device pixels: the row of texts that is being filled
+        int shelfHeight = 0;
+        int shelfEnd = 0;
     };
 
     Entry& entryOf(const Label& label);
-    /// A free rectangle of whole device pixels, at least `size` logical ones.
-    QRectF room(QSizeF size);
-    void startAnew();
-    void growTo(int deviceHeight);
+    /// Free room of at least `size` logical pixels.
+    Place room(QSizeF size);
+    std::optional<QRectF> roomIn(Page& page, int width, int height) const;
+    void clear(std::size_t number);
+    Place used(const Place& place);
 
     double m_devicePixels;
     double m_textScale;
-    QImage m_image;
+    std::uint64_t m_frame = 0;
+    std::vector<Page> m_pages;
     QHash<Label, Entry> m_entries;
-    std::array<QRectF, 4> m_marks; ///< by look; empty: not drawn
-    std::uint64_t m_revision = 0;
-    std::uint64_t m_generation = 0;
-    int m_shelfTop = 0; ///< device pixels: the row of cuts that is being filled
-    int m_shelfHeight = 0;
-    int m_shelfEnd = 0;
+    std::array<std::optional<Place>, 4> m_marks; ///< by theme
 };
 
 } // namespace vasker

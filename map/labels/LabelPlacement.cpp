@@ -155,19 +155,19 @@ bool LabelPlacement::placeAnew(const LabelCandidate& candidate,
     });
 }
 
-bool LabelPlacement::repeatsAName(const LabelCandidate& candidate) const {
-    const auto [first, last] = m_names.equal_range(candidate.name);
-    return candidate.name != 0 && std::any_of(first, last, [&](const auto& standing) {
+bool LabelPlacement::repeatsAText(const LabelCandidate& candidate) const {
+    const auto [first, last] = m_texts.equal_range(candidate.text);
+    return candidate.text != 0 && std::any_of(first, last, [&](const auto& standing) {
                return std::hypot(standing.second.x - candidate.anchor.x,
-                                 standing.second.y - candidate.anchor.y) < sameNameDistance;
+                                 standing.second.y - candidate.anchor.y) < sameTextDistance;
            });
 }
 
-const std::vector<PlacedLabel>& LabelPlacement::layOut(std::span<const LabelCandidate> candidates,
-                                                       std::span<const ScreenRect> obstacles,
-                                                       const ScreenRect& bounds) {
+const std::vector<PlacedLabel>& LabelPlacement::place(std::span<const LabelCandidate> candidates,
+                                                      std::span<const ScreenRect> obstacles,
+                                                      const ScreenRect& bounds) {
     m_placed.clear();
-    m_names.clear();
+    m_texts.clear();
     if (!isSound(bounds)) {
         m_lastSides.clear();
         return m_placed;
@@ -186,7 +186,7 @@ const std::vector<PlacedLabel>& LabelPlacement::layOut(std::span<const LabelCand
         const bool hasRoom = (last != m_lastSides.end() &&
                               placeAsItStood(candidate, last->second, bounds, placed)) ||
                              placeAnew(candidate, bounds, placed);
-        if (!candidate.isRequired && (!hasRoom || repeatsAName(candidate))) {
+        if (!candidate.isRequired && (!hasRoom || repeatsAText(candidate))) {
             continue;
         }
         if (!hasRoom) {
@@ -198,8 +198,8 @@ const std::vector<PlacedLabel>& LabelPlacement::layOut(std::span<const LabelCand
             placed.rect = labelRect(candidate, placed.side);
         }
         m_grid.insert(placed.rect);
-        if (candidate.name != 0) {
-            m_names.emplace(candidate.name, candidate.anchor);
+        if (candidate.text != 0) {
+            m_texts.emplace(candidate.text, candidate.anchor);
         }
         sides.insert_or_assign(candidate.id, placed.side);
         m_placed.push_back(placed);

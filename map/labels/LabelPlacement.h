@@ -1,14 +1,14 @@
 #pragma once
-// Which names stand on the screen, and on which side of their points. Axis-parallel rectangles that
-// neither overlap each other nor an obstacle; laid out anew for every frame.
+// Which labels stand on the screen, and on which side of their points: axis-parallel rectangles
+// that overlap neither each other nor an obstacle, placed anew for every frame.
 //
-// The layout is steady. What stood in the last one counts as more important by labelHysteresis and
-// is first tried on the side where it stood: while the map moves, a name goes only where something
-// clearly more important comes or where its room is gone, and changes its side only where that side
-// is taken. A new name appears only wholly within the bounds; one that stands may be pushed out of
-// them bit by bit.
+// The placement has hysteresis. A label that stood in the last frame gains labelHysteresis in
+// priority and is first tried on the side where it stood: while the map moves, a label goes only
+// where something clearly more important comes or where its room is gone. A new label appears only
+// wholly within the bounds; one that stands may be pushed out of them gradually.
 
 #include "map/geometry/Camera.h"
+#include "map/geometry/ScreenRect.h"
 
 #include <array>
 #include <cstddef>
@@ -18,25 +18,6 @@
 #include <vector>
 
 namespace vasker {
-
-/// On the map item: logical pixels, y down.
-struct ScreenRect {
-    double x;
-    double y;
-    double width;
-    double height;
-
-    /// Whether the two share more than an edge.
-    [[nodiscard]] constexpr bool overlaps(const ScreenRect& other) const noexcept {
-        return x < other.x + other.width && other.x < x + width && y < other.y + other.height &&
-               other.y < y + height;
-    }
-    [[nodiscard]] constexpr bool contains(const ScreenRect& other) const noexcept {
-        return other.x >= x && other.y >= y && other.x + other.width <= x + width &&
-               other.y + other.height <= y + height;
-    }
-    friend bool operator==(const ScreenRect&, const ScreenRect&) = default;
-};
 
 /// Where a label stands about its anchor. Sides are tried in this order.
 enum class LabelSide : std::uint8_t { right, left, above, below, centred };
@@ -62,16 +43,16 @@ inline constexpr LabelSides aroundThePoint{
 inline constexpr LabelSides onThePoint{LabelSide::centred};
 
 struct LabelCandidate {
-    std::uint64_t id; ///< the same in every layout, another for each label
+    std::uint64_t id; ///< the same in every frame, another for each label
     ScreenPoint anchor;
     double width; ///< of the label, in logical pixels
     double height;
     double gap = 0; ///< from the anchor to the label's nearest edge; centred: none
     LabelSides sides = aroundThePoint;
-    double priority = 0; ///< the smaller goes first
+    double priority = 0; ///< the smaller comes first
     /// Equal for labels of which one is enough where they stand near each other; 0: never.
-    std::uint64_t name = 0;
-    /// Goes before all others and stands in any case: where there is no room, on its first side.
+    std::uint64_t text = 0;
+    /// Comes before all others and stands in any case: where there is no room, on its first side.
     bool isRequired = false;
 };
 
@@ -83,19 +64,19 @@ struct PlacedLabel {
 
 /// The least distance between two labels, in logical pixels.
 inline constexpr double labelSpacing = 3;
-/// By how much what stood in the last layout precedes others.
+/// What a label that stood in the last frame gains in priority.
 inline constexpr double labelHysteresis = 1;
-/// Nearer than this, in logical pixels, no two labels of one name stand.
-inline constexpr double sameNameDistance = 300;
+/// No two labels of one text stand nearer to each other than this, in logical pixels.
+inline constexpr double sameTextDistance = 300;
 
 class LabelPlacement {
   public:
     /// The labels that find room in `bounds`, in order of priority; equal ones in the order of
     /// the candidates. Candidates with values that are no finite numbers, or of no size, are passed
     /// over. Valid until the next call.
-    const std::vector<PlacedLabel>& layOut(std::span<const LabelCandidate> candidates,
-                                           std::span<const ScreenRect> obstacles,
-                                           const ScreenRect& bounds);
+    const std::vector<PlacedLabel>& place(std::span<const LabelCandidate> candidates,
+                                          std::span<const ScreenRect> obstacles,
+                                          const ScreenRect& bounds);
     /// The result of the last call.
     [[nodiscard]] const std::vector<PlacedLabel>& placed() const noexcept { return m_placed; }
 
@@ -110,7 +91,7 @@ class LabelPlacement {
                                       PlacedLabel& placed) const;
     [[nodiscard]] bool
     placeAnew(const LabelCandidate& candidate, const ScreenRect& bounds, PlacedLabel& placed) const;
-    [[nodiscard]] bool repeatsAName(const LabelCandidate& candidate) const;
+    [[nodiscard]] bool repeatsAText(const LabelCandidate& candidate) const;
 
     /// Rectangles in the cells of a grid over the bounds.
     class Grid {
@@ -138,8 +119,8 @@ class LabelPlacement {
     };
 
     Grid m_grid;
-    LastSides m_lastSides; ///< of what stood in the last layout, by id
-    std::unordered_multimap<std::uint64_t, ScreenPoint> m_names; ///< that stand, by name
+    LastSides m_lastSides; ///< of what stood in the last frame, by id
+    std::unordered_multimap<std::uint64_t, ScreenPoint> m_texts; ///< that stand, by text
     std::vector<PlacedLabel> m_placed;
 };
 

@@ -1,5 +1,7 @@
 #include "map/labels/LabelText.h"
 
+#include "map/style/MapTheme.h"
+
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QGuiApplication>
@@ -14,7 +16,7 @@ namespace vasker {
 
 namespace {
 
-/// A name longer than this is cut before it is set; its end would not be seen anyway.
+/// A longer text is truncated before it is set; its end would not be seen anyway.
 constexpr qsizetype mostLetters = 300;
 constexpr double haloRadius = 1.35;
 constexpr int haloSteps = 8;
@@ -44,7 +46,7 @@ TextStyle textStyleOf(LabelStyle style) {
         return {11.5, QFont::Medium, 14, 120};
     case LabelStyle::water:
         return {11.5, QFont::Normal, 14, 110, 0.2, true};
-    case LabelStyle::title:
+    case LabelStyle::record:
         break;
     }
     return {11.5, QFont::DemiBold, 14, 170};
@@ -121,46 +123,24 @@ QString tidied(const QString& text, bool isCapitals) {
     return isCapitals ? tidy.toUpper() : tidy;
 }
 
-QColor translucent(QRgb value, double opacity) {
-    QColor color = QColor::fromRgb(value);
-    color.setAlphaF(static_cast<float>(opacity));
-    return color;
-}
-
-} // namespace
-
-LabelColors labelColors(LabelStyle style, BasemapTheme look) {
-    struct Dress {
-        QRgb place = 0;
-        QColor region;
-        QRgb water = 0;
-        QRgb title = 0;
-        QColor halo;
-    };
-    static const Dress light{
-        0x3B4047, QColor(0x65, 0x5B, 0x70), 0x2F6480, 0x1A1D21, translucent(0xFAF9F6, 0.92)};
-    static const Dress dark{
-        0xC6CBD1, QColor(0xAB, 0xA3, 0xB5), 0x7FA9C2, 0xECEEF0, translucent(0x1E2328, 0.92)};
-    static const Dress imagery{
-        0xFFFFFF, translucent(0xFFFFFF, 0.86), 0xCFE6F5, 0xFFFFFF, translucent(0x0A0F14, 0.82)};
-    const Dress& dress = look == BasemapTheme::light  ? light
-                         : look == BasemapTheme::dark ? dark
-                                                      : imagery;
+QColor textColor(LabelStyle style, const MapTheme& theme) {
     switch (style) {
     case LabelStyle::country:
     case LabelStyle::region:
-        return {dress.region, dress.halo};
+        return theme.regionLabel;
     case LabelStyle::water:
-        return {QColor::fromRgb(dress.water), dress.halo};
-    case LabelStyle::title:
-        return {QColor::fromRgb(dress.title), dress.halo};
+        return theme.waterLabel;
+    case LabelStyle::record:
+        return theme.recordLabel;
     case LabelStyle::city:
     case LabelStyle::town:
     case LabelStyle::village:
         break;
     }
-    return {QColor::fromRgb(dress.place), dress.halo};
+    return theme.placeLabel;
 }
+
+} // namespace
 
 QFont labelFont(LabelStyle style, double textScale) {
     const TextStyle text = textStyleOf(style);
@@ -192,7 +172,7 @@ setText(const QString& text, LabelStyle style, double textScale, const QPaintDev
 
 void paintLabel(QPainter& painter, const SetText& text, const Label& label, double textScale) {
     const TextStyle how = textStyleOf(label.style);
-    const LabelColors colors = labelColors(label.style, label.look);
+    const MapTheme& theme = mapTheme(label.theme);
     QTextLayout layout(text.lines, labelFont(label.style, textScale), painter.device());
     QTextOption option = centred();
     option.setWrapMode(QTextOption::ManualWrap);
@@ -204,12 +184,12 @@ void paintLabel(QPainter& painter, const SetText& text, const Label& label, doub
             painter.drawGlyphRun(shift, run);
         }
     };
-    painter.setPen(colors.halo);
+    painter.setPen(theme.labelHalo);
     for (int step = 0; step < haloSteps; ++step) {
         const double angle = 2 * M_PI * step / haloSteps;
         draw(QPointF(std::cos(angle), std::sin(angle)) * (haloRadius * textScale));
     }
-    painter.setPen(colors.text);
+    painter.setPen(textColor(label.style, theme));
     draw({0, 0});
 }
 

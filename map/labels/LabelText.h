@@ -1,9 +1,8 @@
 #pragma once
-// How a name is set: typeface, colours, lines.
+// How a label is set: typeface, colours, lines.
 
-#include "map/labels/LabelAtlas.h"
+#include "map/labels/Label.h"
 
-#include <QColor>
 #include <QFont>
 #include <QSizeF>
 #include <QString>
@@ -12,13 +11,6 @@ class QPainter;
 class QPaintDevice;
 
 namespace vasker {
-
-struct LabelColors {
-    QColor text;
-    QColor halo;
-};
-
-[[nodiscard]] LabelColors labelColors(LabelStyle style, BasemapTheme look);
 
 /// Sizes count in pixels of a device of 96 dots per inch.
 [[nodiscard]] QFont labelFont(LabelStyle style, double textScale);

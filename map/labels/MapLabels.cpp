@@ -1,163 +1,140 @@
 #include "map/labels/MapLabels.h"
 
-#include "map/records/PinShape.h"
-
 #include <QHash>
+
+#include <utility>
 
 namespace vasker {
 
 namespace {
 
-/// From a place's point to its name, past the ring; from a pin to its title, which would else
-/// be too near to it to stand.
+/// From a place's point to its label, past the ring; from a pin to its label, which would else be
+/// too near to the pin to stand.
 constexpr double placeGap = 5;
-constexpr double titleGap = labelSpacing + 1;
+constexpr double pinGap = labelSpacing + 1;
 
-/// New names that one frame takes in.
-constexpr int mostNewNames = 60;
-constexpr int mostNewNamesWhileMoving = 6;
+/// New labels that one frame takes in.
+constexpr int mostNewLabels = 60;
+constexpr int mostNewLabelsWhileMoving = 6;
 
-/// Titles come after every name of a place.
+/// Labels of records come after those of all places.
 constexpr double recordPriority = 10'000;
 
-/// The corners in which controls, scale and attribution stand, in logical pixels.
-constexpr double controlsWidth = 64;
-constexpr double controlsHeight = 152;
-constexpr double scaleWidth = 190;
-constexpr double attributionWidth = 330;
-constexpr double bottomHeight = 52;
-
-bool hasRing(PlaceLabel::Kind kind) {
+bool hasMark(PlaceLabel::Kind kind) {
     return kind != PlaceLabel::Kind::country && kind != PlaceLabel::Kind::region &&
            kind != PlaceLabel::Kind::water;
 }
 
-ScreenRect boxOf(const LabelledPin& pin) {
-    const double width = pinWidth * pin.scale;
-    const double height = pinHeight * pin.scale;
-    return {pin.tip.x - width / 2, pin.tip.y - height, width, height};
-}
-
-/// What names keep clear of.
-std::vector<ScreenRect> obstacles(const std::vector<LabelledPin>& pins, const Viewport& view) {
-    const double right = view.width - view.coveredRight;
-    const double bottom = view.height - view.coveredBelow;
-    std::vector<ScreenRect> rects{
-        {right - controlsWidth, 0, controlsWidth, controlsHeight},
-        {0, bottom - bottomHeight, scaleWidth, bottomHeight},
-        {right - attributionWidth, bottom - bottomHeight / 2, attributionWidth, bottomHeight / 2}};
-    for (const LabelledPin& pin : pins) {
-        rects.push_back(boxOf(pin));
-    }
-    return rects;
-}
-
 } // namespace
 
-void MapLabels::place(const std::vector<PlaceLabel>& names,
-                      const std::vector<LabelledPin>& pins,
-                      const Camera& camera,
-                      double textScale,
-                      MapFrame& picture,
-                      Pace pace) {
-    const auto density = static_cast<double>(picture.devicePixels);
-    if (!m_labels || m_density != density || m_textScale != textScale) {
-        m_labels.emplace(density, textScale);
-        m_density = density;
-        m_textScale = textScale;
+SpriteLayer MapLabels::compose(const LabelInput& input) {
+    if (!m_atlas || m_devicePixels != input.devicePixels || m_textScale != input.textScale) {
+        m_atlas.emplace(input.devicePixels, input.textScale);
+        m_devicePixels = input.devicePixels;
+        m_textScale = input.textScale;
     }
-    m_newNames = pace == Pace::moving ? mostNewNamesWhileMoving : mostNewNames;
-    m_wishes.clear();
+    m_newLabels = input.isMoving ? mostNewLabelsWhileMoving : mostNewLabels;
     m_candidates.clear();
-    addNames(names, camera, picture.look);
-    addTitles(pins, picture.look, pace);
-    const Viewport view = camera.viewport();
-    const ScreenRect bounds{0, 0, view.width - view.coveredRight, view.height - view.coveredBelow};
-    m_layout.layOut(m_candidates, obstacles(pins, view), bounds);
-    const auto generation = m_labels->generation();
-    draw(picture);
-    if (m_labels->generation() != generation) { // it was full: what was cut before is void
-        draw(picture);
+    m_placements.clear();
+    addPlaces(input);
+    addRecords(input);
+
+    std::vector<ScreenRect> obstacles = input.obstacles;
+    for (const RecordLabel& record : input.records) {
+        obstacles.push_back(record.pin);
     }
+    const Viewport view = input.camera.viewport();
+    m_placement.place(m_placements,
+                      obstacles,
+                      {0, 0, view.width - view.coveredRight, view.height - view.coveredBelow});
+    return sprites();
 }
 
-void MapLabels::addNames(const std::vector<PlaceLabel>& names,
-                         const Camera& camera,
-                         BasemapTheme look) {
+void MapLabels::addPlaces(const LabelInput& input) {
+    const Camera& camera = input.camera;
     const MapRect seen = camera.visibleRect();
-    const auto shifts = worldCopyOffsets(seen);
-    for (const PlaceLabel& name : names) {
-        for (const double shift : shifts) {
-            const MapPoint point{name.point.x + shift, name.point.y};
+    const auto offsets = worldCopyOffsets(seen);
+    for (const PlaceLabel& place : input.places) {
+        for (const double offset : offsets) {
+            const MapPoint point{place.point.x + offset, place.point.y};
             if (!seen.contains(point)) {
                 continue;
             }
-            const ScreenPoint place = camera.worldToScreen(point);
-            const bool rings = hasRing(name.kind);
-            const size_t hash = qHash(name.text);
-            LabelCandidate candidate{};
-            candidate.id =
-                qHashMulti(hash, static_cast<int>(name.kind), static_cast<int>(shift / worldSize));
-            candidate.anchor = place;
-            candidate.gap = rings ? placeGap : 0;
-            candidate.sides = rings ? aroundThePoint : onThePoint;
-            candidate.priority = name.priority;
-            candidate.name = hash;
-            add({{name.text, labelStyleOf(name.kind), look},
-                 rings ? std::optional(place) : std::nullopt},
-                candidate);
+            const ScreenPoint anchor = camera.worldToScreen(point);
+            const bool isMarked = hasMark(place.kind);
+            const size_t hash = qHash(place.text);
+            LabelCandidate placement{};
+            placement.id = qHashMulti(
+                hash, static_cast<int>(place.kind), static_cast<int>(offset / worldSize));
+            placement.anchor = anchor;
+            placement.gap = isMarked ? placeGap : 0;
+            placement.sides = isMarked ? aroundThePoint : onThePoint;
+            placement.priority = place.priority;
+            placement.text = hash;
+            add({{place.text, labelStyleOf(place.kind), input.theme},
+                 isMarked ? std::optional(anchor) : std::nullopt},
+                placement);
         }
     }
 }
 
-void MapLabels::addTitles(const std::vector<LabelledPin>& pins, BasemapTheme look, Pace pace) {
-    for (std::size_t i = 0; i < pins.size(); ++i) {
-        const LabelledPin& pin = pins[i];
-        const Label label{pin.title, LabelStyle::title, look};
-        const bool mayCome = pace == Pace::resting || pin.isRequired || m_labels->knows(label);
-        if (pin.title.isEmpty() || !mayCome) {
+void MapLabels::addRecords(const LabelInput& input) {
+    double priority = recordPriority;
+    for (const RecordLabel& record : input.records) {
+        Label label{record.text, LabelStyle::record, input.theme};
+        const bool mayCome = !input.isMoving || record.isRequired || m_atlas->knows(label);
+        if (record.text.isEmpty() || !mayCome) {
             continue;
         }
-        const ScreenRect box = boxOf(pin);
-        LabelCandidate candidate{};
-        candidate.id = qHashMulti(0, QLatin1String("record"), pin.asset);
-        candidate.anchor = {box.x + box.width / 2, box.y + box.height / 2};
-        candidate.gap = box.width / 2 + titleGap;
-        candidate.sides = LabelSides{LabelSide::right, LabelSide::left};
-        candidate.priority = recordPriority + static_cast<double>(i);
-        candidate.isRequired = pin.isRequired;
-        add({label, std::nullopt}, candidate);
+        LabelCandidate placement{};
+        placement.id = qHashMulti(0, QLatin1String("record"), record.id);
+        placement.anchor = {record.pin.x + record.pin.width / 2,
+                            record.pin.y + record.pin.height / 2};
+        placement.gap = record.pin.width / 2 + pinGap;
+        placement.sides = LabelSides{LabelSide::right, LabelSide::left};
+        placement.priority = priority++;
+        placement.isRequired = record.isRequired;
+        add({std::move(label), std::nullopt}, placement);
     }
 }
 
-void MapLabels::add(Wish wish, LabelCandidate candidate) {
-    if (!m_labels->knows(wish.label) && --m_newNames < 0) {
-        m_newNames = -1;
+void MapLabels::add(Candidate candidate, LabelCandidate placement) {
+    if (!m_atlas->knows(candidate.label) && --m_newLabels < 0) {
+        m_newLabels = -1;
         return;
     }
-    const QSizeF size = m_labels->size(wish.label);
-    candidate.width = size.width();
-    candidate.height = size.height();
-    m_wishes.push_back(std::move(wish));
-    m_candidates.push_back(candidate);
+    const QSizeF size = m_atlas->size(candidate.label);
+    placement.width = size.width();
+    placement.height = size.height();
+    m_candidates.push_back(std::move(candidate));
+    m_placements.push_back(placement);
 }
 
-void MapLabels::draw(MapFrame& picture) {
-    picture.names.sprites.clear();
-    const auto addSprite = [&picture](double left, double top, const QRectF& cut) {
-        picture.names.sprites.push_back({{left, top}, cut});
-    };
-    for (const PlacedLabel& placed : m_layout.placed()) {
-        const Wish& wish = m_wishes[placed.candidate];
-        if (wish.mark) {
-            const QRectF ring = m_labels->markCut(wish.label.look);
-            addSprite(wish.mark->x - ring.width() / 2, wish.mark->y - ring.height() / 2, ring);
+SpriteLayer MapLabels::sprites() {
+    SpriteLayer layer;
+    m_atlas->beginFrame();
+    const auto add = [&layer](const LabelAtlas::Place& place, double left, double top) {
+        if (layer.sheets.size() <= place.page) {
+            layer.sheets.resize(place.page + 1);
         }
-        addSprite(placed.rect.x - LabelAtlas::margin,
-                  placed.rect.y - LabelAtlas::margin,
-                  m_labels->cut(wish.label));
+        layer.sheets[place.page].sprites.push_back({{left, top}, place.region});
+    };
+    for (const PlacedLabel& placed : m_placement.placed()) {
+        const Candidate& candidate = m_candidates[placed.candidate];
+        if (candidate.mark) {
+            const auto ring = m_atlas->placeMark(candidate.label.theme);
+            add(ring,
+                candidate.mark->x - ring.region.width() / 2,
+                candidate.mark->y - ring.region.height() / 2);
+        }
+        if (const auto text = m_atlas->place(candidate.label)) {
+            add(*text, placed.rect.x - LabelAtlas::margin, placed.rect.y - LabelAtlas::margin);
+        }
     }
-    picture.names.image = m_labels->image();
+    for (std::size_t page = 0; page < layer.sheets.size(); ++page) {
+        layer.sheets[page].atlas = m_atlas->page(page);
+    }
+    return layer;
 }
 
 } // namespace vasker

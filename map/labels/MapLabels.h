@@ -1,12 +1,10 @@
 #pragma once
-// The names on one map: of places, and of records whose pins stand alone. User-interface
-// thread.
+// The labels of one map: of places, and of records beside their pins. User-interface thread.
 
+#include "map/geometry/Camera.h"
 #include "map/labels/LabelAtlas.h"
 #include "map/labels/LabelPlacement.h"
-#include "map/records/MarkerFrame.h"
-#include "map/scene/MapNode.h"
-#include "map/style/TilePicture.h"
+#include "map/layers/SpriteLayer.h"
 
 #include <QString>
 
@@ -16,50 +14,52 @@
 
 namespace vasker {
 
-/// A pin with the name of its record.
-struct LabelledPin {
-    ScreenPoint tip;
-    double scale; ///< of the pin
-    QString title;
-    AssetIndex asset;
-    bool isRequired; ///< its title stands in any case
+/// The label of a record beside its pin.
+struct RecordLabel {
+    std::uint64_t id; ///< the same in every frame, another for each record
+    ScreenRect pin;   ///< labels keep clear of it
+    QString text;     ///< empty: the pin has no label
+    bool isRequired;  ///< the label stands in any case
+};
+
+/// What the labels of one frame are made from.
+struct LabelInput {
+    const Camera& camera;
+    BasemapTheme theme;
+    double devicePixels; ///< per logical pixel
+    double textScale;
+    std::vector<PlaceLabel> places;
+    std::vector<RecordLabel> records;
+    std::vector<ScreenRect> obstacles; ///< controls over the map
+    /// While the map moves few new labels are drawn, and none of records: they would cost frames.
+    bool isMoving;
 };
 
 class MapLabels {
   public:
-    /// While the map moves few new names are taken in, and no new titles: they would cost frames.
-    enum class Pace : std::uint8_t { resting, moving };
+    [[nodiscard]] SpriteLayer compose(const LabelInput& input);
 
-    /// Puts the names that find room into `picture`, which has its size, look and density.
-    /// `pins` are all that stand on the map; titles are shown where they have one.
-    void place(const std::vector<PlaceLabel>& names,
-               const std::vector<LabelledPin>& pins,
-               const Camera& camera,
-               double textScale,
-               MapFrame& picture,
-               Pace pace = Pace::resting);
-
-    /// Whether names of the last place() wait for the next.
-    [[nodiscard]] bool isUnfinished() const noexcept { return m_newNames < 0; }
+    /// Whether labels of the last frame wait for the next one.
+    [[nodiscard]] bool isUnfinished() const noexcept { return m_newLabels < 0; }
 
   private:
-    struct Wish {
+    struct Candidate {
         Label label;
         std::optional<ScreenPoint> mark; ///< where a ring marks the place
     };
 
-    void addNames(const std::vector<PlaceLabel>& names, const Camera& camera, BasemapTheme look);
-    void addTitles(const std::vector<LabelledPin>& pins, BasemapTheme look, Pace pace);
-    void add(Wish wish, LabelCandidate candidate);
-    void draw(MapFrame& picture);
+    void addPlaces(const LabelInput& input);
+    void addRecords(const LabelInput& input);
+    void add(Candidate candidate, LabelCandidate placement);
+    [[nodiscard]] SpriteLayer sprites();
 
-    LabelPlacement m_layout;
-    std::optional<LabelAtlas> m_labels; ///< for the density and the text scale below
-    double m_density = 0;
+    LabelPlacement m_placement;
+    std::optional<LabelAtlas> m_atlas; ///< for the density and the text scale below
+    double m_devicePixels = 0;
     double m_textScale = 0;
-    int m_newNames = 0;         ///< so many more may be taken in
-    std::vector<Wish> m_wishes; ///< of this frame, with a candidate each
-    std::vector<LabelCandidate> m_candidates;
+    int m_newLabels = 0; ///< so many more may be measured in this frame
+    std::vector<Candidate> m_candidates;
+    std::vector<LabelCandidate> m_placements; ///< one each
 };
 
 } // namespace vasker

@@ -1,5 +1,4 @@
-#include "map/style/BasemapStyle.h"
-#include "map/style/TilePicture.h"
+#include "map/labels/PlaceLabels.h"
 
 #include <QSet>
 
@@ -13,17 +12,18 @@ namespace vasker {
 
 namespace {
 
-/// Sources cut long lakes in two and name both: within this many pixels once is enough.
-constexpr double sameNamePixels = 300;
-/// A water without rank is named when it is about this many pixels across.
-constexpr double namedWaterPixels = 48;
+/// Sources cut long lakes in two and name both: within this many pixels one label is enough.
+constexpr double sameTextPixels = 300;
+/// A water without rank is labelled when it is about this many pixels across.
+constexpr double labelledWaterPixels = 48;
+constexpr double never = 99; ///< a zoom that no map reaches
 constexpr double metresAroundTheEquator = 40'075'016.686;
 /// Smaller capitals of regions are set as towns are, and come a little later.
 constexpr std::int64_t peopleOfACity = 200'000;
 
 using Kind = PlaceLabel::Kind;
 
-/// From which zoom a name is shown, to which, and how it competes.
+/// From which zoom a label is shown, up to which, and how it competes.
 struct Appearance {
     Kind kind;
     double firstZoom;
@@ -109,7 +109,7 @@ Appearance waterAppearance(const VectorFeature& feature) {
     if (feature.wayArea > 0) {
         const double pixelsAtZoomZero =
             std::sqrt(feature.wayArea) / metresAroundTheEquator * tilePixels;
-        const double firstZoom = std::log2(namedWaterPixels / pixelsAtZoomZero);
+        const double firstZoom = std::log2(labelledWaterPixels / pixelsAtZoomZero);
         return {Kind::water, firstZoom, never, 6.5 + std::clamp(firstZoom - 3, 0.0, 20.0)};
     }
     return {Kind::water,
@@ -137,7 +137,7 @@ QString textOf(const VectorFeature& feature, MapLanguage language) {
     return QString::fromStdString(own.empty() ? feature.name : own).simplified();
 }
 
-/// The first point of a name, where it lies in the tile; the west and north edges count.
+/// The first point of a feature, where it lies in the tile; the west and north edges count.
 std::optional<MapPoint> pointIn(TileKey key, TileKey dataKey, const VectorFeature& feature) {
     if (feature.geometry != VectorFeature::Geometry::points || feature.parts.empty() ||
         feature.parts.front().empty()) {
@@ -153,14 +153,14 @@ std::optional<MapPoint> pointIn(TileKey key, TileKey dataKey, const VectorFeatur
     return isInside ? std::optional(point) : std::nullopt;
 }
 
-/// Without the later of two equal names that stand near each other.
-std::vector<PlaceLabel> withoutRepetition(std::vector<PlaceLabel> names, double distance) {
+/// Without the later of two equal texts near each other.
+std::vector<PlaceLabel> withoutRepetition(std::vector<PlaceLabel> labels, double distance) {
     QHash<std::pair<QString, std::pair<qint64, qint64>>, std::vector<MapPoint>> kept;
-    const auto isRepeated = [&](const PlaceLabel& name, qint64 column, qint64 row) {
+    const auto isRepeated = [&](const PlaceLabel& label, qint64 column, qint64 row) {
         for (qint64 y = row - 1; y <= row + 1; ++y) {
             for (qint64 x = column - 1; x <= column + 1; ++x) {
-                for (const MapPoint& point : kept.value({name.text, {x, y}})) {
-                    if (std::hypot(point.x - name.point.x, point.y - name.point.y) < distance) {
+                for (const MapPoint& point : kept.value({label.text, {x, y}})) {
+                    if (std::hypot(point.x - label.point.x, point.y - label.point.y) < distance) {
                         return true;
                     }
                 }
@@ -168,44 +168,43 @@ std::vector<PlaceLabel> withoutRepetition(std::vector<PlaceLabel> names, double 
         }
         return false;
     };
-    std::erase_if(names, [&](const PlaceLabel& name) {
-        const auto column = static_cast<qint64>(name.point.x / distance);
-        const auto row = static_cast<qint64>(name.point.y / distance);
-        if (isRepeated(name, column, row)) {
+    std::erase_if(labels, [&](const PlaceLabel& label) {
+        const auto column = static_cast<qint64>(label.point.x / distance);
+        const auto row = static_cast<qint64>(label.point.y / distance);
+        if (isRepeated(label, column, row)) {
             return true;
         }
-        kept[{name.text, {column, row}}].push_back(name.point);
+        kept[{label.text, {column, row}}].push_back(label.point);
         return false;
     });
-    return names;
+    return labels;
 }
 
 } // namespace
 
-std::vector<PlaceLabel> placeLabels(const TileData& ground, const TileRequest& request) {
-    std::vector<PlaceLabel> names;
-    const double zoom = zoomOnScreen(request);
-    if (!ground.vector || !std::isfinite(zoom)) {
-        return names;
+std::vector<PlaceLabel>
+placeLabels(const TileData& data, const TileRequest& request, MapLanguage language) {
+    std::vector<PlaceLabel> labels;
+    const double zoom = request.zoom();
+    if (!data.vector || !std::isfinite(zoom)) {
+        return labels;
     }
-    for (const VectorLayer& layer : ground.vector->layers) {
+    for (const VectorLayer& layer : data.vector->layers) {
         for (const VectorFeature& feature : layer.features) {
             const std::optional<Appearance> appearance = appearanceOf(layer.name, feature);
             if (!appearance || zoom < appearance->firstZoom || zoom >= appearance->lastZoom) {
                 continue;
             }
-            const std::optional<MapPoint> point = pointIn(request.key, ground.vectorKey, feature);
-            QString text = point ? textOf(feature, request.language) : QString();
+            const std::optional<MapPoint> point = pointIn(request.key, data.vectorKey, feature);
+            QString text = point ? textOf(feature, language) : QString();
             if (!text.isEmpty()) {
-                names.push_back({std::move(text), *point, appearance->kind, appearance->priority});
+                labels.push_back({std::move(text), *point, appearance->kind, appearance->priority});
             }
         }
     }
-    std::stable_sort(names.begin(), names.end(), [](const PlaceLabel& a, const PlaceLabel& b) {
-        return a.priority < b.priority;
-    });
+    std::ranges::stable_sort(labels, {}, &PlaceLabel::priority);
     const double pixelsPerMapPoint = request.devicePixelsPerMapPoint / request.devicePixelsPerPixel;
-    return withoutRepetition(std::move(names), sameNamePixels / pixelsPerMapPoint);
+    return withoutRepetition(std::move(labels), sameTextPixels / pixelsPerMapPoint);
 }
 
 } // namespace vasker

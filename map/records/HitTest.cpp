@@ -57,10 +57,10 @@ MapRect groundAround(ScreenPoint point, double reach, const Camera& camera) {
 std::optional<AssetIndex> markAt(ScreenPoint point, double reach, const HitScene& scene) {
     Nearest nearest(reach);
     const MapRect around = groundAround(point, reach + dotRadius + dotCasing, scene.camera);
-    for (const double shift : worldCopyOffsets(around)) {
+    for (const double offset : worldCopyOffsets(around)) {
         for (std::size_t i = scene.markers.size(); i-- > 0;) { // the first is on top
             const Marker& marker = scene.markers[i];
-            const MapPoint place{marker.point.x + shift, marker.point.y};
+            const MapPoint place{marker.point.x + offset, marker.point.y};
             if (around.contains(place)) {
                 nearest.offer(marker.asset,
                               distanceToDot(point, scene.camera.worldToScreen(place)));
@@ -84,9 +84,9 @@ std::optional<AssetIndex> routeAt(ScreenPoint point,
     Nearest nearest(reach);
     const MapRect around = groundAround(point, reach + halfWidth, scene.camera);
     const auto tolerance = static_cast<float>(routeTolerancePixels / scene.camera.scale());
-    for (const double shift : worldCopyOffsets(around)) {
+    for (const double offset : worldCopyOffsets(around)) {
         MapRect there = around;
-        there.x -= shift;
+        there.x -= offset;
         for (const RouteRun& run : runs) {
             if (!scene.colors[run.asset] || !run.bounds.intersects(there)) {
                 continue;
@@ -99,7 +99,7 @@ std::optional<AssetIndex> routeAt(ScreenPoint point,
                     continue;
                 }
                 const PerspectivePoint next =
-                    scene.camera.worldToPerspective({vertices[i].x + shift, vertices[i].y});
+                    scene.camera.worldToPerspective({vertices[i].x + offset, vertices[i].y});
                 if (last && last->w > 0 && next.w > 0) {
                     const double distance =
                         distanceToSegment(point,

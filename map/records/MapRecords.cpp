@@ -1,88 +1,67 @@
 #include "map/records/MapRecords.h"
 
 #include "map/records/PinShape.h"
-#include "map/records/RecordPainter.h"
-#include "map/style/MapColors.h"
+#include "map/records/RouteStrip.h"
+#include "map/records/RouteStyle.h"
+#include "map/style/MapTheme.h"
 #include "presentation/Symbols.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vasker {
 
 namespace {
 
-Rgb rgbOf(const QColor& color) {
-    return {static_cast<std::uint8_t>(color.red()),
-            static_cast<std::uint8_t>(color.green()),
-            static_cast<std::uint8_t>(color.blue())};
+ScreenRect boxOf(ScreenPoint tip, double scale) {
+    const double width = pinWidth * scale;
+    const double height = pinHeight * scale;
+    return {tip.x - width / 2, tip.y - height, width, height};
 }
 
 } // namespace
 
-/// What is painted into the pictures of one scale, and the layout that it follows.
-class MapRecords::Ink final : public RecordOverlay {
-  public:
-    Ink(const LoadedRelease* release,
-        std::shared_ptr<const MarkerLayout> layout,
-        RecordPainter painter)
-        : m_release(release), m_layout(std::move(layout)), m_painter(std::move(painter)) {}
-
-    void
-    paint(QPainter& painter, const MapRect& bounds, double devicePixelsPerMapPoint) const override {
-        m_painter.paint(painter, bounds, devicePixelsPerMapPoint);
-    }
-    /// Whose records the layout numbers.
-    [[nodiscard]] const LoadedRelease* release() const noexcept { return m_release; }
-    [[nodiscard]] const MarkerLayout& layout() const noexcept { return *m_layout; }
-
-  private:
-    const LoadedRelease* m_release; ///< to be compared only
-    std::shared_ptr<const MarkerLayout> m_layout;
-    RecordPainter m_painter;
-};
-
 void MapRecords::setRecords(const RecordSet& records) {
     if (records.loaded != m_records.loaded) {
-        m_balloons.reset();
+        m_pins.reset();
     }
     m_records = records;
-    m_markers = m_records.loaded ? markersByPrecedence(m_records) : std::vector<Marker>();
+    m_markers = m_records.loaded ? markersByPriority(m_records) : std::vector<Marker>();
     m_layouts.clear();
-    refreshTints();
-    findLifted();
+    refreshColors();
+    findHighlighted();
 }
 
-void MapRecords::setLook(BasemapTheme look) {
-    m_look = look;
-    m_balloons.reset();
-    refreshTints();
+void MapRecords::setTheme(BasemapTheme theme) {
+    m_theme = theme;
+    m_pins.reset();
+    refreshColors();
 }
 
 void MapRecords::setSelection(const QString& id) {
     m_selection = id;
-    findLifted();
+    findHighlighted();
 }
 
 void MapRecords::setHovered(const QString& id) {
     m_hovered = id;
-    findLifted();
+    findHighlighted();
 }
 
-/// Colours follow the release, the filter and the look of the ground.
-void MapRecords::refreshTints() {
-    m_tints.clear();
+void MapRecords::refreshColors() {
+    m_colors.clear();
     m_routeColors.clear();
     ++m_revision;
     if (!m_records.loaded) {
         return;
     }
-    const ColorScheme scheme = mapColors(m_look).records;
+    const ColorScheme scheme = mapTheme(m_theme).records;
     for (const auto& asset : m_records.loaded->index.release().assets) {
-        m_tints.push_back(rgbOf(colorValue(color(asset.kind), scheme)));
+        m_colors.push_back(rgbOf(colorValue(color(asset.kind), scheme)));
     }
-    m_routeColors.resize(m_tints.size());
+    m_routeColors.resize(m_colors.size());
     for (const AssetIndex asset : *m_records.filtered) {
-        m_routeColors[asset] = m_tints[asset];
+        m_routeColors[asset] = m_colors[asset];
     }
 }
 
@@ -94,7 +73,7 @@ std::optional<AssetIndex> MapRecords::shownRecord(const QString& id) const {
     return found && m_routeColors[*found] ? found : std::nullopt;
 }
 
-void MapRecords::findLifted() {
+void MapRecords::findHighlighted() {
     m_selectedAsset = shownRecord(m_selection);
     m_hoveredAsset = shownRecord(m_hovered);
 }
@@ -114,7 +93,7 @@ std::optional<Marker> MapRecords::markerOf(std::optional<AssetIndex> index) cons
     return Marker{*index, m_records.loaded->geometry.points()[*index]};
 }
 
-std::shared_ptr<const MarkerLayout> MapRecords::layout(double scale) const {
+std::shared_ptr<const MarkerLayout> MapRecords::layout(double scale) {
     const DetailLevel level = DetailLevel::forScale(scale);
     auto& known = m_layouts[level];
     if (!known) {
@@ -123,23 +102,33 @@ std::shared_ptr<const MarkerLayout> MapRecords::layout(double scale) const {
     return known;
 }
 
-std::shared_ptr<const RecordOverlay> MapRecords::ink(double scale, double devicePixels) const {
+std::shared_ptr<const TileOverlay> MapRecords::overlay(double scale, double devicePixels) {
     if (!m_records.loaded) {
         return nullptr;
     }
-    auto layout = this->layout(scale);
-    const MapColors& colors = mapColors(m_look);
-    RecordPainter painter(
+    const MapTheme& theme = mapTheme(m_theme);
+    auto made = std::make_shared<const RecordOverlay>(
         m_records.loaded,
         m_routeColors,
-        layout->dots,
-        {.tints = m_tints, .dotCasing = colors.casing, .routeCasing = colors.routeCasing},
+        layout(scale),
+        RecordColors{m_colors, theme.markerCasing, theme.routeCasing},
         devicePixels);
-    return std::make_shared<const Ink>(
-        m_records.loaded.get(), std::move(layout), std::move(painter));
+    std::erase_if(m_overlays, [](const auto& overlay) { return overlay.expired(); });
+    m_overlays.push_back(made);
+    return made;
 }
 
-RouteStrip MapRecords::stripOf(std::optional<AssetIndex> index, const Camera& camera) const {
+const MarkerLayout* MapRecords::layoutOf(const TileOverlay* painted) const {
+    for (const auto& each : m_overlays) {
+        const auto overlay = each.lock();
+        if (overlay && overlay.get() == painted && overlay->loaded() == m_records.loaded) {
+            return &overlay->layout(); // `painted` keeps it alive
+        }
+    }
+    return nullptr;
+}
+
+LineStrip MapRecords::stripOf(std::optional<AssetIndex> index, const Camera& camera) const {
     if (!index || !asset(*index).hasRoute()) {
         return {};
     }
@@ -147,79 +136,96 @@ RouteStrip MapRecords::stripOf(std::optional<AssetIndex> index, const Camera& ca
     return routeStrip(geometry, geometry.runsOf(*index), m_routeColors, camera);
 }
 
-void MapRecords::place(const Camera& camera,
-                       Dots dots,
-                       const RecordOverlay* shown,
-                       MapFrame& picture) {
-    picture.routes.clear();
-    picture.dots.clear();
-    picture.pins.sprites.clear();
-    picture.selectedRoute = stripOf(m_selectedAsset, camera);
-    picture.hoveredRoute =
-        m_hoveredAsset == m_selectedAsset ? RouteStrip() : stripOf(m_hoveredAsset, camera);
-    m_frame = {};
-    const auto* ink = static_cast<const Ink*>(shown);
-    const bool isPainted = ink != nullptr && ink->release() == m_records.loaded.get();
-    if (!m_records.loaded || (dots == Dots::painted && !isPainted)) {
-        return;
+std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawing drawing) const {
+    const MapTheme& theme = mapTheme(m_theme);
+    const QColor blue = colorValue(PaletteColor::blue, theme.records);
+    LineLayer routes{{}, {routeWidth, routeCasing, theme.routeCasing, {}}};
+    LineLayer hovered{{}, {routeWidth, hoveredRouteCasing, blue, {}}};
+    LineLayer selected{{}, {selectedRouteWidth, selectedRouteCasing, theme.markerCasing, blue}};
+    DotLayer dots{{}, dotRadius, dotCasing, theme.markerCasing};
+    if (m_records.loaded && drawing == RecordDrawing::live) {
+        const RecordGeometry& geometry = m_records.loaded->geometry;
+        routes.strip = routeStrip(geometry, geometry.runs(), m_routeColors, camera);
     }
-    const RecordGeometry& geometry = m_records.loaded->geometry;
-    if (dots == Dots::drawn) {
-        picture.routes = routeStrip(geometry, geometry.runs(), m_routeColors, camera);
+    if (m_hoveredAsset != m_selectedAsset) {
+        hovered.strip = stripOf(m_hoveredAsset, camera);
     }
-    const MarkerLayout& marks = dots == Dots::drawn ? *layout(camera.scale()) : ink->layout();
-    m_frame =
-        markerFrame(marks, {markerOf(m_hoveredAsset), markerOf(m_selectedAsset)}, dots, camera);
-
-    for (const PlacedMarker& dot : m_frame.dots) {
-        picture.dots.push_back(
-            {static_cast<float>(dot.point.x), static_cast<float>(dot.point.y), m_tints[dot.asset]});
+    selected.strip = stripOf(m_selectedAsset, camera);
+    LineLayer outline = selected;
+    outline.style.casingWidth += selectedRouteOutline;
+    outline.style.casing = theme.markerOutline;
+    if (theme.markerOutline.alpha() == 0) {
+        outline.strip.clear();
     }
-    if (!m_balloons) {
-        m_balloons = std::make_shared<const PinAtlas>(
-            m_records.loaded->index.kinds(), m_look, static_cast<double>(picture.devicePixels));
+    for (const PlacedMarker& dot : m_markerFrame.dots) {
+        dots.dots.push_back({static_cast<float>(dot.point.x),
+                             static_cast<float>(dot.point.y),
+                             m_colors[dot.asset]});
     }
-    picture.pins.image = m_balloons->image();
-    const auto add = [&](const PlacedMarker& pin, PinState state) {
-        const ScreenPoint tip = PinAtlas::tip(state);
-        picture.pins.sprites.push_back({{pin.point.x - tip.x, pin.point.y - tip.y},
-                                        m_balloons->cut(asset(pin.asset).kind, state)});
-    };
-    for (const PlacedMarker& pin : m_frame.pins) {
-        add(pin, PinState::plain);
-    }
-    if (m_frame.hovered) {
-        add(*m_frame.hovered, PinState::hovered);
-    }
-    if (m_frame.selected) {
-        add(*m_frame.selected, PinState::selected);
-    }
+    return {std::move(routes),
+            std::move(hovered),
+            std::move(outline),
+            std::move(selected),
+            std::move(dots)};
 }
 
-std::vector<LabelledPin> MapRecords::labelledPins(std::optional<AssetIndex> untitled) const {
-    std::vector<LabelledPin> pins;
-    const auto add = [&](const PlacedMarker& placed, double scale, bool isRequired) {
-        LabelledPin pin{placed.point, scale, {}, placed.asset, isRequired};
-        if ((isRequired || placed.isAlone) && placed.asset != untitled) {
-            pin.title = QString::fromStdString(asset(placed.asset).name);
-        }
-        pins.push_back(std::move(pin));
+void MapRecords::addPins(RecordFrame& frame, double devicePixels) {
+    if (!m_pins || m_devicePixels != devicePixels) {
+        m_pins.emplace(m_records.loaded->index.kinds(), m_theme, devicePixels);
+        m_devicePixels = devicePixels;
+    }
+    SpriteSheet sheet{m_pins->image(), {}};
+    const auto draw = [&](const PlacedMarker& pin, PinState state) {
+        const ScreenPoint tip = PinAtlas::tip(state);
+        sheet.sprites.push_back({{pin.point.x - tip.x, pin.point.y - tip.y},
+                                 m_pins->region(asset(pin.asset).kind, state)});
     };
-    if (m_frame.selected) {
-        add(*m_frame.selected, selectedPinScale, true);
+    const auto show = [&](const PlacedMarker& pin, double scale, bool isHighlighted) {
+        frame.shownPins.push_back({pin.asset, boxOf(pin.point, scale), isHighlighted, pin.isAlone});
+    };
+    if (m_markerFrame.selected) {
+        show(*m_markerFrame.selected, selectedPinScale, true);
     }
-    if (m_frame.hovered) {
-        add(*m_frame.hovered, hoveredPinScale, true);
+    if (m_markerFrame.hovered) {
+        show(*m_markerFrame.hovered, hoveredPinScale, true);
     }
-    for (const PlacedMarker& pin : m_frame.pins) {
-        add(pin, 1, false);
+    for (const PlacedMarker& pin : m_markerFrame.pins) {
+        show(pin, 1, false);
+        draw(pin, PinState::plain);
     }
-    return pins;
+    if (m_markerFrame.hovered) {
+        draw(*m_markerFrame.hovered, PinState::hovered);
+    }
+    if (m_markerFrame.selected) {
+        draw(*m_markerFrame.selected, PinState::selected);
+    }
+    frame.pins.sheets.push_back(std::move(sheet));
+}
+
+RecordFrame MapRecords::compose(const Camera& camera,
+                                RecordDrawing drawing,
+                                const TileOverlay* painted,
+                                double devicePixels) {
+    RecordFrame frame;
+    m_markerFrame = {};
+    std::shared_ptr<const MarkerLayout> live;
+    const MarkerLayout* shown = layoutOf(painted);
+    if (m_records.loaded && drawing == RecordDrawing::live) {
+        live = layout(camera.scale());
+        shown = live.get();
+    }
+    if (shown != nullptr) {
+        m_markerFrame = markerFrame(
+            *shown, {markerOf(m_hoveredAsset), markerOf(m_selectedAsset)}, drawing, camera);
+        addPins(frame, devicePixels);
+    }
+    frame.linesAndDots = linesAndDots(camera, drawing);
+    return frame;
 }
 
 std::optional<ScreenPoint> MapRecords::placeOf(AssetIndex record, const Camera& camera) const {
     const MarkerFrame frame =
-        markerFrame({}, {std::nullopt, markerOf(record)}, Dots::painted, camera);
+        markerFrame({}, {std::nullopt, markerOf(record)}, RecordDrawing::painted, camera);
     return frame.selected ? std::optional(frame.selected->point) : std::nullopt;
 }
 
@@ -231,7 +237,7 @@ MapRecords::hit(ScreenPoint point, double reach, const Camera& camera) const {
     return hitTest(point,
                    reach,
                    {.camera = camera,
-                    .frame = m_frame,
+                    .frame = m_markerFrame,
                     .markers = m_markers,
                     .geometry = m_records.loaded->geometry,
                     .colors = m_routeColors,

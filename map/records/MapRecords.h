@@ -1,12 +1,14 @@
 #pragma once
-// The records as one map shows them: which are drawn, in which colours, as what; and which of them
-// is under the pointer. User-interface thread.
+// The records of one map: which are drawn, in which colours, as what; and which of them is under
+// the pointer. User-interface thread.
 
-#include "map/labels/MapLabels.h"
+#include "map/geometry/ScreenRect.h"
+#include "map/layers/MapLayer.h"
 #include "map/records/HitTest.h"
 #include "map/records/MarkerFrame.h"
+#include "map/records/PinAtlas.h"
+#include "map/records/RecordOverlay.h"
 #include "map/records/RecordSet.h"
-#include "map/scene/MapNode.h"
 
 #include <QString>
 
@@ -14,74 +16,89 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace vasker {
 
+/// A pin on the screen.
+struct ShownPin {
+    AssetIndex asset;
+    ScreenRect box;
+    bool isHighlighted; ///< selected or hovered
+    bool isAlone;       ///< no other marker stands near it
+};
+
+/// The records in one frame.
+struct RecordFrame {
+    std::vector<MapLayer> linesAndDots; ///< below the labels, in drawing order
+    SpriteLayer pins;                   ///< above the labels
+    std::vector<ShownPin> shownPins;    ///< the selected and the hovered one first
+};
+
 class MapRecords {
   public:
     void setRecords(const RecordSet& records);
-    void setLook(BasemapTheme look);
-    /// An id that no record has, or none that is shown, selects or lifts nothing.
+    void setTheme(BasemapTheme theme);
+    /// An id that no record has, or none that is shown, selects or highlights nothing.
     void setSelection(const QString& id);
     void setHovered(const QString& id);
 
     [[nodiscard]] const RecordSet& records() const noexcept { return m_records; }
     [[nodiscard]] const OpenMapRelease::Asset& asset(AssetIndex index) const;
+    /// Empty for no record.
     [[nodiscard]] QString idOf(std::optional<AssetIndex> index) const;
 
-    /// Grows whenever ink() would give something else.
+    /// Grows whenever overlay() would return something else.
     [[nodiscard]] std::uint64_t revision() const noexcept { return m_revision; }
-    /// The routes and dots for pictures of `scale` logical pixels per map point; null while no
+    /// Routes and dots for raster tiles of `scale` logical pixels per map point; null while no
     /// records are set.
-    [[nodiscard]] std::shared_ptr<const RecordOverlay> ink(double scale, double devicePixels) const;
+    [[nodiscard]] std::shared_ptr<const TileOverlay> overlay(double scale, double devicePixels);
 
-    /// Puts marks and lines into `picture`, which has its density. With Dots::painted, routes and
-    /// dots stand in the pictures that were painted with `shown`, which came from ink(); null:
-    /// there are none yet.
-    void place(const Camera& camera, Dots dots, const RecordOverlay* shown, MapFrame& picture);
-
-    /// The pins of the last place(), with the titles of those that stand alone or stand out;
-    /// the selected comes first. `untitled` needs no title: it is named in another way.
-    [[nodiscard]] std::vector<LabelledPin> labelledPins(std::optional<AssetIndex> untitled) const;
-    /// The marks of the last place().
-    [[nodiscard]] const MarkerFrame& frame() const noexcept { return m_frame; }
+    /// The records as `camera` sees them. With RecordDrawing::painted, routes and dots are those of
+    /// `painted`, which came from overlay(); where it is null or of another release, no marker is
+    /// shown.
+    [[nodiscard]] RecordFrame compose(const Camera& camera,
+                                      RecordDrawing drawing,
+                                      const TileOverlay* painted,
+                                      double devicePixels);
 
     /// Where the point of a record without routes stands, in the copy of the world nearest to the
     /// camera's centre; nothing for one with routes or out of view.
     [[nodiscard]] std::optional<ScreenPoint> placeOf(AssetIndex record, const Camera& camera) const;
-
-    /// The record within `reach` pixels of `point`, as last placed.
+    /// The record within `reach` pixels of `point`, as last composed.
     [[nodiscard]] std::optional<AssetIndex>
     hit(ScreenPoint point, double reach, const Camera& camera) const;
     /// The records that no zoom separates from `asset`, itself included; empty for a route.
     [[nodiscard]] std::vector<AssetIndex> sharingPlaceWith(AssetIndex asset) const;
 
   private:
-    class Ink;
-
-    void refreshTints();
-    [[nodiscard]] std::shared_ptr<const MarkerLayout> layout(double scale) const;
+    void refreshColors();
+    void findHighlighted();
+    [[nodiscard]] std::shared_ptr<const MarkerLayout> layout(double scale);
+    [[nodiscard]] const MarkerLayout* layoutOf(const TileOverlay* painted) const;
     [[nodiscard]] std::optional<AssetIndex> shownRecord(const QString& id) const;
     [[nodiscard]] std::optional<Marker> markerOf(std::optional<AssetIndex> asset) const;
-    [[nodiscard]] RouteStrip stripOf(std::optional<AssetIndex> asset, const Camera& camera) const;
-    void findLifted();
+    [[nodiscard]] LineStrip stripOf(std::optional<AssetIndex> asset, const Camera& camera) const;
+    [[nodiscard]] std::vector<MapLayer> linesAndDots(const Camera& camera,
+                                                     RecordDrawing drawing) const;
+    void addPins(RecordFrame& frame, double devicePixels);
 
     RecordSet m_records;
-    BasemapTheme m_look = BasemapTheme::light;
+    BasemapTheme m_theme = BasemapTheme::light;
     QString m_selection;
     QString m_hovered;
     std::optional<AssetIndex> m_selectedAsset;
     std::optional<AssetIndex> m_hoveredAsset;
     std::uint64_t m_revision = 0;
 
-    std::vector<Rgb> m_tints;      ///< by AssetIndex
+    std::vector<Rgb> m_colors;     ///< by AssetIndex
     RouteColors m_routeColors;     ///< by AssetIndex; none: not shown
-    std::vector<Marker> m_markers; ///< in order of priority
-    mutable std::map<DetailLevel, std::shared_ptr<const MarkerLayout>> m_layouts; ///< as needed
-    MarkerFrame m_frame;
-    std::shared_ptr<const PinAtlas> m_balloons; ///< null: to be made
+    std::vector<Marker> m_markers; ///< by priority
+    std::map<DetailLevel, std::shared_ptr<const MarkerLayout>> m_layouts; ///< as needed
+    std::vector<std::weak_ptr<const RecordOverlay>> m_overlays; ///< those that were made and live
+    MarkerFrame m_markerFrame;                                  ///< as last composed
+    std::optional<PinAtlas> m_pins; ///< none: to be made; for the density below
+    double m_devicePixels = 0;
 };
 
 } // namespace vasker

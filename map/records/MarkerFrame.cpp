@@ -7,28 +7,28 @@ namespace vasker {
 
 namespace {
 
-/// A selected pin is 47 pixels high with its ring; no mark reaches farther from its point.
-constexpr double markReach = 48;
+/// A selected pin is 47 pixels high with its ring; no marker reaches farther from its point.
+constexpr double markerReach = 48;
 
 /// Projects markers into one view.
 class Placing {
   public:
     explicit Placing(const Camera& camera)
-        : m_camera(camera), m_seen(camera.visibleRect(markReach)),
-          m_shifts(worldCopyOffsets(m_seen)) {}
+        : m_camera(camera), m_seen(camera.visibleRect(markerReach)),
+          m_offsets(worldCopyOffsets(m_seen)) {}
 
     /// Calls `use` with the marker as it stands in each copy of the world that is seen.
     template <typename Use>
     void place(const Marker& marker, Use use) const {
-        for (const double shift : m_shifts) {
-            const MapPoint point{marker.point.x + shift, marker.point.y};
+        for (const double offset : m_offsets) {
+            const MapPoint point{marker.point.x + offset, marker.point.y};
             if (!m_seen.contains(point)) {
                 continue;
             }
             const ScreenPoint place = m_camera.worldToScreen(point);
             const Viewport view = m_camera.viewport();
-            if (place.x >= -markReach && place.x <= view.width + markReach &&
-                place.y >= -markReach && place.y <= view.height + markReach) {
+            if (place.x >= -markerReach && place.x <= view.width + markerReach &&
+                place.y >= -markerReach && place.y <= view.height + markerReach) {
                 use(PlacedMarker{marker.asset, place, marker.isAlone});
             }
         }
@@ -54,29 +54,29 @@ class Placing {
   private:
     const Camera& m_camera;
     MapRect m_seen;
-    std::vector<double> m_shifts;
+    std::vector<double> m_offsets;
 };
 
 } // namespace
 
 MarkerFrame markerFrame(const MarkerLayout& layout,
-                        const HighlightedMarkers& lifted,
-                        Dots dots,
+                        const HighlightedMarkers& highlighted,
+                        RecordDrawing drawing,
                         const Camera& camera) {
     const Placing placing(camera);
     MarkerFrame frame;
-    frame.selected = placing.nearestToFocus(lifted.selected);
-    const bool hoversTheSelected =
-        lifted.selected && lifted.hovered && lifted.selected->asset == lifted.hovered->asset;
+    frame.selected = placing.nearestToFocus(highlighted.selected);
+    const bool hoversTheSelected = highlighted.selected && highlighted.hovered &&
+                                   highlighted.selected->asset == highlighted.hovered->asset;
     if (!hoversTheSelected) {
-        frame.hovered = placing.nearestToFocus(lifted.hovered);
+        frame.hovered = placing.nearestToFocus(highlighted.hovered);
     }
-    const auto isLifted = [&](AssetIndex asset) {
-        return (lifted.selected && lifted.selected->asset == asset) ||
-               (lifted.hovered && lifted.hovered->asset == asset);
+    const auto isHighlighted = [&](AssetIndex asset) {
+        return (highlighted.selected && highlighted.selected->asset == asset) ||
+               (highlighted.hovered && highlighted.hovered->asset == asset);
     };
     for (const Marker& marker : layout.pins) {
-        if (isLifted(marker.asset)) {
+        if (isHighlighted(marker.asset)) {
             continue;
         }
         placing.place(marker, [&frame](const PlacedMarker& placed) {
@@ -84,7 +84,7 @@ MarkerFrame markerFrame(const MarkerLayout& layout,
             (hasRoom ? frame.pins : frame.dots).push_back(placed);
         });
     }
-    if (dots == Dots::drawn) {
+    if (drawing == RecordDrawing::live) {
         for (const Marker& marker : layout.dots) {
             placing.place(marker,
                           [&frame](const PlacedMarker& placed) { frame.dots.push_back(placed); });

@@ -1,5 +1,5 @@
 #pragma once
-// The marks of one picture: which are in view and where they stand, in drawing order.
+// The markers of one frame: which are in view and where they stand, in drawing order.
 
 #include "map/geometry/Camera.h"
 #include "map/records/MarkerLayout.h"
@@ -23,21 +23,21 @@ struct MarkerFrame {
     std::optional<PlacedMarker> selected; ///< a pin above all; stands in neither list
 };
 
-/// Whether the dots of a layout are drawn one by one, or are in the picture of the ground already.
-enum class Dots : std::uint8_t { drawn, painted };
+/// How routes and dots are drawn: for each frame on a graphics card, else into the raster tiles.
+enum class RecordDrawing : std::uint8_t { live, painted };
 
-/// The markers that stand out, wherever they stand in the layout.
+/// The markers that are pins above all others, whatever they are in the layout.
 struct HighlightedMarkers {
     std::optional<Marker> hovered;
     std::optional<Marker> selected;
 };
 
-/// The marks of `layout` that `camera` sees in all copies of the world, those whose point is up to
-/// a pin's size outside included. At most maximumPins stand as pins; the others are
-/// dots. Who is lifted stands once, in the copy of the world nearest to the camera's centre.
+/// The markers of `layout` that `camera` sees in all copies of the world, including those whose
+/// point is up to a pin's size outside. At most maximumPins stand as pins; the others are dots. A
+/// highlighted marker stands once, in the copy of the world nearest to the camera's centre.
 [[nodiscard]] MarkerFrame markerFrame(const MarkerLayout& layout,
-                                      const HighlightedMarkers& lifted,
-                                      Dots dots,
+                                      const HighlightedMarkers& highlighted,
+                                      RecordDrawing drawing,
                                       const Camera& camera);
 
 } // namespace vasker

@@ -109,7 +109,7 @@ class Neighbours {
 
 } // namespace
 
-std::vector<Marker> markersByPrecedence(const RecordSet& records) {
+std::vector<Marker> markersByPriority(const RecordSet& records) {
     const auto& assets = records.loaded->index.release().assets;
     std::unordered_map<std::string_view, std::size_t> frequency;
     for (const auto& asset : assets) {

@@ -43,7 +43,7 @@ struct MarkerLayout {
 };
 
 /// The records of a set that have no route, in order of priority.
-[[nodiscard]] std::vector<Marker> markersByPrecedence(const RecordSet& records);
+[[nodiscard]] std::vector<Marker> markersByPriority(const RecordSet& records);
 
 /// `markers` in order of priority.
 [[nodiscard]] MarkerLayout markerLayout(const std::vector<Marker>& markers, DetailLevel level);

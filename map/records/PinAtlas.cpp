@@ -1,6 +1,7 @@
 #include "map/records/PinAtlas.h"
 
 #include "map/records/PinShape.h"
+#include "map/style/MapTheme.h"
 #include "platform/ui/IconPainter.h"
 #include "presentation/Symbols.h"
 
@@ -14,10 +15,10 @@ namespace vasker {
 
 namespace {
 
-constexpr double glyphSize = 14;
-constexpr double glyphStroke = 1.15;
+constexpr double symbolSize = 14;
+constexpr double symbolStroke = 1.15;
 constexpr double ringWidth = 1.5;
-constexpr double outerLineWidth = 0.8;
+constexpr double outlineWidth = 0.8;
 constexpr double shadowWidth = 16;
 constexpr double shadowHeight = 7;
 
@@ -40,7 +41,7 @@ double enlargement(PinState state) {
 /// Room around the pin's box: its casing, its ring, half a shadow, a pixel for smooth edges.
 double margin(PinState state) {
     const double outline =
-        casingWidth(state) + (state == PinState::selected ? ringWidth : 0) + outerLineWidth;
+        casingWidth(state) + (state == PinState::selected ? ringWidth : 0) + outlineWidth;
     return std::ceil(std::max(outline, shadowHeight / 2 * enlargement(state)) + 1);
 }
 
@@ -49,7 +50,7 @@ QSizeF cellSize(PinState state) {
             std::ceil(pinHeight * enlargement(state)) + 2 * margin(state)};
 }
 
-/// Where the pins of a state begin in the picture, from its top.
+/// Where the pins of a state begin in the atlas, from its top.
 double rowOf(PinState state) {
     double y = 0;
     for (const PinState above : {PinState::plain, PinState::hovered}) {
@@ -88,7 +89,7 @@ void strokeOutside(QPainter& painter, const QPainterPath& path, const QColor& co
     painter.strokePath(path, QPen(color, 2 * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
-void paintPin(QPainter& painter, std::string_view kind, const MapColors& colors, PinState state) {
+void paintPin(QPainter& painter, std::string_view kind, const MapTheme& theme, PinState state) {
     const double scale = enlargement(state);
     const double casing = casingWidth(state) / scale;
     painter.translate(margin(state), margin(state));
@@ -96,25 +97,25 @@ void paintPin(QPainter& painter, std::string_view kind, const MapColors& colors,
     paintShadow(painter);
     const QPainterPath path = outline();
     const double ring = state == PinState::selected ? ringWidth / scale : 0;
-    strokeOutside(painter, path, colors.outerLine, casing + ring + outerLineWidth / scale);
+    strokeOutside(painter, path, theme.markerOutline, casing + ring + outlineWidth / scale);
     if (ring > 0) {
-        strokeOutside(painter, path, colorValue(PaletteColor::blue, colors.records), casing + ring);
+        strokeOutside(painter, path, colorValue(PaletteColor::blue, theme.records), casing + ring);
     }
-    strokeOutside(painter, path, colors.casing, casing);
-    painter.fillPath(path, colorValue(color(kind), colors.records));
+    strokeOutside(painter, path, theme.markerCasing, casing);
+    painter.fillPath(path, colorValue(color(kind), theme.records));
     const std::string_view name = symbol(kind);
-    const QRectF glyph(
-        pinHeadRadius - glyphSize / 2, pinHeadRadius - glyphSize / 2, glyphSize, glyphSize);
+    const QRectF area(
+        pinHeadRadius - symbolSize / 2, pinHeadRadius - symbolSize / 2, symbolSize, symbolSize);
     paintIcon(painter,
               QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
-              glyph,
-              colors.glyph,
-              glyphStroke);
+              area,
+              theme.pinSymbol,
+              symbolStroke);
 }
 
 } // namespace
 
-PinAtlas::PinAtlas(std::span<const std::string> kinds, BasemapTheme look, double devicePixels) {
+PinAtlas::PinAtlas(std::span<const std::string> kinds, BasemapTheme theme, double devicePixels) {
     std::map<int, std::string_view> kindOfColumn;
     for (const std::string& kind : kinds) {
         const auto [place, isNew] =
@@ -134,14 +135,14 @@ PinAtlas::PinAtlas(std::span<const std::string> kinds, BasemapTheme look, double
     for (const auto& [column, kind] : kindOfColumn) {
         for (const PinState state : {PinState::plain, PinState::hovered, PinState::selected}) {
             painter.save();
-            painter.translate(cut(kind, state).topLeft());
-            paintPin(painter, kind, mapColors(look), state);
+            painter.translate(region(kind, state).topLeft());
+            paintPin(painter, kind, mapTheme(theme), state);
             painter.restore();
         }
     }
 }
 
-QRectF PinAtlas::cut(std::string_view kind, PinState state) const {
+QRectF PinAtlas::region(std::string_view kind, PinState state) const {
     const auto column = m_columns.find(symbol(kind));
     if (column == m_columns.end()) {
         return {};

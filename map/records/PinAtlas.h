@@ -1,8 +1,8 @@
 #pragma once
-// One picture with every pin that a release needs, drawn at the screen's density.
+// One image with every pin that a release needs, drawn at the screen's density.
 
 #include "map/geometry/Camera.h"
-#include "map/style/MapColors.h"
+#include "map/style/BasemapTheme.h"
 
 #include <QImage>
 #include <QRectF>
@@ -18,14 +18,14 @@ enum class PinState { plain, hovered, selected };
 
 class PinAtlas {
   public:
-    /// Pins for `kinds` on a ground of `look`, `devicePixels` per logical pixel.
-    PinAtlas(std::span<const std::string> kinds, BasemapTheme look, double devicePixels);
+    /// Pins for `kinds`, `devicePixels` per logical pixel.
+    PinAtlas(std::span<const std::string> kinds, BasemapTheme theme, double devicePixels);
 
     [[nodiscard]] const QImage& image() const noexcept { return m_image; }
-    /// Where the pin of `kind` stands in the picture, in logical pixels. A kind that the
-    /// picture was not made for gives an empty rectangle.
-    [[nodiscard]] QRectF cut(std::string_view kind, PinState state) const;
-    /// The tip of a pin, from the top-left of its cut.
+    /// Where the pin of `kind` stands in the image, in logical pixels; empty for a kind that the
+    /// image was not made for.
+    [[nodiscard]] QRectF region(std::string_view kind, PinState state) const;
+    /// The tip of a pin, from the top-left of its region.
     [[nodiscard]] static ScreenPoint tip(PinState state) noexcept;
 
   private:

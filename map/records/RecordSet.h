@@ -2,9 +2,8 @@
 // What the catalogue and the map show: a loaded release and the records of it that pass the filter.
 // A small immutable value; copies share the data.
 
-#include "data/ReleaseIndex.h"
 #include "map/geometry/Camera.h"
-#include "map/records/RecordGeometry.h"
+#include "map/records/LoadedRelease.h"
 
 #include <QMetaType>
 #include <QtQmlIntegration>
@@ -14,15 +13,6 @@
 #include <vector>
 
 namespace vasker {
-
-/// A release with everything that views need of it, made in the load task.
-struct LoadedRelease {
-    ReleaseIndex index;
-    RecordGeometry geometry;
-
-    explicit LoadedRelease(std::shared_ptr<const OpenMapRelease> release, TextLocale locale)
-        : index(release, std::move(locale)), geometry(*release) {}
-};
 
 struct RecordSet {
     Q_GADGET

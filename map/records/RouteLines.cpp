@@ -135,11 +135,11 @@ void drawRouteLines(const RecordGeometry& geometry,
                     const std::function<void(Rgb, std::span<const ScreenPoint>)>& draw) {
     const auto tolerance = static_cast<float>(routeTolerancePixels / view.scale);
     LineCutter cutter(view, draw);
-    for (const double shift : worldCopyOffsets(view.seen)) {
+    for (const double offset : worldCopyOffsets(view.seen)) {
         for (const RouteRun& run : runs) {
             const std::optional<Rgb>& color = colors[run.asset];
             MapRect bounds = run.bounds;
-            bounds.x += shift;
+            bounds.x += offset;
             if (!color || !bounds.intersects(view.seen)) {
                 continue;
             }
@@ -148,7 +148,7 @@ void drawRouteLines(const RecordGeometry& geometry,
             cutter.begin(*color);
             for (std::size_t i = 0; i < vertices.size(); ++i) {
                 if (detail[i] > tolerance) {
-                    cutter.add(view.project({vertices[i].x + shift, vertices[i].y}));
+                    cutter.add(view.project({vertices[i].x + offset, vertices[i].y}));
                 }
             }
             cutter.end();

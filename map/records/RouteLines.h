@@ -3,19 +3,15 @@
 // world that is seen, cut a little outside the view.
 
 #include "map/geometry/Camera.h"
+#include "map/layers/Rgb.h"
 #include "map/records/RecordGeometry.h"
 
-#include <array>
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
 #include <vector>
 
 namespace vasker {
-
-/// Red, green, blue.
-using Rgb = std::array<std::uint8_t, 3>;
 
 /// The colour of each record's lines, by AssetIndex; none for a record that is not shown.
 using RouteColors = std::vector<std::optional<Rgb>>;
@@ -27,7 +23,7 @@ inline constexpr double routeTolerancePixels = 0.5;
 /// than half of their greatest width.
 inline constexpr double lineReach = 16;
 
-/// What lines are projected to: a screen, or a picture of a part of the map.
+/// What lines are projected to: a screen, or a raster tile.
 struct LineView {
     std::function<PerspectivePoint(MapPoint)> project;
     double width; ///< pixels

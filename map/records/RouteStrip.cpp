@@ -26,7 +26,7 @@ double dot(Vector a, Vector b) {
 /// Appends lines to a strip, one after the other.
 class Pen {
   public:
-    Pen(RouteStrip& strip, Rgb color) : m_strip(strip), m_color(color) {}
+    Pen(LineStrip& strip, Rgb color) : m_strip(strip), m_color(color) {}
 
     /// Begins a line at `point`, drawn towards `direction` (unit).
     void begin(Vector point, Vector direction) {
@@ -55,25 +55,25 @@ class Pen {
     static Vector normalOf(Vector direction) { return {-direction.y, direction.x}; }
 
     void add(Vector point, Vector normal) {
-        push(point, normal, RouteVertex::Corner::left);
-        push(point, -1 * normal, RouteVertex::Corner::right);
+        push(point, normal, LineVertex::Corner::left);
+        push(point, -1 * normal, LineVertex::Corner::right);
     }
 
     void addTip(Vector point, Vector direction, double sign) {
         const Vector normal = normalOf(direction);
-        push(point, normal + sign * direction, RouteVertex::Corner::leftTip);
-        push(point, -1 * normal + sign * direction, RouteVertex::Corner::rightTip);
+        push(point, normal + sign * direction, LineVertex::Corner::leftTip);
+        push(point, -1 * normal + sign * direction, LineVertex::Corner::rightTip);
     }
 
-    void push(Vector point, Vector offset, RouteVertex::Corner corner) {
-        const RouteVertex vertex{static_cast<float>(point.x),
-                                 static_cast<float>(point.y),
-                                 static_cast<float>(offset.x),
-                                 static_cast<float>(offset.y),
-                                 m_color[0],
-                                 m_color[1],
-                                 m_color[2],
-                                 corner};
+    void push(Vector point, Vector offset, LineVertex::Corner corner) {
+        const LineVertex vertex{static_cast<float>(point.x),
+                                static_cast<float>(point.y),
+                                static_cast<float>(offset.x),
+                                static_cast<float>(offset.y),
+                                m_color[0],
+                                m_color[1],
+                                m_color[2],
+                                corner};
         if (m_startsStrip && !m_strip.empty()) {
             m_strip.push_back(m_strip.back());
             m_strip.push_back(vertex);
@@ -82,7 +82,7 @@ class Pen {
         m_strip.push_back(vertex);
     }
 
-    RouteStrip& m_strip;
+    LineStrip& m_strip;
     Rgb m_color;
     bool m_startsStrip = true;
 };
@@ -116,11 +116,11 @@ void drawLine(Pen& pen, std::span<const ScreenPoint> line) {
 
 } // namespace
 
-RouteStrip routeStrip(const RecordGeometry& geometry,
-                      std::span<const RouteRun> runs,
-                      const RouteColors& colors,
-                      const Camera& camera) {
-    RouteStrip strip;
+LineStrip routeStrip(const RecordGeometry& geometry,
+                     std::span<const RouteRun> runs,
+                     const RouteColors& colors,
+                     const Camera& camera) {
+    LineStrip strip;
     const Viewport view = camera.viewport();
     const LineView screen{
         .project = [&camera](MapPoint point) { return camera.worldToPerspective(point); },

@@ -1,73 +1,46 @@
 #pragma once
-// The whole map as scene-graph nodes, in drawing order: ground, tiles, routes, dots, names,
-// pins.
+// A frame of the map as scene-graph nodes, one a layer.
 
-#include "map/records/PinAtlas.h"
-#include "map/scene/DotLayer.h"
-#include "map/scene/GroundLayer.h"
-#include "map/scene/RouteLayer.h"
-#include "map/scene/SpriteLayer.h"
-#include "map/scene/TileLayer.h"
+#include "map/frame/MapFrame.h"
+#include "map/scene/BackgroundNode.h"
+#include "map/scene/DotNode.h"
+#include "map/scene/LineNode.h"
+#include "map/scene/SpriteNode.h"
+#include "map/scene/TileNode.h"
 
 #include <QSGNode>
 
 #include <memory>
+#include <variant>
 #include <vector>
 
 class QQuickWindow;
 
 namespace vasker {
 
-/// Sprites with the picture that they are cut from.
-struct SpriteSheet {
-    QImage image; ///< null: there are no sprites
-    std::vector<Sprite> sprites;
-};
-
-/// Everything that one frame shows.
-struct MapFrame {
-    QSizeF size;
-    BasemapTheme look = BasemapTheme::light;
-    float devicePixels = 1; ///< per logical pixel
-    std::vector<TileQuad> tiles;
-    RouteStrip routes;
-    RouteStrip hoveredRoute;
-    RouteStrip selectedRoute;
-    std::vector<Dot> dots;
-    SpriteSheet names;
-    SpriteSheet pins;
-};
-
 class MapNode final : public QSGNode {
   public:
-    MapNode();
+    MapNode() = default;
 
-    /// Render thread, while the item's thread waits. Makes textures for `window`.
-    void update(const MapFrame& picture, QQuickWindow& window);
+    /// Render thread, while the item's thread waits. Makes textures for `window`, and takes the
+    /// images of the frame that are new.
+    void update(MapFrame& frame, QQuickWindow& window);
 
   private:
-    /// Sprites that are there once there is a picture to cut them from.
-    class Sprites {
-      public:
-        Sprites();
-        void update(const SpriteSheet& sheet, float devicePixels, QQuickWindow& window);
-        [[nodiscard]] QSGNode* node() noexcept { return &m_place; }
+    template <typename Node>
+    using Owned = std::unique_ptr<Node>;
+    using LayerNode = std::variant<Owned<BackgroundNode>,
+                                   Owned<TileNode>,
+                                   Owned<LineNode>,
+                                   Owned<DotNode>,
+                                   Owned<SpriteNode>>;
 
-      private:
-        QSGNode m_place;
-        SpriteLayer m_layer;
-        qint64 m_image = 0; ///< cache key of the image
-    };
+    /// The node of the layer with that number; made anew where it is of another kind.
+    template <typename Node>
+    Node& node(std::size_t layer);
+    void removeFrom(std::size_t layer);
 
-    GroundLayer m_ground;
-    TileLayer m_tiles;
-    RouteLayer m_routes;
-    RouteLayer m_hoveredRoute;
-    RouteLayer m_selectedRouteOutline;
-    RouteLayer m_selectedRoute;
-    DotLayer m_dots;
-    Sprites m_names;
-    Sprites m_balloons;
+    std::vector<LayerNode> m_nodes; ///< in drawing order
 };
 
 } // namespace vasker

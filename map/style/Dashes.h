@@ -1,5 +1,5 @@
 #pragma once
-// Dashed lines that go on from one tile's picture to the next.
+// Dashed lines that continue from one raster tile to the next.
 
 #include <QPolygonF>
 #include <QRectF>
@@ -9,8 +9,8 @@
 namespace vasker {
 
 /// `line` in dashes, in device pixels. Where the line crosses an edge of `tile`, a dash has its
-/// middle: the neighbour's picture goes on from there. The pattern is stretched a little to fit
-/// between.
+/// middle, so that the neighbour's raster tile continues the pattern. The pattern is stretched a
+/// little to fit between.
 [[nodiscard]] std::vector<QPolygonF>
 dashes(const QPolygonF& line, double dash, double gap, const QRectF& tile);
 

@@ -1,5 +1,5 @@
 #pragma once
-// Straight cuts along the axes, as geometry is cut to a picture.
+// Cuts along the axes, by which geometry is clipped to a rectangle.
 
 #include <QPointF>
 #include <QRectF>
@@ -12,7 +12,7 @@ namespace vasker {
     return a + (b - a) * part;
 }
 
-/// The side of a straight cut that is kept: `sign` times the coordinate is at least `limit`.
+/// The kept side of a cut: `sign` times the coordinate is at least `limit`.
 struct HalfPlane {
     bool vertical; ///< about x, else about y
     double sign;

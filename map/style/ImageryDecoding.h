@@ -1,16 +1,16 @@
 #pragma once
-// Photographs of the ground as services send them. The bytes are foreign: whatever is wrong with
-// them costs the picture, never more. Any thread.
+// Decodes imagery tiles. The bytes are foreign: whatever is wrong with them costs the tile, never
+// more. Any thread.
 
 #include <QByteArray>
 #include <QImage>
 
 namespace vasker {
 
-/// The longest side of a picture that is decoded, in pixels; services send 256 or 512.
+/// The longest side of an image that is decoded, in pixels; services send 256 or 512.
 inline constexpr int maximumImagerySide = 1024;
 
-/// The picture, Format_RGB32; null where the bytes are no whole picture of one of these formats,
+/// The image, Format_RGB32; null where the bytes are no whole JPEG, PNG or WebP image,
 /// its sides are too long, or Qt has no reader for it (for WebP that is a package of its own).
 [[nodiscard]] QImage decodedImagery(const QByteArray& bytes);
 

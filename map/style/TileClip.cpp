@@ -11,7 +11,7 @@ namespace vasker {
 
 namespace {
 
-/// Points nearer than this to the one before, in device pixels, say nothing.
+/// Points nearer than this to the one before, in device pixels, are left out.
 constexpr double leastStep = 0.5;
 
 bool isFinite(TilePoint point) {
@@ -42,7 +42,7 @@ QPolygonF cut(const QPolygonF& ring, const HalfPlane& half) {
     return kept;
 }
 
-/// Whether both points lie on or beyond the same edge of the data's tile, where no neighbour looks.
+/// Whether both points lie on or beyond the same edge of the data's tile, where nothing is drawn.
 bool runsAlongTheTilesEdge(TilePoint a, TilePoint b) {
     return (a.x <= 0 && b.x <= 0) || (a.y <= 0 && b.y <= 0) || (a.x >= 1 && b.x >= 1) ||
            (a.y >= 1 && b.y >= 1);
@@ -51,20 +51,20 @@ bool runsAlongTheTilesEdge(TilePoint a, TilePoint b) {
 } // namespace
 
 TileClip::TileClip(TileKey dataKey, const TileRequest& request) noexcept {
-    const PixelRect picture = request.pixels();
+    const PixelRect pixels = request.pixels();
     const double scale = request.devicePixelsPerMapPoint;
     const auto fromCorner = [&](const MapRect& bounds) {
-        return QPointF(bounds.x * scale - static_cast<double>(picture.x),
-                       bounds.y * scale - static_cast<double>(picture.y));
+        return QPointF(bounds.x * scale - static_cast<double>(pixels.x),
+                       bounds.y * scale - static_cast<double>(pixels.y));
     };
     m_origin = fromCorner(dataKey.bounds());
     m_scale = dataKey.side() * scale;
     const double side = request.key.side() * scale;
     m_tileEdges = QRectF(fromCorner(request.key.bounds()), QSizeF(side, side));
-    m_kept = QRectF(0, 0, picture.width, picture.height).adjusted(-margin, -margin, margin, margin);
+    m_kept = QRectF(0, 0, pixels.width, pixels.height).adjusted(-margin, -margin, margin, margin);
 }
 
-QPointF TileClip::toPicture(TilePoint point) const noexcept {
+QPointF TileClip::toPixels(TilePoint point) const noexcept {
     return {m_origin.x() + static_cast<double>(point.x) * m_scale,
             m_origin.y() + static_cast<double>(point.y) * m_scale};
 }
@@ -84,8 +84,8 @@ bool TileClip::shows(const VectorFeature& feature) const noexcept {
             most = {std::max(most.x, point.x), std::max(most.y, point.y)};
         }
     }
-    const QPointF from = toPicture(least);
-    const QPointF to = toPicture(most);
+    const QPointF from = toPixels(least);
+    const QPointF to = toPixels(most);
     return to.x() >= m_kept.left() && to.y() >= m_kept.top() && from.x() <= m_kept.right() &&
            from.y() <= m_kept.bottom();
 }
@@ -95,7 +95,7 @@ QPolygonF TileClip::ring(const std::vector<TilePoint>& ring) const {
     polygon.reserve(static_cast<qsizetype>(ring.size()));
     bool isInside = true;
     for (const TilePoint point : ring) {
-        const QPointF place = toPicture(point);
+        const QPointF place = toPixels(point);
         if (!isFinite(point) || (!polygon.empty() && isNear(polygon.back(), place))) {
             continue;
         }
@@ -150,7 +150,7 @@ std::vector<QPolygonF> TileClip::line(const std::vector<TilePoint>& line) const 
         if (!isFinite(line[i])) {
             continue;
         }
-        const QPointF next = toPicture(line[i]);
+        const QPointF next = toPixels(line[i]);
         if (!place) {
             place = next;
         } else if (i + 1 == line.size() || !isNear(*place, next)) {

@@ -1,11 +1,12 @@
 #pragma once
-// The part of a tile's data that a picture shows: from fractions of the data's tile to device
-// pixels of the picture, cut to the picture and a margin around it.
+// Clips a tile's data to the raster tile that shows them: from fractions of the data's tile to
+// device pixels, cut at a margin around the raster tile.
 //
 // Whatever the data hold, results lie within the margin: values that are no numbers are passed
-// over, and cost is in proportion to the number of points.
+// over, and the cost is proportional to the number of points.
 
-#include "map/style/TilePicture.h"
+#include "map/style/TileRequest.h"
+#include "map/tiles/VectorTile.h"
 
 #include <QPolygonF>
 #include <QRectF>
@@ -16,16 +17,16 @@ namespace vasker {
 
 class TileClip {
   public:
-    /// Geometry is kept as far as this outside the picture, in device pixels: more than half of the
-    /// widest line, so that cut ends stay out of sight.
+    /// Geometry is kept as far as this outside the raster tile, in device pixels: more than half of
+    /// the widest line, so that cut ends stay out of sight.
     static constexpr double margin = 48;
 
-    /// The picture of `request` from the data of `dataKey`: its own tile or an ancestor.
+    /// The raster tile of `request` from the data of `dataKey`: its own tile or an ancestor.
     TileClip(TileKey dataKey, const TileRequest& request) noexcept;
 
-    /// The tile's own edges in the picture, which covers all pixels that they touch.
+    /// The tile's own edges; the raster tile covers all pixels that they touch.
     [[nodiscard]] QRectF tileEdges() const noexcept { return m_tileEdges; }
-    /// Whether any of the feature's bounds lies in the window.
+    /// Whether any of the feature's bounds lies within the margin.
     [[nodiscard]] bool shows(const VectorFeature& feature) const noexcept;
     /// A closed ring, cut. Empty where nothing is left of it.
     [[nodiscard]] QPolygonF ring(const std::vector<TilePoint>& ring) const;
@@ -35,14 +36,14 @@ class TileClip {
     [[nodiscard]] std::vector<QPolygonF> outline(const std::vector<TilePoint>& ring) const;
 
   private:
-    [[nodiscard]] QPointF toPicture(TilePoint point) const noexcept;
+    [[nodiscard]] QPointF toPixels(TilePoint point) const noexcept;
     [[nodiscard]] bool holds(QPointF point) const noexcept;
     void appendSegment(std::vector<QPolygonF>& lines, QPointF from, QPointF to) const;
 
-    QPointF m_origin; ///< of the data's tile, in the picture
+    QPointF m_origin; ///< of the data's tile, in the raster tile
     double m_scale;   ///< device pixels per side of the data's tile
     QRectF m_tileEdges;
-    QRectF m_kept; ///< the picture and its margin
+    QRectF m_kept; ///< the raster tile and its margin
 };
 
 } // namespace vasker

@@ -1,13 +1,14 @@
 #include "map/style/VectorTilePainter.h"
 
-#include "map/style/BasemapStyle.h"
 #include "map/style/Dashes.h"
+#include "map/style/StyleLayer.h"
 #include "map/style/TileClip.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
 #include <array>
+#include <vector>
 
 namespace vasker {
 
@@ -33,114 +34,91 @@ QColor faded(QColor color, double opacity) {
     return color;
 }
 
-/// A line of the tile that is drawn, and how far its place in the world changes its looks.
-struct ClassedLine {
-    const VectorFeature* feature;
-    std::vector<QPolygonF> pieces;
-};
-
-/// Paints one tile's data in one dress.
 class VectorTilePainter {
   public:
     VectorTilePainter(QPainter& painter,
-                      const TileData& ground,
+                      const TileData& data,
                       const TileRequest& request,
-                      const BasemapColors& colors)
-        : m_painter(painter), m_colors(colors), m_window(ground.vectorKey, request),
-          m_density(request.devicePixelsPerPixel), m_zoom(zoomOnScreen(request)) {
-        for (const VectorLayer& layer : ground.vector->layers) {
-            sort(layer);
-        }
-    }
-
-    void paintAreas(bool aboveRivers) {
-        const std::span<const AreaStyle> styles = areaStyles();
-        for (std::size_t i = 0; i < styles.size(); ++i) {
-            if (styles[i].aboveRivers == aboveRivers) {
-                paintAreas(styles[i], m_areas[i]);
+                      const MapTheme& theme)
+        : m_painter(painter), m_theme(theme), m_clip(data.vectorKey, request),
+          m_density(request.devicePixelsPerPixel), m_zoom(request.zoom()) {
+        for (const VectorLayer& layer : data.vector->layers) {
+            for (const VectorFeature& feature : layer.features) {
+                const auto found = featureClass(layer.name, feature);
+                if (found && m_clip.shows(feature)) {
+                    m_features[static_cast<std::size_t>(*found)].push_back({&feature, {}});
+                }
             }
         }
     }
 
-    void paintLines(LineClass first, LineClass last) {
-        for (auto i = static_cast<std::size_t>(first); i <= static_cast<std::size_t>(last); ++i) {
-            paintEdges(static_cast<LineClass>(i));
+    void paint(const StyleLayer& layer) {
+        const QColor& color = m_theme.*layer.color;
+        if (m_zoom < layer.firstZoom || m_zoom >= layer.lastZoom || color.alpha() == 0) {
+            return;
         }
-        for (auto i = static_cast<std::size_t>(first); i <= static_cast<std::size_t>(last); ++i) {
-            paintLines(static_cast<LineClass>(i));
-        }
-    }
-
-    void paintCountryHalo() {
-        const QPen pen = penOf(m_colors.countryHalo, countryHaloWidth * m_density, Qt::FlatCap);
-        // One path: where borders meet, the halo grows no darker.
-        QPainterPath path;
-        for (const ClassedLine& line : m_lines[static_cast<std::size_t>(LineClass::country)]) {
-            for (const QPolygonF& piece : line.pieces) {
-                path.addPolygon(piece);
+        std::vector<Feature>& features = m_features[static_cast<std::size_t>(layer.features)];
+        switch (layer.kind) {
+        case StyleLayer::Kind::fill:
+            m_painter.setPen(Qt::NoPen);
+            m_painter.setBrush(color);
+            for (const Feature& feature : features) {
+                fill(*feature.data);
             }
+            m_painter.setBrush(Qt::NoBrush);
+            break;
+        case StyleLayer::Kind::outline:
+            m_painter.setPen(penOf(color, widthOf(layer), Qt::RoundCap));
+            for (const Feature& feature : features) {
+                for (const std::vector<TilePoint>& part : feature.data->parts) {
+                    draw(m_clip.outline(part));
+                }
+            }
+            break;
+        case StyleLayer::Kind::line:
+            for (Feature& feature : features) {
+                drawLine(layer, feature, color);
+            }
+            break;
+        case StyleLayer::Kind::halo: {
+            QPainterPath path;
+            for (Feature& feature : features) {
+                for (const QPolygonF& piece : lines(feature)) {
+                    path.addPolygon(piece);
+                }
+            }
+            m_painter.strokePath(path, penOf(color, widthOf(layer), Qt::FlatCap));
+            break;
         }
-        m_painter.strokePath(path, pen);
+        }
     }
 
   private:
-    void sort(const VectorLayer& layer) {
-        for (const VectorFeature& feature : layer.features) {
-            if (feature.geometry == VectorFeature::Geometry::polygon) {
-                sortArea(layer.name, feature);
-            } else if (feature.geometry == VectorFeature::Geometry::lines) {
-                sortLine(layer.name, feature);
-            }
-        }
+    struct Feature {
+        const VectorFeature* data;
+        std::vector<QPolygonF> lines; ///< clipped, when first needed
+    };
+
+    /// In device pixels.
+    [[nodiscard]] double widthOf(const StyleLayer& layer, bool isLink = false) const {
+        const double width = widthAt(layer.widths, m_zoom) * (isLink ? linkWidth : 1);
+        return (width + 2 * layer.casing) * m_density;
     }
 
-    void sortArea(std::string_view layer, const VectorFeature& feature) {
-        const std::optional<std::size_t> style = areaStyleOf(layer, feature.kind);
-        if (style && areaStyles()[*style].firstZoom <= m_zoom && m_window.shows(feature)) {
-            m_areas[*style].push_back(&feature);
-        }
-    }
-
-    void sortLine(std::string_view layer, const VectorFeature& feature) {
-        const std::optional<LineClass> lineClass = lineClassOf(layer, feature);
-        if (!lineClass || lineStyle(*lineClass).firstZoom > m_zoom || !m_window.shows(feature)) {
-            return;
-        }
-        ClassedLine line{&feature, {}};
-        for (const std::vector<TilePoint>& part : feature.parts) {
-            for (QPolygonF& piece : m_window.line(part)) {
-                line.pieces.push_back(std::move(piece));
+    const std::vector<QPolygonF>& lines(Feature& feature) {
+        if (feature.lines.empty()) {
+            for (const std::vector<TilePoint>& part : feature.data->parts) {
+                for (QPolygonF& piece : m_clip.line(part)) {
+                    feature.lines.push_back(std::move(piece));
+                }
             }
         }
-        m_lines[static_cast<std::size_t>(*lineClass)].push_back(std::move(line));
-    }
-
-    void paintAreas(const AreaStyle& style, const std::vector<const VectorFeature*>& features) {
-        const QColor& color = m_colors.*style.color;
-        if (color.alpha() == 0) {
-            return;
-        }
-        m_painter.setPen(Qt::NoPen);
-        m_painter.setBrush(color);
-        for (const VectorFeature* feature : features) {
-            fill(*feature);
-        }
-        if (style.outline == nullptr) {
-            return;
-        }
-        const double width = coastWidthAt(m_zoom) * style.outlineFactor * m_density;
-        m_painter.setPen(penOf(m_colors.*style.outline, width, Qt::RoundCap));
-        m_painter.setBrush(Qt::NoBrush);
-        for (const VectorFeature* feature : features) {
-            for (const std::vector<TilePoint>& part : feature->parts) {
-                draw(m_window.outline(part));
-            }
-        }
+        return feature.lines;
     }
 
     void fill(const VectorFeature& feature) {
         if (feature.parts.size() == 1) {
-            const QPolygonF ring = m_window.ring(feature.parts.front());
+            const QPolygonF ring = m_clip.ring(feature.parts.front());
             if (!ring.empty()) {
                 m_painter.drawPolygon(ring, Qt::OddEvenFill);
             }
@@ -149,10 +127,33 @@ class VectorTilePainter {
         QPainterPath path;
         path.setFillRule(Qt::OddEvenFill);
         for (const std::vector<TilePoint>& part : feature.parts) {
-            path.addPolygon(m_window.ring(part));
+            path.addPolygon(m_clip.ring(part));
             path.closeSubpath();
         }
         m_painter.drawPath(path);
+    }
+
+    void drawLine(const StyleLayer& layer, Feature& feature, const QColor& color) {
+        const DashPattern dashPattern = feature.data->disputed ? disputedDashes : layer.dashes;
+        const bool isDashed = dashPattern.gap > 0;
+        const double width = widthOf(layer, feature.data->link);
+        QPen pen = penOf(faded(color, feature.data->tunnel ? tunnelOpacity : 1),
+                         width,
+                         isDashed || layer.isBorder ? Qt::FlatCap : Qt::RoundCap);
+        if (layer.isBorder) {
+            pen.setWidthF(width);
+        }
+        m_painter.setPen(pen);
+        if (!isDashed) {
+            draw(lines(feature));
+            return;
+        }
+        for (const QPolygonF& piece : lines(feature)) {
+            draw(dashes(piece,
+                        dashPattern.dash * m_density,
+                        dashPattern.gap * m_density,
+                        m_clip.tileEdges()));
+        }
     }
 
     void draw(const std::vector<QPolygonF>& lines) {
@@ -161,82 +162,27 @@ class VectorTilePainter {
         }
     }
 
-    [[nodiscard]] double widthOf(const LineStyle& style, const VectorFeature& feature) const {
-        return widthAt(style.widths, m_zoom) * (feature.link ? linkWidth : 1);
-    }
-
-    void paintEdges(LineClass lineClass) {
-        const LineStyle& style = lineStyle(lineClass);
-        if (m_zoom < style.edgeZoom || m_colors.roadEdge.alpha() == 0) {
-            return;
-        }
-        for (const ClassedLine& line : m_lines[static_cast<std::size_t>(lineClass)]) {
-            const double width = widthOf(style, *line.feature) + 2 * roadEdgeWidth;
-            const double opacity = line.feature->tunnel ? tunnelOpacity : 1;
-            m_painter.setPen(
-                penOf(faded(m_colors.roadEdge, opacity), width * m_density, Qt::RoundCap));
-            draw(line.pieces);
-        }
-    }
-
-    void paintLines(LineClass lineClass) {
-        const LineStyle& style = lineStyle(lineClass);
-        const QColor color = m_colors.*(m_zoom < style.edgeZoom ? style.thinColor : style.color);
-        const bool isBorder = lineClass >= LineClass::region;
-        if (color.alpha() == 0) {
-            return;
-        }
-        for (const ClassedLine& line : m_lines[static_cast<std::size_t>(lineClass)]) {
-            const DashPattern pattern = line.feature->disputed ? disputedDashes : style.dashes;
-            const bool isDashed = pattern.gap > 0;
-            const double width = widthOf(style, *line.feature) * m_density;
-            QPen pen = penOf(faded(color, line.feature->tunnel ? tunnelOpacity : 1),
-                             width,
-                             isDashed || isBorder ? Qt::FlatCap : Qt::RoundCap);
-            if (isBorder) {
-                pen.setWidthF(width);
-            }
-            m_painter.setPen(pen);
-            if (!isDashed) {
-                draw(line.pieces);
-                continue;
-            }
-            for (const QPolygonF& piece : line.pieces) {
-                draw(dashes(piece,
-                            pattern.dash * m_density,
-                            pattern.gap * m_density,
-                            m_window.tileEdges()));
-            }
-        }
-    }
-
     QPainter& m_painter;
-    const BasemapColors& m_colors;
-    TileClip m_window;
+    const MapTheme& m_theme;
+    TileClip m_clip;
     double m_density;
     double m_zoom;
-    std::vector<std::vector<const VectorFeature*>> m_areas{areaStyles().size()};
-    std::array<std::vector<ClassedLine>, lineClasses> m_lines;
+    std::array<std::vector<Feature>, featureClasses> m_features;
 };
 
 } // namespace
 
 void paintVectorTile(QPainter& painter,
-                     const TileData& ground,
+                     const TileData& data,
                      const TileRequest& request,
-                     BasemapTheme look) {
-    if (!ground.vector) {
+                     BasemapTheme theme) {
+    if (!data.vector) {
         return;
     }
-    VectorTilePainter layers(painter, ground, request, basemapColors(look));
-    layers.paintAreas(false);
-    layers.paintLines(LineClass::river, LineClass::stream);
-    layers.paintAreas(true);
-    layers.paintLines(LineClass::ferry, LineClass::rail);
-    layers.paintLines(LineClass::service, LineClass::motorway);
-    layers.paintLines(LineClass::region, LineClass::region);
-    layers.paintCountryHalo();
-    layers.paintLines(LineClass::country, LineClass::country);
+    VectorTilePainter tile(painter, data, request, mapTheme(theme));
+    for (const StyleLayer& layer : styleLayers()) {
+        tile.paint(layer);
+    }
 }
 
 } // namespace vasker

@@ -1,17 +1,18 @@
 #pragma once
-// The data of one tile on its picture: areas, lines, borders, in the order of the style's tables.
+// Draws the data of one vector tile, layer by layer of the style.
 
-#include "map/style/TilePicture.h"
+#include "map/style/TileData.h"
+#include "map/style/TileRequest.h"
 
 class QPainter;
 
 namespace vasker {
 
-/// Paints what the ground's data say in the dress of `look`, whatever look the request asks for.
+/// Draws what the vector tile says in the colours of `theme`, whatever theme the request asks for.
 /// Values that are no numbers or lie far out cost only themselves.
 void paintVectorTile(QPainter& painter,
-                     const TileData& ground,
+                     const TileData& data,
                      const TileRequest& request,
-                     BasemapTheme look);
+                     BasemapTheme theme);
 
 } // namespace vasker

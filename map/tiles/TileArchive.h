@@ -3,14 +3,13 @@
 // object on one thread; several may read one file. The file must not change while it is read.
 
 #include "map/geometry/TileKey.h"
+#include "map/tiles/SqliteDatabase.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
-
-struct sqlite3;
-struct sqlite3_stmt;
+#include <string_view>
 
 namespace vasker {
 
@@ -21,9 +20,6 @@ class TileArchive {
   public:
     /// Null where the file is missing, cannot be read or is no archive.
     [[nodiscard]] static std::unique_ptr<TileArchive> open(const std::string& path);
-    ~TileArchive();
-    TileArchive(const TileArchive&) = delete;
-    TileArchive& operator=(const TileArchive&) = delete;
 
     /// The bytes of a tile as they are stored; nothing where there is none, where the file is
     /// damaged there, or where `key` is no tile's.
@@ -53,16 +49,14 @@ class TileArchive {
     };
 
     TileArchive() = default;
-    bool openDatabase(const std::string& path);
     bool readMetadata();
-    std::optional<std::string> metadata(const char* name);
-    std::optional<int> deepestStoredZoom();
+    std::optional<std::string> metadata(std::string_view name);
     std::optional<Coverage> describedCoverage();
     Stored read(TileKey key, std::string& bytes);
     [[nodiscard]] bool covers(TileKey key) const noexcept;
 
-    sqlite3* m_database = nullptr;
-    sqlite3_stmt* m_query = nullptr;
+    SqliteDatabase m_database;
+    SqliteStatement m_query;
     int m_maximumZoom = 0;
     std::string m_attribution;
     std::optional<Coverage> m_coverage;

@@ -324,6 +324,24 @@ const VectorLayer* VectorTile::layer(std::string_view name) const noexcept {
     return found == layers.end() ? nullptr : &*found;
 }
 
+std::size_t VectorTile::memoryBytes() const noexcept {
+    std::size_t bytes = 0;
+    for (const VectorLayer& layer : layers) {
+        bytes += layer.features.capacity() * sizeof(VectorFeature);
+        for (const VectorFeature& feature : layer.features) {
+            bytes += feature.parts.capacity() * sizeof(feature.parts.front());
+            for (const auto& part : feature.parts) {
+                bytes += part.capacity() * sizeof(TilePoint);
+            }
+            for (const std::string* text :
+                 {&feature.kind, &feature.name, &feature.nameEnglish, &feature.nameFrench}) {
+                bytes += text->size();
+            }
+        }
+    }
+    return bytes;
+}
+
 std::optional<VectorTile> decodeVectorTile(std::string_view inflated) {
     if (inflated.size() > maximumTileBytes) {
         return std::nullopt;

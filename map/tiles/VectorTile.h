@@ -52,6 +52,8 @@ struct VectorTile {
     std::vector<VectorLayer> layers;
     /// The layer of that name; null where there is none.
     [[nodiscard]] const VectorLayer* layer(std::string_view name) const noexcept;
+    /// About what the tile takes of memory.
+    [[nodiscard]] std::size_t memoryBytes() const noexcept;
 };
 
 /// In version 2.1 of the format of vector tiles (MVT). Nothing where the bytes are no vector tile;

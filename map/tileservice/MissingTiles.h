@@ -1,7 +1,7 @@
 #pragma once
 // The tiles that services are known not to have.
 
-#include "map/tileservice/TileService.h"
+#include "map/tileservice/ServiceTile.h"
 
 #include <cstddef>
 #include <deque>

@@ -1,8 +1,8 @@
 #pragma once
 // The request for a tile, in the manners of the services: who asks, and nothing about whom for.
 
+#include "map/tileservice/ServiceTile.h"
 #include "map/tileservice/TileCache.h"
-#include "map/tileservice/TileService.h"
 
 #include <QNetworkRequest>
 #include <QString>

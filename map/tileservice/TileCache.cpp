@@ -2,276 +2,195 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
-#include <sqlite3.h>
-
-#include <algorithm>
+#include <string_view>
 
 namespace vasker {
 
 namespace {
 
-constexpr int layoutVersion = 1;
-// When a tile was looked at last is not written more often than this: a look is no reason to write.
+constexpr qint64 layoutVersion = 1;
+constexpr const char* layout = "CREATE TABLE tile(address BLOB PRIMARY KEY,"
+                               " fresh_until INTEGER NOT NULL, looked_at INTEGER NOT NULL,"
+                               " entity_tag BLOB, last_modified BLOB, bytes BLOB NOT NULL);"
+                               "CREATE INDEX tile_looked_at ON tile(looked_at);"
+                               "PRAGMA user_version=1;";
+/// When a tile was in view last is not written more often than this: a look is no reason to write.
 constexpr qint64 secondsBetweenLooks = 86'400;
+constexpr int longestValue = 8'000'000;
+/// Lookups and writes of one row take some hundreds of steps.
+constexpr int thousandSteps = 500;
+/// Room for one tile is made of so many others at the most.
+constexpr int mostDropped = 16;
 
-struct Finalizer {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-using Statement = std::unique_ptr<sqlite3_stmt, Finalizer>;
-
-void bind(sqlite3_stmt* statement, int index, const QByteArray& bytes) {
-    sqlite3_bind_blob64(statement,
-                        index,
-                        bytes.constData() == nullptr ? "" : bytes.constData(),
-                        static_cast<sqlite3_uint64>(bytes.size()),
-                        SQLITE_STATIC); // outlives the statement
+std::string_view viewOf(const QByteArray& bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-void bind(sqlite3_stmt* statement, int index, const QDateTime& time) {
-    sqlite3_bind_int64(statement, index, time.toSecsSinceEpoch());
-}
-
-QByteArray bytesOf(sqlite3_stmt* statement, int column) {
-    const void* const bytes = sqlite3_column_blob(statement, column);
-    return bytes == nullptr ? QByteArray()
-                            : QByteArray(static_cast<const char*>(bytes),
-                                         sqlite3_column_bytes(statement, column));
+QByteArray bytesOf(std::string_view bytes) {
+    return {bytes.data(), static_cast<qsizetype>(bytes.size())};
 }
 
 } // namespace
 
-class TileCache::Database {
-  public:
-    ~Database() { close(); }
+TileCache::TileCache(QString folder, qint64 mostBytes)
+    : m_folder(std::move(folder)), m_mostBytes(mostBytes) {}
 
-    /// False where there is no way.
-    bool open(const QString& path, qint64 mostBytes);
-    void close();
-    /// What the last call came to; SQLITE_ROW and SQLITE_DONE are good.
-    [[nodiscard]] int state() const noexcept { return m_state; }
+QString TileCache::path() const {
+    return QDir(m_folder).filePath(QStringLiteral("tiles.sqlite"));
+}
 
-    std::optional<Entry> find(const QByteArray& address, const QDateTime& now);
-    void keep(const QByteArray& address, const Entry& entry, const QDateTime& now);
-    void refresh(const QByteArray& address, const QDateTime& freshUntil);
-    void drop(const QByteArray& address);
-
-  private:
-    Statement prepared(const char* sql);
-    bool step(const Statement& statement);
-    /// Runs a statement to its end; what it says first, or -1.
-    qint64 number(const char* sql);
-    bool makeRoom(qint64 bytes);
-
-    sqlite3* m_database = nullptr;
-    qint64 m_pageBytes = 0;
-    qint64 m_mostBytes = 0;
-    bool m_isWritable = true;
-    int m_state = SQLITE_OK;
-};
-
-bool TileCache::Database::open(const QString& path, qint64 mostBytes) {
-    constexpr int create = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    m_state = sqlite3_open_v2(
-        path.toUtf8().constData(), &m_database, create | SQLITE_OPEN_NOMUTEX, nullptr);
-    if (m_state != SQLITE_OK) {
+bool TileCache::open() {
+    if (m_isTried || m_folder.isEmpty()) {
+        return m_isOpen;
+    }
+    m_isTried = true;
+    if (!QDir().mkpath(m_folder)) {
         return false;
     }
-    sqlite3_busy_timeout(m_database, 100); // another window may just be making the file
-    m_mostBytes = mostBytes;
-    m_isWritable = sqlite3_db_readonly(m_database, "main") == 0;
-    // A lost tile is no loss: nothing waits for the disk. That the program may die at any time is
-    // the journal's business.
-    for (const char* const setting : {"PRAGMA synchronous=OFF",
-                                      "PRAGMA journal_mode=TRUNCATE",
-                                      "PRAGMA trusted_schema=OFF",
-                                      "PRAGMA cell_size_check=ON"}) {
-        (void)number(setting);
+    // Far above the bound it would take long to empty, tile by tile.
+    if (QFileInfo(path()).size() > 2 * m_mostBytes) {
+        QFile::remove(path());
     }
-    const qint64 version = number("PRAGMA user_version");
-    if (version == 0 && m_isWritable) {
-        sqlite3_exec(m_database,
-                     "BEGIN IMMEDIATE;"
-                     "CREATE TABLE IF NOT EXISTS tile(address BLOB PRIMARY KEY, fresh_until "
-                     "INTEGER NOT NULL,"
-                     " looked_at INTEGER NOT NULL, entity_tag BLOB, last_modified BLOB,"
-                     " bytes BLOB NOT NULL);"
-                     "CREATE INDEX IF NOT EXISTS tile_looked_at ON tile(looked_at);"
-                     "PRAGMA user_version=1;"
-                     "COMMIT",
-                     nullptr,
-                     nullptr,
-                     nullptr);
-        sqlite3_exec(m_database, "ROLLBACK", nullptr, nullptr, nullptr); // where that failed
+    Opened opened = openFile();
+    if (opened == Opened::foreign && QFile::remove(path())) {
+        opened = openFile();
     }
-    if (number("PRAGMA user_version") != layoutVersion) {
-        if (version > 0) {
-            m_state = SQLITE_NOTADB; // another layout
-        }
-        return false;
+    m_isOpen = opened == Opened::ours;
+    return m_isOpen;
+}
+
+TileCache::Opened TileCache::openFile() {
+    if (!m_database.open(path().toStdString(), SqliteDatabase::Mode::readWrite, longestValue)) {
+        return Opened::failed;
     }
-    sqlite3_busy_timeout(m_database, 0);
-    m_pageBytes = number("PRAGMA page_size");
-    return m_pageBytes > 0;
-}
-
-void TileCache::Database::close() {
-    sqlite3_close(m_database);
-    m_database = nullptr;
-}
-
-Statement TileCache::Database::prepared(const char* sql) {
-    sqlite3_stmt* statement = nullptr;
-    m_state = sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr);
-    return Statement(statement);
-}
-
-bool TileCache::Database::step(const Statement& statement) {
-    if (statement) {
-        m_state = sqlite3_step(statement.get());
+    m_database.setBudget(thousandSteps);
+    m_isWritable = m_database.isWritable();
+    // A lost tile is no loss: nothing waits for the disk. The journal keeps the file whole when the
+    // program ends at any time.
+    m_database.execute("PRAGMA synchronous=OFF; PRAGMA journal_mode=TRUNCATE;"
+                       "PRAGMA cell_size_check=ON; PRAGMA busy_timeout=100;");
+    const bool isEmpty = m_database.number("SELECT count(*) FROM sqlite_schema") == 0;
+    if (isEmpty && m_isWritable) {
+        m_database.execute("BEGIN IMMEDIATE") && m_database.execute(layout) &&
+            m_database.execute("COMMIT");
+        m_database.execute("ROLLBACK"); // where that failed
     }
-    return m_state == SQLITE_ROW;
+    const bool isOurs =
+        m_database.number("PRAGMA user_version") == layoutVersion &&
+        m_database.number(
+            "SELECT count(*) FROM sqlite_schema WHERE name='tile' AND type='table'") == 1 &&
+        m_database.number("SELECT count(*) FROM sqlite_schema WHERE type IN ('view', 'trigger')") ==
+            0;
+    if (!isOurs) {
+        const bool isForeign = m_database.state() == SqliteDatabase::State::damaged ||
+                               (m_database.state() == SqliteDatabase::State::fine && !isEmpty);
+        m_database.close();
+        return isForeign ? Opened::foreign : Opened::failed;
+    }
+    // What was in view is nobody else's business.
+    QFile::setPermissions(path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    m_database.execute("PRAGMA busy_timeout=0");
+    m_pageBytes = m_database.number("PRAGMA page_size");
+    return m_pageBytes > 0 ? Opened::ours : Opened::failed;
 }
 
-qint64 TileCache::Database::number(const char* sql) {
-    const Statement statement = prepared(sql);
-    return step(statement) ? sqlite3_column_int64(statement.get(), 0) : -1;
+void TileCache::checkDamage() {
+    if (m_database.state() == SqliteDatabase::State::damaged) {
+        m_database.close();
+        QFile::remove(path());
+        m_isOpen = false;
+        m_isTried = false;
+    }
 }
 
-std::optional<TileCache::Entry> TileCache::Database::find(const QByteArray& address,
-                                                          const QDateTime& now) {
-    const Statement query = prepared("SELECT bytes, fresh_until, entity_tag, last_modified,"
-                                     " looked_at FROM tile WHERE address=?");
-    bind(query.get(), 1, address);
-    if (!step(query)) {
+std::optional<TileCache::Entry> TileCache::find(const QString& address, const QDateTime& now) {
+    if (!open()) {
         return std::nullopt;
     }
-    Entry entry{.bytes = bytesOf(query.get(), 0),
-                .freshUntil =
-                    QDateTime::fromSecsSinceEpoch(sqlite3_column_int64(query.get(), 1), Qt::UTC),
-                .entityTag = bytesOf(query.get(), 2),
-                .lastModified = bytesOf(query.get(), 3)};
-    const qint64 lookedAt = sqlite3_column_int64(query.get(), 4);
-    if (m_isWritable && now.toSecsSinceEpoch() - lookedAt > secondsBetweenLooks) {
-        const Statement update = prepared("UPDATE tile SET looked_at=? WHERE address=?");
-        bind(update.get(), 1, now);
-        bind(update.get(), 2, address);
-        (void)step(update);
+    const QByteArray key = address.toUtf8();
+    SqliteStatement query = m_database.prepare(
+        "SELECT bytes, fresh_until, entity_tag, last_modified, looked_at FROM tile"
+        " WHERE address=?");
+    query.bindBytes(1, viewOf(key));
+    std::optional<Entry> found;
+    if (m_database.run(query)) {
+        found = {.bytes = bytesOf(query.bytes(0)),
+                 .freshUntil = QDateTime::fromSecsSinceEpoch(query.number(1), Qt::UTC),
+                 .entityTag = bytesOf(query.bytes(2)),
+                 .lastModified = bytesOf(query.bytes(3))};
+        const qint64 seconds = now.toSecsSinceEpoch();
+        if (m_isWritable && seconds - query.number(4) > secondsBetweenLooks) {
+            SqliteStatement update =
+                m_database.prepare("UPDATE tile SET looked_at=? WHERE address=?");
+            update.bind(1, seconds).bindBytes(2, viewOf(key));
+            (void)m_database.run(update);
+        }
     }
-    return entry;
+    query = {};
+    checkDamage();
+    return found;
 }
 
-bool TileCache::Database::makeRoom(qint64 bytes) {
-    const auto usedBytes = [this] {
-        return (number("PRAGMA page_count") - number("PRAGMA freelist_count")) * m_pageBytes;
+bool TileCache::makeRoom(qint64 bytes) {
+    const auto isTooMuch = [&] {
+        const qint64 pages =
+            m_database.number("PRAGMA page_count") - m_database.number("PRAGMA freelist_count");
+        return pages * m_pageBytes + bytes > m_mostBytes;
     };
-    while (usedBytes() + bytes > m_mostBytes) {
-        if (number("SELECT count(*) FROM (SELECT 1 FROM tile LIMIT 1)") < 1) {
-            return false;
-        }
-        const Statement oldest = prepared("DELETE FROM tile WHERE rowid IN"
-                                          " (SELECT rowid FROM tile ORDER BY looked_at LIMIT 4)");
-        (void)step(oldest);
-        if (m_state != SQLITE_DONE) {
+    for (int dropped = 0; isTooMuch(); ++dropped) {
+        if (dropped == mostDropped ||
+            !m_database.execute("DELETE FROM tile WHERE rowid IN"
+                                " (SELECT rowid FROM tile ORDER BY looked_at LIMIT 1)") ||
+            m_database.number("SELECT changes()") < 1) {
             return false;
         }
     }
     return true;
 }
 
-void TileCache::Database::keep(const QByteArray& address,
-                               const Entry& entry,
-                               const QDateTime& now) {
-    if (!m_isWritable || !makeRoom(entry.bytes.size() + 2 * m_pageBytes)) {
-        return;
-    }
-    const Statement insert = prepared("INSERT OR REPLACE INTO tile"
-                                      " (address, fresh_until, looked_at, entity_tag,"
-                                      " last_modified, bytes) VALUES (?, ?, ?, ?, ?, ?)");
-    bind(insert.get(), 1, address);
-    bind(insert.get(), 2, entry.freshUntil);
-    bind(insert.get(), 3, now);
-    bind(insert.get(), 4, entry.entityTag);
-    bind(insert.get(), 5, entry.lastModified);
-    bind(insert.get(), 6, entry.bytes);
-    (void)step(insert);
-}
-
-void TileCache::Database::refresh(const QByteArray& address, const QDateTime& freshUntil) {
-    const Statement update = prepared("UPDATE tile SET fresh_until=? WHERE address=?");
-    bind(update.get(), 1, freshUntil);
-    bind(update.get(), 2, address);
-    (void)step(update);
-}
-
-void TileCache::Database::drop(const QByteArray& address) {
-    const Statement erase = prepared("DELETE FROM tile WHERE address=?");
-    bind(erase.get(), 1, address);
-    (void)step(erase);
-}
-
-TileCache::TileCache(QString folder, qint64 mostBytes)
-    : m_folder(std::move(folder)), m_mostBytes(mostBytes) {}
-
-TileCache::~TileCache() = default;
-
-TileCache::Database* TileCache::database() {
-    if (m_isOpened || m_folder.isEmpty()) {
-        return m_database.get();
-    }
-    m_isOpened = true;
-    if (!QDir().mkpath(m_folder)) {
-        return nullptr;
-    }
-    const QString path = QDir(m_folder).filePath(QStringLiteral("tiles.sqlite"));
-    for (int attempt = 0; attempt < 2; ++attempt) {
-        auto opened = std::make_unique<Database>();
-        if (opened->open(path, m_mostBytes)) {
-            // What was looked at is nobody else's business.
-            QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-            m_database = std::move(opened);
-            break;
-        }
-        const bool isDamaged =
-            opened->state() == SQLITE_CORRUPT || opened->state() == SQLITE_NOTADB;
-        opened->close();
-        if (!isDamaged || !QFile::remove(path)) {
-            break;
-        }
-    }
-    return m_database.get();
-}
-
-template <typename Use>
-void TileCache::use(Use&& use) {
-    Database* const open = database();
-    if (open == nullptr) {
-        return;
-    }
-    use(*open);
-    if (open->state() == SQLITE_CORRUPT || open->state() == SQLITE_NOTADB) {
-        m_database.reset();
-        QFile::remove(QDir(m_folder).filePath(QStringLiteral("tiles.sqlite")));
-        m_isOpened = false; // begins anew
-    }
-}
-
-std::optional<TileCache::Entry> TileCache::find(const QString& address, const QDateTime& now) {
-    std::optional<Entry> found;
-    use([&](Database& database) { found = database.find(address.toUtf8(), now); });
-    return found;
-}
-
 void TileCache::keep(const QString& address, const Entry& entry, const QDateTime& now) {
-    use([&](Database& database) { database.keep(address.toUtf8(), entry, now); });
+    if (!open() || !m_isWritable) {
+        return;
+    }
+    if (makeRoom(entry.bytes.size() + 2 * m_pageBytes)) {
+        const QByteArray key = address.toUtf8();
+        SqliteStatement insert = m_database.prepare(
+            "INSERT OR REPLACE INTO tile (address, fresh_until, looked_at, entity_tag,"
+            " last_modified, bytes) VALUES (?, ?, ?, ?, ?, ?)");
+        insert.bindBytes(1, viewOf(key))
+            .bind(2, entry.freshUntil.toSecsSinceEpoch())
+            .bind(3, now.toSecsSinceEpoch())
+            .bindBytes(4, viewOf(entry.entityTag))
+            .bindBytes(5, viewOf(entry.lastModified))
+            .bindBytes(6, viewOf(entry.bytes));
+        (void)m_database.run(insert);
+    }
+    checkDamage();
 }
 
 void TileCache::refresh(const QString& address, const QDateTime& freshUntil) {
-    use([&](Database& database) { database.refresh(address.toUtf8(), freshUntil); });
+    if (open()) {
+        const QByteArray key = address.toUtf8();
+        SqliteStatement update =
+            m_database.prepare("UPDATE tile SET fresh_until=? WHERE address=?");
+        update.bind(1, freshUntil.toSecsSinceEpoch()).bindBytes(2, viewOf(key));
+        (void)m_database.run(update);
+        update = {};
+        checkDamage();
+    }
 }
 
 void TileCache::drop(const QString& address) {
-    use([&](Database& database) { database.drop(address.toUtf8()); });
+    if (open()) {
+        const QByteArray key = address.toUtf8();
+        SqliteStatement erase = m_database.prepare("DELETE FROM tile WHERE address=?");
+        erase.bindBytes(1, viewOf(key));
+        (void)m_database.run(erase);
+        erase = {};
+        checkDamage();
+    }
 }
 
 } // namespace vasker

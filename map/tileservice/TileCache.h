@@ -1,13 +1,14 @@
 #pragma once
 // Tiles of services kept on disk, in one SQLite file that does not grow beyond its bound: what was
-// not looked at longest goes first. A folder that cannot be made, read or written, a full disk or a
-// damaged file cost the cache, nothing else. One thread.
+// not in view longest goes first. A folder that cannot be made, read or written, a full disk or a
+// damaged file cost the cache, nothing else; a file of another layout is replaced. One thread.
+
+#include "map/tiles/SqliteDatabase.h"
 
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
 
-#include <memory>
 #include <optional>
 
 namespace vasker {
@@ -24,7 +25,6 @@ class TileCache {
     /// Opens nothing before it is first used. `folder` is made where it is missing; empty: keeps
     /// nothing.
     TileCache(QString folder, qint64 mostBytes);
-    ~TileCache();
     TileCache(const TileCache&) = delete;
     TileCache& operator=(const TileCache&) = delete;
 
@@ -36,15 +36,24 @@ class TileCache {
     void drop(const QString& address);
 
   private:
-    class Database;
-    Database* database();
-    template <typename Use>
-    void use(Use&& use);
+    [[nodiscard]] QString path() const;
+    enum class Opened : std::uint8_t { ours, foreign, failed };
+
+    /// Whether the file is open and of our layout.
+    bool open();
+    /// A damaged file is foreign.
+    Opened openFile();
+    bool makeRoom(qint64 bytes);
+    /// After a damage the file is removed, so that the next use begins anew.
+    void checkDamage();
 
     QString m_folder;
     qint64 m_mostBytes;
-    bool m_isOpened = false;
-    std::unique_ptr<Database> m_database; ///< null: no cache
+    qint64 m_pageBytes = 0;
+    bool m_isTried = false;
+    bool m_isOpen = false;
+    bool m_isWritable = false;
+    SqliteDatabase m_database;
 };
 
 } // namespace vasker

@@ -1,7 +1,7 @@
 #pragma once
 // What a service answered, and what that means. Pure: the time is an argument.
 
-#include "map/tileservice/TileService.h"
+#include "map/tileservice/ServiceTile.h"
 
 #include <QByteArray>
 #include <QDateTime>

@@ -1,62 +1,31 @@
 #pragma once
-// Tiles by HTTPS from services that are fixed at build time, with a cache on disk. Keeps the
-// manners that such services ask for: it names itself, asks for few tiles at once and for none that
-// is not looked at, keeps what it has, and backs off where it is refused. One thread; answers come
-// as signals, later.
+// Tiles over HTTPS from services that are fixed at build time, with a cache on disk. Behaves as
+// such services ask: it names itself, sends few requests at once and none for what is not in view,
+// keeps what it has, and backs off where it is refused. One thread, also of its construction;
+// responses come as signals, later.
 
-#include "map/geometry/TileKey.h"
+#include "map/tileservice/MissingTiles.h"
+#include "map/tileservice/NetworkReturn.h"
 #include "map/tileservice/RetryDelay.h"
+#include "map/tileservice/TileCache.h"
+#include "map/tileservice/TileFetch.h"
+#include "map/tileservice/TileServiceHosts.h"
+#include "map/tileservice/TileSources.h"
 
 #include <QByteArray>
-#include <QJsonObject>
 #include <QObject>
 #include <QString>
-#include <QUrl>
+#include <QTimer>
 
 #include <chrono>
-#include <cstdint>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
+class QNetworkAccessManager;
+
 namespace vasker {
-
-/// A service in the bundle information: {"template", "firstZoom", "lastZoom", "attribution",
-/// "attributionURL"}. Zooms are those of the address.
-struct TileSource {
-    QString addressTemplate; ///< with {z}, {x} and {y}
-    int firstZoom = 0;
-    int lastZoom = 0;
-    QString attribution;
-    QUrl attributionAddress;
-
-    /// The template with the key's numbers; `key` within the zooms.
-    [[nodiscard]] QUrl address(TileKey key) const;
-    /// Whether the zooms make sense and the template is an absolute address, without credentials,
-    /// that has each of its three places once, behind the host.
-    [[nodiscard]] bool isSound() const;
-    friend bool operator==(const TileSource&, const TileSource&) = default;
-};
-
-/// Plain HTTP to 127.0.0.1, for tests.
-enum class PlainLoopback : std::uint8_t { refused, allowed };
-
-struct TileSources {
-    std::vector<TileSource> vector;
-    std::vector<TileSource> imagery;
-    /// What the bundle information says under "VaskerTileServices"; an entry that is no HTTPS
-    /// address with its three places, or whose zooms make no sense, is left out.
-    [[nodiscard]] static TileSources fromInformation(const QJsonObject& services);
-    /// Those of them that are sound and HTTPS.
-    [[nodiscard]] TileSources usable(PlainLoopback plainLoopback) const;
-};
-
-enum class TileContent : std::uint8_t { vector, imagery };
-
-struct ServiceTile {
-    TileContent content;
-    TileKey key;
-    friend auto operator<=>(const ServiceTile&, const ServiceTile&) = default;
-};
 
 class TileService : public QObject {
     Q_OBJECT
@@ -67,8 +36,8 @@ class TileService : public QObject {
         QString userAgent;
         qint64 cacheBytes = 200'000'000;
         PlainLoopback plainLoopback = PlainLoopback::refused;
-        qint64 responseBytes = 4'000'000;               ///< longer answers are no tiles
-        std::chrono::milliseconds responseTime{20'000}; ///< for one answer as a whole
+        qint64 responseBytes = 4'000'000;               ///< longer responses are no tiles
+        std::chrono::milliseconds responseTime{20'000}; ///< for one response as a whole
         std::chrono::milliseconds silentTime{10'000};   ///< in which nothing of it comes
         RetryRule retry;
     };
@@ -76,29 +45,62 @@ class TileService : public QObject {
     TileService(const TileSources& sources, Options options, QObject* parent = nullptr);
     ~TileService() override;
 
-    /// The source for `tile`: the first that covers its zoom, or null.
-    [[nodiscard]] const TileSource* sourceOf(const ServiceTile& tile) const noexcept;
-    /// The deepest zoom that any source of `content` has, -1: none.
-    [[nodiscard]] int lastZoom(TileContent content) const noexcept;
-
-    /// Exactly these are looked at now, the most wanted first; what was asked for before and is not
-    /// among them is no longer fetched. A tile comes once for as long as it stays among them, and
-    /// anew, from the cache where that has it, when it returns. What is missing stays so for this
-    /// object's life. No signal is sent before this returns.
-    void want(const std::vector<ServiceTile>& tiles);
+    /// Exactly these are in view now, the most important first; what was requested before and is
+    /// not among them is no longer fetched. A tile comes once for as long as it stays among them,
+    /// and anew, from the cache where that has it, when it returns. What is missing stays so for
+    /// this object's life. No signal is sent before this returns.
+    void setRequests(const std::vector<ServiceTile>& tiles);
     /// What arrived for `tile` could not be decoded: it is forgotten, and missing from now on.
     void discard(const ServiceTile& tile);
 
   Q_SIGNALS:
     /// A tile is there: its bytes as the service sent them; vector tiles may be gzip or zlib.
     void arrived(const vasker::ServiceTile& tile, const QByteArray& bytes);
-    /// No source covers it, the service has no such tile, or its answers were no tile. Not sent
+    /// No source covers it, the service has no such tile, or its responses were no tile. Not sent
     /// while there is only no network: that may come back.
     void missing(const vasker::ServiceTile& tile);
 
   private:
-    class Implementation;
-    std::unique_ptr<Implementation> m_implementation;
+    using Clock = TileServiceHosts::Clock;
+
+    /// A tile that is in view, and how far it has come.
+    struct Request {
+        enum class State : std::uint8_t { fresh, waiting, running, responded, done };
+
+        State state = State::fresh;
+        QUrl address;
+        std::optional<TileCache::Entry> stale; ///< better than nothing
+        int tries = 0;
+        int refusals = 0;
+        Clock::time_point started;
+        std::unique_ptr<TileFetch> fetch;
+        TileResponse response;
+    };
+
+    [[nodiscard]] const TileSource* sourceOf(const ServiceTile& tile) const noexcept;
+    [[nodiscard]] int running(const QUrl* host) const;
+    void schedule();
+    void takeTurn();
+    bool takeStep();
+    void lookUp(const ServiceTile& tile, Request& request);
+    bool start();
+    void start(const ServiceTile& tile, Request& request);
+    void settle(const ServiceTile& tile, Request& request);
+    void settleFailure(const ServiceTile& tile, Request& request, TileVerdict verdict);
+    void arrive(const ServiceTile& tile, Request& request, QByteArray bytes);
+    void miss(const ServiceTile& tile, Request& request);
+
+    TileSources m_sources;
+    Options m_options;
+    TileCache m_cache;
+    TileServiceHosts m_hosts;
+    MissingTiles m_missing{10'000};
+    /// Made for the first tile that comes from the network: it takes its time.
+    std::unique_ptr<QNetworkAccessManager> m_network;
+    NetworkReturn m_networkReturn;
+    std::vector<ServiceTile> m_order;
+    std::map<ServiceTile, Request> m_requests;
+    QTimer m_turn{this};
 };
 
 } // namespace vasker

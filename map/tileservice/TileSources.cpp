@@ -1,4 +1,4 @@
-#include "map/tileservice/TileService.h"
+#include "map/tileservice/TileSources.h"
 
 #include <QJsonArray>
 
@@ -11,7 +11,6 @@ namespace vasker {
 namespace {
 
 constexpr qsizetype mostSources = 16;
-constexpr qsizetype longestTemplate = 1000;
 
 bool isWhole(const QJsonValue& value) {
     return value.isDouble() && value.toDouble() == static_cast<double>(value.toInt(-1));
@@ -45,7 +44,7 @@ std::vector<TileSource> sources(const QJsonValue& entries) {
 }
 
 bool isUsable(const TileSource& source, PlainLoopback plainLoopback) {
-    if (!source.isSound()) {
+    if (!source.isValid()) {
         return false;
     }
     const QUrl address = source.address({0, 0, 0});
@@ -55,31 +54,6 @@ bool isUsable(const TileSource& source, PlainLoopback plainLoopback) {
 }
 
 } // namespace
-
-bool TileSource::isSound() const {
-    if (firstZoom < 0 || lastZoom < firstZoom || lastZoom > maximumTileZoom ||
-        addressTemplate.size() > longestTemplate) {
-        return false;
-    }
-    // The places stand behind the host, so that no tile can choose one.
-    const qsizetype path = addressTemplate.indexOf(u'/', addressTemplate.indexOf(u"://") + 3);
-    for (const QStringView place : {u"{z}", u"{x}", u"{y}"}) {
-        if (addressTemplate.count(place) != 1 || addressTemplate.indexOf(place) < path) {
-            return false;
-        }
-    }
-    const QUrl example = address({0, 0, 0});
-    return path > 0 && example.isValid() && !example.host().isEmpty() &&
-           example.userInfo().isEmpty() && !example.hasFragment();
-}
-
-QUrl TileSource::address(TileKey key) const {
-    QString text = addressTemplate;
-    text.replace(QStringLiteral("{z}"), QString::number(key.zoom));
-    text.replace(QStringLiteral("{x}"), QString::number(key.column));
-    text.replace(QStringLiteral("{y}"), QString::number(key.row));
-    return {text, QUrl::StrictMode};
-}
 
 TileSources TileSources::fromInformation(const QJsonObject& services) {
     return TileSources{.vector = sources(services.value(u"vector")),
@@ -93,6 +67,22 @@ TileSources TileSources::usable(PlainLoopback plainLoopback) const {
     std::ranges::copy_if(vector, std::back_inserter(result.vector), isGood);
     std::ranges::copy_if(imagery, std::back_inserter(result.imagery), isGood);
     return result;
+}
+
+const TileSource* TileSources::covering(TileContent content, int zoom) const noexcept {
+    const auto& sources = of(content);
+    const auto found = std::ranges::find_if(sources, [zoom](const TileSource& source) {
+        return source.firstZoom <= zoom && zoom <= source.lastZoom;
+    });
+    return found == sources.end() ? nullptr : &*found;
+}
+
+int TileSources::lastZoom(TileContent content) const noexcept {
+    int last = -1;
+    for (const TileSource& source : of(content)) {
+        last = std::max(last, source.lastZoom);
+    }
+    return last;
 }
 
 } // namespace vasker

@@ -10,7 +10,6 @@ Item {
     required property real pitch
     required property bool upright
     readonly property bool shown: !upright || activeFocus
-    readonly property bool coversMap: shown
 
     signal clicked
 

@@ -50,7 +50,7 @@ CameraPose settled(const CameraPose& pose) noexcept {
     return result;
 }
 
-Camera Drag::moved(const Camera& camera, ScreenPoint point) noexcept {
+Camera PanDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
     m_dragging = m_dragging || distance(m_pressed, point) >= m_threshold;
     if (!m_dragging) {
         return camera;
@@ -66,7 +66,7 @@ Camera RotateDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
     }
     m_turning = true;
     const Camera turned =
-        camera.turned((point.x - m_last.x) * rotateDegreesPerPixel, camera.focus())
+        camera.rotated((point.x - m_last.x) * rotateDegreesPerPixel, camera.focus())
             .tilted((m_last.y - point.y) * tiltDegreesPerPixel);
     m_last = point;
     return turned;
@@ -94,7 +94,7 @@ Camera Pinch::moved(const Camera& camera, ScreenPoint first, ScreenPoint second)
             : 0;
     m_first = first;
     m_second = second;
-    return camera.dragged(before, after).zoomed(factor, after).turned(turn, after);
+    return camera.dragged(before, after).zoomed(factor, after).rotated(turn, after);
 }
 
 } // namespace vasker

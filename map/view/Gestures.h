@@ -18,9 +18,9 @@ inline constexpr double doubleClickZoomFactor = 2;
 [[nodiscard]] CameraPose settled(const CameraPose& pose) noexcept;
 
 /// A pointer that is pressed on the map: a click, or a drag once it has left its place.
-class Drag {
+class PanDrag {
   public:
-    explicit Drag(ScreenPoint pressed, double threshold = dragThreshold) noexcept
+    explicit PanDrag(ScreenPoint pressed, double threshold = dragThreshold) noexcept
         : m_pressed(pressed), m_last(pressed), m_threshold(threshold) {}
 
     /// The camera after the pointer moved to `point`; the ground stays under it.

@@ -10,6 +10,7 @@ MapView {
     dark: Theme.dark
     reducedMotion: Theme.still
     textScale: Theme.textScale
+    controls: [bar, attribution, compass, zoom]
     activeFocusOnTab: true
     Accessible.role: Accessible.Graphic
     Accessible.name: qsTr("Canadian energy infrastructure map")
@@ -24,14 +25,14 @@ MapView {
     MapInk {
         id: inks
 
-        overImagery: root.showsImagery
+        overImagery: root.status.showsImagery
     }
 
     // Photographs may be on their way: only after a while it is true to say that they are missing.
     Timer {
         id: imageryWait
 
-        readonly property bool missing: root.lacksImagery
+        readonly property bool missing: root.status.lacksImagery
         property bool over: false
 
         interval: 2000
@@ -68,13 +69,15 @@ MapView {
         inks: inks
     }
     Attribution {
+        id: attribution
+
         anchors.right: parent.right
         anchors.rightMargin: 12 + root.coveredRight
         anchors.bottom: caption.top
         anchors.bottomMargin: 10
         maximumWidth: parent.width - anchors.rightMargin - bar.x - bar.width - 24
         note: imageryWait.over ? qsTr("Satellite imagery needs a network connection") : ""
-        links: root.attribution
+        links: root.status.attribution
         inks: inks
     }
     Compass {
@@ -88,9 +91,11 @@ MapView {
         bearing: readout.bearing
         pitch: readout.pitch
         upright: readout.upright
-        onClicked: root.setUpright()
+        onClicked: root.resetNorth()
     }
     ZoomButtons {
+        id: zoom
+
         anchors.right: compass.right
         anchors.top: compass.bottom
         anchors.topMargin: 8
@@ -106,9 +111,9 @@ MapView {
         width: parent.width
     }
     HoverCard {
-        place: root.pointedPlace
-        name: root.pointedName
-        caption: root.pointedCaption
+        place: root.hover.place
+        name: root.hover.name
+        caption: root.hover.caption
         mapWidth: root.width - root.coveredRight
     }
     PickList {

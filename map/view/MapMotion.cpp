@@ -47,7 +47,7 @@ void MapMotion::begin(Motion motion) {
     start();
 }
 
-void MapMotion::glide(const Camera& now, MapVelocity velocity) {
+void MapMotion::startInertia(const Camera& now, MapVelocity velocity) {
     const Inertia motion(now, velocity);
     if (m_reduced || motion.isFinished(0)) {
         cancel();
@@ -64,8 +64,8 @@ void MapMotion::zoom(const Camera& now, double factor, ScreenPoint anchor, doubl
     }
 }
 
-void MapMotion::level(const Camera& now, double bearing, double pitch) {
-    begin(NorthReset(now, bearing, pitch));
+void MapMotion::rotate(const Camera& now, double bearing, double pitch) {
+    begin(SmoothRotation(now, bearing, pitch));
 }
 
 void MapMotion::press(const Camera& now, NavigationAxis axis, int direction, bool isRepeated) {

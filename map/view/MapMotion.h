@@ -19,11 +19,11 @@ class MapMotion : public QAbstractAnimation {
     [[nodiscard]] bool isReduced() const noexcept { return m_reduced; }
 
     /// Each takes the place of the motion before; `now` is where the camera is.
-    void glide(const Camera& now, MapVelocity velocity);
+    void startInertia(const Camera& now, MapVelocity velocity);
     /// A zoom that still runs is continued: factors add up.
     void zoom(const Camera& now, double factor, ScreenPoint anchor, double duration);
     /// In degrees.
-    void level(const Camera& now, double bearing, double pitch);
+    void rotate(const Camera& now, double bearing, double pitch);
 
     /// A key went down: again and again for one that is held, then `isRepeated`.
     void press(const Camera& now, NavigationAxis axis, int direction, bool isRepeated);
@@ -41,7 +41,7 @@ class MapMotion : public QAbstractAnimation {
     void updateCurrentTime(int milliseconds) override;
 
   private:
-    using Motion = std::variant<std::monostate, Inertia, SmoothZoom, NorthReset, KeyNavigation>;
+    using Motion = std::variant<std::monostate, Inertia, SmoothZoom, SmoothRotation, KeyNavigation>;
 
     void begin(Motion motion);
     [[nodiscard]] double seconds() const { return currentTime() / 1000.0; }

@@ -1,8 +1,7 @@
 #include "map/view/MapView.h"
 
+#include "map/scene/MapNode.h"
 #include "map/scene/Renderer.h"
-#include "map/style/MapColors.h"
-#include "map/view/BasemapChoice.h"
 #include "platform/Locale.h"
 
 #include <QLocale>
@@ -15,7 +14,7 @@ namespace vasker {
 
 namespace {
 
-/// After a camera that moves has stood still for so long, it rests.
+/// A camera that has not moved for so long is at rest.
 constexpr std::chrono::milliseconds restTime{90};
 
 MapLanguage mapLanguage() {
@@ -23,87 +22,48 @@ MapLanguage mapLanguage() {
     return isFrench ? MapLanguage::french : MapLanguage::english;
 }
 
-/// Where a picture is seen. At rest and upright it stands on whole device pixels.
-TileQuad quadOf(const ShownTile& shown, const Camera& camera, double devicePixels) {
-    const PaintedTile& tile = *shown.tile;
-    const double scale = tile.devicePixelsPerMapPoint;
-    TileQuad quad{shown.tile, {}, static_cast<float>(shown.opacity)};
-    if (shown.opacity == 0) {
-        return quad; // no area
-    }
-    const double west = static_cast<double>(tile.pixels.x);
-    const double north = static_cast<double>(tile.pixels.y);
-    const double ratio = camera.scale() * devicePixels / scale;
-    if (camera.isUpright() && std::abs(ratio - 1) < 1e-4) {
-        const ScreenPoint focus = camera.focus();
-        const auto snapped = [devicePixels](double focusPixels, double centerPixels) {
-            return std::round(focusPixels * devicePixels - centerPixels);
-        };
-        const double x = west + snapped(focus.x, (camera.center().x - shown.shift) * scale);
-        const double y = north + snapped(focus.y, camera.center().y * scale);
-        const auto corner = [devicePixels](double right, double down) -> PerspectivePoint {
-            return {right / devicePixels, down / devicePixels, 1};
-        };
-        quad.corners = {corner(x, y),
-                        corner(x + tile.pixels.width, y),
-                        corner(x + tile.pixels.width, y + tile.pixels.height),
-                        corner(x, y + tile.pixels.height)};
-        return quad;
-    }
-    const auto corner = [&](double right, double down) {
-        return camera.worldToPerspective({right / scale + shown.shift, down / scale});
-    };
-    quad.corners = {corner(west, north),
-                    corner(west + tile.pixels.width, north),
-                    corner(west + tile.pixels.width, north + tile.pixels.height),
-                    corner(west, north + tile.pixels.height)};
-    return quad;
-}
-
 } // namespace
 
-MapView::MapView(QQuickItem* parent) : QQuickItem(parent) {
+MapView::MapView(QQuickItem* parent)
+    : InputItem(parent), m_composer(mapLanguage()),
+      m_navigator([this] { return resolvedCamera(); }), m_hover(m_composer.records()) {
     setFlag(ItemHasContents);
     setClip(true);
-    setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
-    setAcceptHoverEvents(true);
-    setAcceptTouchEvents(true);
-    connect(&m_motion, &MapMotion::advanced, this, &MapView::move);
     m_rest.setSingleShot(true);
     m_rest.setInterval(restTime);
-    connect(&m_rest, &QTimer::timeout, this, &MapView::redraw);
     m_clock.start();
+    connect(&m_rest, &QTimer::timeout, this, &MapView::redraw);
+    connect(&m_composer, &MapComposer::changed, this, &MapView::redraw);
+    connect(&m_hover, &MapHover::changed, this, &MapView::redraw);
+    connect(this, &MapView::selectionChanged, this, [this] {
+        m_composer.records().setSelection(m_selection);
+        redraw();
+    });
+    connect(this, &MapView::hoveredChanged, this, [this] {
+        m_composer.records().setHovered(m_hovered);
+        redraw();
+    });
+    connect(this, &MapView::themeChanged, this, &MapView::refreshTheme);
+    connect(this, &MapView::textScaleChanged, this, &MapView::redraw);
+    connect(this, &MapView::coverChanged, this, &MapView::changeView);
+    connect(this, &MapView::motionChanged, this, [this] {
+        m_navigator.setReducedMotion(m_reducedMotion);
+    });
+    m_navigator.pick = [this](const Pick& wanted) { return pick(wanted); };
+    connect(&m_navigator, &MapNavigator::moved, this, &MapView::moveCamera);
+    connect(&m_navigator, &MapNavigator::menuRequested, this, &MapView::openMenu);
+    connect(&m_navigator, &MapNavigator::overviewRequested, this, &MapView::overviewRequested);
+    connect(&m_navigator, &MapNavigator::focusRequested, this, [this] {
+        forceActiveFocus(Qt::MouseFocusReason);
+    });
 }
-
-MapView::~MapView() = default;
 
 void MapView::setRecords(const RecordSet& records) {
-    if (records == m_mapRecords.records()) {
-        return;
+    if (records != this->records()) {
+        m_composer.records().setRecords(records);
+        redraw();
+        Q_EMIT recordsChanged();
     }
-    m_mapRecords.setRecords(records);
-    redraw();
-    Q_EMIT recordsChanged();
-}
-
-void MapView::setSelection(const QString& id) {
-    if (id == m_selection) {
-        return;
-    }
-    m_selection = id;
-    m_mapRecords.setSelection(id);
-    redraw();
-    Q_EMIT selectionChanged();
-}
-
-void MapView::setHovered(const QString& id) {
-    if (id == m_hovered) {
-        return;
-    }
-    m_hovered = id;
-    m_mapRecords.setHovered(id);
-    redraw();
-    Q_EMIT hoveredChanged();
 }
 
 void MapView::setCamera(const CameraPosition& camera) {
@@ -113,84 +73,54 @@ void MapView::setCamera(const CameraPosition& camera) {
     m_camera = camera;
     if (m_movedTo && camera == CameraPosition(*m_movedTo)) {
         m_rest.start();
-    } else { // somebody else has moved it
-        m_motion.cancel();
-        m_rest.stop();
-    }
-    redraw();
-    Q_EMIT cameraChanged();
-    Q_EMIT viewChanged();
-}
-
-void MapView::setBasemap(const QString& basemap) {
-    if (basemap != m_basemap) {
-        m_basemap = basemap;
-        refreshLook();
-    }
-}
-
-void MapView::setDark(bool dark) {
-    if (dark != m_dark) {
-        m_dark = dark;
-        refreshLook();
-    }
-}
-
-void MapView::refreshLook() {
-    const BasemapTheme look = basemapTheme(m_basemap, m_dark);
-    if (look != m_picture.look) {
-        m_picture.look = look;
-        m_mapRecords.setLook(look);
         redraw();
+        Q_EMIT viewChanged();
+    } else { // somebody else has moved it
+        m_rest.stop();
+        changeView();
     }
-    Q_EMIT lookChanged();
-}
-
-bool MapView::showsImagery() const noexcept {
-    return m_picture.look == BasemapTheme::satellite || m_picture.look == BasemapTheme::hybrid;
-}
-
-QObject* MapView::tiles() const noexcept {
-    return m_tiles;
+    Q_EMIT cameraChanged();
 }
 
 void MapView::setTiles(QObject* tiles) {
-    auto* library = qobject_cast<TileLibrary*>(tiles);
-    if (library == m_tiles) {
-        return;
-    }
-    m_store.reset();
-    m_tiles = library;
-    if (library != nullptr) {
-        m_store = std::make_unique<TilePyramid>(*library);
-        connect(m_store.get(), &TilePyramid::changed, this, &MapView::redraw);
-    }
-    redraw();
-    Q_EMIT tilesChanged();
-}
-
-void MapView::setTextScale(double scale) {
-    if (scale != m_textScale) {
-        m_textScale = scale;
+    auto* const library = qobject_cast<TileLibrary*>(tiles);
+    if (library != m_composer.tiles()) {
+        m_composer.setTiles(library);
         redraw();
-        Q_EMIT textScaleChanged();
+        Q_EMIT tilesChanged();
     }
 }
 
-void MapView::setDots(Dots dots) {
-    m_choosesDots = false;
-    m_dots = dots;
+void MapView::setDrawing(RecordDrawing drawing) {
+    m_choosesDrawing = false;
+    m_state.drawing = drawing;
     redraw();
+}
+
+void MapView::refreshTheme() {
+    const BasemapTheme theme = basemapTheme(m_basemap, m_dark);
+    if (theme != m_state.theme) {
+        m_state.theme = theme;
+        m_status.setTheme(theme);
+        m_composer.records().setTheme(theme);
+        redraw();
+    }
+}
+
+void MapView::changeView() {
+    m_navigator.stop();
+    redraw();
+    Q_EMIT viewChanged();
+}
+
+void MapView::moveCamera(const Camera& camera) {
+    m_movedTo = camera.pose();
+    Q_EMIT moved(camera.pose());
 }
 
 void MapView::redraw() {
     polish();
     update();
-}
-
-/// For the next frame, from within one.
-void MapView::redrawSoon() {
-    QMetaObject::invokeMethod(this, &MapView::redraw, Qt::QueuedConnection);
 }
 
 Camera MapView::resolvedCamera() const {
@@ -200,15 +130,13 @@ Camera MapView::resolvedCamera() const {
 void MapView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size()) {
-        m_motion.cancel();
-        redraw();
-        Q_EMIT viewChanged();
+        changeView();
     }
 }
 
 void MapView::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemDevicePixelRatioHasChanged) {
-        m_mapRecords.setLook(m_picture.look);
+        m_composer.records().setTheme(m_state.theme); // images are of the old density
         redraw();
     }
     QQuickItem::itemChange(change, data);
@@ -218,89 +146,82 @@ void MapView::updatePolish() {
     if (window() == nullptr) {
         return;
     }
-    const Camera camera = resolvedCamera();
-    m_picture.size = size();
-    m_picture.devicePixels = static_cast<float>(window()->effectiveDevicePixelRatio());
-    m_picture.tiles.clear();
-    std::shared_ptr<const RecordOverlay> shownInk;
-    if (m_store) {
-        lookAtGround(camera);
-        shownInk = m_store->shownInk();
+    m_state.devicePixels = window()->effectiveDevicePixelRatio();
+    m_state.isResting = !m_rest.isActive();
+    m_state.fades = !m_reducedMotion;
+    m_state.obstacles = m_controls.rects(*this);
+    m_state.unlabelled = m_hover.record();
+    MapFrame before = std::exchange(
+        m_frame,
+        m_composer.compose(
+            m_state, resolvedCamera(), std::chrono::nanoseconds(m_clock.nsecsElapsed())));
+    m_frame.takeImages(before);
+    if (m_frame.isUnfinished) {
+        QMetaObject::invokeMethod(this, &MapView::redraw, Qt::QueuedConnection);
     }
-    // Without pictures of the ground nothing can be painted into them.
-    m_mapRecords.place(camera, m_store ? m_dots : Dots::drawn, shownInk.get(), m_picture);
-    m_names.place(m_store ? m_store->names() : std::vector<PlaceLabel>(),
-                  m_mapRecords.labelledPins(m_pointed),
-                  camera,
-                  m_textScale,
-                  m_picture,
-                  m_rest.isActive() ? MapLabels::Pace::moving : MapLabels::Pace::resting);
-    if (m_names.isUnfinished()) {
-        redrawSoon();
-    }
-    publishAttribution();
-}
-
-void MapView::lookAtGround(const Camera& camera) {
-    const auto density = static_cast<double>(m_picture.devicePixels);
-    BasemapView view{.camera = camera,
-                     .devicePixelsPerPixel = density,
-                     .look = m_picture.look,
-                     .language = mapLanguage(),
-                     .isResting = !m_rest.isActive(),
-                     .fades = !reducedMotion(),
-                     .inkRevision = 0,
-                     .ink = {}};
-    if (m_dots == Dots::painted) {
-        view.inkRevision = m_mapRecords.revision();
-        view.ink = [this, density](double scale) { return m_mapRecords.ink(scale, density); };
-    }
-    m_store->look(view, std::chrono::nanoseconds(m_clock.nsecsElapsed()));
-    for (const ShownTile& shown : m_store->shown()) {
-        m_picture.tiles.push_back(quadOf(shown, camera, density));
-    }
-    if (m_store->isChanging()) {
-        redrawSoon();
-    }
-}
-
-bool MapView::isComplete() const {
-    return m_store && m_store->isComplete();
-}
-
-void MapView::publishAttribution() {
-    QVariantList attribution;
-    bool lacksImagery = false;
-    if (m_store) {
-        for (const TileAttribution& credit : m_store->credits()) {
-            attribution.append(QVariantMap{{QStringLiteral("text"), credit.text},
-                                           {QStringLiteral("address"), credit.address}});
-        }
-        lacksImagery = m_store->lacksImagery();
-    }
-    if (attribution != m_attribution || lacksImagery != m_lacksImagery) {
-        m_attribution = std::move(attribution);
-        m_lacksImagery = lacksImagery;
-        Q_EMIT attributionChanged();
-    }
+    m_status.setFrame(m_frame);
 }
 
 QSGNode* MapView::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* /*data*/) {
-    auto* node = static_cast<MapNode*>(oldNode);
+    auto* node = dynamic_cast<MapNode*>(oldNode);
     if (node == nullptr) {
         node = new MapNode;
-        // The textures of an earlier node are gone, and with them the pictures they were made of.
-        if (m_store) {
-            m_store->forgetTextures();
-            redrawSoon();
+        // The textures of an earlier node are gone.
+        m_composer.handOverAgain();
+        if (std::exchange(m_choosesDrawing, false) && !rendersInSoftware()) {
+            m_state.drawing = RecordDrawing::live;
         }
-        if (std::exchange(m_choosesDots, false) && !rendersInSoftware()) {
-            m_dots = Dots::drawn;
-            redrawSoon();
-        }
+        QMetaObject::invokeMethod(this, &MapView::redraw, Qt::QueuedConnection);
     }
-    node->update(m_picture, *window());
+    node->update(m_frame, *window());
     return node;
+}
+
+bool MapView::pick(const Pick& wanted) {
+    const MapRecords& records = m_composer.records();
+    const auto record = records.hit(wanted.point, wanted.reach, resolvedCamera());
+    auto sharing = record ? records.sharingPlaceWith(*record) : std::vector<AssetIndex>();
+    if (sharing.size() > 1 && records.idOf(record) != m_selection) {
+        Q_EMIT choiceOffered({this->records().loaded,
+                              std::make_shared<const std::vector<AssetIndex>>(std::move(sharing))},
+                             QPointF(wanted.point.x, wanted.point.y));
+    } else {
+        Q_EMIT picked(records.idOf(record));
+    }
+    return record.has_value();
+}
+
+void MapView::openMenu(ScreenPoint point, double reach) {
+    if (const auto record = m_composer.records().hit(point, reach, resolvedCamera())) {
+        Q_EMIT menuRequested(m_composer.records().idOf(record), QPointF(point.x, point.y));
+    }
+}
+
+void MapView::refreshCursor() {
+    const bool isDragging = m_navigator.input().drag() != MapInput::Drag::none;
+    setKeepMouseGrab(isDragging);
+    setCursor(isDragging         ? m_navigator.dragCursor()
+              : m_hover.record() ? Qt::PointingHandCursor
+                                 : Qt::ArrowCursor);
+}
+
+bool MapView::handle(const MapEvent& event) {
+    const bool isHandled = m_navigator.handle(event);
+    refreshCursor();
+    return isHandled;
+}
+
+void MapView::hoverAt(std::optional<QPointF> place) {
+    const Camera camera = resolvedCamera();
+    const QRectF free(0, 0, width() - m_coveredRight, height() - m_coveredBelow);
+    if (!place || m_navigator.input().isPressed() || !free.contains(*place) ||
+        m_controls.cover(*place, *this)) {
+        m_hover.clear();
+    } else {
+        const ScreenPoint point{place->x(), place->y()};
+        m_hover.setRecord(m_composer.records().hit(point, pointerReach, camera), point, camera);
+    }
+    refreshCursor();
 }
 
 } // namespace vasker

@@ -8,7 +8,6 @@ Item {
     property bool nearest: false
     property bool farthest: false
 
-    readonly property bool coversMap: true
 
     signal zoomedIn
     signal zoomedOut

@@ -27,7 +27,7 @@ constexpr const char* services = R"({
                  "attribution": "Photographs", "attributionURL": "https://photographs.example/"}]
 })";
 
-class WindowGround : public testing::Test {
+class WindowBasemap : public testing::Test {
   protected:
     [[nodiscard]] QString path(const char* name) const {
         return m_folder.filePath(QString::fromLatin1(name));
@@ -75,31 +75,31 @@ class WindowGround : public testing::Test {
         QTest::mouseClick(m_window, Qt::LeftButton, {}, head.toPoint());
         EXPECT_EQ(m_workspace->selection(), QStringLiteral("A-0"));
     }
-    [[nodiscard]] QStringList thanks() const {
+    [[nodiscard]] QStringList attribution() const {
         QStringList texts;
-        for (const QVariant& credit : m_map->attribution()) {
+        for (const QVariant& credit : m_map->status()->attribution()) {
             texts.append(credit.toMap().value(QStringLiteral("text")).toString());
         }
         return texts;
     }
-    /// Nothing of the ground is seen, and so nobody is thanked.
+    /// Nothing of the basemap is seen, and so nobody is credited.
     void expectRecordsAlone() {
         open(path("cache"));
         ASSERT_NE(m_map, nullptr);
-        EXPECT_EQ(thanks(), QStringList());
-        EXPECT_FALSE(m_map->lacksImagery());
+        EXPECT_EQ(attribution(), QStringList());
+        EXPECT_FALSE(m_map->status()->lacksImagery());
         expectRecords();
         m_workspace->setBasemap(QStringLiteral("satellite"));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return m_map->lacksImagery(); }));
-        EXPECT_EQ(thanks(), QStringList());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return m_map->status()->lacksImagery(); }));
+        EXPECT_EQ(attribution(), QStringList());
     }
-    /// The ground is seen as if there were a cache.
-    void expectGround(const QString& cachePath) {
+    /// The basemap is seen as if there were a cache.
+    void expectBasemap(const QString& cachePath) {
         write("basemap.mbtiles", archive());
         open(cachePath);
         ASSERT_NE(m_map, nullptr);
-        EXPECT_EQ(thanks(), QStringList(QStringLiteral("Made with Natural Earth")));
-        EXPECT_FALSE(m_map->lacksImagery());
+        EXPECT_EQ(attribution(), QStringList(QStringLiteral("Made with Natural Earth")));
+        EXPECT_FALSE(m_map->status()->lacksImagery());
         expectRecords();
     }
 
@@ -110,16 +110,16 @@ class WindowGround : public testing::Test {
     MapView* m_map = nullptr;
 };
 
-TEST_F(WindowGround, WithoutAnArchiveShowsTheRecordsAlone) {
+TEST_F(WindowBasemap, WithoutAnArchiveShowsTheRecordsAlone) {
     expectRecordsAlone();
 }
 
-TEST_F(WindowGround, WithAnArchiveThatBreaksOffShowsTheRecordsAlone) {
+TEST_F(WindowBasemap, WithAnArchiveThatBreaksOffShowsTheRecordsAlone) {
     write("basemap.mbtiles", archive().left(6'000));
     expectRecordsAlone();
 }
 
-TEST_F(WindowGround, WithAnArchiveThatBreaksOffInItsMiddleStillShowsTheRecords) {
+TEST_F(WindowBasemap, WithAnArchiveThatBreaksOffInItsMiddleStillShowsTheRecords) {
     const QByteArray whole = archive();
     write("basemap.mbtiles", whole.left(whole.size() / 2));
     open(path("cache"));
@@ -127,46 +127,46 @@ TEST_F(WindowGround, WithAnArchiveThatBreaksOffInItsMiddleStillShowsTheRecords) 
     expectRecords();
 }
 
-TEST_F(WindowGround, WithAnEmptyArchiveShowsTheRecordsAlone) {
+TEST_F(WindowBasemap, WithAnEmptyArchiveShowsTheRecordsAlone) {
     write("basemap.mbtiles", {});
     expectRecordsAlone();
 }
 
-TEST_F(WindowGround, WithGarbageInPlaceOfAnArchiveShowsTheRecordsAlone) {
+TEST_F(WindowBasemap, WithGarbageInPlaceOfAnArchiveShowsTheRecordsAlone) {
     write("basemap.mbtiles", QByteArray(50'000, 'g'));
     expectRecordsAlone();
 }
 
-TEST_F(WindowGround, WithAFolderInPlaceOfAnArchiveShowsTheRecordsAlone) {
+TEST_F(WindowBasemap, WithAFolderInPlaceOfAnArchiveShowsTheRecordsAlone) {
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("basemap.mbtiles")));
     expectRecordsAlone();
 }
 
-TEST_F(WindowGround, NeedsNoCacheThatCanBeWritten) {
+TEST_F(WindowBasemap, NeedsNoCacheThatCanBeWritten) {
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("cache")));
     ASSERT_TRUE(
         QFile::setPermissions(path("cache"), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
-    expectGround(path("cache"));
+    expectBasemap(path("cache"));
     QFile::setPermissions(path("cache"),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
 
-TEST_F(WindowGround, NeedsNoCacheWhereAFileStandsInItsPlace) {
+TEST_F(WindowBasemap, NeedsNoCacheWhereAFileStandsInItsPlace) {
     write("cache", "a file");
-    expectGround(path("cache"));
+    expectBasemap(path("cache"));
     QFile file(path("cache"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), "a file");
 }
 
-TEST_F(WindowGround, NeedsNoCacheWhereNoneCanBeMade) {
-    expectGround(QStringLiteral("/proc/vasker/cache"));
+TEST_F(WindowBasemap, NeedsNoCacheWhereNoneCanBeMade) {
+    expectBasemap(QStringLiteral("/proc/vasker/cache"));
 }
 
-TEST_F(WindowGround, NeedsNoWholeCache) {
+TEST_F(WindowBasemap, NeedsNoWholeCache) {
     ASSERT_TRUE(QDir(m_folder.path()).mkpath(QStringLiteral("cache/tiles")));
     write("cache/tiles/tiles.sqlite", QByteArray(50'000, 'g'));
-    expectGround(path("cache"));
+    expectBasemap(path("cache"));
 }
 
 } // namespace

@@ -9,8 +9,8 @@ layout(std140, binding = 0) uniform Block {
     vec4 opacity;
 } block;
 
-layout(binding = 1) uniform sampler2D picture;
+layout(binding = 1) uniform sampler2D image;
 
 void main() {
-    fragment = texture(picture, place);
+    fragment = texture(image, place);
 }

@@ -8,10 +8,10 @@ namespace vasker {
 namespace {
 
 constexpr TileKey place{9, 100, 170};
-const TileAttribution archiveCredit{QStringLiteral("The archive"), {}};
-const TileAttribution vectorCredit{QStringLiteral("Maps"),
-                                   QUrl(QStringLiteral("https://m.example/"))};
-const TileAttribution imageryCredit{QStringLiteral("Photographs"), {}};
+const Attribution archiveAttribution{QStringLiteral("The archive"), {}};
+const Attribution vectorAttribution{QStringLiteral("Maps"),
+                                    QUrl(QStringLiteral("https://m.example/"))};
+const Attribution imageryAttribution{QStringLiteral("Photographs"), {}};
 
 TileKey quarter(TileKey key, int number) {
     return {key.zoom + 1, 2 * key.column + number % 2, 2 * key.row + number / 2};
@@ -29,12 +29,12 @@ class TileProviderTest : public testing::Test {
         m_sources.vector = {{.addressTemplate = QStringLiteral("https://m.example/{z}/{x}/{y}"),
                              .firstZoom = 8,
                              .lastZoom = 14,
-                             .attribution = vectorCredit.text,
-                             .attributionAddress = vectorCredit.address}};
+                             .attribution = vectorAttribution.text,
+                             .attributionAddress = vectorAttribution.address}};
         m_sources.imagery = {{.addressTemplate = QStringLiteral("https://p.example/{z}/{x}/{y}"),
                               .firstZoom = 0,
                               .lastZoom = 12,
-                              .attribution = imageryCredit.text,
+                              .attribution = imageryAttribution.text,
                               .attributionAddress = {}}};
     }
 
@@ -49,20 +49,20 @@ class TileProviderTest : public testing::Test {
         writeArchive(path("imagery"), tiles);
         m_archives.imagery = path("imagery");
     }
-    TileProvider& reader() {
-        if (!m_reader) {
-            m_reader = std::make_unique<TileProvider>(m_archives, m_sources);
+    TileProvider& provider() {
+        if (!m_provider) {
+            m_provider = std::make_unique<TileProvider>(m_archives, m_sources);
         }
-        return *m_reader;
+        return *m_provider;
     }
     void send(const ServiceTile& tile, const std::string& bytes) {
-        reader().put(tile, QByteArray::fromStdString(bytes));
+        provider().put(tile, QByteArray::fromStdString(bytes));
     }
-    void sendPhotograph(const ServiceTile& tile, const QColor& color) {
-        reader().put(tile, photographOf(color));
+    void sendImagery(const ServiceTile& tile, const QColor& color) {
+        provider().put(tile, imageryImage(color));
     }
-    ProvidedTile read(BasemapTheme look = BasemapTheme::light) {
-        return reader().read(place, look);
+    ProvidedTile read(BasemapTheme theme = BasemapTheme::light) {
+        return provider().read(place, theme);
     }
 
     QTemporaryDir m_folder;
@@ -70,185 +70,180 @@ class TileProviderTest : public testing::Test {
     TileSources m_sources;
 
   private:
-    std::unique_ptr<TileProvider> m_reader;
+    std::unique_ptr<TileProvider> m_provider;
 };
 
-bool isSea(const TileData& ground) {
-    return ground.vector && ground.vector->layer("ocean") != nullptr;
+bool isSea(const TileData& data) {
+    return data.vector && data.vector->layer("ocean") != nullptr;
 }
 
-std::vector<TileKey> keysOf(const std::vector<ImageryPiece>& pieces) {
+std::vector<TileKey> keysOf(const std::vector<ImageryTile>& tiles) {
     std::vector<TileKey> keys;
-    for (const ImageryPiece& piece : pieces) {
-        keys.push_back(piece.key);
+    for (const ImageryTile& tile : tiles) {
+        keys.push_back(tile.key);
     }
     return keys;
 }
 
-std::vector<QColor> colorsOf(const std::vector<ImageryPiece>& pieces) {
+std::vector<QColor> colorsOf(const std::vector<ImageryTile>& tiles) {
     std::vector<QColor> colors;
-    for (const ImageryPiece& piece : pieces) {
-        colors.push_back(piece.image.pixelColor(0, 0));
+    for (const ImageryTile& tile : tiles) {
+        colors.push_back(tile.image.pixelColor(0, 0));
     }
     return colors;
 }
 
-std::string photograph(const QColor& color) {
-    return photographOf(color).toStdString();
-}
-
-TEST_F(TileProviderTest, WithoutAnArchiveNothingIsKnownAndNobodyIsThanked) {
+TEST_F(TileProviderTest, WithoutAnArchiveNothingIsKnownAndNobodyIsCredited) {
     m_archives = {path("absent"), path("absent, too")};
-    for (const BasemapTheme look : {BasemapTheme::light, BasemapTheme::hybrid}) {
-        const ProvidedTile found = read(look);
-        EXPECT_EQ(found.ground.vector, nullptr);
-        EXPECT_TRUE(found.ground.imagery.empty());
-        EXPECT_TRUE(found.credits.empty());
+    for (const BasemapTheme theme : {BasemapTheme::light, BasemapTheme::hybrid}) {
+        const ProvidedTile found = read(theme);
+        EXPECT_EQ(found.data.vector, nullptr);
+        EXPECT_TRUE(found.data.imagery.empty());
+        EXPECT_TRUE(found.attributions.empty());
     }
 }
 
 TEST_F(TileProviderTest, BeyondTheArchiveTheNearestAncestorIsUsed) {
     archive({{place.ancestor(5), landTile()}, {place.ancestor(3), seaTile()}});
     const ProvidedTile found = read();
-    EXPECT_TRUE(isSea(found.ground));
-    EXPECT_EQ(found.ground.vectorKey, place.ancestor(3));
-    EXPECT_EQ(found.credits, std::vector{archiveCredit});
+    EXPECT_TRUE(isSea(found.data));
+    EXPECT_EQ(found.data.vectorKey, place.ancestor(3));
+    EXPECT_EQ(found.attributions, std::vector{archiveAttribution});
 }
 
 TEST_F(TileProviderTest, ADamagedTileOfTheArchiveGivesWayToItsAncestor) {
     archive({{place.ancestor(5), seaTile()}, {place.ancestor(3), "no tile at all"}});
     const ProvidedTile found = read();
-    EXPECT_TRUE(isSea(found.ground));
-    EXPECT_EQ(found.ground.vectorKey, place.ancestor(5));
+    EXPECT_TRUE(isSea(found.data));
+    EXPECT_EQ(found.data.vectorKey, place.ancestor(5));
 }
 
-TEST_F(TileProviderTest, AnArchiveThatSaysNothingOfThePlaceIsNotThanked) {
+TEST_F(TileProviderTest, AnArchiveThatSaysNothingOfThePlaceIsNotCredited) {
     archive({{{4, 0, 0}, landTile()}, {place.ancestor(3), "no tile at all"}});
     const ProvidedTile found = read();
-    EXPECT_EQ(found.ground.vector, nullptr);
-    EXPECT_TRUE(found.credits.empty());
+    EXPECT_EQ(found.data.vector, nullptr);
+    EXPECT_TRUE(found.attributions.empty());
 }
 
 TEST_F(TileProviderTest, TheTileOfAServiceGoesBeforeTheArchives) {
     archive({{place, landTile()}});
     send(vectorOf(place), seaTile());
     const ProvidedTile found = read();
-    EXPECT_TRUE(isSea(found.ground));
-    EXPECT_EQ(found.ground.vectorKey, place);
-    EXPECT_EQ(found.credits, std::vector{vectorCredit});
+    EXPECT_TRUE(isSea(found.data));
+    EXPECT_EQ(found.data.vectorKey, place);
+    EXPECT_EQ(found.attributions, std::vector{vectorAttribution});
 }
 
 TEST_F(TileProviderTest, AnAncestorFromAServiceServesUntilTheTileItselfComes) {
     archive({{place.ancestor(2), landTile()}});
     send(vectorOf(place.ancestor(1)), seaTile());
-    EXPECT_EQ(read().ground.vectorKey, place.ancestor(1));
+    EXPECT_EQ(read().data.vectorKey, place.ancestor(1));
     send(vectorOf(place), landTile());
-    EXPECT_EQ(read().ground.vectorKey, place);
-    EXPECT_FALSE(isSea(read().ground));
+    EXPECT_EQ(read().data.vectorKey, place);
+    EXPECT_FALSE(isSea(read().data));
 }
 
-TEST_F(TileProviderTest, ADamagedTileOfAServiceIsAsIfItHadNotComeAndIsToldOnce) {
+TEST_F(TileProviderTest, ADamagedTileOfAServiceIsAsIfItHadNotComeAndIsReportedOnce) {
     archive({{place.ancestor(3), seaTile()}});
     send(vectorOf(place), "no tile at all");
-    EXPECT_EQ(read().ground.vectorKey, place.ancestor(3));
-    EXPECT_EQ(read().credits, std::vector{archiveCredit});
-    EXPECT_EQ(reader().takeUndecodable(), std::vector{vectorOf(place)});
-    static_cast<void>(read());
-    EXPECT_TRUE(reader().takeUndecodable().empty());
+    const ProvidedTile found = read();
+    EXPECT_EQ(found.data.vectorKey, place.ancestor(3));
+    EXPECT_EQ(found.attributions, std::vector{archiveAttribution});
+    EXPECT_EQ(found.undecodable, std::vector{vectorOf(place)});
+    EXPECT_TRUE(read().undecodable.empty());
 }
 
 TEST_F(TileProviderTest, AWholeTileAfterADamagedOneIsUsed) {
     send(vectorOf(place), "no tile at all");
-    EXPECT_EQ(read().ground.vector, nullptr);
+    EXPECT_EQ(read().data.vector, nullptr);
     send(vectorOf(place), seaTile());
-    EXPECT_TRUE(isSea(read().ground));
+    EXPECT_TRUE(isSea(read().data));
 }
 
 TEST_F(TileProviderTest, WhatAServiceSendsAnewReplacesWhatItSentBefore) {
     send(vectorOf(place), landTile());
-    EXPECT_FALSE(isSea(read().ground));
+    EXPECT_FALSE(isSea(read().data));
     send(vectorOf(place), seaTile());
-    EXPECT_TRUE(isSea(read().ground));
+    EXPECT_TRUE(isSea(read().data));
 }
 
-TEST_F(TileProviderTest, ThePhotographOfAnAncestorStandsBelowThoseOfTheQuarters) {
-    imageryArchive({{place.ancestor(4), photograph(Qt::red)}});
-    sendPhotograph(imageryOf(quarter(place, 3)), QColor(Qt::blue));
+TEST_F(TileProviderTest, TheImageryOfAnAncestorLiesBelowThatOfTheQuarters) {
+    imageryArchive({{place.ancestor(4), imageryImage(Qt::red).toStdString()}});
+    sendImagery(imageryOf(quarter(place, 3)), QColor(Qt::blue));
     const ProvidedTile found = read(BasemapTheme::satellite);
-    EXPECT_EQ(keysOf(found.ground.imagery), (std::vector{place.ancestor(4), quarter(place, 3)}));
-    EXPECT_TRUE(found.ground.isPhotographed(place));
-    EXPECT_EQ(found.ground.vector, nullptr); // it would not be seen
-    EXPECT_EQ(found.credits, (std::vector{archiveCredit, imageryCredit}));
+    EXPECT_EQ(keysOf(found.data.imagery), (std::vector{place.ancestor(4), quarter(place, 3)}));
+    EXPECT_TRUE(found.data.hasFullImagery(place));
+    EXPECT_EQ(found.data.vector, nullptr); // it would not be seen
+    EXPECT_EQ(found.attributions, (std::vector{archiveAttribution, imageryAttribution}));
 }
 
 TEST_F(TileProviderTest, FourQuartersNeedNothingBelowThem) {
-    imageryArchive({{place.ancestor(4), photograph(Qt::red)}});
+    imageryArchive({{place.ancestor(4), imageryImage(Qt::red).toStdString()}});
     for (const int number : {0, 1, 2, 3}) {
-        sendPhotograph(imageryOf(quarter(place, number)), QColor(Qt::blue));
+        sendImagery(imageryOf(quarter(place, number)), QColor(Qt::blue));
     }
     const ProvidedTile found = read(BasemapTheme::satellite);
-    EXPECT_EQ(colorsOf(found.ground.imagery), std::vector(4, QColor(Qt::blue)));
-    EXPECT_EQ(found.credits, std::vector{imageryCredit});
+    EXPECT_EQ(colorsOf(found.data.imagery), std::vector(4, QColor(Qt::blue)));
+    EXPECT_EQ(found.attributions, std::vector{imageryAttribution});
 }
 
-TEST_F(TileProviderTest, WhatPhotographsLeaveOpenIsDrawn) {
+TEST_F(TileProviderTest, WhatImageryLeavesOpenIsDrawn) {
     archive({{place.ancestor(3), seaTile()}});
-    sendPhotograph(imageryOf(quarter(place, 0)), QColor(Qt::blue));
+    sendImagery(imageryOf(quarter(place, 0)), QColor(Qt::blue));
     const ProvidedTile found = read(BasemapTheme::satellite);
-    EXPECT_FALSE(found.ground.isPhotographed(place));
-    EXPECT_TRUE(isSea(found.ground));
-    EXPECT_EQ(found.credits, (std::vector{imageryCredit, archiveCredit}));
+    EXPECT_FALSE(found.data.hasFullImagery(place));
+    EXPECT_TRUE(isSea(found.data));
+    EXPECT_EQ(found.attributions, (std::vector{imageryAttribution, archiveAttribution}));
 }
 
-TEST_F(TileProviderTest, ANearerPhotographOfTheArchiveGoesBeforeAFartherOneOfAService) {
-    imageryArchive({{place.ancestor(2), photograph(Qt::red)}});
-    sendPhotograph(imageryOf(place.ancestor(6)), QColor(Qt::blue));
-    EXPECT_EQ(colorsOf(read(BasemapTheme::satellite).ground.imagery), std::vector{QColor(Qt::red)});
-    sendPhotograph(imageryOf(place.ancestor(2)), QColor(Qt::green));
-    EXPECT_EQ(colorsOf(read(BasemapTheme::satellite).ground.imagery),
-              std::vector{QColor(Qt::green)});
+TEST_F(TileProviderTest, NearerImageryOfTheArchiveGoesBeforeFartherImageryOfAService) {
+    imageryArchive({{place.ancestor(2), imageryImage(Qt::red).toStdString()}});
+    sendImagery(imageryOf(place.ancestor(6)), QColor(Qt::blue));
+    EXPECT_EQ(colorsOf(read(BasemapTheme::satellite).data.imagery), std::vector{QColor(Qt::red)});
+    sendImagery(imageryOf(place.ancestor(2)), QColor(Qt::green));
+    EXPECT_EQ(colorsOf(read(BasemapTheme::satellite).data.imagery), std::vector{QColor(Qt::green)});
 }
 
-TEST_F(TileProviderTest, DamagedPhotographsAreAsIfTheyHadNotCome) {
-    imageryArchive({{place, "no photograph"}, {place.ancestor(1), photograph(Qt::red)}});
-    send(imageryOf(place), "no photograph");
+TEST_F(TileProviderTest, DamagedImageryIsAsIfItHadNotCome) {
+    imageryArchive({{place, "no image"}, {place.ancestor(1), imageryImage(Qt::red).toStdString()}});
+    send(imageryOf(place), "no image");
     const ProvidedTile found = read(BasemapTheme::satellite);
-    EXPECT_EQ(keysOf(found.ground.imagery), std::vector{place.ancestor(1)});
-    EXPECT_EQ(found.credits, std::vector{archiveCredit});
-    EXPECT_EQ(reader().takeUndecodable(), std::vector{imageryOf(place)});
+    EXPECT_EQ(keysOf(found.data.imagery), std::vector{place.ancestor(1)});
+    EXPECT_EQ(found.attributions, std::vector{archiveAttribution});
+    EXPECT_EQ(found.undecodable, std::vector{imageryOf(place)});
 }
 
-TEST_F(TileProviderTest, HybridKnowsPhotographAndMap) {
+TEST_F(TileProviderTest, HybridHasImageryAndMap) {
     archive({{place.ancestor(3), seaTile()}});
-    sendPhotograph(imageryOf(place), QColor(Qt::blue));
+    sendImagery(imageryOf(place), QColor(Qt::blue));
     const ProvidedTile found = read(BasemapTheme::hybrid);
-    EXPECT_TRUE(isSea(found.ground));
-    EXPECT_EQ(keysOf(found.ground.imagery), std::vector{place});
-    EXPECT_EQ(found.credits, (std::vector{imageryCredit, archiveCredit}));
+    EXPECT_TRUE(isSea(found.data));
+    EXPECT_EQ(keysOf(found.data.imagery), std::vector{place});
+    EXPECT_EQ(found.attributions, (std::vector{imageryAttribution, archiveAttribution}));
 }
 
-TEST_F(TileProviderTest, TheDrawnMapAsksForNoPhotographs) {
-    EXPECT_EQ(reader().wantedFor(place, BasemapTheme::light), std::vector{vectorOf(place)});
-    sendPhotograph(imageryOf(place), QColor(Qt::blue));
-    EXPECT_TRUE(read(BasemapTheme::dark).ground.imagery.empty());
+TEST_F(TileProviderTest, TheDrawnMapRequestsNoImagery) {
+    EXPECT_EQ(provider().requestsFor(place, BasemapTheme::light), std::vector{vectorOf(place)});
+    sendImagery(imageryOf(place), QColor(Qt::blue));
+    EXPECT_TRUE(read(BasemapTheme::dark).data.imagery.empty());
 }
 
-TEST_F(TileProviderTest, PhotographsAreWantedInQuartersAndBeyondTheLastZoomFromTheirAncestor) {
-    EXPECT_EQ(reader().wantedFor(place, BasemapTheme::satellite),
+TEST_F(TileProviderTest, ImageryIsRequestedInQuartersAndBeyondTheLastZoomFromItsAncestor) {
+    EXPECT_EQ(provider().requestsFor(place, BasemapTheme::satellite),
               (std::vector{imageryOf(quarter(place, 0)),
                            imageryOf(quarter(place, 1)),
                            imageryOf(quarter(place, 2)),
                            imageryOf(quarter(place, 3))}));
     constexpr TileKey deep{15, 5'000, 6'000};
-    EXPECT_EQ(reader().wantedFor(deep, BasemapTheme::hybrid),
+    EXPECT_EQ(provider().requestsFor(deep, BasemapTheme::hybrid),
               (std::vector{imageryOf(deep.ancestor(3)), vectorOf(deep.ancestor(1))}));
 }
 
-TEST_F(TileProviderTest, WhatTheArchiveShowsAsWellIsNotAskedFor) {
-    EXPECT_TRUE(reader().wantedFor(place.ancestor(2), BasemapTheme::light).empty());
+TEST_F(TileProviderTest, WhatTheArchiveShowsAsWellIsNotRequested) {
+    EXPECT_TRUE(provider().requestsFor(place.ancestor(2), BasemapTheme::light).empty());
     m_sources = {};
     const TileProvider alone(m_archives, m_sources);
-    EXPECT_TRUE(alone.wantedFor(place, BasemapTheme::hybrid).empty());
+    EXPECT_TRUE(alone.requestsFor(place, BasemapTheme::hybrid).empty());
 }
 
 } // namespace

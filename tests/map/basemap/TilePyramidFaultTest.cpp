@@ -1,6 +1,6 @@
-// What is seen of the ground while services fail: always something, and nothing false is said.
+// What is seen of the basemap while services fail: always something, and nothing false is said.
 
-#include "map/style/BasemapStyle.h"
+#include "map/style/MapTheme.h"
 #include "tests/map/basemap/TilePyramidFixture.h"
 
 #include <QDir>
@@ -22,15 +22,15 @@ class TilePyramidFaultTest : public TilePyramidFixture {
         ASSERT_TRUE(lookUntilComplete());
         ASSERT_TRUE(lookUntil([&] { return server.requests().size() >= 2 && server.open() == 0; }));
         look();
-        EXPECT_TRUE(store->isComplete());
+        EXPECT_TRUE(frame.isComplete);
         EXPECT_TRUE(hasNoHole());
         EXPECT_EQ(middleColor(), land);
-        EXPECT_EQ(thanks(), std::vector{archiveThanks});
+        EXPECT_EQ(credits(), std::vector{archiveCredit});
     }
 
-    const QColor land = basemapColors(BasemapTheme::light).land;
-    const QColor darkLand = basemapColors(BasemapTheme::dark).land;
-    const QColor water = basemapColors(BasemapTheme::light).water;
+    const QColor land = mapTheme(BasemapTheme::light).land;
+    const QColor darkLand = mapTheme(BasemapTheme::dark).land;
+    const QColor water = mapTheme(BasemapTheme::light).water;
     const QByteArray sea = QByteArray::fromStdString(seaTile());
 };
 
@@ -52,22 +52,22 @@ class FaultyServiceTest : public TilePyramidFaultTest, public testing::WithParam
     }
 };
 
-TEST_P(FaultyServiceTest, LeavesTheArchivesGround) {
+TEST_P(FaultyServiceTest, LeavesTheArchivesBasemap) {
     expectArchive();
-    EXPECT_FALSE(store->lacksImagery());
+    EXPECT_FALSE(frame.lacksImagery);
 }
 
-TEST_P(FaultyServiceTest, LeavesTheDrawnMapInPlaceOfPhotographsAndThatIsSaid) {
-    view.look = BasemapTheme::satellite;
+TEST_P(FaultyServiceTest, LeavesTheDrawnMapInPlaceOfImageryAndSaysSo) {
+    view.theme = BasemapTheme::satellite;
     openWithServices();
     ASSERT_TRUE(lookUntilComplete());
     ASSERT_TRUE(lookUntil([&] { return server.requests().size() >= 2 && server.open() == 0; }));
     look();
-    EXPECT_TRUE(store->isComplete());
-    EXPECT_TRUE(store->lacksImagery());
+    EXPECT_TRUE(frame.isComplete);
+    EXPECT_TRUE(frame.lacksImagery);
     EXPECT_TRUE(hasNoHole());
     EXPECT_EQ(middleColor(), darkLand);
-    EXPECT_EQ(thanks(), std::vector{archiveThanks});
+    EXPECT_EQ(credits(), std::vector{archiveCredit});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -88,12 +88,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Fault{"Endless", {.body = beginning, .manner = Manner::endless}}),
     [](const auto& fault) { return std::string(fault.param.name); });
 
-TEST_F(TilePyramidFaultTest, AServerThatIsNotThereLeavesTheArchivesGround) {
+TEST_F(TilePyramidFaultTest, AServerThatIsNotThereLeavesTheArchivesBasemap) {
     server.close();
     openWithServices();
     ASSERT_TRUE(lookUntilComplete());
     EXPECT_TRUE(hasNoHole());
-    EXPECT_EQ(thanks(), std::vector{archiveThanks});
+    EXPECT_EQ(credits(), std::vector{archiveCredit});
 }
 
 TEST_F(TilePyramidFaultTest, AServerThatComesBackIsNoticed) {
@@ -106,7 +106,7 @@ TEST_F(TilePyramidFaultTest, AServerThatComesBackIsNoticed) {
     ASSERT_EQ(again.port(), port);
     again.setOtherAnswer({.body = sea});
     EXPECT_TRUE(
-        lookUntil([&] { return middleColor() == water && thanks() == std::vector{mapThanks}; }));
+        lookUntil([&] { return middleColor() == water && credits() == std::vector{mapCredit}; }));
 }
 
 TEST_F(TilePyramidFaultTest, ADamagedTileIsNotKeptForTheNextTime) {
@@ -126,42 +126,42 @@ TEST_F(TilePyramidFaultTest, ADamagedTileIsNotKeptForTheNextTime) {
     EXPECT_TRUE(lookUntil([&] { return middleColor() == water; }));
 }
 
-TEST_F(TilePyramidFaultTest, PhotographsOfTheServiceAreShownAndTheirMakerIsThanked) {
-    server.setOtherAnswer({.body = photographOf(Qt::red)});
+TEST_F(TilePyramidFaultTest, ImageryOfTheServiceIsShownAndCredited) {
+    server.setOtherAnswer({.body = imageryImage(Qt::red)});
     openWithServices();
-    view.look = BasemapTheme::satellite;
-    ASSERT_TRUE(lookUntil([&] { return store->isComplete() && !store->lacksImagery(); }));
+    view.theme = BasemapTheme::satellite;
+    ASSERT_TRUE(lookUntil([&] { return frame.isComplete && !frame.lacksImagery; }));
     EXPECT_EQ(middleColor(), QColor(Qt::red));
-    EXPECT_EQ(thanks(), std::vector{photographThanks});
+    EXPECT_EQ(credits(), std::vector{imageryCredit});
 }
 
-TEST_F(TilePyramidFaultTest, HybridThanksForPhotographAndMap) {
-    server.setOtherAnswer({.body = photographOf(Qt::red)});
+TEST_F(TilePyramidFaultTest, HybridCreditsImageryAndMap) {
+    server.setOtherAnswer({.body = imageryImage(Qt::red)});
     openWithServices();
-    view.look = BasemapTheme::hybrid;
-    ASSERT_TRUE(lookUntil([&] { return store->isComplete() && !store->lacksImagery(); }));
-    EXPECT_EQ(thanks(), (std::vector{photographThanks, archiveThanks}));
+    view.theme = BasemapTheme::hybrid;
+    ASSERT_TRUE(lookUntil([&] { return frame.isComplete && !frame.lacksImagery; }));
+    EXPECT_EQ(credits(), (std::vector{imageryCredit, archiveCredit}));
 }
 
-TEST_F(TilePyramidFaultTest, OnePhotographThatIsMissingIsSaidSoAndDrawn) {
-    server.setOtherAnswer({.body = photographOf(Qt::red)});
+TEST_F(TilePyramidFaultTest, WhereOneImageIsMissingThatIsSaidAndTheMapIsDrawn) {
+    server.setOtherAnswer({.body = imageryImage(Qt::red)});
     const TileKey quarter{homeZoom + 1, 2 * homeTile.column, 2 * homeTile.row};
     server.setAnswer(imageryPath(quarter.zoom, quarter.column, quarter.row), {.status = 404});
     openWithServices();
-    view.look = BasemapTheme::satellite;
+    view.theme = BasemapTheme::satellite;
     ASSERT_TRUE(lookUntil([&] {
-        const auto reds = std::ranges::count_if(store->shown(), [](const ShownTile& shown) {
-            return shown.tile->image.pixelColor(400, 400) == QColor(Qt::red);
+        const auto reds = std::ranges::count_if(seen(), [](const SeenTile& tile) {
+            return tile.image->pixelColor(400, 400) == QColor(Qt::red);
         });
-        return store->isComplete() && reds == std::ssize(store->shown());
+        return frame.isComplete && reds == std::ssize(seen());
     }));
-    EXPECT_TRUE(store->lacksImagery());
+    EXPECT_TRUE(frame.lacksImagery);
     EXPECT_EQ(middleColor(), darkLand);
-    EXPECT_EQ(thanks(), (std::vector{photographThanks, archiveThanks}));
+    EXPECT_EQ(credits(), (std::vector{imageryCredit, archiveCredit}));
 }
 
 /// A real photograph where this machine has one, else colours that run into each other as there.
-QImage photographOfTheGround() {
+QImage realImagery() {
     const QDir photographs(QStringLiteral(VASKER_IMAGERY));
     const QStringList names = photographs.entryList({QStringLiteral("*.jpg")});
     if (!names.isEmpty()) {
@@ -176,8 +176,8 @@ QImage photographOfTheGround() {
     return picture;
 }
 
-TEST_F(TilePyramidFaultTest, APhotographOfManyColoursIsSeen) {
-    const QImage photograph = photographOfTheGround();
+TEST_F(TilePyramidFaultTest, ImageryOfManyColoursIsSeen) {
+    const QImage photograph = realImagery();
     ASSERT_FALSE(photograph.isNull());
     const QImage part = photograph.copy(0, 0, 256, 256);
     QByteArray bytes;
@@ -186,13 +186,13 @@ TEST_F(TilePyramidFaultTest, APhotographOfManyColoursIsSeen) {
     ASSERT_TRUE(part.save(&buffer, "jpeg", 95));
     server.setOtherAnswer({.body = bytes});
     openWithServices();
-    view.look = BasemapTheme::satellite;
-    ASSERT_TRUE(lookUntil([&] { return store->isComplete() && !store->lacksImagery(); }));
-    const QColor seen = store->shown().front().tile->image.pixelColor(100, 100);
+    view.theme = BasemapTheme::satellite;
+    ASSERT_TRUE(lookUntil([&] { return frame.isComplete && !frame.lacksImagery; }));
+    const QColor color = seen().front().image->pixelColor(100, 100);
     const QColor sent = part.pixelColor(100, 100);
-    EXPECT_NEAR(seen.red(), sent.red(), 24);
-    EXPECT_NEAR(seen.green(), sent.green(), 24);
-    EXPECT_NEAR(seen.blue(), sent.blue(), 24);
+    EXPECT_NEAR(color.red(), sent.red(), 24);
+    EXPECT_NEAR(color.green(), sent.green(), 24);
+    EXPECT_NEAR(color.blue(), sent.blue(), 24);
 }
 
 } // namespace

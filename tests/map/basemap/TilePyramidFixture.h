@@ -1,12 +1,14 @@
 #pragma once
-// A store of tiles over an archive of the test's own and a web server of the test's own, and the
-// view that looks at it.
+// A pyramid of tiles over an archive and a web server of the test's own, the view that looks at it,
+// and what the scene graph would have of it.
 
 #include "map/basemap/TilePyramid.h"
 #include "tests/map/style/TileDataBuilder.h"
 #include "tests/map/tileservice/ServiceFixture.h"
 
+#include <algorithm>
 #include <chrono>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -18,9 +20,9 @@ inline constexpr int homeZoom = 9;
 inline constexpr TileKey homeTile{homeZoom, 100, 170};
 inline const double homeScale = tilePixels / homeTile.side();
 
-inline const QString archiveThanks = QStringLiteral("The archive");
-inline const QString mapThanks = QStringLiteral("Maps");
-inline const QString photographThanks = QStringLiteral("Photographs");
+inline const QString archiveCredit = QStringLiteral("The archive");
+inline const QString mapCredit = QStringLiteral("Maps");
+inline const QString imageryCredit = QStringLiteral("Imagery");
 
 class TilePyramidFixture : public ServiceFixture {
   protected:
@@ -39,26 +41,35 @@ class TilePyramidFixture : public ServiceFixture {
     /// The archive: the whole world is land.
     void writeLand() { write({{{0, 0, 0}, landTile()}}); }
     void write(const ArchivedTiles& tiles) {
-        archives.vector = folder.filePath(QStringLiteral("ground.mbtiles")).toStdString();
-        writeArchive(archives.vector, tiles, archiveThanks.toStdString());
+        archives.vector = folder.filePath(QStringLiteral("basemap.mbtiles")).toStdString();
+        writeArchive(archives.vector, tiles, archiveCredit.toStdString());
     }
     void open(const TileSources& services) {
         library = std::make_unique<TileLibrary>(archives, services, options);
-        store = std::make_unique<TilePyramid>(*library);
+        pyramid = std::make_unique<TilePyramid>(*library);
     }
     void openWithoutServices() { open({}); }
     void openWithServices() {
         TileSources services = sources(server, server);
-        services.vector.front().attribution = mapThanks;
-        services.imagery.front().attribution = photographThanks;
+        services.vector.front().attribution = mapCredit;
+        services.imagery.front().attribution = imageryCredit;
         open(services);
     }
     void close() {
-        store.reset();
+        pyramid.reset();
+        textures.clear();
         library.reset();
     }
 
-    void look() { store->look(view, now); }
+    void look() {
+        frame = pyramid->compose(view, now);
+        for (const TileImage& each : frame.tiles.newImages) {
+            textures.insert_or_assign(each.tile, each.image);
+        }
+        std::erase_if(textures, [this](const auto& texture) {
+            return !std::ranges::binary_search(frame.tiles.kept, texture.first);
+        });
+    }
     /// Looks, frame by frame, until it is so.
     template <typename Condition>
     [[nodiscard]] bool lookUntil(Condition condition) {
@@ -69,20 +80,40 @@ class TilePyramidFixture : public ServiceFixture {
         });
     }
     [[nodiscard]] bool lookUntilComplete() {
-        return lookUntil([&] { return store->isComplete(); });
+        return lookUntil([&] { return frame.isComplete; });
     }
 
-    /// The colour in the middle of what stands on top at a place of the screen; none: a hole.
+    /// A tile as it is seen: on the screen, upright.
+    struct SeenTile {
+        QRectF place;
+        float opacity;
+        const QImage* image;
+    };
+    /// In drawing order.
+    [[nodiscard]] std::vector<SeenTile> seen() const {
+        std::vector<SeenTile> tiles;
+        for (const TileQuad& quad : frame.tiles.quads) {
+            const auto texture = textures.find(quad.tile);
+            if (quad.opacity > 0 && texture != textures.end()) {
+                const auto& corners = quad.corners;
+                tiles.push_back({QRectF(QPointF(corners[0].x, corners[0].y),
+                                        QPointF(corners[2].x, corners[2].y)),
+                                 quad.opacity,
+                                 &texture->second});
+            }
+        }
+        return tiles;
+    }
+    /// The colour of what stands on top at a place of the screen, seen from straight above; none: a
+    /// hole.
     [[nodiscard]] std::optional<QColor> colorAt(ScreenPoint place) const {
-        const MapPoint point = view.camera.screenToWorld(place);
-        for (auto each = store->shown().rbegin(); each != store->shown().rend(); ++each) {
-            const MapRect bounds = each->tile->key.bounds();
-            const MapPoint there{point.x - each->shift, point.y};
-            if (each->opacity > 0 && bounds.contains(there)) {
-                const QImage& image = each->tile->image;
-                return image.pixelColor(
-                    static_cast<int>((there.x - bounds.x) / bounds.width * image.width()),
-                    static_cast<int>((there.y - bounds.y) / bounds.height * image.height()));
+        const auto tiles = seen();
+        for (auto each = tiles.rbegin(); each != tiles.rend(); ++each) {
+            if (each->place.contains(place.x, place.y)) {
+                const QPointF offset = QPointF(place.x, place.y) - each->place.topLeft();
+                return each->image->pixelColor(
+                    static_cast<int>(offset.x() / each->place.width() * each->image->width()),
+                    static_cast<int>(offset.y() / each->place.height() * each->image->height()));
             }
         }
         return std::nullopt;
@@ -103,10 +134,10 @@ class TilePyramidFixture : public ServiceFixture {
         }
         return true;
     }
-    [[nodiscard]] std::vector<QString> thanks() const {
+    [[nodiscard]] std::vector<QString> credits() const {
         std::vector<QString> texts;
-        for (const TileAttribution& credit : store->credits()) {
-            texts.push_back(credit.text);
+        for (const Attribution& attribution : frame.attributions) {
+            texts.push_back(attribution.text);
         }
         std::ranges::sort(texts);
         return texts;
@@ -116,7 +147,9 @@ class TilePyramidFixture : public ServiceFixture {
     BasemapView view;
     std::chrono::nanoseconds now{0};
     std::unique_ptr<TileLibrary> library;
-    std::unique_ptr<TilePyramid> store;
+    std::unique_ptr<TilePyramid> pyramid;
+    BasemapFrame frame;                    ///< the last one
+    std::map<TileNumber, QImage> textures; ///< that the scene graph has now
 };
 
 } // namespace vasker

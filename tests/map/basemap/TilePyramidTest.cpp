@@ -1,10 +1,12 @@
 #include "map/basemap/TilePyramid.h"
 
-#include "map/style/BasemapStyle.h"
-#include "tests/map/basemap/GatedInk.h"
+#include "map/style/MapTheme.h"
+#include "tests/map/basemap/GatedOverlay.h"
 #include "tests/map/basemap/TilePyramidFixture.h"
 
-#include <future>
+#include <QPainter>
+
+#include <set>
 
 namespace vasker {
 namespace {
@@ -15,120 +17,118 @@ class TilePyramidTest : public TilePyramidFixture {
   protected:
     TilePyramidTest() { writeLand(); }
     ~TilePyramidTest() override {
-        ink->open(); // or the store would wait for ever
+        overlay->open(); // or the workers would wait for ever
         close();
     }
 
-    /// No picture is finished before ink->open().
-    void useInk() {
-        view.ink = [this](double) { return ink; };
+    /// No tile is finished before overlay->open().
+    void useOverlay() {
+        view.overlay = [this](double) { return overlay; };
     }
     void tilt(double pitch) {
         view.camera = Camera(view.camera.tilted(pitch).pose(), view.camera.viewport());
     }
     [[nodiscard]] bool isFading() const {
-        return std::ranges::any_of(store->shown(), [](const ShownTile& shown) {
-            return shown.opacity > 0 && shown.opacity < 1;
-        });
+        return std::ranges::any_of(seen(), [](const SeenTile& tile) { return tile.opacity < 1; });
     }
     void scaleTo(double factor) { view.camera = cameraAt(homeTile, factor * homeScale); }
 
-    const std::shared_ptr<GatedInk> ink = std::make_shared<GatedInk>();
-    const QColor land = basemapColors(BasemapTheme::light).land;
-    const QColor water = basemapColors(BasemapTheme::light).water;
+    const std::shared_ptr<GatedOverlay> overlay = std::make_shared<GatedOverlay>();
+    const QColor land = mapTheme(BasemapTheme::light).land;
+    const QColor water = mapTheme(BasemapTheme::light).water;
 };
 
-TEST_F(TilePyramidTest, ShowsTheGroundAtTheScaleOfTheView) {
+TEST_F(TilePyramidTest, ShowsTheBasemapAtTheScaleOfTheView) {
     openWithoutServices();
     look();
-    EXPECT_FALSE(store->isComplete());
-    EXPECT_EQ(store->shownScale(), 0);
+    EXPECT_FALSE(frame.isComplete);
+    EXPECT_EQ(frame.scale, 0);
     ASSERT_TRUE(lookUntilComplete());
-    EXPECT_EQ(store->shownScale(), homeScale);
+    EXPECT_EQ(frame.scale, homeScale);
     EXPECT_TRUE(hasNoHole());
     EXPECT_EQ(middleColor(), land);
-    EXPECT_EQ(thanks(), std::vector{archiveThanks});
+    EXPECT_EQ(credits(), std::vector{archiveCredit});
 }
 
-TEST_F(TilePyramidTest, WithoutAnArchiveTheGroundIsBareAndNobodyIsThanked) {
+TEST_F(TilePyramidTest, WithoutAnArchiveTheBasemapIsBareAndNobodyIsCredited) {
     archives.vector = "/absent";
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
     EXPECT_TRUE(hasNoHole());
-    EXPECT_TRUE(thanks().empty());
-    EXPECT_TRUE(store->names().empty());
-    EXPECT_FALSE(store->lacksImagery());
+    EXPECT_TRUE(credits().empty());
+    EXPECT_TRUE(frame.labels.empty());
+    EXPECT_FALSE(frame.lacksImagery);
 }
 
-TEST_F(TilePyramidTest, ANewSetTakesTheOldOnesPlaceOnlyAsAWhole) {
-    useInk();
-    ink->open();
+TEST_F(TilePyramidTest, APendingGenerationBecomesCurrentOnlyAsAWhole) {
+    useOverlay();
+    overlay->open();
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
-    ink->close();
+    overlay->close();
     scaleTo(2);
     look();
-    EXPECT_EQ(store->shownScale(), homeScale);
+    EXPECT_EQ(frame.scale, homeScale);
     EXPECT_TRUE(hasNoHole());
-    EXPECT_FALSE(store->isComplete());
-    ink->open();
+    EXPECT_FALSE(frame.isComplete);
+    overlay->open();
     ASSERT_TRUE(lookUntilComplete());
-    EXPECT_EQ(store->shownScale(), 2 * homeScale);
+    EXPECT_EQ(frame.scale, 2 * homeScale);
     EXPECT_TRUE(hasNoHole());
 }
 
-TEST_F(TilePyramidTest, PicturesAreStretchedALittleWhileTheMapMovesAndExactAtRest) {
+TEST_F(TilePyramidTest, TilesAreStretchedALittleWhileTheMapMovesAndExactAtRest) {
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
     view.isResting = false;
     for (const double factor : {0.72, 1.8}) {
         scaleTo(factor);
         ASSERT_TRUE(lookUntilComplete());
-        EXPECT_EQ(store->shownScale(), homeScale);
+        EXPECT_EQ(frame.scale, homeScale);
     }
     scaleTo(2.1);
     ASSERT_TRUE(lookUntilComplete());
-    EXPECT_EQ(store->shownScale(), 2.1 * homeScale);
+    EXPECT_EQ(frame.scale, 2.1 * homeScale);
     scaleTo(2);
     view.isResting = true;
     ASSERT_TRUE(lookUntilComplete());
-    EXPECT_EQ(store->shownScale(), 2 * homeScale);
+    EXPECT_EQ(frame.scale, 2 * homeScale);
 }
 
-TEST_F(TilePyramidTest, ANewLookFadesIn) {
+TEST_F(TilePyramidTest, ANewThemeFadesIn) {
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
-    view.look = BasemapTheme::dark;
+    view.theme = BasemapTheme::dark;
     view.fades = true;
     ASSERT_TRUE(lookUntil([&] { return isFading(); }));
-    EXPECT_LT(store->shown().back().opacity, 0.1);
-    EXPECT_EQ(store->shown().front().opacity, 1);
-    EXPECT_FALSE(store->isComplete());
+    EXPECT_LT(seen().back().opacity, 0.1);
+    EXPECT_EQ(seen().front().opacity, 1);
+    EXPECT_FALSE(frame.isComplete);
     now += milliseconds(110);
     look();
-    EXPECT_NEAR(store->shown().back().opacity, 0.5, 0.1);
+    EXPECT_NEAR(seen().back().opacity, 0.5, 0.1);
     now += milliseconds(220);
     look();
     EXPECT_FALSE(isFading());
-    EXPECT_TRUE(store->isComplete());
-    EXPECT_EQ(store->shown().front().opacity, 1);
-    EXPECT_EQ(middleColor(), basemapColors(BasemapTheme::dark).land);
+    EXPECT_TRUE(frame.isComplete);
+    EXPECT_EQ(seen().front().opacity, 1);
+    EXPECT_EQ(middleColor(), mapTheme(BasemapTheme::dark).land);
 }
 
-TEST_F(TilePyramidTest, WithReducedMotionANewLookIsThereAtOnce) {
+TEST_F(TilePyramidTest, WithReducedMotionANewThemeIsThereAtOnce) {
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
-    view.look = BasemapTheme::dark;
+    view.theme = BasemapTheme::dark;
     bool hasFaded = false;
     ASSERT_TRUE(lookUntil([&] {
         hasFaded = hasFaded || isFading();
-        return store->isComplete();
+        return frame.isComplete;
     }));
     EXPECT_FALSE(hasFaded);
-    EXPECT_EQ(middleColor(), basemapColors(BasemapTheme::dark).land);
+    EXPECT_EQ(middleColor(), mapTheme(BasemapTheme::dark).land);
 }
 
-TEST_F(TilePyramidTest, UnderAllLiesAPictureOfTheWorldSoThatThereIsNeverAHole) {
+TEST_F(TilePyramidTest, BelowAllLiesACoarseWorldSoThatThereIsNeverAHole) {
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
     const Camera home = view.camera;
@@ -137,66 +137,60 @@ TEST_F(TilePyramidTest, UnderAllLiesAPictureOfTheWorldSoThatThereIsNeverAHole) {
         // Where nothing can have been painted: each time elsewhere.
         view.camera = cameraAt({homeZoom, column = (column + 30) % 480, 250});
         look();
-        const bool isBridged = !store->isComplete() && hasNoHole();
+        const bool isBridged = !frame.isComplete && hasNoHole();
         view.camera = home;
         return isBridged;
     }));
-    ASSERT_FALSE(store->shown().empty());
-    for (const ShownTile& shown : store->shown()) {
-        EXPECT_EQ(shown.tile->key.zoom, 2); // coarse
+    ASSERT_FALSE(seen().empty());
+    for (const SeenTile& tile : seen()) {
+        EXPECT_EQ(tile.image->width(), tilePixels / 2); // coarse
     }
 }
 
-TEST_F(TilePyramidTest, PicturesFarOutOfViewAreDropped) {
+TEST_F(TilePyramidTest, TilesFarOutOfViewAreDropped) {
     openWithoutServices();
-    std::vector<std::weak_ptr<PaintedTile>> seen;
-    std::set<TileKey> keys;
+    TileNumber last = 0;
     for (int column = 100; column < 130; ++column) {
         view.camera = cameraAt({homeZoom, column, 170});
         ASSERT_TRUE(lookUntilComplete());
-        for (const ShownTile& shown : store->shown()) {
-            if (keys.insert(shown.tile->key).second) {
-                seen.emplace_back(shown.tile);
-            }
-        }
+        last = std::max(last, frame.tiles.kept.back());
     }
-    const auto isKept = [](const auto& tile) { return !tile.expired(); };
-    EXPECT_GE(seen.size(), 60U);
-    EXPECT_LE(std::ranges::count_if(seen, isKept), 36);
+    EXPECT_GE(last, 60U); // so many were painted
+    EXPECT_LE(textures.size(), 36U);
 }
 
-TEST_F(TilePyramidTest, WhatIsNoLongerLookedAtIsNotPainted) {
+TEST_F(TilePyramidTest, WhatIsNoLongerInViewIsNotPainted) {
     constexpr Viewport large{2'500, 1'800};
-    useInk();
+    useOverlay();
     openWithoutServices();
     view.camera = cameraAt(homeTile, homeScale, large);
     const MapRect home = view.camera.visibleRect(200);
     look();
-    ink->waitForOne();
+    overlay->waitForOne();
     view.camera = cameraAt({homeZoom, 300, 170}, homeScale, large);
     look();
-    ink->open();
+    overlay->open();
     ASSERT_TRUE(lookUntilComplete());
-    const auto begun = ink->begun();
+    const auto begun = overlay->begun();
     const auto isAtHome = [&home](const MapRect& bounds) { return bounds.intersects(home); };
     EXPECT_GE(begun.size(), 12U);
     EXPECT_LE(std::ranges::count_if(begun, isAtHome), 4); // one for each thread
 }
 
-TEST_F(TilePyramidTest, NewInkIsPaintedIntoNewPictures) {
+TEST_F(TilePyramidTest, ANewOverlayIsPaintedIntoNewTiles) {
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
-    EXPECT_EQ(store->shownInk(), nullptr);
-    useInk();
-    ink->open();
+    EXPECT_EQ(frame.overlay, nullptr);
+    useOverlay();
+    overlay->open();
     look();
-    EXPECT_TRUE(store->isComplete()); // it was not told that the ink is another one
-    view.inkRevision = 7;
+    EXPECT_TRUE(frame.isComplete); // it was not told that the overlay is another one
+    view.overlayRevision = 7;
     look();
-    EXPECT_FALSE(store->isComplete());
+    EXPECT_FALSE(frame.isComplete);
     ASSERT_TRUE(lookUntilComplete());
-    EXPECT_EQ(store->shownInk(), ink);
-    EXPECT_FALSE(ink->begun().empty());
+    EXPECT_EQ(frame.overlay, overlay);
+    EXPECT_FALSE(overlay->begun().empty());
 }
 
 TEST_F(TilePyramidTest, TheTilesOfAServiceReplaceTheArchives) {
@@ -205,95 +199,149 @@ TEST_F(TilePyramidTest, TheTilesOfAServiceReplaceTheArchives) {
     openWithServices();
     ASSERT_TRUE(lookUntilComplete());
     EXPECT_EQ(middleColor(), land);
-    EXPECT_EQ(thanks(), std::vector{archiveThanks});
+    EXPECT_EQ(credits(), std::vector{archiveCredit});
     server.release();
     EXPECT_TRUE(
-        lookUntil([&] { return middleColor() == water && thanks() == std::vector{mapThanks}; }));
+        lookUntil([&] { return middleColor() == water && credits() == std::vector{mapCredit}; }));
 }
 
 TEST_F(TilePyramidTest, WhatArrivesWhileATileIsPaintedIsSeenToo) {
     server.setOtherAnswer({.body = QByteArray::fromStdString(seaTile())});
-    useInk();
+    useOverlay();
     openWithServices();
     std::set<ServiceTile> sent;
     QObject::connect(library.get(),
                      &TileLibrary::tileArrived,
-                     store.get(),
+                     pyramid.get(),
                      [&](const ServiceTile& tile) { sent.insert(tile); });
     look();
-    ink->waitForOne(); // it has read the archive's tile, or soon will have
+    overlay->waitForOne(); // it has read the archive's tile, or soon will have
     ASSERT_TRUE(comesTrue([&] { return sent.size() >= 4; }));
-    ink->open();
+    overlay->open();
     EXPECT_TRUE(lookUntil([&] {
-        return store->isComplete() && thanks() == std::vector{mapThanks} &&
-               std::ranges::all_of(store->shown(), [&](const ShownTile& shown) {
-                   return shown.tile->image.pixelColor(5, 5) == water;
+        return frame.isComplete && credits() == std::vector{mapCredit} &&
+               std::ranges::all_of(seen(), [&](const SeenTile& tile) {
+                   return tile.image->pixelColor(5, 5) == water;
                });
     }));
 }
 
-TEST_F(TilePyramidTest, WhatIsLeftOfAnotherViewIsNeitherShownNorThanked) {
-    server.setOtherAnswer({.body = photographOf(Qt::red), .manner = TileServer::Manner::held});
+TEST_F(TilePyramidTest, WhatIsLeftOfAnotherViewIsNeitherShownNorCredited) {
+    server.setOtherAnswer({.body = imageryImage(Qt::red), .manner = TileServer::Manner::held});
     openWithServices();
-    view.look = BasemapTheme::satellite;
+    view.theme = BasemapTheme::satellite;
     tilt(60);
     ASSERT_TRUE(lookUntilComplete());
-    EXPECT_TRUE(store->lacksImagery());
-    const auto farther = std::ranges::find_if(
-        store->shown(), [](const ShownTile& shown) { return shown.tile->key.zoom < homeZoom; });
-    ASSERT_NE(farther, store->shown().end());
-    const TileKey key = farther->tile->key;
+    EXPECT_TRUE(frame.lacksImagery);
+    const auto cover = tileCover(view.camera, homeZoom, 0);
+    const auto farther =
+        std::ranges::find_if(cover, [](const CoverTile& tile) { return tile.key.zoom < homeZoom; });
+    ASSERT_NE(farther, cover.end());
+    const TileKey key = farther->key;
     view.camera = cameraAt({homeZoom,
                             ((2 * key.column + 1) << (homeZoom - key.zoom)) / 2,
                             ((2 * key.row + 1) << (homeZoom - key.zoom)) / 2});
     server.release();
-    ASSERT_TRUE(lookUntil([&] { return store->isComplete() && !store->lacksImagery(); }));
-    EXPECT_EQ(thanks(), std::vector{photographThanks});
+    ASSERT_TRUE(lookUntil([&] { return frame.isComplete && !frame.lacksImagery; }));
+    EXPECT_EQ(credits(), std::vector{imageryCredit});
     EXPECT_EQ(middleColor(), QColor(Qt::red));
 }
 
-TEST_F(TilePyramidTest, AfterTexturesWereLostThePicturesArePaintedAnew) {
+TEST_F(TilePyramidTest, AfterTexturesWereLostTheirImagesAreHandedOverAgain) {
     openWithoutServices();
     ASSERT_TRUE(lookUntilComplete());
-    for (const ShownTile& shown : store->shown()) {
-        shown.tile->image = {}; // as when it becomes a texture
-    }
     look();
-    EXPECT_TRUE(store->isComplete());
-    store->forgetTextures();
+    EXPECT_TRUE(frame.isComplete);
+    textures.clear();
+    pyramid->handOverAgain();
     look();
-    EXPECT_FALSE(store->isComplete());
+    EXPECT_FALSE(frame.isComplete);
     ASSERT_TRUE(lookUntilComplete());
+    EXPECT_TRUE(hasNoHole());
     EXPECT_EQ(middleColor(), land);
 }
 
-TEST_F(TilePyramidTest, AStoreMayGoWhilePicturesArePainted) {
-    useInk();
+TEST_F(TilePyramidTest, AnImageIsHandedOverOnce) {
     openWithoutServices();
+    std::set<TileNumber> handedOver;
+    ASSERT_TRUE(lookUntil([&] {
+        for (const TileImage& each : frame.tiles.newImages) {
+            EXPECT_TRUE(handedOver.insert(each.tile).second);
+            EXPECT_FALSE(each.image.isNull());
+        }
+        return frame.isComplete;
+    }));
+    EXPECT_GE(handedOver.size(), 4U);
     look();
-    ink->waitForOne();
-    const auto opening = std::async(std::launch::async, [this] { ink->open(); });
-    store.reset();
-    const auto begun = ink->begun().size();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ink->begun().size(), begun);
+    EXPECT_TRUE(frame.tiles.newImages.empty());
 }
 
-TEST_F(TilePyramidTest, OneStoreGoesAndAnotherStays) {
-    useInk();
+TEST_F(TilePyramidTest, AnOverlayIsPaintedInDevicePixels) {
+    struct Spot : TileOverlay {
+        void paint(QPainter& painter, const MapRect& bounds, double scale) const override {
+            if (bounds.contains(homeTile.bounds().center())) {
+                EXPECT_NEAR(bounds.width * scale, 2.0 * tilePixels, 1);
+                painter.fillRect(1'000, 1'000, 10, 10, Qt::green);
+            }
+        }
+    };
+    view.devicePixelsPerPixel = 2;
+    view.overlay = [](double) { return std::make_shared<Spot>(); };
+    openWithoutServices();
+    ASSERT_TRUE(lookUntilComplete());
+    const MapRect home = homeTile.bounds();
+    const ScreenPoint corner = view.camera.worldToScreen({home.x, home.y});
+    EXPECT_EQ(colorAt({corner.x + 502, corner.y + 502}), QColor(Qt::green));
+    EXPECT_EQ(colorAt({corner.x + 490, corner.y + 490}), land);
+}
+
+TEST_F(TilePyramidTest, ANewOverlayReplacesTheOldOneWithoutPaintingTheBasemapAnew) {
+    struct Plain : TileOverlay {
+        explicit Plain(const QColor& painted) : color(painted) {}
+        void paint(QPainter& painter, const MapRect&, double) const override {
+            painter.fillRect(0, 0, 2'000, 1, color);
+        }
+        QColor color;
+    };
+    QColor color(Qt::red);
+    view.overlay = [&color](double) { return std::make_shared<Plain>(color); };
+    openWithoutServices();
+    ASSERT_TRUE(lookUntilComplete());
+    EXPECT_EQ(middleColor(), land);
+    // Were the basemap painted anew, this would be seen.
+    library->provider()->put({TileContent::vector, {0, 0, 0}},
+                             QByteArray::fromStdString(seaTile()));
+    color = Qt::blue;
+    ++view.overlayRevision;
+    ASSERT_TRUE(lookUntilComplete());
+    EXPECT_EQ(middleColor(), land);
+    for (const SeenTile& tile : seen()) {
+        EXPECT_EQ(tile.image->pixelColor(5, 0), QColor(Qt::blue));
+    }
+}
+
+TEST_F(TilePyramidTest, APyramidMayGoWhileTilesArePainted) {
+    useOverlay();
+    openWithoutServices();
+    look();
+    overlay->waitForOne();
+    pyramid.reset(); // does not wait
+    overlay->open();
+    QCoreApplication::processEvents();
+}
+
+TEST_F(TilePyramidTest, OnePyramidGoesAndAnotherStays) {
+    useOverlay();
     openWithoutServices();
     TilePyramid other(*library);
     BasemapView otherView = view;
-    otherView.ink = {};
-    other.look(otherView, now);
+    otherView.overlay = {};
+    static_cast<void>(other.compose(otherView, now));
     look();
-    ink->waitForOne();
-    ink->open();
-    store.reset();
-    EXPECT_TRUE(comesTrue([&] {
-        other.look(otherView, now);
-        return other.isComplete();
-    }));
+    overlay->waitForOne();
+    overlay->open();
+    pyramid.reset();
+    EXPECT_TRUE(comesTrue([&] { return other.compose(otherView, now).isComplete; }));
 }
 
 } // namespace

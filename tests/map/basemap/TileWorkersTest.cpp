@@ -1,26 +1,35 @@
 #include "map/basemap/TileWorkers.h"
 
+#include <QEventLoop>
+#include <QTimer>
+
 #include <gtest/gtest.h>
 
 #include <array>
-#include <atomic>
+#include <chrono>
 #include <future>
 #include <latch>
+#include <memory>
+#include <new>
 #include <string>
+#include <thread>
 
 namespace vasker {
 namespace {
 
+constexpr std::chrono::seconds patience(20);
+
 const int one = 0;
 const int two = 0;
 
-/// A thread that is busy until it is let go, so that what is asked for meanwhile waits.
+/// A thread that is busy until it is let go, so that other jobs wait.
 class Busy {
   public:
     explicit Busy(TileWorkers& workers) : m_workers(workers) {
-        workers.setJobs(this, {[this] {
+        workers.setJobs(this, {[this](const std::stop_token&) -> TileWorkers::Completion {
                             m_begun.set_value();
                             m_mayEnd.get_future().wait();
+                            return {};
                         }});
         m_begun.get_future().wait();
     }
@@ -39,11 +48,12 @@ class Busy {
 class Log {
   public:
     [[nodiscard]] TileWorkers::Job entry(char name) {
-        return [this, name] {
+        return [this, name](const std::stop_token&) -> TileWorkers::Completion {
             m_text += name;
             if (m_text.size() == m_most) {
                 m_full.set_value();
             }
+            return {};
         };
     }
     /// Once so many entries are there.
@@ -59,7 +69,7 @@ class Log {
     std::promise<void> m_full;
 };
 
-TEST(TileWorkers, TheMostUrgentIsBegunFirst) {
+TEST(TileWorkers, TheMostUrgentJobIsBegunFirst) {
     TileWorkers workers(1);
     Log log;
     log.expect(3);
@@ -70,7 +80,7 @@ TEST(TileWorkers, TheMostUrgentIsBegunFirst) {
     workers.remove(&one);
 }
 
-TEST(TileWorkers, WhatIsNotWantedAnyMoreIsNotBegun) {
+TEST(TileWorkers, WhatIsNoLongerNeededIsNotBegun) {
     TileWorkers workers(1);
     Log log;
     log.expect(2);
@@ -82,21 +92,89 @@ TEST(TileWorkers, WhatIsNotWantedAnyMoreIsNotBegun) {
     workers.remove(&one);
 }
 
-TEST(TileWorkers, WhatWasBegunIsFinishedThoughItIsNotWantedAnyMore) {
+TEST(TileWorkers, WhatWasBegunIsFinishedThoughItIsNoLongerNeeded) {
     TileWorkers workers(1);
     std::promise<void> begun;
     std::promise<void> mayEnd;
-    std::atomic<bool> ended = false;
-    workers.setJobs(&one, {[&] {
+    bool isDone = false;
+    workers.setJobs(&one, {[&](const std::stop_token&) -> TileWorkers::Completion {
         begun.set_value();
         mayEnd.get_future().wait();
-        ended = true;
+        return [&isDone] { isDone = true; };
     }});
     begun.get_future().wait();
     workers.setJobs(&one, {});
     mayEnd.set_value();
+    workers.wait(&one, patience);
+    EXPECT_TRUE(isDone);
+}
+
+TEST(TileWorkers, ACompletionRunsOnTheThreadOfTheWorkers) {
+    TileWorkers workers(2);
+    std::thread::id thread;
+    QEventLoop loop;
+    workers.setJobs(&one, {[&](const std::stop_token&) -> TileWorkers::Completion {
+        return [&] {
+            thread = std::this_thread::get_id();
+            loop.quit();
+        };
+    }});
+    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    loop.exec();
+    EXPECT_EQ(thread, std::this_thread::get_id());
+}
+
+TEST(TileWorkers, OfAClientThatLeftNoCompletionRuns) {
+    TileWorkers workers(1);
+    std::promise<void> begun;
+    std::promise<void> mayEnd;
+    bool isDone = false;
+    workers.setJobs(&one, {[&](const std::stop_token&) -> TileWorkers::Completion {
+        begun.set_value();
+        mayEnd.get_future().wait();
+        return [&isDone] { isDone = true; };
+    }});
+    begun.get_future().wait();
+    workers.remove(&one); // does not wait
+    std::promise<void> later;
+    workers.setJobs(&one, {[&](const std::stop_token&) -> TileWorkers::Completion {
+        later.set_value();
+        return {};
+    }});
+    mayEnd.set_value();
+    later.get_future().wait();
+    workers.wait(&one, patience);
+    EXPECT_FALSE(isDone);
+}
+
+TEST(TileWorkers, AJobOfAClientThatLeftIsToldToStop) {
+    TileWorkers workers(1);
+    std::promise<void> begun;
+    std::promise<void> stopped;
+    workers.setJobs(&one, {[&](const std::stop_token& stop) -> TileWorkers::Completion {
+        begun.set_value();
+        while (!stop.stop_requested()) {
+            std::this_thread::yield();
+        }
+        stopped.set_value();
+        return {};
+    }});
+    begun.get_future().wait();
     workers.remove(&one);
-    EXPECT_TRUE(ended);
+    EXPECT_EQ(stopped.get_future().wait_for(patience), std::future_status::ready);
+}
+
+TEST(TileWorkers, AJobThatThrowsCostsItselfOnly) {
+    TileWorkers workers(1);
+    bool isDone = false;
+    workers.setJobs(
+        &one,
+        {[](const std::stop_token&) -> TileWorkers::Completion { throw std::bad_alloc(); },
+         [&](const std::stop_token&) -> TileWorkers::Completion {
+             return [&isDone] { isDone = true; };
+         }});
+    workers.wait(&one, patience);
+    EXPECT_TRUE(isDone);
 }
 
 TEST(TileWorkers, ClientsTakeTurns) {
@@ -141,35 +219,40 @@ TEST(TileWorkers, WhoLeavesMayComeAgain) {
 TEST(TileWorkers, SeveralThreadsWorkAtOnce) {
     TileWorkers workers(3);
     std::latch together(3); // none goes on before the others have come
-    const auto meet = [&] { together.arrive_and_wait(); };
+    const auto meet = [&](const std::stop_token&) -> TileWorkers::Completion {
+        together.arrive_and_wait();
+        return {};
+    };
     workers.setJobs(&one, {meet, meet, meet});
     together.wait();
-    workers.remove(&one);
+    workers.wait(&one, patience);
 }
 
 TEST(TileWorkers, WithoutAThreadThereIsOne) {
     TileWorkers workers(0);
-    std::promise<void> done;
-    workers.setJobs(&one, {[&] { done.set_value(); }});
-    done.get_future().wait();
-    workers.remove(&one);
+    bool isDone = false;
+    workers.setJobs(&one, {[&](const std::stop_token&) -> TileWorkers::Completion {
+        return [&isDone] { isDone = true; };
+    }});
+    workers.wait(&one, patience);
+    EXPECT_TRUE(isDone);
 }
 
-TEST(TileWorkers, TheEndWaitsForWhatWasBegun) {
-    std::promise<void> begun;
-    std::promise<void> mayEnd;
-    std::atomic<bool> ended = false;
+TEST(TileWorkers, TheEndWaitsAMomentForWhatWasBegunAndNoLonger) {
+    const auto stuck = std::make_shared<std::promise<void>>();
+    const auto begun = std::make_shared<std::promise<void>>();
+    const auto start = std::chrono::steady_clock::now();
     {
         TileWorkers workers(1);
-        workers.setJobs(&one, {[&] {
-            begun.set_value();
-            mayEnd.get_future().wait();
-            ended = true;
+        workers.setJobs(&one, {[stuck, begun](const std::stop_token&) -> TileWorkers::Completion {
+            begun->set_value();
+            stuck->get_future().wait_for(patience);
+            return {};
         }});
-        begun.get_future().wait();
-        mayEnd.set_value();
+        begun->get_future().wait();
     }
-    EXPECT_TRUE(ended);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, patience / 2);
+    stuck->set_value();
 }
 
 } // namespace

@@ -160,17 +160,17 @@ TEST(SmoothZoom, AFactorThatIsNotPositiveMovesNothing) {
     }
 }
 
-TEST(NorthReset, TurnsTheShortWayToNorth) {
-    const NorthReset fromWest(cameraOf(300, 0), 0, 0);
+TEST(SmoothRotation, TurnsTheShortWayToNorth) {
+    const SmoothRotation fromWest(cameraOf(300, 0), 0, 0);
     EXPECT_GT(fromWest.cameraAt(0.05).pose().bearing, 300);
-    const NorthReset fromEast(cameraOf(60, 0), 0, 0);
+    const SmoothRotation fromEast(cameraOf(60, 0), 0, 0);
     EXPECT_LT(fromEast.cameraAt(0.05).pose().bearing, 60);
     EXPECT_GT(fromEast.cameraAt(0.05).pose().bearing, 0);
 }
 
-TEST(NorthReset, EndsUprightToTheLastBit) {
+TEST(SmoothRotation, EndsUprightToTheLastBit) {
     const Camera start = cameraOf(217.3, 41.7);
-    const NorthReset leveling(start, 0, 0);
+    const SmoothRotation leveling(start, 0, 0);
     EXPECT_FALSE(leveling.isFinished(0.24));
     ASSERT_TRUE(leveling.isFinished(0.25));
     EXPECT_TRUE(leveling.cameraAt(0.25).isUpright());

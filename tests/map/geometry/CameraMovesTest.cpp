@@ -93,7 +93,7 @@ TEST(CameraMoves, TurningKeepsTheGroundUnderThePointer) {
     forEveryCamera([](const Camera& camera) {
         for (const ScreenPoint place : places) {
             const MapPoint ground = camera.screenToWorld(place);
-            expectAt(camera.turned(-47, place).worldToScreen(ground), place);
+            expectAt(camera.rotated(-47, place).worldToScreen(ground), place);
         }
     });
 }
@@ -208,8 +208,8 @@ TEST(CameraMoves, WhatIsNoNumberMovesNothing) {
     EXPECT_EQ(camera.panned(nan, 1).pose(), camera.pose());
     EXPECT_EQ(camera.zoomed(infinity, {1, 1}).pose(), camera.pose());
     EXPECT_EQ(camera.zoomed(2, {1, nan}).pose(), camera.pose());
-    EXPECT_EQ(camera.turned(20, {nan, 1}).pose(), camera.pose());
-    EXPECT_EQ(camera.turned(nan, camera.focus()).pose().bearing, 30);
+    EXPECT_EQ(camera.rotated(20, {nan, 1}).pose(), camera.pose());
+    EXPECT_EQ(camera.rotated(nan, camera.focus()).pose().bearing, 30);
     EXPECT_EQ(camera.tilted(nan).pose(), camera.pose());
 }
 

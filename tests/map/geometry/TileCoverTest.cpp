@@ -16,8 +16,8 @@ int tilesAt(const std::vector<CoverTile>& cover, MapPoint point) {
     return static_cast<int>(
         std::count_if(cover.begin(), cover.end(), [point](const CoverTile& tile) {
             const MapRect bounds = tile.key.bounds();
-            return point.x >= bounds.x + tile.shift &&
-                   point.x < bounds.x + tile.shift + bounds.width && point.y >= bounds.y &&
+            return point.x >= bounds.x + tile.offset &&
+                   point.x < bounds.x + tile.offset + bounds.width && point.y >= bounds.y &&
                    point.y < bounds.y + bounds.height;
         }));
 }
@@ -49,7 +49,7 @@ TEST(TileCover, CrossesTheDateLine) {
     const auto cover = tileCover(camera, tileZoom(camera.scale()), 0);
     expectCovered(camera, cover);
     EXPECT_TRUE(std::any_of(
-        cover.begin(), cover.end(), [](const CoverTile& tile) { return tile.shift > 0; }));
+        cover.begin(), cover.end(), [](const CoverTile& tile) { return tile.offset > 0; }));
     for (const CoverTile& tile : cover) {
         EXPECT_GE(tile.key.column, 0);
         EXPECT_LT(tile.key.column, 1 << tile.key.zoom);
@@ -62,7 +62,7 @@ TEST(TileCover, RepeatsTheWorldInAWideWindow) {
     expectCovered(camera, cover);
     std::set<double> shifts;
     for (const CoverTile& tile : cover) {
-        shifts.insert(tile.shift);
+        shifts.insert(tile.offset);
     }
     EXPECT_GE(shifts.size(), 6U);
 }

@@ -16,8 +16,8 @@ class LabelAtlasTest : public testing::Test {
 
 Label label(const QString& text,
             LabelStyle style = LabelStyle::town,
-            BasemapTheme look = BasemapTheme::light) {
-    return {text, style, look};
+            BasemapTheme theme = BasemapTheme::light) {
+    return {text, style, theme};
 }
 
 QString longTitle() {
@@ -26,79 +26,89 @@ QString longTitle() {
         .trimmed();
 }
 
-/// The picture's pixels of a cut.
-QImage pixelsOf(const LabelAtlas& picture, const QRectF& cut) {
-    const double density = picture.image().devicePixelRatio();
-    return picture.image().copy(
-        QRectF(cut.topLeft() * density, cut.size() * density).toAlignedRect());
+/// The pixels of a place.
+QImage pixelsOf(const LabelAtlas& atlas, const std::optional<LabelAtlas::Place>& place) {
+    if (!place) {
+        return {};
+    }
+    const QImage& page = atlas.page(place->page);
+    const double density = page.devicePixelRatio();
+    const QRectF region = place->region;
+    return page.copy(QRectF(region.topLeft() * density, region.size() * density).toAlignedRect());
 }
 
-double inkOf(const QImage& image) {
-    double ink = 0;
+/// How much of an image is covered, in pixels.
+double coverageOf(const QImage& image) {
+    double coverage = 0;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            ink += image.pixelColor(x, y).alpha() / 255.0;
+            coverage += image.pixelColor(x, y).alpha() / 255.0;
         }
     }
-    return ink;
+    return coverage;
 }
 
 bool isEmpty(const QImage& row) {
-    return inkOf(row) == 0;
+    return coverageOf(row) == 0;
 }
 
 TEST_F(LabelAtlasTest, ATextIsDrawnOnceAndFoundAgain) {
-    LabelAtlas picture(1);
-    const QRectF cut = picture.cut(label(QStringLiteral("Edmonton")));
-    const std::uint64_t revision = picture.revision();
-    EXPECT_GT(inkOf(pixelsOf(picture, cut)), 100);
-    EXPECT_EQ(picture.cut(label(QStringLiteral("Edmonton"))), cut);
-    EXPECT_EQ(picture.revision(), revision);
+    LabelAtlas atlas(1);
+    const auto place = atlas.place(label(QStringLiteral("Edmonton")));
+    ASSERT_TRUE(place);
+    const qint64 image = atlas.page(place->page).cacheKey();
+    EXPECT_GT(coverageOf(pixelsOf(atlas, place)), 100);
+    const auto again = atlas.place(label(QStringLiteral("Edmonton")));
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->page, place->page);
+    EXPECT_EQ(again->region, place->region);
+    EXPECT_EQ(atlas.page(place->page).cacheKey(), image);
 }
 
 TEST_F(LabelAtlasTest, MeasuringDrawsNothing) {
-    LabelAtlas picture(1);
-    const std::uint64_t revision = picture.revision();
-    const QSizeF size = picture.size(label(QStringLiteral("Calgary")));
-    EXPECT_GT(size.width(), 30);
-    EXPECT_EQ(size.height(), 14);
-    EXPECT_EQ(picture.revision(), revision);
-    EXPECT_EQ(picture.cut(label(QStringLiteral("Calgary"))).size(),
-              size + QSizeF(2 * LabelAtlas::margin, 2 * LabelAtlas::margin));
+    LabelAtlas atlas(1);
+    const qint64 image = atlas.page(0).cacheKey();
+    const Label edmonton = label(QStringLiteral("Edmonton"));
+    EXPECT_FALSE(atlas.knows(edmonton));
+    EXPECT_FALSE(atlas.size(edmonton).isEmpty());
+    EXPECT_TRUE(atlas.knows(edmonton));
+    EXPECT_EQ(atlas.page(0).cacheKey(), image);
 }
 
-TEST_F(LabelAtlasTest, TextsOfOtherStylesAndLooksStandApart) {
-    LabelAtlas picture(1);
-    std::vector<QRectF> cuts;
+TEST_F(LabelAtlasTest, TextsOfOtherStylesAndThemesStandApart) {
+    LabelAtlas atlas(1);
+    std::vector<LabelAtlas::Place> places;
     for (const LabelStyle style : {LabelStyle::country,
                                    LabelStyle::region,
                                    LabelStyle::city,
                                    LabelStyle::town,
                                    LabelStyle::water,
-                                   LabelStyle::title}) {
-        for (const BasemapTheme look :
+                                   LabelStyle::record}) {
+        for (const BasemapTheme theme :
              {BasemapTheme::light, BasemapTheme::dark, BasemapTheme::hybrid}) {
-            cuts.push_back(picture.cut(label(QStringLiteral("Alberta"), style, look)));
+            places.push_back(*atlas.place(label(QStringLiteral("Alberta"), style, theme)));
         }
     }
-    cuts.push_back(picture.markCut(BasemapTheme::light));
-    cuts.push_back(picture.markCut(BasemapTheme::dark));
-    for (std::size_t i = 0; i < cuts.size(); ++i) {
-        EXPECT_FALSE(isEmpty(pixelsOf(picture, cuts[i]))) << i;
+    places.push_back(atlas.placeMark(BasemapTheme::light));
+    places.push_back(atlas.placeMark(BasemapTheme::dark));
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        EXPECT_FALSE(isEmpty(pixelsOf(atlas, places[i]))) << i;
         for (std::size_t k = 0; k < i; ++k) {
-            EXPECT_FALSE(cuts[i].intersects(cuts[k])) << i << " and " << k;
+            EXPECT_FALSE(places[i].page == places[k].page &&
+                         places[i].region.intersects(places[k].region))
+                << i << " and " << k;
         }
     }
 }
 
-TEST_F(LabelAtlasTest, TextAndHaloLieWhollyInTheirCut) {
-    // The rim of a cut is empty: nothing was cut off.
+TEST_F(LabelAtlasTest, TextAndHaloLieWhollyInTheirRegion) {
+    // The rim of a region is empty: nothing was cut off.
     for (const double density : {1.0, 1.5, 2.0}) {
-        LabelAtlas picture(density);
+        LabelAtlas atlas(density);
         for (const QString& text : {QStringLiteral("Fjäll"), QStringLiteral("Wijk"), longTitle()}) {
             for (const LabelStyle style :
-                 {LabelStyle::region, LabelStyle::water, LabelStyle::title}) {
-                const QImage pixels = pixelsOf(picture, picture.cut(label(text, style)));
+                 {LabelStyle::region, LabelStyle::water, LabelStyle::record}) {
+                const QImage pixels = pixelsOf(atlas, atlas.place(label(text, style)));
                 EXPECT_TRUE(isEmpty(pixels.copy(0, 0, pixels.width(), 1))) << density;
                 EXPECT_TRUE(isEmpty(pixels.copy(0, pixels.height() - 1, pixels.width(), 1)))
                     << density;
@@ -109,10 +119,10 @@ TEST_F(LabelAtlasTest, TextAndHaloLieWhollyInTheirCut) {
 
 TEST_F(LabelAtlasTest, TheHaloIsWhatTheTextStandsOn) {
     // Light letters on the dark map, dark ones on the light map.
-    LabelAtlas picture(2);
-    const auto lightnessOf = [&](BasemapTheme look) {
+    LabelAtlas atlas(2);
+    const auto lightnessOf = [&](BasemapTheme theme) {
         const QImage pixels =
-            pixelsOf(picture, picture.cut(label(QStringLiteral("HHHH"), LabelStyle::city, look)));
+            pixelsOf(atlas, atlas.place(label(QStringLiteral("HHHH"), LabelStyle::city, theme)));
         std::array<int, 2> range{255, 0};
         for (int y = 0; y < pixels.height(); ++y) {
             for (int x = 0; x < pixels.width(); ++x) {
@@ -125,38 +135,38 @@ TEST_F(LabelAtlasTest, TheHaloIsWhatTheTextStandsOn) {
         }
         return range;
     };
-    for (const BasemapTheme look :
+    for (const BasemapTheme theme :
          {BasemapTheme::light, BasemapTheme::dark, BasemapTheme::hybrid, BasemapTheme::satellite}) {
-        const std::array<int, 2> range = lightnessOf(look);
+        const std::array<int, 2> range = lightnessOf(theme);
         EXPECT_LT(range[0], 80);
         EXPECT_GT(range[1], 180);
     }
 }
 
-TEST_F(LabelAtlasTest, ALongNameTakesTwoLinesOfAboutOneLength) {
-    LabelAtlas picture(1);
-    const QSizeF one = picture.size(label(QStringLiteral("Yellowknife")));
-    const QSizeF two = picture.size(label(QStringLiteral("Saint-Louis-du-Ha! Ha! Sainte-Anne")));
+TEST_F(LabelAtlasTest, ALongTextTakesTwoLinesOfAboutOneLength) {
+    LabelAtlas atlas(1);
+    const QSizeF one = atlas.size(label(QStringLiteral("Yellowknife")));
+    const QSizeF two = atlas.size(label(QStringLiteral("Saint-Louis-du-Ha! Ha! Sainte-Anne")));
     EXPECT_EQ(two.height(), 2 * one.height());
     EXPECT_LT(two.width(), 120);
 }
 
-TEST_F(LabelAtlasTest, ATitleThatNeedsMoreThanTwoLinesEndsInAnEllipsis) {
+TEST_F(LabelAtlasTest, ATextThatNeedsMoreThanTwoLinesEndsInAnEllipsis) {
     // What follows the ellipsis makes no difference; what stands before it does.
-    LabelAtlas picture(1);
+    LabelAtlas atlas(1);
     const QString title = longTitle();
-    const QRectF cut = picture.cut(label(title, LabelStyle::title));
-    EXPECT_EQ(picture.size(label(title, LabelStyle::title)).height(), 28);
-    EXPECT_LE(cut.width(), 170 + 2 * LabelAtlas::margin);
-    const QRectF other = picture.cut(label(title + QStringLiteral(" and more"), LabelStyle::title));
-    EXPECT_EQ(pixelsOf(picture, other), pixelsOf(picture, cut));
+    const auto place = atlas.place(label(title, LabelStyle::record));
+    EXPECT_EQ(atlas.size(label(title, LabelStyle::record)).height(), 28);
+    EXPECT_LE(place->region.width(), 170 + 2 * LabelAtlas::margin);
+    const auto other = atlas.place(label(title + QStringLiteral(" and more"), LabelStyle::record));
+    EXPECT_EQ(pixelsOf(atlas, other), pixelsOf(atlas, place));
     const QString fitting = title.left(20);
-    EXPECT_NE(pixelsOf(picture, picture.cut(label(fitting, LabelStyle::title))),
-              pixelsOf(picture, picture.cut(label(fitting + QChar(0x2026), LabelStyle::title))));
+    EXPECT_NE(pixelsOf(atlas, atlas.place(label(fitting, LabelStyle::record))),
+              pixelsOf(atlas, atlas.place(label(fitting + QChar(0x2026), LabelStyle::record))));
 }
 
 TEST_F(LabelAtlasTest, TextsOfAllScriptsAndSensesAreDrawnWithinTheirSize) {
-    LabelAtlas picture(2);
+    LabelAtlas atlas(2);
     const std::array texts{
         QStringLiteral("\u0627\u0644\u0645\u063A\u0631\u0628"),                 // right to left
         QStringLiteral("\u05D9\u05E8\u05D5\u05E9\u05DC\u05D9\u05DD Jerusalem"), // both ways
@@ -168,49 +178,72 @@ TEST_F(LabelAtlasTest, TextsOfAllScriptsAndSensesAreDrawnWithinTheirSize) {
         QStringLiteral("M").repeated(100'000),
     };
     for (const QString& text : texts) {
-        const QSizeF size = picture.size(label(text));
-        const QRectF cut = picture.cut(label(text));
+        const QSizeF size = atlas.size(label(text));
+        const auto place = atlas.place(label(text));
         EXPECT_GT(size.width(), 0) << text.left(20).toStdString();
         EXPECT_LE(size.width(), 121) << text.left(20).toStdString();
         EXPECT_LE(size.height(), 28) << text.left(20).toStdString();
-        EXPECT_FALSE(isEmpty(pixelsOf(picture, cut))) << text.left(20).toStdString();
+        EXPECT_FALSE(isEmpty(pixelsOf(atlas, place))) << text.left(20).toStdString();
     }
 }
 
-TEST_F(LabelAtlasTest, NoTextHasNoSizeAndNoCut) {
-    LabelAtlas picture(1);
+TEST_F(LabelAtlasTest, NoTextHasNoSizeAndNoPlace) {
+    LabelAtlas atlas(1);
     for (const QString& text : {QString(), QStringLiteral("  \n ")}) {
-        EXPECT_TRUE(picture.size(label(text)).isEmpty());
-        EXPECT_TRUE(picture.cut(label(text)).isEmpty());
+        EXPECT_TRUE(atlas.size(label(text)).isEmpty());
+        EXPECT_FALSE(atlas.place(label(text)));
     }
 }
 
-TEST_F(LabelAtlasTest, WhatWasDrawnSurvivesThePicturesGrowth) {
-    LabelAtlas picture(2);
-    const Label first = label(QStringLiteral("Whitehorse"));
-    const QRectF cut = picture.cut(first);
-    const QImage before = pixelsOf(picture, cut);
-    const int height = picture.image().height();
-    for (int i = 0; picture.image().height() == height; ++i) {
+TEST_F(LabelAtlasTest, ANewTextChangesOnePageOnly) {
+    LabelAtlas atlas(2);
+    for (int i = 0; atlas.pages() < 3; ++i) {
         ASSERT_LT(i, 10'000);
-        (void)picture.cut(label(QStringLiteral("Town %1").arg(i)));
+        (void)atlas.place(label(QStringLiteral("Town %1").arg(i)));
     }
-    EXPECT_EQ(picture.generation(), 0U);
-    EXPECT_EQ(picture.cut(first), cut);
-    EXPECT_EQ(pixelsOf(picture, cut), before);
+    std::vector<qint64> before;
+    for (std::size_t page = 0; page < atlas.pages(); ++page) {
+        before.push_back(atlas.page(page).cacheKey());
+    }
+    const auto place = atlas.place(label(QStringLiteral("Whitehorse")));
+    ASSERT_TRUE(place);
+    for (std::size_t page = 0; page < before.size(); ++page) {
+        EXPECT_EQ(atlas.page(page).cacheKey() == before[page], page != place->page) << page;
+    }
 }
 
-TEST_F(LabelAtlasTest, AFullPictureStartsAnewAndSaysSo) {
-    LabelAtlas picture(4);
+TEST_F(LabelAtlasTest, WhatAFrameUsesIsKeptHoweverMuchIsDrawn) {
+    LabelAtlas atlas(1);
+    atlas.beginFrame();
     const Label first = label(QStringLiteral("Whitehorse"));
-    (void)picture.cut(first);
-    for (int i = 0; picture.generation() == 0; ++i) {
-        ASSERT_LT(i, 10'000);
-        (void)picture.cut(label(QStringLiteral("A rather long name of a town %1").arg(i)));
+    const auto place = atlas.place(first);
+    const QImage before = pixelsOf(atlas, place);
+    for (int i = 0; i < 2'000; ++i) {
+        (void)atlas.place(label(QStringLiteral("A rather long name of a town %1").arg(i)));
     }
-    EXPECT_LE(picture.image().height(), 4096);
-    const QRectF again = picture.cut(first);
-    EXPECT_FALSE(isEmpty(pixelsOf(picture, again)));
+    EXPECT_EQ(pixelsOf(atlas, place), before);
+}
+
+TEST_F(LabelAtlasTest, ThePageUsedLongestAgoMakesRoomForNewTexts) {
+    LabelAtlas atlas(1);
+    atlas.beginFrame();
+    const Label often = label(QStringLiteral("Whitehorse"));
+    const Label seldom = label(QStringLiteral("A long name that is on the second page"));
+    const auto place = atlas.place(often);
+    for (int i = 0; atlas.pages() < 2; ++i) {
+        (void)atlas.place(label(QStringLiteral("Town %1").arg(i)));
+    }
+    (void)atlas.place(seldom);
+    std::size_t most = 0;
+    for (int i = 0; i < 5'000; ++i) {
+        atlas.beginFrame();
+        ASSERT_EQ(atlas.place(often)->region, place->region) << "used in every frame";
+        (void)atlas.place(label(QStringLiteral("A rather long name of a town %1").arg(i)));
+        most = std::max(most, atlas.pages());
+    }
+    EXPECT_LE(most, 16U);
+    EXPECT_FALSE(atlas.knows(seldom));
+    EXPECT_FALSE(isEmpty(pixelsOf(atlas, atlas.place(seldom))));
 }
 
 TEST_F(LabelAtlasTest, AtTwiceTheDensityALabelIsAsLargeAndTwiceAsFine) {
@@ -218,12 +251,12 @@ TEST_F(LabelAtlasTest, AtTwiceTheDensityALabelIsAsLargeAndTwiceAsFine) {
     LabelAtlas two(2);
     const Label name = label(QStringLiteral("Thunder Bay"), LabelStyle::city);
     EXPECT_NEAR(one.size(name).width(), two.size(name).width(), 2);
-    EXPECT_NEAR(inkOf(pixelsOf(two, two.cut(name))) / 4,
-                inkOf(pixelsOf(one, one.cut(name))),
-                0.2 * inkOf(pixelsOf(one, one.cut(name))));
+    EXPECT_NEAR(coverageOf(pixelsOf(two, two.place(name))) / 4,
+                coverageOf(pixelsOf(one, one.place(name))),
+                0.2 * coverageOf(pixelsOf(one, one.place(name))));
 }
 
-TEST_F(LabelAtlasTest, TheDesktopsTextScaleMakesNamesLarger) {
+TEST_F(LabelAtlasTest, TheDesktopsTextScaleMakesLabelsLarger) {
     LabelAtlas plain(1);
     LabelAtlas large(1, 1.5);
     const Label name = label(QStringLiteral("Thunder Bay"));

@@ -55,7 +55,7 @@ void expectNoOverlap(const std::vector<PlacedLabel>& placed,
 TEST(LabelPlacement, ALabelAloneStandsToTheRightOfItsPoint) {
     LabelPlacement layout;
     const std::vector<LabelCandidate> candidates{label(1, {100, 100})};
-    const std::vector<PlacedLabel>& placed = layout.layOut(candidates, {}, screen);
+    const std::vector<PlacedLabel>& placed = layout.place(candidates, {}, screen);
     ASSERT_EQ(placed.size(), 1U);
     EXPECT_EQ(placed[0].side, LabelSide::right);
     EXPECT_EQ(placed[0].rect, (ScreenRect{106, 92, 80, 16}));
@@ -64,22 +64,22 @@ TEST(LabelPlacement, ALabelAloneStandsToTheRightOfItsPoint) {
 TEST(LabelPlacement, WhereTheRightIsTakenItGoesLeftThenAboveThenBelow) {
     const std::vector<LabelCandidate> candidates{label(1, {200, 100})};
     std::vector<ScreenRect> obstacles{{204, 98, 4, 4}};
-    EXPECT_EQ(LabelPlacement().layOut(candidates, obstacles, screen)[0].side, LabelSide::left);
+    EXPECT_EQ(LabelPlacement().place(candidates, obstacles, screen)[0].side, LabelSide::left);
     obstacles.push_back({190, 98, 4, 4});
-    EXPECT_EQ(LabelPlacement().layOut(candidates, obstacles, screen)[0].side, LabelSide::above);
+    EXPECT_EQ(LabelPlacement().place(candidates, obstacles, screen)[0].side, LabelSide::above);
     obstacles.push_back({198, 80, 4, 4});
-    EXPECT_EQ(LabelPlacement().layOut(candidates, obstacles, screen)[0].side, LabelSide::below);
+    EXPECT_EQ(LabelPlacement().place(candidates, obstacles, screen)[0].side, LabelSide::below);
     obstacles.push_back({198, 116, 4, 4});
-    EXPECT_TRUE(LabelPlacement().layOut(candidates, obstacles, screen).empty());
+    EXPECT_TRUE(LabelPlacement().place(candidates, obstacles, screen).empty());
 }
 
-TEST(LabelPlacement, ANameOfAnAreaStandsOnItsPointOnly) {
+TEST(LabelPlacement, TheLabelOfAnAreaStandsOnItsPointOnly) {
     std::vector<LabelCandidate> candidates{label(1, {200, 100})};
     candidates[0].sides = onThePoint;
-    EXPECT_EQ(LabelPlacement().layOut(candidates, {}, screen)[0].rect,
+    EXPECT_EQ(LabelPlacement().place(candidates, {}, screen)[0].rect,
               (ScreenRect{160, 92, 80, 16}));
     EXPECT_TRUE(LabelPlacement()
-                    .layOut(candidates, std::vector<ScreenRect>{{200, 100, 1, 1}}, screen)
+                    .place(candidates, std::vector<ScreenRect>{{200, 100, 1, 1}}, screen)
                     .empty());
 }
 
@@ -89,7 +89,7 @@ TEST(LabelPlacement, LabelsOverlapNeitherEachOtherNorObstaclesAndLieInTheBounds)
     for (unsigned seed = 1; seed <= 20; ++seed) {
         LabelPlacement layout;
         const std::vector<LabelCandidate> candidates = crowd(seed, 500);
-        const std::vector<PlacedLabel>& placed = layout.layOut(candidates, obstacles, screen);
+        const std::vector<PlacedLabel>& placed = layout.place(candidates, obstacles, screen);
         EXPECT_GT(placed.size(), 100U);
         expectNoOverlap(placed, obstacles);
         for (const PlacedLabel& each : placed) {
@@ -105,18 +105,18 @@ TEST(LabelPlacement, TheMoreImportantStandsWhereTwoWantOnePlace) {
         candidate.sides = onThePoint;
     }
     LabelPlacement layout;
-    EXPECT_EQ(idsOf(layout.layOut(candidates, {}, screen), candidates),
+    EXPECT_EQ(idsOf(layout.place(candidates, {}, screen), candidates),
               (std::set<std::uint64_t>{2}));
 }
 
-TEST(LabelPlacement, TheOrderIsThatOfPrecedenceThenOfTheCandidates) {
+TEST(LabelPlacement, TheOrderIsThatOfPriorityThenOfTheCandidates) {
     const std::vector<LabelCandidate> candidates{label(1, {100, 100}, 3),
                                                  label(2, {400, 100}, 1),
                                                  label(3, {100, 400}, 3),
                                                  label(4, {400, 400}, 2)};
     LabelPlacement layout;
     std::vector<std::uint64_t> order;
-    for (const PlacedLabel& each : layout.layOut(candidates, {}, screen)) {
+    for (const PlacedLabel& each : layout.place(candidates, {}, screen)) {
         order.push_back(candidates[each.candidate].id);
     }
     EXPECT_EQ(order, (std::vector<std::uint64_t>{2, 4, 1, 3}));
@@ -127,10 +127,10 @@ TEST(LabelPlacement, ARequiredLabelStandsWhateverIsInItsWay) {
     candidates[1].isRequired = true;
     LabelPlacement layout;
     const std::vector<ScreenRect> everywhere{{0, 0, 960, 700}};
-    EXPECT_EQ(idsOf(layout.layOut(candidates, everywhere, screen), candidates),
+    EXPECT_EQ(idsOf(layout.place(candidates, everywhere, screen), candidates),
               (std::set<std::uint64_t>{2}));
     LabelPlacement other;
-    const std::vector<PlacedLabel>& placed = other.layOut(candidates, {}, screen);
+    const std::vector<PlacedLabel>& placed = other.place(candidates, {}, screen);
     ASSERT_EQ(placed.size(), 2U);
     EXPECT_EQ(candidates[placed[0].candidate].id, 2U);
     EXPECT_EQ(placed[0].side, LabelSide::right);
@@ -142,10 +142,10 @@ TEST(LabelPlacement, WhileTheMapIsDraggedALabelStaysOnItsSide) {
     const std::vector<LabelCandidate> candidates{label(1, {200, 100})};
     LabelPlacement layout;
     const std::vector<ScreenRect> obstacle{{210, 90, 20, 20}};
-    EXPECT_EQ(layout.layOut(candidates, obstacle, screen)[0].side, LabelSide::left);
-    EXPECT_EQ(layout.layOut(candidates, {}, screen)[0].side, LabelSide::left);
+    EXPECT_EQ(layout.place(candidates, obstacle, screen)[0].side, LabelSide::left);
+    EXPECT_EQ(layout.place(candidates, {}, screen)[0].side, LabelSide::left);
     LabelPlacement another;
-    EXPECT_EQ(another.layOut(candidates, {}, screen)[0].side, LabelSide::right);
+    EXPECT_EQ(another.place(candidates, {}, screen)[0].side, LabelSide::right);
 }
 
 TEST(LabelPlacement, ANewcomerTakesAPlaceOnlyWhereItIsClearlyMoreImportant) {
@@ -155,11 +155,11 @@ TEST(LabelPlacement, ANewcomerTakesAPlaceOnlyWhereItIsClearlyMoreImportant) {
     }
     LabelPlacement layout;
     const std::vector<LabelCandidate> first{candidates[0]};
-    ASSERT_EQ(layout.layOut(first, {}, screen).size(), 1U);
-    EXPECT_EQ(idsOf(layout.layOut(candidates, {}, screen), candidates),
+    ASSERT_EQ(layout.place(first, {}, screen).size(), 1U);
+    EXPECT_EQ(idsOf(layout.place(candidates, {}, screen), candidates),
               (std::set<std::uint64_t>{1}));
     candidates[1].priority = 3.5;
-    EXPECT_EQ(idsOf(layout.layOut(candidates, {}, screen), candidates),
+    EXPECT_EQ(idsOf(layout.place(candidates, {}, screen), candidates),
               (std::set<std::uint64_t>{2}));
 }
 
@@ -167,13 +167,13 @@ TEST(LabelPlacement, DraggingACrowdTakesNoLabelThatHasItsRoom) {
     // All move together, so that whoever stood finds its place free again; those at the rim go.
     LabelPlacement layout;
     std::vector<LabelCandidate> candidates = crowd(7, 400);
-    std::set<std::uint64_t> standing = idsOf(layout.layOut(candidates, {}, screen), candidates);
+    std::set<std::uint64_t> standing = idsOf(layout.place(candidates, {}, screen), candidates);
     for (int step = 0; step < 40; ++step) {
         for (LabelCandidate& candidate : candidates) {
             candidate.anchor.x += 3;
             candidate.anchor.y -= 2;
         }
-        const std::vector<PlacedLabel>& placed = layout.layOut(candidates, {}, screen);
+        const std::vector<PlacedLabel>& placed = layout.place(candidates, {}, screen);
         expectNoOverlap(placed, {});
         const std::set<std::uint64_t> now = idsOf(placed, candidates);
         int gone = 0;
@@ -193,32 +193,32 @@ TEST(LabelPlacement, AStandingLabelIsPushedOutOfTheBoundsBitByBitButNoneAppearsS
     std::vector<LabelCandidate> candidates{label(1, {850, 100})};
     candidates[0].sides = LabelSides(LabelSide::right);
     LabelPlacement layout;
-    ASSERT_EQ(layout.layOut(candidates, {}, screen).size(), 1U);
+    ASSERT_EQ(layout.place(candidates, {}, screen).size(), 1U);
     candidates[0].anchor.x = 920;
-    EXPECT_EQ(layout.layOut(candidates, {}, screen).size(), 1U);
-    EXPECT_TRUE(LabelPlacement().layOut(candidates, {}, screen).empty());
+    EXPECT_EQ(layout.place(candidates, {}, screen).size(), 1U);
+    EXPECT_TRUE(LabelPlacement().place(candidates, {}, screen).empty());
     candidates[0].anchor.x = 970;
-    EXPECT_TRUE(layout.layOut(candidates, {}, screen).empty());
+    EXPECT_TRUE(layout.place(candidates, {}, screen).empty());
 }
 
-TEST(LabelPlacement, OfOneNameOnlyOneStandsNearBy) {
+TEST(LabelPlacement, OfOneTextOnlyOneStandsNearBy) {
     std::vector<LabelCandidate> candidates{
         label(1, {200, 100}), label(2, {200, 300}), label(3, {800, 600})};
     for (LabelCandidate& candidate : candidates) {
-        candidate.name = 77;
+        candidate.text = 77;
     }
     LabelPlacement layout;
-    EXPECT_EQ(idsOf(layout.layOut(candidates, {}, screen), candidates),
+    EXPECT_EQ(idsOf(layout.place(candidates, {}, screen), candidates),
               (std::set<std::uint64_t>{1, 3}));
 }
 
-TEST(LabelPlacement, TheSameWishesGiveTheSameLayout) {
+TEST(LabelPlacement, TheSameCandidatesGiveTheSamePlacement) {
     const std::vector<LabelCandidate> candidates = crowd(3, 300);
     LabelPlacement one;
     LabelPlacement other;
     for (int i = 0; i < 3; ++i) {
-        const std::vector<PlacedLabel> a = one.layOut(candidates, {}, screen);
-        const std::vector<PlacedLabel> b = other.layOut(candidates, {}, screen);
+        const std::vector<PlacedLabel> a = one.place(candidates, {}, screen);
+        const std::vector<PlacedLabel> b = other.place(candidates, {}, screen);
         ASSERT_EQ(a.size(), b.size());
         for (std::size_t k = 0; k < a.size(); ++k) {
             EXPECT_EQ(a[k].candidate, b[k].candidate);
@@ -230,9 +230,9 @@ TEST(LabelPlacement, TheSameWishesGiveTheSameLayout) {
 TEST(LabelPlacement, AStillMapIsStill) {
     const std::vector<LabelCandidate> candidates = crowd(11, 300);
     LabelPlacement layout;
-    const std::set<std::uint64_t> first = idsOf(layout.layOut(candidates, {}, screen), candidates);
+    const std::set<std::uint64_t> first = idsOf(layout.place(candidates, {}, screen), candidates);
     for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(idsOf(layout.layOut(candidates, {}, screen), candidates), first);
+        EXPECT_EQ(idsOf(layout.place(candidates, {}, screen), candidates), first);
     }
 }
 
@@ -246,10 +246,10 @@ TEST(LabelPlacement, SenselessValuesCostOnlyTheirLabel) {
     candidates[3].width = -4;
     LabelPlacement layout;
     const std::vector<ScreenRect> obstacles{{nan, 0, 1, 1}, {0, 0, -5, 3}, {-1e300, 0, 1, 1}};
-    EXPECT_EQ(idsOf(layout.layOut(candidates, obstacles, screen), candidates),
+    EXPECT_EQ(idsOf(layout.place(candidates, obstacles, screen), candidates),
               (std::set<std::uint64_t>{5}));
-    EXPECT_TRUE(layout.layOut(candidates, {}, {0, 0, nan, 5}).empty());
-    EXPECT_TRUE(layout.layOut(candidates, {}, {0, 0, 0, 0}).empty());
+    EXPECT_TRUE(layout.place(candidates, {}, {0, 0, nan, 5}).empty());
+    EXPECT_TRUE(layout.place(candidates, {}, {0, 0, 0, 0}).empty());
 }
 
 } // namespace

@@ -16,66 +16,69 @@ class MapLabelsTest : public testing::Test {
   protected:
     static void SetUpTestSuite() { installInterfaceFont(); }
 
-    MapLabelsTest() {
-        picture.size = {viewport.width, viewport.height};
-        LabelAtlas labels(1);
-        ring = labels.markCut(BasemapTheme::light).size();
+    MapLabelsTest() { ring = LabelAtlas(1).placeMark(BasemapTheme::light).region.size(); }
+
+    void compose(double textScale = 1) { compose(camera, textScale); }
+    void compose(const Camera& seen, double textScale = 1) {
+        layer = labels.compose({.camera = seen,
+                                .theme = BasemapTheme::light,
+                                .devicePixels = 1,
+                                .textScale = textScale,
+                                .places = places,
+                                .records = records,
+                                .obstacles = controls,
+                                .isMoving = false});
+    }
+    void addPlace(const QString& text,
+                  ScreenPoint where,
+                  double priority = 1,
+                  PlaceLabel::Kind kind = PlaceLabel::Kind::town) {
+        places.push_back({text, camera.screenToWorld(where), kind, priority});
+    }
+    void addPin(ScreenPoint tip, const QString& text, bool isRequired = false) {
+        const double width = pinWidth * (isRequired ? selectedPinScale : 1);
+        const double height = pinHeight * (isRequired ? selectedPinScale : 1);
+        const ScreenRect box{tip.x - width / 2, tip.y - height, width, height};
+        records.push_back({records.size(), box, text, isRequired});
     }
 
-    void place(double textScale = 1) { mapNames.place(names, pins, camera, textScale, picture); }
-    void addName(const QString& text,
-                 ScreenPoint where,
-                 double priority = 1,
-                 PlaceLabel::Kind kind = PlaceLabel::Kind::town) {
-        names.push_back({text, camera.screenToWorld(where), kind, priority});
+    [[nodiscard]] std::vector<Sprite> sprites() const {
+        std::vector<Sprite> all;
+        for (const SpriteSheet& sheet : layer.sheets) {
+            EXPECT_EQ(sheet.atlas.isNull(), sheet.sprites.empty());
+            all.insert(all.end(), sheet.sprites.begin(), sheet.sprites.end());
+        }
+        return all;
     }
-    void addPin(ScreenPoint tip, const QString& title, bool isRequired = false) {
-        const double scale = isRequired ? selectedPinScale : 1;
-        const auto asset = static_cast<AssetIndex>(pins.size());
-        pins.push_back({tip, scale, title, asset, isRequired});
-    }
-
-    /// What the names cover: their sprites without the room for halos, and without the rings.
+    /// What the texts cover: their sprites without the room for halos, and without the rings.
     [[nodiscard]] std::vector<ScreenRect> texts() const {
         std::vector<ScreenRect> rects;
-        for (const Sprite& sprite : picture.names.sprites) {
-            if (sprite.cut.size() != ring) {
+        for (const Sprite& sprite : sprites()) {
+            if (sprite.region.size() != ring) {
                 rects.push_back({sprite.corner.x + LabelAtlas::margin,
                                  sprite.corner.y + LabelAtlas::margin,
-                                 sprite.cut.width() - 2 * LabelAtlas::margin,
-                                 sprite.cut.height() - 2 * LabelAtlas::margin});
+                                 sprite.region.width() - 2 * LabelAtlas::margin,
+                                 sprite.region.height() - 2 * LabelAtlas::margin});
             }
         }
         return rects;
     }
-    [[nodiscard]] std::size_t rings() const {
-        return picture.names.sprites.size() - texts().size();
-    }
-    [[nodiscard]] std::vector<ScreenRect> pinBoxes() const {
-        std::vector<ScreenRect> boxes;
-        for (const LabelledPin& pin : pins) {
-            boxes.push_back({pin.tip.x - pinWidth * pin.scale / 2,
-                             pin.tip.y - pinHeight * pin.scale,
-                             pinWidth * pin.scale,
-                             pinHeight * pin.scale});
-        }
-        return boxes;
-    }
+    [[nodiscard]] std::size_t rings() const { return sprites().size() - texts().size(); }
 
     const Camera camera{canadaOverview, viewport};
-    std::vector<PlaceLabel> names;
-    std::vector<LabelledPin> pins;
-    MapLabels mapNames;
-    MapFrame picture;
+    std::vector<PlaceLabel> places;
+    std::vector<RecordLabel> records;
+    std::vector<ScreenRect> controls;
+    MapLabels labels;
+    SpriteLayer layer;
     QSizeF ring;
 };
 
-TEST_F(MapLabelsTest, APlacesNameStandsBesideItsRing) {
-    addName(QStringLiteral("Red Deer"), {400, 300});
-    place();
+TEST_F(MapLabelsTest, TheLabelOfAPlaceStandsBesideItsRing) {
+    addPlace(QStringLiteral("Red Deer"), {400, 300});
+    compose();
     ASSERT_EQ(texts().size(), 1U);
     EXPECT_EQ(rings(), 1U);
-    EXPECT_FALSE(picture.names.image.isNull());
     const ScreenRect text = texts().front();
     EXPECT_GT(text.x, 400);
     EXPECT_LT(text.x, 415);
@@ -83,36 +86,35 @@ TEST_F(MapLabelsTest, APlacesNameStandsBesideItsRing) {
 }
 
 TEST_F(MapLabelsTest, ThatOfACountryOrAWaterStandsOnItsPointWithoutARing) {
-    addName(QStringLiteral("Canada"), {400, 300}, 1, PlaceLabel::Kind::country);
-    addName(QStringLiteral("Hudson Bay"), {600, 500}, 1, PlaceLabel::Kind::water);
-    place();
+    addPlace(QStringLiteral("Canada"), {400, 300}, 1, PlaceLabel::Kind::country);
+    addPlace(QStringLiteral("Hudson Bay"), {600, 500}, 1, PlaceLabel::Kind::water);
+    compose();
     ASSERT_EQ(texts().size(), 2U);
     EXPECT_EQ(rings(), 0U);
     EXPECT_NEAR(texts()[0].x + texts()[0].width / 2, 400, 1);
     EXPECT_NEAR(texts()[1].x + texts()[1].width / 2, 600, 1);
 }
 
-TEST_F(MapLabelsTest, NamesOverlapNeitherEachOtherNorPinsNorTheCornersOfControls) {
+TEST_F(MapLabelsTest, LabelsOverlapNeitherEachOtherNorPinsNorControls) {
     std::mt19937 random(5);
     std::uniform_real_distribution<double> across(0, viewport.width);
     std::uniform_real_distribution<double> down(0, viewport.height);
     for (int i = 0; i < 150; ++i) {
-        addName(QStringLiteral("Place number %1").arg(i), {across(random), down(random)}, i);
+        addPlace(QStringLiteral("Place number %1").arg(i), {across(random), down(random)}, i);
     }
     for (int i = 0; i < 25; ++i) {
         addPin({across(random), down(random)}, QStringLiteral("Record number %1").arg(i));
     }
-    place();
+    controls = {{viewport.width - 300, 0, 300, 200}, {0, viewport.height - 90, 400, 90}};
+    compose();
     const auto placed = texts();
     ASSERT_GE(placed.size(), 30U);
-    const std::vector<ScreenRect> controls{{viewport.width - 60, 0, 60, 150},
-                                           {0, viewport.height - 50, 180, 50}};
     for (std::size_t i = 0; i < placed.size(); ++i) {
         for (std::size_t other = 0; other < i; ++other) {
             EXPECT_FALSE(placed[i].overlaps(placed[other])) << i << ' ' << other;
         }
-        for (const ScreenRect& box : pinBoxes()) {
-            EXPECT_FALSE(placed[i].overlaps(box)) << i;
+        for (const RecordLabel& record : records) {
+            EXPECT_FALSE(placed[i].overlaps(record.pin)) << i;
         }
         for (const ScreenRect& control : controls) {
             EXPECT_FALSE(placed[i].overlaps(control)) << i;
@@ -120,76 +122,76 @@ TEST_F(MapLabelsTest, NamesOverlapNeitherEachOtherNorPinsNorTheCornersOfControls
     }
 }
 
-TEST_F(MapLabelsTest, WhereTwoNamesCompeteTheMoreImportantStands) {
-    addName(QStringLiteral("Village"), {401, 300}, 9);
-    addName(QStringLiteral("Metropolis"), {400, 300}, 1, PlaceLabel::Kind::country);
-    place();
-    LabelAtlas labels(1);
+TEST_F(MapLabelsTest, WhereTwoLabelsCompeteTheMoreImportantStands) {
+    addPlace(QStringLiteral("Village"), {401, 300}, 9);
+    addPlace(QStringLiteral("Metropolis"), {400, 300}, 1, PlaceLabel::Kind::country);
+    compose();
+    LabelAtlas atlas(1);
     const double width =
-        labels.size({QStringLiteral("Metropolis"), LabelStyle::country, BasemapTheme::light})
+        atlas.size({QStringLiteral("Metropolis"), LabelStyle::country, BasemapTheme::light})
             .width();
     ASSERT_FALSE(texts().empty());
     EXPECT_EQ(texts().front().width, width);
 }
 
-TEST_F(MapLabelsTest, TheTitleOfTheSelectedRecordStandsInAnyCase) {
+TEST_F(MapLabelsTest, TheLabelOfTheSelectedRecordStandsInAnyCase) {
     for (double x = 40; x < 880; x += 12) { // a wall of pins
         addPin({x, 320}, {});
         addPin({x, 350}, {});
     }
     addPin({450, 330}, QStringLiteral("Sturgeon Refinery"), true);
-    place();
+    compose();
     ASSERT_EQ(texts().size(), 1U);
     EXPECT_NEAR(texts().front().y + texts().front().height / 2, 330 - 23, 25);
 }
 
-TEST_F(MapLabelsTest, ATitleStandsBesideItsPin) {
+TEST_F(MapLabelsTest, TheLabelOfARecordStandsBesideItsPin) {
     addPin({400, 300}, QStringLiteral("Sturgeon Refinery"));
-    place();
+    compose();
     ASSERT_EQ(texts().size(), 1U);
     EXPECT_NEAR(texts().front().x, 400 + pinWidth / 2, 6);
     EXPECT_NEAR(texts().front().y + texts().front().height / 2, 300 - pinHeight / 2, 3);
 }
 
-TEST_F(MapLabelsTest, TitlesGiveWayToNamesOfPlaces) {
+TEST_F(MapLabelsTest, LabelsOfRecordsGiveWayToThoseOfPlaces) {
     addPin({400, 300}, QStringLiteral("Sturgeon Refinery"));
-    place();
+    compose();
     EXPECT_EQ(texts().size(), 1U);
-    addName(QStringLiteral("Saskatchewan River"), {470, 285}, 5, PlaceLabel::Kind::water);
-    addName(QStringLiteral("Beaufort Sea"), {340, 285}, 5, PlaceLabel::Kind::water);
-    mapNames = {};
-    place();
+    addPlace(QStringLiteral("Saskatchewan River"), {470, 285}, 5, PlaceLabel::Kind::water);
+    addPlace(QStringLiteral("Beaufort Sea"), {340, 285}, 5, PlaceLabel::Kind::water);
+    labels = {};
+    compose();
     EXPECT_EQ(texts().size(), 2U);
 }
 
-TEST_F(MapLabelsTest, ABalloonWithoutATitleHasNone) {
+TEST_F(MapLabelsTest, APinWithoutATextHasNoLabel) {
     addPin({400, 300}, {});
-    place();
-    EXPECT_TRUE(picture.names.sprites.empty());
+    compose();
+    EXPECT_TRUE(sprites().empty());
 }
 
 TEST_F(MapLabelsTest, ATextWithoutALetterIsPassedOver) {
-    addName({}, {400, 300});
+    addPlace({}, {400, 300});
     addPin({200, 300}, QStringLiteral(" "), true);
-    place();
+    compose();
     EXPECT_TRUE(texts().empty());
 }
 
 TEST_F(MapLabelsTest, LargerTextsTakeMoreRoom) {
-    addName(QStringLiteral("Red Deer"), {400, 300});
-    place();
+    addPlace(QStringLiteral("Red Deer"), {400, 300});
+    compose();
     const double width = texts().front().width;
-    place(1.5);
+    compose(1.5);
     EXPECT_NEAR(texts().front().width, 1.5 * width, 0.15 * width);
 }
 
-TEST_F(MapLabelsTest, InTheFarViewAPlaceIsNamedInEveryCopyOfTheWorldThatIsFarEnoughAway) {
+TEST_F(MapLabelsTest, InTheFarViewAPlaceIsLabelledInEveryCopyOfTheWorldThatIsFarEnoughAway) {
     const Camera world(CameraPose{{worldSize / 2, worldSize / 2}, 300 / worldSize, 0, 0}, viewport);
-    names.push_back({QStringLiteral("Red Deer"),
-                     coordinateToMapPoint({52.3, -113.8}),
-                     PlaceLabel::Kind::city,
-                     1});
-    mapNames.place(names, {}, world, 1, picture);
+    places.push_back({QStringLiteral("Red Deer"),
+                      coordinateToMapPoint({52.3, -113.8}),
+                      PlaceLabel::Kind::city,
+                      1});
+    compose(world);
     EXPECT_GE(texts().size(), 1U);
     for (const ScreenRect& text : texts()) {
         EXPECT_TRUE((ScreenRect{0, 0, viewport.width, viewport.height}.contains(text)));

@@ -1,4 +1,4 @@
-#include "map/style/TilePicture.h"
+#include "map/labels/PlaceLabels.h"
 
 #include <gtest/gtest.h>
 
@@ -20,71 +20,73 @@ VectorFeature place(const char* name, TilePoint point, const char* kind = "city"
     return feature;
 }
 
-TileData groundOf(std::vector<VectorFeature> places, const char* layer = "place_labels") {
-    TileData ground;
-    ground.vector = std::make_shared<VectorTile>(VectorTile{{{layer, std::move(places)}}});
-    ground.vectorKey = tile;
-    return ground;
+TileData dataOf(std::vector<VectorFeature> places, const char* layer = "place_labels") {
+    TileData data;
+    data.vector = std::make_shared<VectorTile>(VectorTile{{{layer, std::move(places)}}});
+    data.vectorKey = tile;
+    return data;
 }
 
-TileRequest requestFor(TileKey key, double zoomOnScreen) {
+TileRequest requestFor(TileKey key, double zoom) {
     TileRequest request;
     request.key = key;
-    request.devicePixelsPerMapPoint = std::exp2(zoomOnScreen) * tilePixels / worldSize;
+    request.devicePixelsPerMapPoint = std::exp2(zoom) * tilePixels / worldSize;
     return request;
 }
 
-std::vector<QString> textsOf(const TileData& ground, const TileRequest& request) {
+std::vector<QString> textsOf(const TileData& data,
+                             const TileRequest& request,
+                             MapLanguage language = MapLanguage::english) {
     std::vector<QString> texts;
-    for (const PlaceLabel& name : placeLabels(ground, request)) {
-        texts.push_back(name.text);
+    for (const PlaceLabel& label : placeLabels(data, request, language)) {
+        texts.push_back(label.text);
     }
     return texts;
 }
 
 TEST(PlaceLabels, OnlyThePointsInsideTheTileAreItsOwn) {
-    const TileData ground = groundOf({place("in", {0, 0.5F}),
-                                      place("beyond", {1, 0.5F}),
-                                      place("before", {-0.01F, 0.5F}),
-                                      place("below", {0.5F, 1.02F})});
-    EXPECT_EQ(textsOf(ground, requestFor(tile, 5)), (std::vector<QString>{QStringLiteral("in")}));
+    const TileData data = dataOf({place("in", {0, 0.5F}),
+                                  place("beyond", {1, 0.5F}),
+                                  place("before", {-0.01F, 0.5F}),
+                                  place("below", {0.5F, 1.02F})});
+    EXPECT_EQ(textsOf(data, requestFor(tile, 5)), (std::vector<QString>{QStringLiteral("in")}));
 }
 
-TEST(PlaceLabels, AChildShowsTheNamesOfItsOwnPart) {
-    const TileData ground = groundOf({place("here", {0.2F, 0.2F}), place("there", {0.7F, 0.2F})});
-    const std::vector<PlaceLabel> names = placeLabels(ground, requestFor(itsFirstChild, 6));
-    ASSERT_EQ(names.size(), 1U);
-    EXPECT_EQ(names[0].text, QStringLiteral("here"));
-    EXPECT_NEAR(names[0].point.x, (6 + 0.2) * tile.side(), 1);
-    EXPECT_NEAR(names[0].point.y, (9 + 0.2) * tile.side(), 1);
+TEST(PlaceLabels, AChildShowsTheLabelsOfItsOwnPart) {
+    const TileData data = dataOf({place("here", {0.2F, 0.2F}), place("there", {0.7F, 0.2F})});
+    const std::vector<PlaceLabel> labels =
+        placeLabels(data, requestFor(itsFirstChild, 6), MapLanguage::english);
+    ASSERT_EQ(labels.size(), 1U);
+    EXPECT_EQ(labels[0].text, QStringLiteral("here"));
+    EXPECT_NEAR(labels[0].point.x, (6 + 0.2) * tile.side(), 1);
+    EXPECT_NEAR(labels[0].point.y, (9 + 0.2) * tile.side(), 1);
 }
 
 TEST(PlaceLabels, TheMapsLanguageIsTakenWhereAPlaceHasANameInIt) {
     VectorFeature bay = place("Kangiqsualuk ilua", {0.5F, 0.5F}, "bay", 1);
     bay.nameEnglish = "Hudson Bay";
     bay.nameFrench = "Baie d’Hudson";
-    const TileData ground = groundOf({bay}, "water_polygons_labels");
-    TileRequest request = requestFor(tile, 5);
-    EXPECT_EQ(textsOf(ground, request)[0], QStringLiteral("Hudson Bay"));
-    request.language = MapLanguage::french;
-    EXPECT_EQ(textsOf(ground, request)[0], QStringLiteral("Baie d’Hudson"));
-    const TileData edmonton = groundOf({place("Edmonton", {0.5F, 0.5F})});
-    EXPECT_EQ(textsOf(edmonton, request)[0], QStringLiteral("Edmonton"));
+    const TileData data = dataOf({bay}, "water_polygons_labels");
+    const TileRequest request = requestFor(tile, 5);
+    EXPECT_EQ(textsOf(data, request)[0], QStringLiteral("Hudson Bay"));
+    EXPECT_EQ(textsOf(data, request, MapLanguage::french)[0], QStringLiteral("Baie d’Hudson"));
+    const TileData edmonton = dataOf({place("Edmonton", {0.5F, 0.5F})});
+    EXPECT_EQ(textsOf(edmonton, request, MapLanguage::french)[0], QStringLiteral("Edmonton"));
 }
 
 TEST(PlaceLabels, CountriesComeFirstThenRegionsThenCitiesByRankThenWaters) {
-    TileData ground;
+    TileData data;
     VectorFeature country = place("country", {0.1F, 0.1F}, "", 0);
     country.adminLevel = 2;
     VectorFeature region = place("region", {0.2F, 0.2F}, "", 1);
     region.adminLevel = 4;
-    ground.vectorKey = {4, 3, 4};
-    ground.vector = std::make_shared<VectorTile>(VectorTile{
+    data.vectorKey = {4, 3, 4};
+    data.vector = std::make_shared<VectorTile>(VectorTile{
         {{"water_polygons_labels", {place("lake", {0.6F, 0.6F}, "water", 0)}},
          {"place_labels",
           {place("lesser", {0.4F, 0.4F}, "city", 3), place("greater", {0.3F, 0.3F}, "city", 1)}},
          {"boundary_labels", {region, country}}}});
-    EXPECT_EQ(textsOf(ground, requestFor(ground.vectorKey, 3.5)),
+    EXPECT_EQ(textsOf(data, requestFor(data.vectorKey, 3.5)),
               (std::vector<QString>{QStringLiteral("country"),
                                     QStringLiteral("region"),
                                     QStringLiteral("greater"),
@@ -99,21 +101,21 @@ TEST(PlaceLabels, OfEqualRankTheCapitalAndThenTheMorePeopledGoFirst) {
     few.population = 90'000;
     VectorFeature capital = place("capital", {0.3F, 0.3F}, "state_capital", 3);
     capital.population = 20'000;
-    EXPECT_EQ(textsOf(groundOf({few, many, capital}), requestFor(tile, 5)),
+    EXPECT_EQ(textsOf(dataOf({few, many, capital}), requestFor(tile, 5)),
               (std::vector<QString>{
                   QStringLiteral("capital"), QStringLiteral("many"), QStringLiteral("few")}));
 }
 
 TEST(PlaceLabels, SmallPlacesAndWatersWaitForNearZooms) {
-    const TileData places = groundOf({place("city", {0.1F, 0.1F}, "city", 2),
-                                      place("town", {0.2F, 0.2F}, "town", 6),
-                                      place("village", {0.3F, 0.3F}, "village", 8)});
+    const TileData places = dataOf({place("city", {0.1F, 0.1F}, "city", 2),
+                                    place("town", {0.2F, 0.2F}, "town", 6),
+                                    place("village", {0.3F, 0.3F}, "village", 8)});
     EXPECT_EQ(textsOf(places, requestFor(tile, 3)).size(), 1U);
     EXPECT_EQ(textsOf(places, requestFor(tile, 6)).size(), 2U);
     EXPECT_EQ(textsOf(places, requestFor(tile, 9)).size(), 3U);
     VectorFeature pond = place("pond", {0.5F, 0.5F}, "water", 0);
     pond.wayArea = 1e6; // a kilometre across
-    const TileData waters = groundOf({pond}, "water_polygons_labels");
+    const TileData waters = dataOf({pond}, "water_polygons_labels");
     EXPECT_TRUE(textsOf(waters, requestFor(tile, 10)).empty());
     EXPECT_EQ(textsOf(waters, requestFor(tile, 13)).size(), 1U);
 }
@@ -123,36 +125,35 @@ TEST(PlaceLabels, CountriesGoWhenRegionsHaveComeAndRegionsGoWhenTheyFillTheScree
     country.adminLevel = 2;
     VectorFeature region = place("region", {0.2F, 0.2F}, "", 1);
     region.adminLevel = 4;
-    const TileData ground = groundOf({country, region}, "boundary_labels");
-    EXPECT_EQ(textsOf(ground, requestFor(tile, 2)),
+    const TileData data = dataOf({country, region}, "boundary_labels");
+    EXPECT_EQ(textsOf(data, requestFor(tile, 2)),
               (std::vector<QString>{QStringLiteral("country")}));
-    EXPECT_EQ(textsOf(ground, requestFor(tile, 6)),
-              (std::vector<QString>{QStringLiteral("region")}));
-    EXPECT_TRUE(textsOf(ground, requestFor(tile, 8)).empty());
+    EXPECT_EQ(textsOf(data, requestFor(tile, 6)), (std::vector<QString>{QStringLiteral("region")}));
+    EXPECT_TRUE(textsOf(data, requestFor(tile, 8)).empty());
 }
 
-TEST(PlaceLabels, ANameIsNotRepeatedNearByButFarAway) {
-    const TileData ground = groundOf({place("Kinbasket Lake", {0.1F, 0.1F}, "water", 0),
-                                      place("Kinbasket Lake", {0.3F, 0.1F}, "water", 0),
-                                      place("Kinbasket Lake", {0.9F, 0.9F}, "water", 0)},
-                                     "water_polygons_labels");
-    EXPECT_EQ(placeLabels(ground, requestFor(tile, 5)).size(), 2U);
+TEST(PlaceLabels, ALabelIsNotRepeatedNearByButFarAway) {
+    const TileData data = dataOf({place("Kinbasket Lake", {0.1F, 0.1F}, "water", 0),
+                                  place("Kinbasket Lake", {0.3F, 0.1F}, "water", 0),
+                                  place("Kinbasket Lake", {0.9F, 0.9F}, "water", 0)},
+                                 "water_polygons_labels");
+    EXPECT_EQ(textsOf(data, requestFor(tile, 5)).size(), 2U);
 }
 
 TEST(PlaceLabels, WhatHasNoNameNoPlaceOrAnUnknownKindIsPassedOver) {
     constexpr float nan = std::numeric_limits<float>::quiet_NaN();
     VectorFeature nowhere = place("nowhere", {0.5F, 0.5F});
     nowhere.parts.clear();
-    const TileData ground = groundOf({place("", {0.5F, 0.5F}),
-                                      place("  \n", {0.5F, 0.5F}),
-                                      place("odd", {nan, 0.5F}),
-                                      place("space port", {0.5F, 0.5F}, "space_port"),
-                                      nowhere});
-    EXPECT_TRUE(placeLabels(ground, requestFor(tile, 5)).empty());
-    EXPECT_TRUE(placeLabels(TileData(), requestFor(tile, 5)).empty());
+    const TileData data = dataOf({place("", {0.5F, 0.5F}),
+                                  place("  \n", {0.5F, 0.5F}),
+                                  place("odd", {nan, 0.5F}),
+                                  place("space port", {0.5F, 0.5F}, "space_port"),
+                                  nowhere});
+    EXPECT_TRUE(textsOf(data, requestFor(tile, 5)).empty());
+    EXPECT_TRUE(textsOf(TileData(), requestFor(tile, 5)).empty());
     TileRequest senseless = requestFor(tile, 5);
     senseless.devicePixelsPerMapPoint = -1;
-    EXPECT_TRUE(placeLabels(groundOf({place("x", {0.5F, 0.5F})}), senseless).empty());
+    EXPECT_TRUE(textsOf(dataOf({place("x", {0.5F, 0.5F})}), senseless).empty());
 }
 
 } // namespace

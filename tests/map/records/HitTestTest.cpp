@@ -20,7 +20,7 @@ struct Scene {
     [[nodiscard]] std::optional<AssetIndex> hit(ScreenPoint point,
                                                 double reach = pointerReach) const {
         const RecordGeometry& geometry = records.loaded->geometry;
-        const std::vector<Marker> markers = markersByPrecedence(records);
+        const std::vector<Marker> markers = markersByPriority(records);
         const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
         HighlightedMarkers lifted;
         if (selected && !records.loaded->index.release().assets[*selected].hasRoute()) {
@@ -30,7 +30,7 @@ struct Scene {
         for (const AssetIndex asset : *records.filtered) {
             colors[asset] = Rgb{};
         }
-        const MarkerFrame frame = markerFrame(layout, lifted, Dots::painted, camera);
+        const MarkerFrame frame = markerFrame(layout, lifted, RecordDrawing::painted, camera);
         return hitTest(point, reach, {camera, frame, markers, geometry, colors, selected});
     }
 };
@@ -112,7 +112,7 @@ TEST(HitTest, HoldsInATurnedAndTiltedViewToo) {
                              facilityAt(54, -112.9, "storage"),
                              pipelineAlong({{{-130, 51}, {-95, 51}}})}),
                 {}};
-    scene.camera = scene.camera.turned(130, scene.camera.focus()).tilted(50);
+    scene.camera = scene.camera.rotated(130, scene.camera.focus()).tilted(50);
     EXPECT_EQ(scene.hit(scene.at(54, -112.9)), 1U);
     const ScreenPoint line = scene.at(51, -112);
     EXPECT_EQ(scene.hit(line), 2U);
@@ -133,7 +133,7 @@ TEST(SharingPlace, HoldsThoseThatNoZoomSeparates) {
                                            facilityAt(54, -112, "gas_plant"),
                                            facilityAt(54.000001, -112, "gas_plant"),
                                            facilityAt(54.01, -112, "storage")});
-    const std::vector<Marker> markers = markersByPrecedence(records);
+    const std::vector<Marker> markers = markersByPriority(records);
     EXPECT_EQ(sharingPlace(0, markers).size(), 3U);
     EXPECT_EQ(sharingPlace(3, markers), (std::vector<AssetIndex>{3}));
     EXPECT_TRUE(sharingPlace(99, markers).empty());

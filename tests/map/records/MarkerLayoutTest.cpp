@@ -37,13 +37,13 @@ TEST(MarkerLayout, RarerKindsComeFirstThenTheOrderOfTheList) {
     const RecordSet records = recordSetOf({facilityAt(50, -110, "gas_plant"),
                                            facilityAt(51, -111, "gas_plant"),
                                            facilityAt(52, -112, "lng_plant")});
-    EXPECT_EQ(assetsOf(markersByPrecedence(records)), (std::vector<AssetIndex>{2, 0, 1}));
+    EXPECT_EQ(assetsOf(markersByPriority(records)), (std::vector<AssetIndex>{2, 0, 1}));
 }
 
 TEST(MarkerLayout, ARecordWithARouteHasNoMarker) {
     const RecordSet records =
         recordSetOf({pipelineAlong({{{-120, 50}, {-110, 55}}}), facilityAt(50, -110, "storage")});
-    EXPECT_EQ(assetsOf(markersByPrecedence(records)), (std::vector<AssetIndex>{1}));
+    EXPECT_EQ(assetsOf(markersByPriority(records)), (std::vector<AssetIndex>{1}));
 }
 
 TEST(MarkerLayout, ARecordThatTheFilterLeavesOutHasNoMarker) {
@@ -51,12 +51,12 @@ TEST(MarkerLayout, ARecordThatTheFilterLeavesOutHasNoMarker) {
         recordSetOf({facilityAt(50, -110, "storage"), facilityAt(51, -110, "terminal")});
     records.filtered = std::make_shared<const std::vector<AssetIndex>>(
         records.loaded->index.filtered("", "terminal"));
-    EXPECT_EQ(assetsOf(markersByPrecedence(records)), (std::vector<AssetIndex>{1}));
+    EXPECT_EQ(assetsOf(markersByPriority(records)), (std::vector<AssetIndex>{1}));
 }
 
 TEST(MarkerLayout, NoTwoPinsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel) {
     const RecordSet records = crowd();
-    const MarkerLayout layout = markerLayout(markersByPrecedence(records), overview);
+    const MarkerLayout layout = markerLayout(markersByPriority(records), overview);
     ASSERT_GT(layout.pins.size(), 10U);
     const double scale = overview.minimumScale();
     for (std::size_t i = 0; i < layout.pins.size(); ++i) {
@@ -71,7 +71,7 @@ TEST(MarkerLayout, NoTwoPinsStandNearerThanTheirSpacingAtAnyScaleOfTheLevel) {
 
 TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
     const RecordSet records = crowd();
-    const auto markers = markersByPrecedence(records);
+    const auto markers = markersByPriority(records);
     const MarkerLayout layout = markerLayout(markers, overview);
     std::set<AssetIndex> marked;
     for (const auto* list : {&layout.pins, &layout.dots}) {
@@ -103,7 +103,7 @@ TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
 TEST(MarkerLayout, TwoRecordsAtOnePointHaveOnePinAndOneDot) {
     const RecordSet records =
         recordSetOf({facilityAt(50, -110, "storage"), facilityAt(50, -110, "storage")});
-    const MarkerLayout layout = markerLayout(markersByPrecedence(records), DetailLevel(40));
+    const MarkerLayout layout = markerLayout(markersByPriority(records), DetailLevel(40));
     EXPECT_EQ(layout.pins.size(), 1U);
     EXPECT_EQ(layout.dots.size(), 1U);
 }
@@ -116,7 +116,7 @@ TEST(MarkerLayout, ADotOfWhichAnythingIsSeenIsDrawn) {
         assets.push_back(facilityAt(50, -110 + x * pixel, "storage"));
     }
     const MarkerLayout layout =
-        markerLayout(markersByPrecedence(recordSetOf(std::move(assets))), level);
+        markerLayout(markersByPriority(recordSetOf(std::move(assets))), level);
     EXPECT_EQ(layout.pins.size() + layout.dots.size(), 5U);
 }
 
@@ -125,8 +125,8 @@ TEST(MarkerFrame, HoldsTheMarksInViewAtTheirPlaceOnTheScreen) {
         recordSetOf({facilityAt(54, -112, "storage"), facilityAt(20, 10, "storage")});
     const Camera camera(canadaOverview, {960, 712});
     const MarkerLayout layout =
-        markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
-    const MarkerFrame frame = markerFrame(layout, {}, Dots::drawn, camera);
+        markerLayout(markersByPriority(records), DetailLevel::forScale(camera.scale()));
+    const MarkerFrame frame = markerFrame(layout, {}, RecordDrawing::live, camera);
     ASSERT_EQ(frame.pins.size(), 1U);
     EXPECT_EQ(frame.pins[0].asset, 0U);
     EXPECT_NEAR(frame.pins[0].point.x, 480, 1e-6);
@@ -136,11 +136,11 @@ TEST(MarkerFrame, HoldsTheMarksInViewAtTheirPlaceOnTheScreen) {
 TEST(MarkerFrame, TheSelectedAndTheHoveredStandApartFromTheOthersWhateverTheyWere) {
     const RecordSet records = crowd();
     const Camera camera(canadaOverview, {960, 712});
-    const auto markers = markersByPrecedence(records);
+    const auto markers = markersByPriority(records);
     const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
     const Marker pin = layout.pins.front();
     const Marker dot = layout.dots.front();
-    const MarkerFrame frame = markerFrame(layout, {pin, dot}, Dots::drawn, camera);
+    const MarkerFrame frame = markerFrame(layout, {pin, dot}, RecordDrawing::live, camera);
     ASSERT_TRUE(frame.selected && frame.hovered);
     EXPECT_EQ(frame.selected->asset, dot.asset);
     EXPECT_EQ(frame.hovered->asset, pin.asset);
@@ -153,19 +153,19 @@ TEST(MarkerFrame, PaintedDotsAreNotDrawnAgain) {
     const RecordSet records = crowd();
     const Camera camera(canadaOverview, {960, 712});
     const MarkerLayout layout =
-        markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
-    EXPECT_FALSE(markerFrame(layout, {}, Dots::drawn, camera).dots.empty());
-    EXPECT_TRUE(markerFrame(layout, {}, Dots::painted, camera).dots.empty());
+        markerLayout(markersByPriority(records), DetailLevel::forScale(camera.scale()));
+    EXPECT_FALSE(markerFrame(layout, {}, RecordDrawing::live, camera).dots.empty());
+    EXPECT_TRUE(markerFrame(layout, {}, RecordDrawing::painted, camera).dots.empty());
 }
 
 TEST(MarkerFrame, AMarkStandsInEveryCopyOfTheWorldAndTheSelectedOnlyInTheNearest) {
     const RecordSet records = recordSetOf({facilityAt(50, 0, "storage")});
     const Camera camera(CameraPose{{worldSize / 2, worldSize / 3}, 300 / worldSize}, {1000, 300});
-    const auto markers = markersByPrecedence(records);
+    const auto markers = markersByPriority(records);
     const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
-    EXPECT_EQ(markerFrame(layout, {}, Dots::painted, camera).pins.size(), 3U);
+    EXPECT_EQ(markerFrame(layout, {}, RecordDrawing::painted, camera).pins.size(), 3U);
     const MarkerFrame selected =
-        markerFrame(layout, {std::nullopt, markers[0]}, Dots::painted, camera);
+        markerFrame(layout, {std::nullopt, markers[0]}, RecordDrawing::painted, camera);
     EXPECT_TRUE(selected.pins.empty());
     ASSERT_TRUE(selected.selected);
     EXPECT_NEAR(selected.selected->point.x, 500, 1e-6);
@@ -181,8 +181,8 @@ TEST(MarkerFrame, NeverHoldsMoreThanFiveHundredPinsAndKeepsTheOthersAsDots) {
     const RecordSet records = recordSetOf(std::move(assets));
     const Camera camera(canadaOverview, {4000, 3000});
     const MarkerLayout layout =
-        markerLayout(markersByPrecedence(records), DetailLevel::forScale(camera.scale()));
-    const MarkerFrame frame = markerFrame(layout, {}, Dots::drawn, camera);
+        markerLayout(markersByPriority(records), DetailLevel::forScale(camera.scale()));
+    const MarkerFrame frame = markerFrame(layout, {}, RecordDrawing::live, camera);
     EXPECT_EQ(frame.pins.size(), maximumPins);
     EXPECT_GT(frame.dots.size(), 500U);
 }

@@ -16,7 +16,7 @@ namespace {
 constexpr Rgb ink{10, 20, 30};
 constexpr Viewport view{960, 712};
 
-RouteStrip stripOf(const RecordSet& records, const Camera& camera) {
+LineStrip stripOf(const RecordSet& records, const Camera& camera) {
     const RecordGeometry& geometry = records.loaded->geometry;
     return routeStrip(geometry,
                       geometry.runs(),
@@ -25,9 +25,9 @@ RouteStrip stripOf(const RecordSet& records, const Camera& camera) {
 }
 
 /// The middle line of a strip: the points of its corners, each once in a row.
-std::vector<ScreenPoint> middleLine(const RouteStrip& strip) {
+std::vector<ScreenPoint> middleLine(const LineStrip& strip) {
     std::vector<ScreenPoint> line;
-    for (const RouteVertex& vertex : strip) {
+    for (const LineVertex& vertex : strip) {
         const ScreenPoint point{static_cast<double>(vertex.x), static_cast<double>(vertex.y)};
         if (line.empty() || line.back() != point) {
             line.push_back(point);
@@ -87,7 +87,7 @@ TEST(RouteStrip, StaysWithinHalfAPixelOfThePublishedLineAtEveryZoom) {
 
 TEST(RouteStrip, FarViewsHaveFewerVertices) {
     const RecordSet records = recordSetOf({pipelineAlong({winding(1500)})});
-    const RouteStrip far = stripOf(records, Camera(canadaOverview, view).zoomed(0.2, {1, 1}));
+    const LineStrip far = stripOf(records, Camera(canadaOverview, view).zoomed(0.2, {1, 1}));
     EXPECT_GT(far.size(), 4U);
     EXPECT_LT(far.size(), 150U);
 }
@@ -97,10 +97,10 @@ TEST(RouteStrip, LinesStayCloseToTheViewHoweverLongTheyAre) {
     const auto ends = records.loaded->geometry.vertices(records.loaded->geometry.runs().front());
     const MapPoint middle{(ends[0].x + ends[1].x) / 2, (ends[0].y + ends[1].y) / 2};
     for (const double pitch : {0.0, 60.0}) {
-        const RouteStrip strip =
+        const LineStrip strip =
             stripOf(records, Camera(CameraPose{middle, Camera::maximumScale, 30, pitch}, view));
         ASSERT_FALSE(strip.empty());
-        for (const RouteVertex& vertex : strip) {
+        for (const LineVertex& vertex : strip) {
             EXPECT_GE(vertex.x, -lineReach - 0.01);
             EXPECT_LE(vertex.x, view.width + lineReach + 0.01);
             EXPECT_GE(vertex.y, -lineReach - 0.01);
@@ -141,9 +141,9 @@ TEST(RouteStrip, ARecordWithoutColorIsNotDrawn) {
 
 TEST(RouteStrip, EveryVertexHasTheColorOfItsRecord) {
     const RecordSet records = recordSetOf({pipelineAlong({{{-120, 50}, {-110, 55}}})});
-    const RouteStrip strip = stripOf(records, Camera(canadaOverview, view));
+    const LineStrip strip = stripOf(records, Camera(canadaOverview, view));
     ASSERT_FALSE(strip.empty());
-    for (const RouteVertex& vertex : strip) {
+    for (const LineVertex& vertex : strip) {
         EXPECT_EQ((Rgb{vertex.red, vertex.green, vertex.blue}), ink);
     }
 }
@@ -151,7 +151,7 @@ TEST(RouteStrip, EveryVertexHasTheColorOfItsRecord) {
 TEST(RouteStrip, ALoopTooSmallToSeeIsStillADot) {
     const RecordSet records =
         recordSetOf({pipelineAlong({{{-120, 50}, {-119.9999, 50}, {-120, 50.0001}, {-120, 50}}})});
-    const RouteStrip strip = stripOf(records, Camera(canadaOverview, view));
+    const LineStrip strip = stripOf(records, Camera(canadaOverview, view));
     EXPECT_EQ(middleLine(strip).size(), 1U);
     EXPECT_GE(strip.size(), 4U);
 }
@@ -159,9 +159,9 @@ TEST(RouteStrip, ALoopTooSmallToSeeIsStillADot) {
 TEST(RouteStrip, ASharpCornerBecomesTwoRoundEnds) {
     const RecordSet records =
         recordSetOf({pipelineAlong({{{-120, 50}, {-110, 50}, {-120, 50.5}}})});
-    const RouteStrip strip = stripOf(records, Camera(canadaOverview, view));
-    const auto tips = std::count_if(strip.begin(), strip.end(), [](const RouteVertex& vertex) {
-        return vertex.corner >= RouteVertex::Corner::leftTip;
+    const LineStrip strip = stripOf(records, Camera(canadaOverview, view));
+    const auto tips = std::count_if(strip.begin(), strip.end(), [](const LineVertex& vertex) {
+        return vertex.corner >= LineVertex::Corner::leftTip;
     });
     EXPECT_GE(tips, 8); // two at either end of the route, four at the corner
 }

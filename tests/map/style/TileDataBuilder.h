@@ -1,5 +1,5 @@
 #pragma once
-// Tiles and archives of plain ground, for tests: all land, all sea, or a photograph of one colour.
+// Tiles and archives for tests: all land, all sea, or imagery of one colour.
 
 #include "map/geometry/TileKey.h"
 
@@ -61,7 +61,7 @@ inline std::string seaTile() {
 }
 
 /// A photograph as a service sends it, of 256 pixels.
-inline QByteArray photographOf(const QColor& color) {
+inline QByteArray imageryImage(const QColor& color) {
     QImage image(256, 256, QImage::Format_RGB32);
     image.fill(color);
     QByteArray bytes;

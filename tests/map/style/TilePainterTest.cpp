@@ -1,5 +1,6 @@
-#include "map/style/BasemapStyle.h"
-#include "map/style/TilePicture.h"
+#include "map/style/TilePainter.h"
+
+#include "map/style/MapTheme.h"
 
 #include <QPainter>
 
@@ -43,19 +44,19 @@ Points square(float from, float to) {
     return {{from, from}, {to, from}, {to, to}, {from, to}, {from, from}};
 }
 
-TileData groundOf(std::vector<VectorLayer> layers) {
-    TileData ground;
-    ground.vector = std::make_shared<VectorTile>(VectorTile{std::move(layers)});
-    ground.vectorKey = tile;
-    return ground;
+TileData dataOf(std::vector<VectorLayer> layers) {
+    TileData data;
+    data.vector = std::make_shared<VectorTile>(VectorTile{std::move(layers)});
+    data.vectorKey = tile;
+    return data;
 }
 
 TileRequest
-requestFor(TileKey key, BasemapTheme look = BasemapTheme::light, double devicePixels = 512) {
+requestFor(TileKey key, BasemapTheme theme = BasemapTheme::light, double devicePixels = 512) {
     TileRequest request;
     request.key = key;
     request.devicePixelsPerMapPoint = devicePixels / key.side();
-    request.look = look;
+    request.theme = theme;
     return request;
 }
 
@@ -64,8 +65,8 @@ QColor at(const QImage& picture, double x, double y) {
                               static_cast<int>(y * picture.height()));
 }
 
-const BasemapColors& light() {
-    return basemapColors(BasemapTheme::light);
+const MapTheme& light() {
+    return mapTheme(BasemapTheme::light);
 }
 
 /// The darkness of a row or column of pixels from the paper, as text: '#' where a line covers it.
@@ -81,20 +82,20 @@ std::string profile(const QImage& picture, bool along, int position) {
 
 TEST(TilePainter, TheSeaLiesUponLand) {
     const QImage picture =
-        paintTile(groundOf({{"ocean", {area("", {square(0.25F, 0.75F)})}}}), requestFor(tile));
+        paintTile(dataOf({{"ocean", {area("", {square(0.25F, 0.75F)})}}}), requestFor(tile));
     EXPECT_EQ(at(picture, 0.5, 0.5), light().water);
     EXPECT_EQ(at(picture, 0.1, 0.1), light().land);
 }
 
 TEST(TilePainter, AHoleInALakeIsAnIsland) {
     const QImage picture = paintTile(
-        groundOf({{"water_polygons", {area("lake", {square(0.2F, 0.8F), square(0.4F, 0.6F)})}}}),
+        dataOf({{"water_polygons", {area("lake", {square(0.2F, 0.8F), square(0.4F, 0.6F)})}}}),
         requestFor(tile));
     EXPECT_EQ(at(picture, 0.3, 0.3), light().water);
     EXPECT_EQ(at(picture, 0.5, 0.5), light().land);
 }
 
-TEST(TilePainter, ThePictureIsOpaqueAndHasTheSizeAskedFor) {
+TEST(TilePainter, TheRasterTileIsOpaqueAndHasTheSizeAskedFor) {
     const TileRequest request = requestFor(tile, BasemapTheme::light, 724.08);
     const QImage picture = paintTile(TileData(), request);
     EXPECT_EQ(picture.size(), QSize(request.pixels().width, request.pixels().height));
@@ -103,21 +104,21 @@ TEST(TilePainter, ThePictureIsOpaqueAndHasTheSizeAskedFor) {
 }
 
 TEST(TilePainter, AChildShowsItsQuarterOfTheAncestorsData) {
-    const TileData ground = groundOf({{"ocean", {area("", {square(-0.1F, 0.5F)})}}});
-    const QImage first = paintTile(ground, requestFor(itsFirstChild));
-    const QImage last = paintTile(ground, requestFor(itsLastChild));
+    const TileData data = dataOf({{"ocean", {area("", {square(-0.1F, 0.5F)})}}});
+    const QImage first = paintTile(data, requestFor(itsFirstChild));
+    const QImage last = paintTile(data, requestFor(itsLastChild));
     EXPECT_EQ(at(first, 0.01, 0.01), light().water);
     EXPECT_EQ(at(first, 0.95, 0.95), light().water);
     EXPECT_EQ(at(last, 0.5, 0.5), light().land);
 }
 
 TEST(TilePainter, AFarDescendantIsStillDrawnFromItsAncestor) {
-    const TileData ground = groundOf(
+    const TileData data = dataOf(
         {{"ocean", {area("", {{{-0.1F, -0.1F}, {1.1F, -0.1F}, {-0.1F, 1.1F}, {-0.1F, -0.1F}}})}}});
     // The tile at zoom 22 whose north-west corner the coast runs through, at 1/2, 1/2.
     const std::int32_t half = 1 << 15;
     const QImage picture =
-        paintTile(ground, requestFor({22, (12 << 16) + half - 1, (20 << 16) + half}));
+        paintTile(data, requestFor({22, (12 << 16) + half - 1, (20 << 16) + half}));
     EXPECT_EQ(at(picture, 0.1, 0.1), light().water);
     EXPECT_EQ(at(picture, 0.9, 0.9), light().land);
 }
@@ -125,7 +126,7 @@ TEST(TilePainter, AFarDescendantIsStillDrawnFromItsAncestor) {
 TEST(TilePainter, WhereTheDataWereCutThereIsNoCoast) {
     // Data that end at the tile's edge itself, without any margin.
     const QImage picture =
-        paintTile(groundOf({{"ocean", {area("", {square(0, 1)})}}}), requestFor(tile));
+        paintTile(dataOf({{"ocean", {area("", {square(0, 1)})}}}), requestFor(tile));
     for (int i = 2; i < 510; ++i) {
         ASSERT_EQ(picture.pixelColor(0, i), light().water) << i;
         ASSERT_EQ(picture.pixelColor(511, i), light().water) << i;
@@ -135,8 +136,8 @@ TEST(TilePainter, WhereTheDataWereCutThereIsNoCoast) {
 
 TEST(TilePainter, ARegionsBorderGoesOnInTheNeighbourWhereItLeftOff) {
     const auto bordered = [](float from, float to) {
-        TileData ground = groundOf({{"boundaries", {border(4, {{from, 0.5F}, {to, 0.5F}})}}});
-        return ground;
+        TileData data = dataOf({{"boundaries", {border(4, {{from, 0.5F}, {to, 0.5F}})}}});
+        return data;
     };
     // One line, cut with the margins of two neighbours.
     TileRequest west = requestFor(tile);
@@ -156,11 +157,11 @@ TEST(TilePainter, ARegionsBorderGoesOnInTheNeighbourWhereItLeftOff) {
 }
 
 TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
-    TileData ground = groundOf({{"boundaries", {border(2, {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
+    TileData data = dataOf({{"boundaries", {border(2, {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
     const auto inkOf = [&](int devicePixels, double density) {
         TileRequest request = requestFor(tile, BasemapTheme::light, devicePixels);
         request.devicePixelsPerPixel = density;
-        const QImage picture = paintTile(ground, request);
+        const QImage picture = paintTile(data, request);
         double ink = 0;
         for (int x = 0; x < devicePixels; ++x) {
             ink += light().land.lightness() - picture.pixelColor(x, devicePixels / 2).lightness();
@@ -172,62 +173,46 @@ TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
 
 TEST(TilePainter, AStretchedTileShowsWhatItsZoomOnTheScreenShows) {
     // A street comes at zoom 11: half way between the tile's own and the next, not at its own.
-    TileData ground = groundOf({{"streets", {line("residential", {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
-    ground.vectorKey = {10, 5, 5};
-    TileRequest request = requestFor(ground.vectorKey);
-    EXPECT_EQ(profile(paintTile(ground, request), true, 100).find('#'), std::string::npos);
+    TileData data = dataOf({{"streets", {line("residential", {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
+    data.vectorKey = {10, 5, 5};
+    TileRequest request = requestFor(data.vectorKey);
+    EXPECT_EQ(profile(paintTile(data, request), true, 100).find('#'), std::string::npos);
     request.devicePixelsPerMapPoint = 1100 / request.key.side();
-    EXPECT_NE(paintTile(ground, request).pixelColor(550, 100), light().land);
+    EXPECT_NE(paintTile(data, request).pixelColor(550, 100), light().land);
 }
 
-TEST(TilePainter, PhotographsAreDrawnInTheirPlaces) {
-    TileData ground;
+TEST(TilePainter, ImageryIsDrawnInItsPlace) {
+    TileData data;
     QImage red(256, 256, QImage::Format_RGB32);
     red.fill(Qt::red);
     QImage blue = red;
     blue.fill(Qt::blue);
-    ground.imagery = {{tile.ancestor(2), red}, {itsLastChild, blue}};
-    const QImage picture = paintTile(ground, requestFor(tile, BasemapTheme::satellite));
+    data.imagery = {{tile.ancestor(2), red}, {itsLastChild, blue}};
+    const QImage picture = paintTile(data, requestFor(tile, BasemapTheme::satellite));
     EXPECT_EQ(at(picture, 0.25, 0.25), QColor(Qt::red));
     EXPECT_EQ(at(picture, 0.75, 0.25), QColor(Qt::red));
     EXPECT_EQ(at(picture, 0.75, 0.75), QColor(Qt::blue));
 }
 
-TEST(TilePainter, OnlyHybridDrawsBordersUponPhotographs) {
-    TileData ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}},
-                                {"boundaries", {border(2, {{-0.1F, 0.5F}, {1.1F, 0.5F}})}}});
+TEST(TilePainter, OnlyHybridDrawsBordersUponImagery) {
+    TileData data = dataOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}},
+                            {"boundaries", {border(2, {{-0.1F, 0.5F}, {1.1F, 0.5F}})}}});
     QImage red(512, 512, QImage::Format_RGB32);
     red.fill(Qt::red);
-    ground.imagery = {{tile, red}};
-    const QImage satellite = paintTile(ground, requestFor(tile, BasemapTheme::satellite));
-    const QImage hybrid = paintTile(ground, requestFor(tile, BasemapTheme::hybrid));
+    data.imagery = {{tile, red}};
+    const QImage satellite = paintTile(data, requestFor(tile, BasemapTheme::satellite));
+    const QImage hybrid = paintTile(data, requestFor(tile, BasemapTheme::hybrid));
     EXPECT_EQ(at(satellite, 0.3, 0.5), QColor(Qt::red));
     EXPECT_GT(at(hybrid, 0.3, 0.5).blue(), 100);
     EXPECT_EQ(at(hybrid, 0.3, 0.2), QColor(Qt::red));
 }
 
-TEST(TilePainter, WithoutPhotographsTheMapIsDrawnInItsDarkDress) {
-    const TileData ground = groundOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}}});
-    for (const BasemapTheme look : {BasemapTheme::satellite, BasemapTheme::hybrid}) {
-        EXPECT_EQ(paintTile(ground, requestFor(tile, look)),
-                  paintTile(ground, requestFor(tile, BasemapTheme::dark)));
+TEST(TilePainter, WithoutImageryTheMapIsDrawnInItsDarkTheme) {
+    const TileData data = dataOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}}});
+    for (const BasemapTheme theme : {BasemapTheme::satellite, BasemapTheme::hybrid}) {
+        EXPECT_EQ(paintTile(data, requestFor(tile, theme)),
+                  paintTile(data, requestFor(tile, BasemapTheme::dark)));
     }
-}
-
-TEST(TilePainter, TheInkIsDrawnLastInDevicePixels) {
-    struct Spot : RecordOverlay {
-        void paint(QPainter& painter,
-                   const MapRect& bounds,
-                   double devicePixelsPerMapPoint) const override {
-            EXPECT_EQ(bounds, tile.bounds());
-            EXPECT_DOUBLE_EQ(devicePixelsPerMapPoint, 1024 / tile.side());
-            painter.fillRect(1000, 1000, 10, 10, Qt::green);
-        }
-    };
-    TileRequest request = requestFor(tile, BasemapTheme::light, 1024);
-    request.devicePixelsPerPixel = 2;
-    request.ink = std::make_shared<Spot>();
-    EXPECT_EQ(paintTile(TileData(), request).pixelColor(1005, 1005), QColor(Qt::green));
 }
 
 TEST(TilePainter, OddGeometryCostsOnlyItself) {
@@ -235,28 +220,28 @@ TEST(TilePainter, OddGeometryCostsOnlyItself) {
     constexpr float infinite = std::numeric_limits<float>::infinity();
     constexpr float far = std::numeric_limits<float>::max();
     const Points odd{{nan, 0.5F}, {0.5F, infinite}, {-far, far}, {far, -far}, {0.5F, 0.5F}};
-    TileData ground = groundOf(
+    TileData data = dataOf(
         {{"ocean", {area("", {odd, {}, {{0.5F, 0.5F}}}), area("", {square(0.2F, 0.3F)})}},
          {"water_polygons", {area("lake", {{{nan, nan}, {nan, nan}, {nan, nan}}}), area("", {})}},
          {"streets", {line("motorway", odd), line("motorway", {}), line("ferry", odd)}},
          {"boundaries", {border(2, odd), border(4, odd)}}});
     for (const TileKey key : {tile, TileKey{22, 12 << 16, 20 << 16}}) {
-        for (const BasemapTheme look : {BasemapTheme::light, BasemapTheme::hybrid}) {
-            EXPECT_FALSE(paintTile(ground, requestFor(key, look)).isNull());
+        for (const BasemapTheme theme : {BasemapTheme::light, BasemapTheme::hybrid}) {
+            EXPECT_FALSE(paintTile(data, requestFor(key, theme)).isNull());
         }
     }
     // What is sound beside it is still there.
-    ground = groundOf({{"ocean", {area("", {{{nan, nan}}}), area("", {square(0.2F, 0.3F)})}}});
-    EXPECT_EQ(at(paintTile(ground, requestFor(tile)), 0.25, 0.25), light().water);
+    data = dataOf({{"ocean", {area("", {{{nan, nan}}}), area("", {square(0.2F, 0.3F)})}}});
+    EXPECT_EQ(at(paintTile(data, requestFor(tile)), 0.25, 0.25), light().water);
 }
 
-TEST(TilePainter, ASenselessScaleGivesAPictureAllTheSame) {
-    const TileData ground = groundOf({{"ocean", {area("", {square(0, 1)})}}});
+TEST(TilePainter, ASenselessScaleGivesARasterTileAllTheSame) {
+    const TileData data = dataOf({{"ocean", {area("", {square(0, 1)})}}});
     for (const double scale : {-5.0, 0.0, 1e300, std::nan(""), HUGE_VAL}) {
         TileRequest request = requestFor(tile);
         request.devicePixelsPerMapPoint = scale;
         request.devicePixelsPerPixel = std::nan("");
-        EXPECT_FALSE(paintTile(ground, request).isNull()) << scale;
+        EXPECT_FALSE(paintTile(data, request).isNull()) << scale;
     }
 }
 
@@ -266,15 +251,15 @@ TEST(TilePainter, NeighboursMeetWithoutASeamAndShareNoPixel) {
     TileRequest east = west;
     east.key = {6, 13, 20};
     const auto slanted = [](TileKey key, float shift) {
-        TileData ground = groundOf({{"ocean",
-                                     {area("",
-                                           {{{-1 + shift, 0.2F},
-                                             {1 + shift, 0.24F},
-                                             {1 + shift, 3},
-                                             {-1 + shift, 3},
-                                             {-1 + shift, 0.2F}}})}}});
-        ground.vectorKey = key;
-        return ground;
+        TileData data = dataOf({{"ocean",
+                                 {area("",
+                                       {{{-1 + shift, 0.2F},
+                                         {1 + shift, 0.24F},
+                                         {1 + shift, 3},
+                                         {-1 + shift, 3},
+                                         {-1 + shift, 0.2F}}})}}});
+        data.vectorKey = key;
+        return data;
     };
     const QImage left = paintTile(slanted(west.key, 1), west);
     const QImage right = paintTile(slanted(east.key, 0), east);

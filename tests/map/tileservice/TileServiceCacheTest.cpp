@@ -10,7 +10,7 @@ namespace {
 class TileServiceCacheTest : public ServiceFixture {
   protected:
     void fetch(const ServiceTile& wanted) {
-        service().want({wanted});
+        service().setRequests({wanted});
         ASSERT_TRUE(comesTrue([&] { return hasArrived(wanted); }));
     }
     void keepStale(const QByteArray& bytes) {

@@ -18,7 +18,7 @@ class TileServiceFaultTest : public ServiceFixture {
             tile.content == TileContent::vector ? vectorPath(9, 1, 1) : imageryPath(9, 1, 1);
         server.setAnswer(path, fault);
         restart();
-        service().want({tile, vectorTile(9, 2, 2)});
+        service().setRequests({tile, vectorTile(9, 2, 2)});
         EXPECT_TRUE(comesTrue([&] { return missing.size() == 1 && arrived.size() == 1; }));
         EXPECT_EQ(missing, std::vector{tile});
         EXPECT_TRUE(hasArrived(vectorTile(9, 2, 2)));
@@ -62,7 +62,7 @@ TEST_F(TileServiceFaultTest, RedirectionsAreNotFollowed) {
                                     QByteArray("/vector/9/2/2.mvt")}) {
         server.setAnswer(vectorPath(9, 1, 1), {.status = 302, .headers = {"Location: " + place}});
         restart();
-        service().want({one});
+        service().setRequests({one});
         EXPECT_TRUE(comesTrue([&] { return missing.size() == 1; })) << place.toStdString();
     }
     EXPECT_TRUE(other.requests().empty());
@@ -85,7 +85,7 @@ TEST_F(TileServiceFaultTest, AnAnswerOfTheGreatestLengthIsTaken) {
     options.responseBytes = 1'000;
     server.setAnswer(vectorPath(9, 1, 1),
                      {.body = vectorBytes + QByteArray(1'000 - vectorBytes.size(), 'x')});
-    service().want({one});
+    service().setRequests({one});
     EXPECT_TRUE(comesTrue([&] { return arrived.size() == 1; }));
 }
 
@@ -113,7 +113,7 @@ TEST_F(TileServiceFaultTest, CredentialsAreNotGiven) {
 TEST_F(TileServiceFaultTest, SilenceIsNotTheEndOfATile) {
     options.silentTime = std::chrono::milliseconds(50);
     server.setAnswer(vectorPath(9, 1, 1), {.manner = Manner::silent});
-    service().want({one});
+    service().setRequests({one});
     ASSERT_TRUE(comesTrue([&] { return server.requestsFor(vectorPath(9, 1, 1)) > 4; }));
     EXPECT_TRUE(missing.empty());
     server.setAnswer(vectorPath(9, 1, 1), {.body = vectorBytes});
@@ -122,7 +122,7 @@ TEST_F(TileServiceFaultTest, SilenceIsNotTheEndOfATile) {
 
 TEST_F(TileServiceFaultTest, WhatIsNotHttpIsNotTheEndOfATile) {
     server.setAnswer(vectorPath(9, 1, 1), {.body = vectorBytes, .manner = Manner::garbage});
-    service().want({one});
+    service().setRequests({one});
     ASSERT_TRUE(comesTrue([&] { return server.requestsFor(vectorPath(9, 1, 1)) > 4; }));
     EXPECT_TRUE(missing.empty());
 }
@@ -133,7 +133,7 @@ TEST_F(TileServiceFaultTest, ABusyServiceIsAskedAgainOneTileAtATime) {
         server.setAnswer(vectorPath(10, column, 0), {.status = 429});
         tiles.push_back(vectorTile(10, column, 0));
     }
-    service().want(tiles);
+    service().setRequests(tiles);
     ASSERT_TRUE(comesTrue([&] { return server.requests().size() > 20; }));
     EXPECT_TRUE(missing.empty());
     for (int column = 0; column < 6; ++column) {
@@ -149,11 +149,11 @@ TEST_F(TileServiceFaultTest, AServiceThatAsksForTimeGetsIt) {
     for (int column = 0; column < 20; ++column) {
         tiles.push_back(vectorTile(10, column, 0));
     }
-    service().want(tiles);
+    service().setRequests(tiles);
     ASSERT_TRUE(comesTrue([&] { return server.open() == 6; }));
     server.release();
     EXPECT_FALSE(comesTrue([&] { return server.requests().size() > 6; }, shortly));
-    service().want({one});
+    service().setRequests({one});
     EXPECT_FALSE(comesTrue([&] { return server.requests().size() > 6; }, shortly));
     EXPECT_TRUE(missing.empty());
 }
@@ -163,9 +163,9 @@ TEST_F(TileServiceFaultTest, TheOtherServiceIsAskedMeanwhile) {
     other.setOtherAnswer({.body = imageryBytes});
     server.setOtherAnswer({.status = 503, .headers = {"Retry-After: 3000"}});
     restart(sources(server, other));
-    service().want({one});
+    service().setRequests({one});
     ASSERT_TRUE(comesTrue([&] { return server.requests().size() == 1; }));
-    service().want({one, photograph});
+    service().setRequests({one, photograph});
     EXPECT_TRUE(comesTrue([&] { return hasArrived(photograph); }));
 }
 
@@ -174,7 +174,7 @@ TEST_F(TileServiceFaultTest, TilesComeWhenTheServiceIsBack) {
     const TileSources both = sources(server, server);
     server.close();
     restart(both);
-    service().want({one, vectorTile(9, 1, 2)});
+    service().setRequests({one, vectorTile(9, 1, 2)});
     EXPECT_FALSE(comesTrue([&] { return !missing.empty(); }, shortly));
     TileServer again(port);
     again.setOtherAnswer({.body = vectorBytes});

@@ -12,7 +12,7 @@ class TileServiceTest : public ServiceFixture {};
 TEST_F(TileServiceTest, HandsOnTheBytesOfATile) {
     server.setAnswer(vectorPath(9, 100, 200), {.body = vectorBytes});
     server.setAnswer(imageryPath(4, 3, 5), {.body = imageryBytes});
-    service().want({vectorTile(9, 100, 200), imageryTile(4, 3, 5)});
+    service().setRequests({vectorTile(9, 100, 200), imageryTile(4, 3, 5)});
     EXPECT_TRUE(arrived.empty()) << "signals come later";
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 2; }));
     EXPECT_TRUE(hasArrived(vectorTile(9, 100, 200)));
@@ -25,9 +25,9 @@ TEST_F(TileServiceTest, NamesItselfAndSaysNothingElseOfTheUser) {
     server.setAnswer(vectorPath(9, 1, 1),
                      {.body = vectorBytes, .headers = {"Set-Cookie: a=b; Path=/"}});
     server.setAnswer(vectorPath(9, 1, 2), {.body = vectorBytes});
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 1; }));
-    service().want({vectorTile(9, 1, 2)});
+    service().setRequests({vectorTile(9, 1, 2)});
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 2; }));
     for (const TileServer::Request& request : server.requests()) {
         EXPECT_EQ(request.headers.value("user-agent"), "vasker-test/1.2");
@@ -44,7 +44,7 @@ TEST_F(TileServiceTest, AsksForTheMostWantedFirst) {
     for (int column = 0; column < 20; ++column) {
         tiles.push_back(vectorTile(10, column, 0));
     }
-    service().want(tiles);
+    service().setRequests(tiles);
     ASSERT_TRUE(comesTrue([&] { return server.open() == 6; }));
     for (int column = 0; column < 6; ++column) {
         EXPECT_EQ(server.requestsFor(vectorPath(10, column, 0)), 1) << column;
@@ -65,7 +65,7 @@ TEST_F(TileServiceTest, NeverAsksForMoreThanSixTilesAtOnceOfWhateverService) {
         tiles.push_back(vectorTile(10, column, 0));
         tiles.push_back(imageryTile(10, column, 0));
     }
-    service().want(tiles);
+    service().setRequests(tiles);
     ASSERT_TRUE(comesTrue([&] { return server.open() + other.open() >= 6; }));
     QCoreApplication::processEvents();
     EXPECT_EQ(server.open() + other.open(), 6);
@@ -82,9 +82,9 @@ TEST_F(TileServiceTest, GivesUpWhatIsNoLongerLookedAt) {
     for (int column = 0; column < 6; ++column) {
         before.push_back(vectorTile(10, column, 0));
     }
-    service().want(before);
+    service().setRequests(before);
     ASSERT_TRUE(comesTrue([&] { return server.open() == 6; }));
-    service().want({before[2], vectorTile(10, 50, 0)});
+    service().setRequests({before[2], vectorTile(10, 50, 0)});
     ASSERT_TRUE(comesTrue([&] { return server.givenUp() == 5 && server.open() == 2; }));
     server.release();
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 2; }));
@@ -96,60 +96,55 @@ TEST_F(TileServiceTest, GivesUpWhatIsNoLongerLookedAt) {
 TEST_F(TileServiceTest, BringsATileOnceWhileItIsLookedAtAndAnewWhenItReturns) {
     server.setAnswer(vectorPath(9, 1, 1), {.body = vectorBytes});
     server.setAnswer(vectorPath(9, 1, 2), {.body = vectorBytes});
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 1; }));
-    service().want({vectorTile(9, 1, 1), vectorTile(9, 1, 2)});
+    service().setRequests({vectorTile(9, 1, 1), vectorTile(9, 1, 2)});
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 2; }));
     EXPECT_EQ(arrived[1].first, vectorTile(9, 1, 2));
-    service().want({});
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 3; }));
     EXPECT_EQ(server.requestsFor(vectorPath(9, 1, 1)), 1) << "from the cache";
 }
 
 TEST_F(TileServiceTest, DoesNotAskForTilesThatNoSourceHas) {
-    service().want({vectorTile(7, 1, 1),
-                    vectorTile(15, 1, 1),
-                    imageryTile(13, 1, 1),
-                    vectorTile(9, 512, 0),
-                    vectorTile(9, 0, -1),
-                    vectorTile(-1, 0, 0)});
+    service().setRequests({vectorTile(7, 1, 1),
+                           vectorTile(15, 1, 1),
+                           imageryTile(13, 1, 1),
+                           vectorTile(9, 512, 0),
+                           vectorTile(9, 0, -1),
+                           vectorTile(-1, 0, 0)});
     ASSERT_TRUE(comesTrue([&] { return missing.size() == 6; }));
     EXPECT_TRUE(server.requests().empty());
-    EXPECT_EQ(service().sourceOf(vectorTile(7, 1, 1)), nullptr);
-    EXPECT_NE(service().sourceOf(vectorTile(8, 1, 1)), nullptr);
-    EXPECT_EQ(service().lastZoom(TileContent::vector), 14);
-    EXPECT_EQ(service().lastZoom(TileContent::imagery), 12);
 }
 
 TEST_F(TileServiceTest, PlainHttpIsForTestsAlone) {
     options.plainLoopback = PlainLoopback::refused;
     restart();
-    EXPECT_EQ(service().lastZoom(TileContent::vector), -1);
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return missing.size() == 1; }));
     EXPECT_TRUE(server.requests().empty());
 }
 
 TEST_F(TileServiceTest, WhatIsMissingIsNotAskedForAgain) {
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return missing.size() == 1; }));
-    service().want({});
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return missing.size() == 2; }));
     EXPECT_EQ(server.requests().size(), 1U);
 }
 
 TEST_F(TileServiceTest, WhatCannotBeDecodedIsForgottenAndMissing) {
     server.setAnswer(vectorPath(9, 1, 1), {.body = vectorBytes});
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 1; }));
     service().discard(vectorTile(9, 1, 1));
-    service().want({});
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return missing.size() == 1; }));
     restart();
-    service().want({vectorTile(9, 1, 1)});
+    service().setRequests({vectorTile(9, 1, 1)});
     ASSERT_TRUE(comesTrue([&] { return arrived.size() == 1; }));
     EXPECT_EQ(server.requests().size(), 2U) << "the cache has forgotten it too";
 }
@@ -159,7 +154,7 @@ TEST_F(TileServiceTest, MayBeDestroyedByWhoeverHearsOfATile) {
     auto* const mortal = new TileService(sources(server, server), options);
     const QPointer<TileService> alive(mortal);
     QObject::connect(mortal, &TileService::arrived, mortal, [mortal] { delete mortal; });
-    mortal->want({vectorTile(9, 1, 1), vectorTile(9, 1, 2), vectorTile(9, 1, 3)});
+    mortal->setRequests({vectorTile(9, 1, 1), vectorTile(9, 1, 2), vectorTile(9, 1, 3)});
     ASSERT_TRUE(comesTrue([&] { return alive.isNull(); }));
 }
 
@@ -168,17 +163,17 @@ TEST_F(TileServiceTest, MayBeToldWhatIsWantedByWhoeverHearsOfATile) {
     int column = 0;
     QObject::connect(&service(), &TileService::arrived, &service(), [&] {
         if (++column < 10) {
-            service().want({vectorTile(9, column, 1)});
+            service().setRequests({vectorTile(9, column, 1)});
         }
     });
-    service().want({vectorTile(9, 0, 1)});
+    service().setRequests({vectorTile(9, 0, 1)});
     ASSERT_TRUE(comesTrue([&] { return column == 10; }));
     EXPECT_EQ(server.requests().size(), 10U);
 }
 
 TEST_F(TileServiceTest, IsDestroyedWhileItAsks) {
     server.setOtherAnswer({.manner = TileServer::Manner::silent});
-    service().want({vectorTile(9, 1, 1), vectorTile(9, 1, 2)});
+    service().setRequests({vectorTile(9, 1, 1), vectorTile(9, 1, 2)});
     ASSERT_TRUE(comesTrue([&] { return server.open() == 2; }));
     stop();
     EXPECT_TRUE(comesTrue([&] { return server.givenUp() == 2; }));

@@ -1,4 +1,4 @@
-#include "map/tileservice/TileService.h"
+#include "map/tileservice/TileSources.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -64,8 +64,8 @@ TEST(TileSources, EntriesThatMakeNoSenseAreLeftOut) {
 }
 
 TEST(TileSources, ATemplateIsAnAddressWithItsThreePlacesBehindTheHost) {
-    EXPECT_TRUE(withTemplate(QStringLiteral("https://a.example/{z}/{x}/{y}")).isSound());
-    EXPECT_TRUE(withTemplate(QStringLiteral("https://a.example/t?z={z}&x={x}&y={y}")).isSound());
+    EXPECT_TRUE(withTemplate(QStringLiteral("https://a.example/{z}/{x}/{y}")).isValid());
+    EXPECT_TRUE(withTemplate(QStringLiteral("https://a.example/t?z={z}&x={x}&y={y}")).isValid());
     for (const char16_t* const text : {u"",
                                        u"{z}{x}{y}",
                                        u"/{z}/{x}/{y}",
@@ -77,10 +77,10 @@ TEST(TileSources, ATemplateIsAnAddressWithItsThreePlacesBehindTheHost) {
                                        u"https://a.example/{z}/{x}#{y}",
                                        u"https://a example/{z}/{x}/{y}"}) {
         const QString tried = QString::fromUtf16(text);
-        EXPECT_FALSE(withTemplate(tried).isSound()) << tried.toStdString();
+        EXPECT_FALSE(withTemplate(tried).isValid()) << tried.toStdString();
     }
     const QString longOne = QStringLiteral("https://a.example/{z}/{x}/{y}/");
-    EXPECT_FALSE(withTemplate(longOne + QString(1'000, u'a')).isSound());
+    EXPECT_FALSE(withTemplate(longOne + QString(1'000, u'a')).isValid());
 }
 
 TEST(TileSources, AnAddressToBeShownIsOneOfTheWeb) {
@@ -104,6 +104,26 @@ TEST(TileSources, ThoseOfTheProgramAreUsable) {
         EXPECT_FALSE(source.attribution.isEmpty());
         EXPECT_EQ(source.attributionAddress.scheme(), u"https");
     }
+}
+
+TEST(TileSources, TheFirstSourceThatCoversAZoomIsUsed) {
+    TileSources sources;
+    sources.vector = {{.addressTemplate = {},
+                       .firstZoom = 8,
+                       .lastZoom = 14,
+                       .attribution = {},
+                       .attributionAddress = {}},
+                      {.addressTemplate = {},
+                       .firstZoom = 0,
+                       .lastZoom = 9,
+                       .attribution = {},
+                       .attributionAddress = {}}};
+    EXPECT_EQ(sources.covering(TileContent::vector, 8), &sources.vector[0]);
+    EXPECT_EQ(sources.covering(TileContent::vector, 7), &sources.vector[1]);
+    EXPECT_EQ(sources.covering(TileContent::vector, 15), nullptr);
+    EXPECT_EQ(sources.covering(TileContent::imagery, 8), nullptr);
+    EXPECT_EQ(sources.lastZoom(TileContent::vector), 14);
+    EXPECT_EQ(sources.lastZoom(TileContent::imagery), -1);
 }
 
 } // namespace

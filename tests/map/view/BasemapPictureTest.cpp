@@ -1,7 +1,7 @@
 // What the map looks like with ground under the records: the picture of a real window, drawn by
 // OpenGL.
 
-#include "map/style/BasemapStyle.h"
+#include "map/style/StyleLayer.h"
 #include "map/view/MapView.h"
 #include "tests/map/records/RecordSetBuilder.h"
 #include "tests/map/style/TileDataBuilder.h"
@@ -38,7 +38,7 @@ class MapGroundPicture : public testing::Test {
     /// One red photograph of the whole world.
     void useRedPhotograph() {
         const std::string path = m_folder.filePath(QStringLiteral("imagery")).toStdString();
-        writeArchive(path, {{{0, 0, 0}, photographOf(Qt::red).toStdString()}});
+        writeArchive(path, {{{0, 0, 0}, imageryImage(Qt::red).toStdString()}});
         useArchives({.vector = {}, .imagery = path});
         m_map->setBasemap(QStringLiteral("satellite"));
     }
@@ -97,7 +97,7 @@ TEST_F(MapGroundPicture, LandAndWaterAreWhereTheyAre) {
         return QPoint(static_cast<int>(point.x), static_cast<int>(point.y));
     };
     const QImage seen = picture();
-    const BasemapColors& colors = basemapColors(BasemapTheme::light);
+    const MapTheme& colors = mapTheme(BasemapTheme::light);
     EXPECT_GT(shareOf(colors.water, seen, place({58.5, -86})), 0.7); // Hudson Bay
     EXPECT_GT(shareOf(colors.land, seen, place({54.5, -106})), 0.5); // Saskatchewan
 }
@@ -119,8 +119,8 @@ TEST_F(MapGroundPicture, FacilitiesArePinsAndCrowdedOnesDotsHoweverDotsAreDrawn)
     show({facilityAt(56, -112, "refinery"),
           facilityAt(55.5, -112, "gas_plant"),
           facilityAt(50, -100, "gas_plant")});
-    for (const Dots dots : {Dots::painted, Dots::drawn}) {
-        m_map->setDots(dots);
+    for (const RecordDrawing drawing : {RecordDrawing::painted, RecordDrawing::live}) {
+        m_map->setDrawing(drawing);
         const QImage seen = picture();
         EXPECT_EQ(seen.pixelColor(at(56, -112) + QPoint(-8, -18)), light(PaletteColor::red));
         EXPECT_EQ(seen.pixelColor(at(55.5, -112)), light(PaletteColor::blue));
@@ -130,8 +130,8 @@ TEST_F(MapGroundPicture, FacilitiesArePinsAndCrowdedOnesDotsHoweverDotsAreDrawn)
 TEST_F(MapGroundPicture, AnUnpickedLineLooksAlikeHoweverItIsDrawn) {
     useBasemap();
     show({pipelineAlong({{{-120, 54}, {-104, 54}}})});
-    for (const Dots dots : {Dots::painted, Dots::drawn}) {
-        m_map->setDots(dots);
+    for (const RecordDrawing drawing : {RecordDrawing::painted, RecordDrawing::live}) {
+        m_map->setDrawing(drawing);
         const QImage seen = picture();
         int height = 0;
         for (int y = -6; y <= 6; ++y) {
@@ -145,7 +145,7 @@ TEST_F(MapGroundPicture, AnUnpickedLineLooksAlikeHoweverItIsDrawn) {
 
 TEST_F(MapGroundPicture, ThePickedLineIsBlueAndFivePixelsWideUponPaintedOnes) {
     useBasemap();
-    m_map->setDots(Dots::painted);
+    m_map->setDrawing(RecordDrawing::painted);
     show({pipelineAlong({{{-120, 54}, {-104, 54}}, {{-120, 50}, {-104, 50}}})});
     static_cast<void>(picture());
     m_map->setSelection(QStringLiteral("R-0"));
@@ -163,8 +163,8 @@ TEST_F(MapGroundPicture, ThePickedLineIsBlueAndFivePixelsWideUponPaintedOnes) {
 
 TEST_F(MapGroundPicture, AFilterThatLeavesNothingLeavesTheGround) {
     useBasemap();
-    for (const Dots dots : {Dots::painted, Dots::drawn}) {
-        m_map->setDots(dots);
+    for (const RecordDrawing drawing : {RecordDrawing::painted, RecordDrawing::live}) {
+        m_map->setDrawing(drawing);
         m_map->setRecords({});
         const QImage ground = picture();
         RecordSet records = recordSetOf(

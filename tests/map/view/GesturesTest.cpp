@@ -10,14 +10,14 @@ namespace {
 const Camera camera(canadaOverview, {960, 712});
 
 TEST(Gestures, APressThatHardlyMovesIsAClick) {
-    Drag drag({100, 100});
+    PanDrag drag({100, 100});
     const Camera after = drag.moved(camera, {102, 101});
     EXPECT_TRUE(drag.isClick());
     EXPECT_EQ(after.center(), camera.center());
 }
 
 TEST(Gestures, ADragKeepsTheGroundUnderThePointer) {
-    Drag drag({100, 100});
+    PanDrag drag({100, 100});
     Camera now = drag.moved(camera, {103, 100});
     now = drag.moved(now, {180, 130});
     EXPECT_FALSE(drag.isClick());
@@ -27,7 +27,7 @@ TEST(Gestures, ADragKeepsTheGroundUnderThePointer) {
 }
 
 TEST(Gestures, ADragThatReturnsToItsPlaceIsStillADrag) {
-    Drag drag({100, 100});
+    PanDrag drag({100, 100});
     Camera now = drag.moved(camera, {150, 100});
     now = drag.moved(now, {100, 100});
     EXPECT_FALSE(drag.isClick());
@@ -51,7 +51,7 @@ TEST(Gestures, APinchKeepsTheGroundUnderBothFingers) {
 }
 
 TEST(Gestures, AFingerMayTrembleMoreThanAMouse) {
-    Drag drag({100, 100}, touchDragThreshold);
+    PanDrag drag({100, 100}, touchDragThreshold);
     static_cast<void>(drag.moved(camera, {106, 106}));
     EXPECT_TRUE(drag.isClick());
     static_cast<void>(drag.moved(camera, {108, 108}));

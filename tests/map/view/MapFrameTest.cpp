@@ -1,6 +1,6 @@
 // What the map looks like: the picture of a real window, drawn by OpenGL.
 
-#include "map/style/MapColors.h"
+#include "map/style/MapTheme.h"
 #include "map/view/MapView.h"
 #include "tests/map/records/RecordSetBuilder.h"
 
@@ -48,7 +48,7 @@ QColor light(PaletteColor color) {
 TEST_F(MapFrame, AFacilityStandsAsABalloonInTheColorOfItsKind) {
     show({facilityAt(54, -112, "refinery")});
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), light(PaletteColor::red));
-    EXPECT_EQ(colorAt(at(54, -112) + QPoint(60, 30)), mapColors(BasemapTheme::light).beyond);
+    EXPECT_EQ(colorAt(at(54, -112) + QPoint(60, 30)), mapTheme(BasemapTheme::light).background);
 }
 
 TEST_F(MapFrame, ACrowdedFacilityIsADotInTheColorOfItsKind) {
@@ -96,7 +96,7 @@ TEST_F(MapFrame, AFilterThatLeavesNothingLeavesTheGround) {
     RecordSet records = recordSetOf({facilityAt(54, -112, "refinery")});
     records.filtered = std::make_shared<const std::vector<AssetIndex>>();
     m_map->setRecords(records);
-    EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), mapColors(BasemapTheme::light).beyond);
+    EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), mapTheme(BasemapTheme::light).background);
 }
 
 TEST_F(MapFrame, TheDarkMapUsesTheBrightColors) {
@@ -104,7 +104,7 @@ TEST_F(MapFrame, TheDarkMapUsesTheBrightColors) {
     m_map->setDark(true);
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)),
               colorValue(PaletteColor::red, ColorScheme::dark));
-    EXPECT_EQ(colorAt({40, 40}), mapColors(BasemapTheme::dark).beyond);
+    EXPECT_EQ(colorAt({40, 40}), mapTheme(BasemapTheme::dark).background);
 }
 
 TEST_F(MapFrame, AClickOnABalloonPicksItsRecordAndOneOnTheGroundNone) {

@@ -61,7 +61,7 @@ TEST_F(MapKeys, NSetsTheMapUpright) {
 }
 
 TEST_F(MapKeys, HomeAsksForTheOverview) {
-    const QSignalSpy wishes(m_map, &MapView::overviewWanted);
+    const QSignalSpy wishes(m_map, &MapView::overviewRequested);
     key(Qt::Key_Home);
     EXPECT_EQ(wishes.size(), 1);
 }
@@ -76,7 +76,7 @@ TEST_F(MapKeys, EnterAndSpacePickWhatIsInTheMiddle) {
 }
 
 TEST_F(MapKeys, TheMenuKeyAsksForTheMenuOfWhatIsInTheMiddle) {
-    const QSignalSpy menus(m_map, &MapView::menuWanted);
+    const QSignalSpy menus(m_map, &MapView::menuRequested);
     key(Qt::Key_Menu);
     key(Qt::Key_F10, Qt::ShiftModifier);
     key(Qt::Key_F10);

@@ -167,7 +167,7 @@ TEST_F(MapPointer, ADoubleClickOnARecordPicksItOnceAndDoesNotZoom) {
 
 TEST_F(MapPointer, TheSecondaryButtonAsksForTheMenuOfARecordAndPicksNothing) {
     const QSignalSpy picks(m_map, &MapView::picked);
-    const QSignalSpy menus(m_map, &MapView::menuWanted);
+    const QSignalSpy menus(m_map, &MapView::menuRequested);
     QTest::mouseClick(&m_window, Qt::RightButton, {}, {400, 282});
     QTest::mouseClick(&m_window, Qt::RightButton, {}, {600, 100}); // bare ground
     ASSERT_EQ(menus.size(), 1);
@@ -177,7 +177,7 @@ TEST_F(MapPointer, TheSecondaryButtonAsksForTheMenuOfARecordAndPicksNothing) {
 }
 
 TEST_F(MapPointer, ATurnAsksForNoMenu) {
-    const QSignalSpy menus(m_map, &MapView::menuWanted);
+    const QSignalSpy menus(m_map, &MapView::menuRequested);
     drag(Qt::RightButton, {400, 282}, {460, 232});
     EXPECT_TRUE(menus.isEmpty());
 }

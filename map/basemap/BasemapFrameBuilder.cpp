@@ -1,0 +1,126 @@
+#include "map/basemap/BasemapFrameBuilder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vasker {
+
+namespace {
+
+/// Scales that differ less than this count as equal.
+constexpr double scaleTolerance = 1e-4;
+
+/// The quad of `tile` in the copy of the world that lies `offset` map points to the east. At rest
+/// and upright it stands on whole device pixels. With an opacity of 0 it has no area: nothing is
+/// seen, and the texture is made all the same.
+TileQuad tileQuad(const RasterTile& tile,
+                  double offset,
+                  double opacity,
+                  const Camera& camera,
+                  double devicePixelsPerPixel) {
+    TileQuad quad{tile.number, {}, static_cast<float>(opacity)};
+    if (opacity == 0) {
+        return quad;
+    }
+    const double scale = tile.devicePixelsPerMapPoint;
+    const auto west = static_cast<double>(tile.pixels.x);
+    const auto north = static_cast<double>(tile.pixels.y);
+    const double ratio = camera.scale() * devicePixelsPerPixel / scale;
+    if (camera.isUpright() && std::abs(ratio - 1) < scaleTolerance) {
+        const ScreenPoint focus = camera.focus();
+        const auto snapped = [devicePixelsPerPixel](double focusPixels, double centerPixels) {
+            return std::round(focusPixels * devicePixelsPerPixel - centerPixels);
+        };
+        const double x = west + snapped(focus.x, (camera.center().x - offset) * scale);
+        const double y = north + snapped(focus.y, camera.center().y * scale);
+        const auto corner = [devicePixelsPerPixel](double right, double down) -> PerspectivePoint {
+            return {right / devicePixelsPerPixel, down / devicePixelsPerPixel, 1};
+        };
+        quad.corners = {corner(x, y),
+                        corner(x + tile.pixels.width, y),
+                        corner(x + tile.pixels.width, y + tile.pixels.height),
+                        corner(x, y + tile.pixels.height)};
+        return quad;
+    }
+    const auto corner = [&](double right, double down) {
+        return camera.worldToPerspective({right / scale + offset, down / scale});
+    };
+    quad.corners = {corner(west, north),
+                    corner(west + tile.pixels.width, north),
+                    corner(west + tile.pixels.width, north + tile.pixels.height),
+                    corner(west, north + tile.pixels.height)};
+    return quad;
+}
+
+} // namespace
+
+BasemapFrameBuilder::BasemapFrameBuilder(const BasemapView& view)
+    : m_view(view), m_offsets(worldCopyOffsets(view.camera.visibleRect())) {}
+
+void BasemapFrameBuilder::add(RasterTile& tile, double offset, double opacity) {
+    if (!tile.isHandedOver) {
+        m_frame.tiles.newImages.push_back({tile.number, std::exchange(tile.image, QImage())});
+        tile.isHandedOver = true;
+    }
+    m_frame.tiles.quads.push_back(
+        tileQuad(tile, offset, opacity, m_view.camera, m_view.devicePixelsPerPixel));
+    if (opacity == 0) {
+        return;
+    }
+    m_last.push_back(&tile);
+    // What is drawn on top is named first.
+    std::vector<Attribution>& attributions = m_frame.attributions;
+    for (auto each = tile.attributions.rbegin(); each != tile.attributions.rend(); ++each) {
+        std::erase(attributions, *each);
+        attributions.insert(attributions.begin(), *each);
+    }
+}
+
+void BasemapFrameBuilder::show(TileGeneration& generation, double opacity) {
+    m_last.clear();
+    for (auto& [key, tile] : generation.tiles) {
+        for (const double offset : m_offsets) {
+            if (seesTile(m_view.camera, {key, offset}, 0)) {
+                add(tile, offset, opacity);
+            }
+        }
+    }
+}
+
+void BasemapFrameBuilder::showCover(TileGeneration& generation,
+                                    const std::vector<CoverTile>& cover,
+                                    double opacity) {
+    m_last.clear();
+    for (const CoverTile& tile : cover) {
+        add(generation.tiles.at(tile.key), tile.offset, opacity);
+    }
+}
+
+void BasemapFrameBuilder::prepare(TileGeneration& generation) {
+    for (auto& [key, tile] : generation.tiles) {
+        add(tile, 0, 0);
+    }
+}
+
+void BasemapFrameBuilder::describe(const TileGeneration& generation) {
+    for (const RasterTile* const tile : m_last) {
+        m_frame.labels.insert(m_frame.labels.end(), tile->labels.begin(), tile->labels.end());
+        m_frame.lacksImagery = m_frame.lacksImagery || tile->lacksImagery;
+    }
+    m_frame.overlay = generation.overlay;
+    m_frame.scale = generation.scale;
+}
+
+void BasemapFrameBuilder::keep(const TileGeneration& generation) {
+    for (const auto& [key, tile] : generation.tiles) {
+        m_frame.tiles.kept.push_back(tile.number);
+    }
+}
+
+BasemapFrame BasemapFrameBuilder::take() {
+    std::ranges::sort(m_frame.tiles.kept);
+    return std::move(m_frame);
+}
+
+} // namespace vasker

@@ -1,0 +1,75 @@
+#include "map/basemap/TileGeneration.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vasker {
+
+bool isRelated(TileKey a, TileKey b) noexcept {
+    const int zoom = std::min(a.zoom, b.zoom);
+    return a.ancestor(a.zoom - zoom) == b.ancestor(b.zoom - zoom);
+}
+
+TileGeneration::TileGeneration(std::uint64_t generation,
+                               double ownScale,
+                               int ownZoom,
+                               const BasemapView& view)
+    : number(generation), scale(ownScale), zoom(ownZoom),
+      devicePixelsPerPixel(view.devicePixelsPerPixel), theme(view.theme), language(view.language),
+      overlayRevision(view.overlayRevision) {}
+
+bool TileGeneration::looksLike(const BasemapView& view) const noexcept {
+    return theme == view.theme && language == view.language &&
+           devicePixelsPerPixel == view.devicePixelsPerPixel;
+}
+
+bool TileGeneration::covers(const std::vector<CoverTile>& cover) const {
+    return std::ranges::all_of(cover,
+                               [this](const CoverTile& tile) { return tiles.contains(tile.key); });
+}
+
+TileRequest TileGeneration::requestFor(TileKey key) const noexcept {
+    return {.key = key,
+            .devicePixelsPerMapPoint = std::ldexp(scale * devicePixelsPerPixel, key.zoom - zoom),
+            .devicePixelsPerPixel = devicePixelsPerPixel,
+            .theme = theme};
+}
+
+void TileGeneration::takeBasemap(const TileGeneration& other) {
+    for (const auto* painted : {&other.tiles, &other.bare}) {
+        for (const auto& [key, tile] : *painted) {
+            if (!tile.basemap.isNull() && !other.outdated.contains(key)) {
+                RasterTile& taken = bare.insert_or_assign(key, tile).first->second;
+                taken.image = {};
+                taken.isHandedOver = false;
+            }
+        }
+    }
+}
+
+bool TileGeneration::markOutdated(const ServiceTile& tile) {
+    const bool isUsed = tile.content == TileContent::imagery ? showsImagery(theme)
+                                                             : theme != BasemapTheme::satellite;
+    bool isConcerned = false;
+    if (isUsed) {
+        std::erase_if(bare, [&](const auto& each) { return isRelated(each.first, tile.key); });
+        for (const auto& [key, painted] : tiles) {
+            if (isRelated(key, tile.key)) {
+                outdated.insert(key);
+                isConcerned = true;
+            }
+        }
+    }
+    return isConcerned;
+}
+
+void TileGeneration::trim(const Camera& camera, double margin) {
+    const auto offsets = worldCopyOffsets(camera.visibleRect(margin));
+    std::erase_if(tiles, [&](const auto& tile) {
+        return std::ranges::none_of(offsets, [&](double offset) {
+            return seesTile(camera, {tile.first, offset}, margin);
+        });
+    });
+}
+
+} // namespace vasker

@@ -1,0 +1,52 @@
+#pragma once
+// Raster tiles that belong together: painted at one scale, in one theme, with one state of the
+// records. A generation is shown as a whole.
+
+#include "map/basemap/BasemapView.h"
+#include "map/basemap/RasterTile.h"
+#include "map/geometry/TileCover.h"
+#include "map/style/TileRequest.h"
+#include "map/tileservice/ServiceTile.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <vector>
+
+namespace vasker {
+
+struct TileGeneration {
+    std::uint64_t number;
+    double scale; ///< logical pixels per map point
+    int zoom;     ///< of its nearest tiles
+    double devicePixelsPerPixel;
+    BasemapTheme theme;
+    MapLanguage language;
+    std::uint64_t overlayRevision;
+    std::shared_ptr<const TileOverlay> overlay;
+    std::map<TileKey, RasterTile> tiles;
+    std::map<TileKey, RasterTile> bare; ///< painted, but for the overlay
+    std::set<TileKey> outdated;         ///< of `tiles`: more is known of them now
+
+    /// A generation for `view`, without tiles and overlay.
+    TileGeneration(std::uint64_t number, double scale, int zoom, const BasemapView& view);
+
+    /// Whether its tiles look as `view` asks, apart from scale and overlay.
+    [[nodiscard]] bool looksLike(const BasemapView& view) const noexcept;
+    /// Whether it has all tiles of `cover`.
+    [[nodiscard]] bool covers(const std::vector<CoverTile>& cover) const;
+    [[nodiscard]] TileRequest requestFor(TileKey key) const noexcept;
+
+    /// Takes over what `other`, of the same scale and theme, has painted of the basemap.
+    void takeBasemap(const TileGeneration& other);
+    /// More is known of `tile` now; whether that concerns a tile of this generation.
+    bool markOutdated(const ServiceTile& tile);
+    /// Drops what lies farther than `margin` pixels outside the view.
+    void trim(const Camera& camera, double margin);
+};
+
+/// Whether one of the two holds the other, or both are the same.
+[[nodiscard]] bool isRelated(TileKey a, TileKey b) noexcept;
+
+} // namespace vasker

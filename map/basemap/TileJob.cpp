@@ -1,0 +1,41 @@
+#include "map/basemap/TileJob.h"
+
+#include "map/labels/PlaceLabels.h"
+#include "map/style/TilePainter.h"
+
+#include <QPainter>
+
+#include <utility>
+
+namespace vasker {
+
+TileJob::Result TileJob::run(const std::stop_token& stop) && {
+    Result result{std::move(bare), {}};
+    RasterTile& tile = result.tile;
+    if (tile.basemap.isNull()) {
+        ProvidedTile found = provider->read(request.key, request.theme);
+        if (stop.stop_requested()) {
+            return result;
+        }
+        tile.key = request.key;
+        tile.devicePixelsPerMapPoint = request.devicePixelsPerMapPoint;
+        tile.pixels = request.pixels();
+        tile.basemap = paintTile(found.data, request);
+        tile.labels = placeLabels(found.data, request, language);
+        tile.attributions = std::move(found.attributions);
+        tile.lacksImagery = showsImagery(request.theme) && !found.data.hasFullImagery(request.key);
+        result.undecodable = std::move(found.undecodable);
+    }
+    if (!overlay) {
+        tile.image = std::exchange(tile.basemap, QImage());
+    } else if (!stop.stop_requested()) {
+        tile.image = tile.basemap.copy();
+        QPainter painter(&tile.image);
+        overlay->paint(painter,
+                       tile.pixels.bounds(tile.devicePixelsPerMapPoint),
+                       tile.devicePixelsPerMapPoint);
+    }
+    return result;
+}
+
+} // namespace vasker

@@ -1,0 +1,97 @@
+#include "map/frame/MapComposer.h"
+
+#include "map/style/MapTheme.h"
+
+#include <utility>
+
+namespace vasker {
+
+MapComposer::MapComposer(MapLanguage language) : m_language(language) {}
+
+void MapComposer::setTiles(TileLibrary* library) {
+    m_pyramid.reset();
+    m_tiles = library;
+    if (library != nullptr) {
+        m_pyramid = std::make_unique<TilePyramid>(*library);
+        connect(m_pyramid.get(), &TilePyramid::changed, this, &MapComposer::changed);
+    }
+}
+
+void MapComposer::handOverAgain() {
+    if (m_pyramid) {
+        m_pyramid->handOverAgain();
+    }
+}
+
+BasemapFrame MapComposer::composeBasemap(const MapState& state,
+                                         const Camera& camera,
+                                         std::chrono::nanoseconds now) {
+    if (!m_pyramid) {
+        return {};
+    }
+    BasemapView view{.camera = camera,
+                     .devicePixelsPerPixel = state.devicePixels,
+                     .theme = state.theme,
+                     .language = m_language,
+                     .isResting = state.isResting,
+                     .fades = state.fades,
+                     .overlayRevision = 0,
+                     .overlay = {}};
+    if (state.drawing == RecordDrawing::painted) {
+        view.overlayRevision = m_records.revision();
+        view.overlay = [this, devicePixels = state.devicePixels](double scale) {
+            return m_records.overlay(scale, devicePixels);
+        };
+    }
+    return m_pyramid->compose(view, now);
+}
+
+std::vector<RecordLabel> MapComposer::recordLabels(const RecordFrame& records,
+                                                   const MapState& state) const {
+    std::vector<RecordLabel> labels;
+    for (const ShownPin& pin : records.shownPins) {
+        RecordLabel label{pin.asset, pin.box, {}, pin.isHighlighted};
+        if ((pin.isHighlighted || pin.isAlone) && pin.asset != state.unlabelled) {
+            label.text = QString::fromStdString(m_records.asset(pin.asset).name);
+        }
+        labels.push_back(std::move(label));
+    }
+    return labels;
+}
+
+MapFrame
+MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::nanoseconds now) {
+    BasemapFrame basemap = composeBasemap(state, camera, now);
+    // Without tiles there is nothing to paint records on.
+    RecordFrame records = m_records.compose(camera,
+                                            m_pyramid ? state.drawing : RecordDrawing::live,
+                                            basemap.overlay.get(),
+                                            state.devicePixels);
+    SpriteLayer labels = m_labels.compose({.camera = camera,
+                                           .theme = state.theme,
+                                           .devicePixels = state.devicePixels,
+                                           .textScale = state.textScale,
+                                           .places = std::move(basemap.labels),
+                                           .records = recordLabels(records, state),
+                                           .obstacles = state.obstacles,
+                                           .isMoving = !state.isResting});
+    MapFrame frame;
+    frame.size = {camera.viewport().width, camera.viewport().height};
+    frame.devicePixels = state.devicePixels;
+    frame.attributions = std::move(basemap.attributions);
+    frame.lacksImagery = basemap.lacksImagery;
+    frame.isComplete = basemap.isComplete;
+    frame.isUnfinished = basemap.isChanging || m_labels.isUnfinished();
+
+    // In drawing order. A new layer of records is composed in map/records and gets a line here.
+    frame.layers.emplace_back(BackgroundLayer{mapTheme(state.theme).background});
+    frame.layers.emplace_back(std::move(basemap.tiles));
+    for (MapLayer& layer : records.linesAndDots) {
+        frame.layers.push_back(std::move(layer));
+    }
+    frame.layers.emplace_back(std::move(labels));
+    frame.layers.emplace_back(std::move(records.pins));
+    return frame;
+}
+
+} // namespace vasker

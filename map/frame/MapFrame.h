@@ -1,0 +1,28 @@
+#pragma once
+// One frame of the map: everything that is seen, as a value.
+
+#include "map/basemap/Attribution.h"
+#include "map/layers/MapLayer.h"
+
+#include <QSizeF>
+
+#include <vector>
+
+namespace vasker {
+
+struct MapFrame {
+    QSizeF size;                  ///< logical pixels
+    double devicePixels = 1;      ///< per logical pixel
+    std::vector<MapLayer> layers; ///< in drawing order, the lowest first
+
+    // What is said about it.
+    std::vector<Attribution> attributions;
+    bool lacksImagery = false; ///< imagery is asked for and missing somewhere in view
+    bool isComplete = false;   ///< all that is asked for is shown
+    bool isUnfinished = false; ///< another frame is needed, though nothing changes
+
+    /// Takes over the images that `before` was to hand over and did not.
+    void takeImages(MapFrame& before);
+};
+
+} // namespace vasker

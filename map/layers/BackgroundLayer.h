@@ -1,0 +1,12 @@
+#pragma once
+// One colour below everything.
+
+#include <QColor>
+
+namespace vasker {
+
+struct BackgroundLayer {
+    QColor color;
+};
+
+} // namespace vasker

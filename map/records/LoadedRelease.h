@@ -1,0 +1,19 @@
+#pragma once
+// A release with everything that views need of it, made in the load task. Immutable; any thread.
+
+#include "data/ReleaseIndex.h"
+#include "map/records/RecordGeometry.h"
+
+#include <memory>
+
+namespace vasker {
+
+struct LoadedRelease {
+    ReleaseIndex index;
+    RecordGeometry geometry;
+
+    LoadedRelease(std::shared_ptr<const OpenMapRelease> release, TextLocale locale)
+        : index(release, std::move(locale)), geometry(*release) {}
+};
+
+} // namespace vasker

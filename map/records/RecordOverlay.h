@@ -1,0 +1,54 @@
+#pragma once
+// The routes and dots of records, painted over the raster tiles of the basemap: on a machine
+// without a graphics card that is quicker than drawing them in each frame. Immutable; any thread.
+
+#include "map/layers/Rgb.h"
+#include "map/records/LoadedRelease.h"
+#include "map/records/MarkerLayout.h"
+#include "map/records/RouteLines.h"
+#include "map/style/TileOverlay.h"
+
+#include <QColor>
+#include <QImage>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace vasker {
+
+struct RecordColors {
+    std::vector<Rgb> records; ///< by AssetIndex
+    QColor dotCasing;
+    QColor routeCasing;
+};
+
+class RecordOverlay final : public TileOverlay {
+  public:
+    /// The dots of `layout`, and the routes that have a colour. `devicePixels` per logical pixel.
+    RecordOverlay(std::shared_ptr<const LoadedRelease> loaded,
+                  RouteColors routes,
+                  std::shared_ptr<const MarkerLayout> layout,
+                  RecordColors colors,
+                  double devicePixels);
+
+    void
+    paint(QPainter& painter, const MapRect& bounds, double devicePixelsPerMapPoint) const override;
+
+    [[nodiscard]] const std::shared_ptr<const LoadedRelease>& loaded() const { return m_loaded; }
+    /// Which records are dots of the overlay; the others are pins.
+    [[nodiscard]] const MarkerLayout& layout() const noexcept { return *m_layout; }
+
+  private:
+    void paintRoutes(QPainter& painter, const MapRect& bounds, double scale) const;
+    void paintDots(QPainter& painter, const MapRect& bounds, double scale) const;
+
+    std::shared_ptr<const LoadedRelease> m_loaded;
+    RouteColors m_routes;
+    std::shared_ptr<const MarkerLayout> m_layout;
+    RecordColors m_colors;
+    double m_devicePixels;
+    std::map<Rgb, QImage> m_sprites;
+};
+
+} // namespace vasker

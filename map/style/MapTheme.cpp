@@ -1,0 +1,130 @@
+#include "map/style/MapTheme.h"
+
+namespace vasker {
+
+namespace {
+
+QColor rgb(QRgb value, double opacity = 1) {
+    QColor color = QColor::fromRgb(value);
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+constexpr QRgb nearBlack = 0x0E1318;
+
+MapTheme lightTheme() {
+    return {.background = rgb(0xCBDFEA),
+            .land = rgb(0xF4F2EC),
+            .water = rgb(0xCBDFEA),
+            .urban = rgb(0xE5DFD5),
+            .green = rgb(0xEBEEE2),
+            .ice = rgb(0xFCFDFD),
+            .building = rgb(0xE1DACF),
+            .coast = rgb(0xA3C0D0),
+            .river = rgb(0xB3D0E0),
+            .mainRoad = rgb(0xFFFFFF),
+            .minorRoad = rgb(0xFBFAF7),
+            .thinRoad = rgb(0xDDD6CA),
+            .roadCasing = rgb(0xDDD6CA),
+            .rail = rgb(0xCDC8BF),
+            .regionBorder = rgb(0xB7AEBC),
+            .countryBorder = rgb(0x8C8196),
+            .countryHalo = rgb(0x8C8196, 0.16),
+            .placeLabel = rgb(0x3B4047),
+            .regionLabel = rgb(0x655B70),
+            .waterLabel = rgb(0x2F6480),
+            .recordLabel = rgb(0x1A1D21),
+            .labelHalo = rgb(0xFAF9F6, 0.92),
+            .records = ColorScheme::light,
+            .markerCasing = rgb(0xFFFFFF),
+            .routeCasing = rgb(0xFFFFFF, 0.85),
+            .markerOutline = Qt::transparent,
+            .pinSymbol = rgb(0xFFFFFF)};
+}
+
+MapTheme darkTheme() {
+    return {.background = rgb(0x151E27),
+            .land = rgb(0x262B30),
+            .water = rgb(0x151E27),
+            .urban = rgb(0x33383E),
+            .green = rgb(0x272E2F),
+            .ice = rgb(0x353C43),
+            .building = rgb(0x363B41),
+            .coast = rgb(0x33454F),
+            .river = rgb(0x1B2832),
+            .mainRoad = rgb(0x41474E),
+            .minorRoad = rgb(0x373D43),
+            .thinRoad = rgb(0x3B4147),
+            .roadCasing = rgb(0x1F2428),
+            .rail = rgb(0x3A3F45),
+            .regionBorder = rgb(0x56505E),
+            .countryBorder = rgb(0x7E7689),
+            .countryHalo = rgb(0x7E7689, 0.16),
+            .placeLabel = rgb(0xC6CBD1),
+            .regionLabel = rgb(0xABA3B5),
+            .waterLabel = rgb(0x7FA9C2),
+            .recordLabel = rgb(0xECEEF0),
+            .labelHalo = rgb(0x1E2328, 0.92),
+            .records = ColorScheme::dark,
+            .markerCasing = rgb(nearBlack),
+            .routeCasing = rgb(nearBlack, 0.8),
+            .markerOutline = Qt::transparent,
+            .pinSymbol = rgb(nearBlack)};
+}
+
+/// Mid-tones of imagery lie between a marker and its casing: a white outline carries the contrast.
+MapTheme satelliteTheme() {
+    MapTheme theme = darkTheme();
+    theme.placeLabel = rgb(0xFFFFFF);
+    theme.regionLabel = rgb(0xFFFFFF, 0.86);
+    theme.waterLabel = rgb(0xCFE6F5);
+    theme.recordLabel = rgb(0xFFFFFF);
+    theme.labelHalo = rgb(0x0A0F14, 0.82);
+    theme.markerOutline = rgb(0xFFFFFF, 0.9);
+    return theme;
+}
+
+MapTheme hybridTheme() {
+    MapTheme theme = satelliteTheme();
+    for (QColor* area : {&theme.land,
+                         &theme.water,
+                         &theme.urban,
+                         &theme.green,
+                         &theme.ice,
+                         &theme.building,
+                         &theme.coast,
+                         &theme.river,
+                         &theme.roadCasing,
+                         &theme.rail}) {
+        *area = Qt::transparent;
+    }
+    for (QColor* road : {&theme.mainRoad, &theme.minorRoad, &theme.thinRoad}) {
+        *road = rgb(0xF5E3B0, 0.5);
+    }
+    theme.regionBorder = rgb(0xFFFFFF, 0.5);
+    theme.countryBorder = rgb(0xFFFFFF);
+    theme.countryHalo = rgb(0x0A1018, 0.35);
+    return theme;
+}
+
+} // namespace
+
+const MapTheme& mapTheme(BasemapTheme theme) noexcept {
+    static const MapTheme light = lightTheme();
+    static const MapTheme dark = darkTheme();
+    static const MapTheme satellite = satelliteTheme();
+    static const MapTheme hybrid = hybridTheme();
+    switch (theme) {
+    case BasemapTheme::light:
+        return light;
+    case BasemapTheme::dark:
+        return dark;
+    case BasemapTheme::satellite:
+        return satellite;
+    case BasemapTheme::hybrid:
+        break;
+    }
+    return hybrid;
+}
+
+} // namespace vasker

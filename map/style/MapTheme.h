@@ -1,0 +1,51 @@
+#pragma once
+// Every colour of the map, by role: one entry a theme.
+
+#include "map/style/BasemapTheme.h"
+#include "platform/ui/Palette.h"
+
+#include <QColor>
+
+namespace vasker {
+
+/// Roles that a theme does not draw are transparent. Basemap colours stay pale, so that each record
+/// colour stands at least 3:1 against every area.
+struct MapTheme {
+    // Areas of the basemap.
+    QColor background; ///< where there is no tile: beyond the limits of the projection
+    QColor land;
+    QColor water;
+    QColor urban;
+    QColor green; ///< woods and parks
+    QColor ice;
+    QColor building;
+    // Lines of the basemap.
+    QColor coast;
+    QColor river;
+    QColor mainRoad;
+    QColor minorRoad;
+    QColor thinRoad; ///< of roads too narrow for a casing
+    QColor roadCasing;
+    QColor rail;
+    QColor regionBorder;
+    QColor countryBorder;
+    QColor countryHalo;
+    // Labels.
+    QColor placeLabel;
+    QColor regionLabel;
+    QColor waterLabel;
+    QColor recordLabel;
+    QColor labelHalo;
+    // Records.
+    ColorScheme records;  ///< which values the record colours take
+    QColor markerCasing;  ///< around dots, pins and the selected route
+    QColor routeCasing;   ///< translucent
+    QColor markerOutline; ///< around the casing of pins and of the selected route
+    QColor pinSymbol;
+};
+
+/// The theme's colours. Of hybrid, the basemap's are those drawn over imagery; of satellite, those
+/// of the drawn map that stands in where imagery is missing, which is the dark one.
+[[nodiscard]] const MapTheme& mapTheme(BasemapTheme theme) noexcept;
+
+} // namespace vasker

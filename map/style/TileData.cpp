@@ -1,0 +1,13 @@
+#include "map/style/TileData.h"
+
+#include <algorithm>
+
+namespace vasker {
+
+bool TileData::hasFullImagery(TileKey key) const noexcept {
+    const auto covers = [key](const ImageryTile& tile) { return tile.key.zoom <= key.zoom; };
+    const auto isQuarter = [key](const ImageryTile& tile) { return tile.key.zoom == key.zoom + 1; };
+    return std::ranges::any_of(imagery, covers) || std::ranges::count_if(imagery, isQuarter) == 4;
+}
+
+} // namespace vasker

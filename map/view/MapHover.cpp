@@ -1,0 +1,36 @@
+#include "map/view/MapHover.h"
+
+#include "map/records/PinShape.h"
+#include "presentation/CategoryText.h"
+
+namespace vasker {
+
+void MapHover::setRecord(std::optional<AssetIndex> record,
+                         ScreenPoint pointer,
+                         const Camera& camera) {
+    if (record == m_record) {
+        return;
+    }
+    m_record = record;
+    const auto marker = record ? m_records.placeOf(*record, camera) : std::nullopt;
+    m_place = marker ? QPointF(marker->x, marker->y - pinTipY * hoveredPinScale)
+                     : QPointF(pointer.x, pointer.y);
+    Q_EMIT changed();
+}
+
+void MapHover::clear() {
+    if (m_record) {
+        m_record.reset();
+        Q_EMIT changed();
+    }
+}
+
+QString MapHover::name() const {
+    return m_record ? QString::fromStdString(m_records.asset(*m_record).name) : QString();
+}
+
+QString MapHover::caption() const {
+    return m_record ? categoryLine(m_records.asset(*m_record)) : QString();
+}
+
+} // namespace vasker

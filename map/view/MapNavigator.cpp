@@ -1,0 +1,93 @@
+#include "map/view/MapNavigator.h"
+
+#include <QGuiApplication>
+#include <QStyleHints>
+
+namespace vasker {
+
+namespace {
+
+constexpr double buttonZoomSeconds = 0.3;
+
+DoubleTap doubleTapOfDesktop() {
+    const QStyleHints& hints = *QGuiApplication::styleHints();
+    return {.seconds = hints.mouseDoubleClickInterval() / 1000.0,
+            .pixels = static_cast<double>(hints.touchDoubleTapDistance())};
+}
+
+template <typename... Handlers>
+struct Overloaded : Handlers... {
+    using Handlers::operator()...;
+};
+
+} // namespace
+
+MapNavigator::MapNavigator(std::function<Camera()> camera)
+    : m_camera(std::move(camera)), m_input(doubleTapOfDesktop()) {
+    connect(&m_motion, &MapMotion::advanced, this, &MapNavigator::moved);
+}
+
+bool MapNavigator::handle(const MapEvent& event) {
+    const auto commands = m_input.handle(event, m_camera());
+    if (!commands) {
+        return false;
+    }
+    for (const MapCommand& command : *commands) {
+        carryOut(command);
+    }
+    return true;
+}
+
+void MapNavigator::carryOut(const MapCommand& command) {
+    std::visit(Overloaded{
+                   [this](const StopMotion&) { m_motion.cancel(); },
+                   [this](const SetCamera& set) { Q_EMIT moved(set.camera); },
+                   [this](const StartInertia& start) {
+                       m_motion.startInertia(m_camera(), start.velocity);
+                   },
+                   [this](const StartZoom& zoom) {
+                       m_motion.zoom(m_camera(), zoom.factor, zoom.anchor, zoom.seconds);
+                   },
+                   [this](const StartRotation& rotation) {
+                       const CameraPose pose = m_camera().pose();
+                       if (pose.bearing != rotation.bearing || pose.pitch != rotation.pitch) {
+                           m_motion.rotate(m_camera(), rotation.bearing, rotation.pitch);
+                       }
+                   },
+                   [this](const PressAxis& press) {
+                       m_motion.press(m_camera(), press.axis, press.direction, press.isRepeated);
+                   },
+                   [this](const ReleaseAxis& release) {
+                       m_motion.release(release.axis, release.direction);
+                   },
+                   [this](const ReleaseAllAxes&) { m_motion.releaseAll(); },
+                   [this](const Pick& wanted) { m_input.setPickHit(pick && pick(wanted)); },
+                   [this](const OpenMenu& menu) { Q_EMIT menuRequested(menu.point, menu.reach); },
+                   [this](const ShowOverview&) { Q_EMIT overviewRequested(); },
+                   [this](const TakeFocus&) { Q_EMIT focusRequested(); },
+               },
+               command);
+}
+
+void MapNavigator::zoomBy(double factor) {
+    const Camera camera = m_camera();
+    m_motion.zoom(camera, factor, camera.focus(), buttonZoomSeconds);
+}
+
+void MapNavigator::resetNorth() {
+    carryOut(StartRotation{0, 0});
+}
+
+Qt::CursorShape MapNavigator::dragCursor() const noexcept {
+    switch (m_input.drag()) {
+    case MapInput::Drag::pan:
+        return Qt::ClosedHandCursor;
+    case MapInput::Drag::rotate:
+        return Qt::SizeAllCursor;
+    case MapInput::Drag::none:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
+} // namespace vasker
