@@ -3,10 +3,10 @@
 // and its frames go to the scene graph. It never changes what others own.
 
 #include "map/frame/MapComposer.h"
-#include "map/view/InputItem.h"
+#include "map/input/InputItem.h"
+#include "map/input/MapNavigator.h"
 #include "map/view/MapControls.h"
 #include "map/view/MapHover.h"
-#include "map/view/MapNavigator.h"
 #include "map/view/MapStatus.h"
 
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "map/view/MapNavigator.h"
+#include "map/input/MapNavigator.h"
 
 #include <QGuiApplication>
 #include <QStyleHints>

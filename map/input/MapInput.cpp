@@ -1,4 +1,4 @@
-#include "map/view/MapInput.h"
+#include "map/input/MapInput.h"
 
 #include "map/records/HitTest.h"
 

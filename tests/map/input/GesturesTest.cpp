@@ -1,4 +1,4 @@
-#include "map/view/Gestures.h"
+#include "map/input/Gestures.h"
 
 #include <gtest/gtest.h>
 

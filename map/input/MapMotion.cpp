@@ -1,4 +1,4 @@
-#include "map/view/MapMotion.h"
+#include "map/input/MapMotion.h"
 
 #include <limits>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 // An item that gets what its user does as values.
 
-#include "map/view/MapEvent.h"
+#include "map/input/MapEvent.h"
 
 #include <QPointF>
 #include <QQuickItem>

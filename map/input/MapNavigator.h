@@ -2,8 +2,8 @@
 // Carries out what the user does on a map: moves its camera, at once or over time, and picks
 // records.
 
-#include "map/view/MapInput.h"
-#include "map/view/MapMotion.h"
+#include "map/input/MapInput.h"
+#include "map/input/MapMotion.h"
 
 #include <QObject>
 #include <Qt>

@@ -2,9 +2,9 @@
 // What pointer, fingers, wheel and keys mean on the map: events in, commands out. A state machine
 // without a window and without a clock.
 
-#include "map/view/Gestures.h"
-#include "map/view/MapCommand.h"
-#include "map/view/MapEvent.h"
+#include "map/input/Gestures.h"
+#include "map/input/MapCommand.h"
+#include "map/input/MapEvent.h"
 
 #include <cstdint>
 #include <optional>

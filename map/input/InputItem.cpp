@@ -1,4 +1,4 @@
-#include "map/view/InputItem.h"
+#include "map/input/InputItem.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
