@@ -43,6 +43,9 @@ void TileLibrary::startService() {
                 provider->put(tile, bytes);
             });
     connect(m_service, &TileService::arrived, this, &TileLibrary::tileArrived);
+    // Not before: where the network works nobody needs to be told.
+    connect(m_service, &TileService::unreachable, &m_networkReturn, &NetworkReturn::watch);
+    connect(&m_networkReturn, &NetworkReturn::returned, m_service, &TileService::networkReturned);
     m_serviceThread->start();
 }
 

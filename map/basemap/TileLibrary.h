@@ -4,6 +4,7 @@
 
 #include "map/basemap/TileProvider.h"
 #include "map/basemap/TileWorkers.h"
+#include "map/tileservice/NetworkReturn.h"
 #include "map/tileservice/TileService.h"
 
 #include <QObject>
@@ -51,6 +52,7 @@ class TileLibrary : public QObject {
     std::map<const void*, std::vector<ServiceTile>> m_requested;
     std::unique_ptr<QThread> m_serviceThread;
     TileService* m_service = nullptr; ///< lives in its thread, whose end deletes it
+    NetworkReturn m_networkReturn;
     TileWorkers m_workers;
 };
 

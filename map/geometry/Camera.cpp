@@ -78,15 +78,15 @@ bool isFinite(const Frame& frame) {
            std::isfinite(frame.halfWidth) && std::isfinite(frame.halfHeight);
 }
 
-/// From the camera to its centre on the ground, in pixels.
+/// From the camera to its centre on the map plane, in pixels.
 double distance(Viewport viewport) {
     return 1.5 * viewport.height;
 }
 
 /// In degrees, [0, 360).
 double normalizedBearing(double degrees) {
-    const double turned = std::fmod(degrees, 360);
-    return turned < 0 ? std::fmod(turned + 360, 360) : turned;
+    const double rest = std::fmod(degrees, 360);
+    return rest < 0 ? std::fmod(rest + 360, 360) : rest;
 }
 
 /// [0, worldSize). A step to the west so small that it is lost in worldSize ends at 0.
@@ -104,7 +104,7 @@ Viewport usable(Viewport viewport) {
             std::clamp(viewport.coveredRight, 0.0, width - 1)};
 }
 
-/// No ground is farther away than this many times the distance of the camera's centre.
+/// No place is farther away than this many times the distance of the camera's centre.
 constexpr double farthest = 20;
 
 } // namespace
@@ -125,7 +125,7 @@ Camera::Camera(const CameraPose& pose, Viewport viewport)
 
 Camera::Camera(const CameraPosition& position, Viewport viewport)
     : m_pose{{0, 0}, 1}, m_viewport(usable(viewport)) {
-    if (!std::visit([](const auto& wish) { return isFinite(wish); }, position)) {
+    if (!std::visit([](const auto& each) { return isFinite(each); }, position)) {
         *this = Camera(CameraPosition(canadaOverview), viewport);
         return;
     }
@@ -213,15 +213,15 @@ Camera Camera::posed(const CameraPose& pose) const {
     return isFinite(pose) ? Camera(pose, m_viewport) : *this;
 }
 
-Camera Camera::withGroundAt(MapPoint ground, ScreenPoint place) const {
+Camera Camera::withPointAt(MapPoint point, ScreenPoint place) const {
     const MapPoint there = screenToWorld(place);
     CameraPose pose = m_pose;
-    pose.center = {pose.center.x + ground.x - there.x, pose.center.y + ground.y - there.y};
+    pose.center = {pose.center.x + point.x - there.x, pose.center.y + point.y - there.y};
     return posed(pose);
 }
 
 Camera Camera::dragged(ScreenPoint from, ScreenPoint to) const {
-    return withGroundAt(screenToWorld(from), to);
+    return withPointAt(screenToWorld(from), to);
 }
 
 Camera Camera::panned(double rightPixels, double downPixels) const {
@@ -237,7 +237,7 @@ Camera Camera::zoomed(double factor, ScreenPoint anchor) const {
     }
     CameraPose pose = m_pose;
     pose.scale = clampedScale(pose.scale * factor, m_viewport);
-    return posed(pose).withGroundAt(screenToWorld(anchor), anchor);
+    return posed(pose).withPointAt(screenToWorld(anchor), anchor);
 }
 
 Camera Camera::rotated(double degrees, ScreenPoint anchor) const {
@@ -246,7 +246,7 @@ Camera Camera::rotated(double degrees, ScreenPoint anchor) const {
     }
     CameraPose pose = m_pose;
     pose.bearing += degrees;
-    return posed(pose).withGroundAt(screenToWorld(anchor), anchor);
+    return posed(pose).withPointAt(screenToWorld(anchor), anchor);
 }
 
 Camera Camera::tilted(double degrees) const {

@@ -1,9 +1,10 @@
 #pragma once
 // Where the map looks. A CameraPosition is what the workspace stores and any window can show; a
-// Camera is that wish resolved for a viewport.
+// Camera is a position resolved for a viewport.
 //
-// The camera hangs above the ground's centre, turned by its bearing and leaning back by its pitch,
-// at a distance of 1.5 times the viewport's height in pixels (a field of view of 37 degrees).
+// The camera hangs above its centre on the map plane, rotated by its bearing and tilted by its
+// pitch, at a distance of 1.5 times the viewport's height in pixels (a field of view of 37
+// degrees).
 
 #include "map/geometry/MapRect.h"
 #include "map/geometry/Projection.h"
@@ -69,7 +70,7 @@ struct Viewport {
 
 class Camera {
   public:
-    /// Logical pixels per map point at the nearest zoom: about 4 cm of ground a pixel at the
+    /// Logical pixels per map point at the nearest zoom: about 4 cm a pixel at the
     /// equator.
     static constexpr double maximumScale = 4;
     /// Degrees.
@@ -90,7 +91,7 @@ class Camera {
     [[nodiscard]] Viewport viewport() const noexcept { return m_viewport; }
     /// Where the centre stands in the viewport: the middle of its free part.
     [[nodiscard]] ScreenPoint focus() const noexcept;
-    /// Whether north is up and the ground seen from straight above.
+    /// Whether north is up and the map seen from straight above.
     [[nodiscard]] bool isUpright() const noexcept { return m_pose.bearing == 0 && isFlat(); }
     [[nodiscard]] bool isFlat() const noexcept { return m_pose.pitch == 0; }
 
@@ -99,9 +100,9 @@ class Camera {
     [[nodiscard]] PerspectivePoint worldToPerspective(MapPoint point) const noexcept;
     /// For points before the camera.
     [[nodiscard]] ScreenPoint worldToScreen(MapPoint point) const noexcept;
-    /// Points near and above the horizon give ground far away in their direction.
+    /// Points near and above the horizon give a place far away in their direction.
     [[nodiscard]] MapPoint screenToWorld(ScreenPoint point) const noexcept;
-    /// The ground under the viewport's corners, each moved outwards by `margin` pixels: top left,
+    /// The places at the viewport's corners, each moved outwards by `margin` pixels: top left,
     /// top right, bottom right, bottom left. All that is seen lies between them.
     [[nodiscard]] std::array<MapPoint, 4> visibleCorners(double margin = 0) const noexcept;
     /// The smallest rectangle around visibleCorners(); may reach into other copies of the world.
@@ -109,26 +110,26 @@ class Camera {
 
     /// The moves below stop at the limits; by numbers that are not finite nothing moves.
 
-    /// The camera after the ground under `from` was dragged to `to`. The centre stays in the world;
+    /// The camera after the place under `from` was dragged to `to`. The centre stays in the world;
     /// across the date line it comes in again on the other side.
     [[nodiscard]] Camera dragged(ScreenPoint from, ScreenPoint to) const;
-    /// The camera moved over the ground to its right and backwards, by so many pixels at its
+    /// The camera moved over the map to its right and backwards, by so many pixels at its
     /// centre.
     [[nodiscard]] Camera panned(double rightPixels, double downPixels) const;
-    /// The camera `factor` times as near, with the ground under `anchor` kept in its place as far
+    /// The camera `factor` times as near, with the place under `anchor` kept there as far
     /// as the limits of scale and centre allow. A factor that is not positive changes nothing.
     [[nodiscard]] Camera zoomed(double factor, ScreenPoint anchor) const;
-    /// The camera turned clockwise by `degrees` about the ground under `anchor`.
+    /// The camera rotated clockwise by `degrees` about the place under `anchor`.
     [[nodiscard]] Camera rotated(double degrees, ScreenPoint anchor) const;
-    /// The camera leant back by `degrees` more, about its centre.
+    /// The camera tilted by `degrees` more, about its centre.
     [[nodiscard]] Camera tilted(double degrees) const;
 
   private:
     void setPose(const CameraPose& pose) noexcept;
     /// This camera in another pose; unmoved if the pose is not finite.
     [[nodiscard]] Camera posed(const CameraPose& pose) const;
-    /// This camera, moved so that `ground` stands at `place`.
-    [[nodiscard]] Camera withGroundAt(MapPoint ground, ScreenPoint place) const;
+    /// This camera, moved so that `point` is seen at `place`.
+    [[nodiscard]] Camera withPointAt(MapPoint point, ScreenPoint place) const;
 
     CameraPose m_pose;
     Viewport m_viewport;

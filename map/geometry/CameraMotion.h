@@ -30,7 +30,7 @@ class DragTrail {
     std::vector<Sample> m_samples;
 };
 
-/// The camera glides on after a drag, slower and slower: the speed falls to 1/e every 0.325 s.
+/// The camera goes on after a drag, slower and slower: the speed falls to 1/e every 0.325 s.
 class Inertia {
   public:
     Inertia(const Camera& camera, MapVelocity velocity);
@@ -41,11 +41,11 @@ class Inertia {
   private:
     Camera m_start;
     MapVelocity m_velocity; ///< at the start
-    double m_duration = 0;  ///< 0: too slow to glide at all
+    double m_duration = 0;  ///< 0: too slow for inertia
 };
 
-/// The camera comes nearer or goes farther with the ground under a place kept there: fast at first,
-/// then slower.
+/// The camera comes nearer or goes farther, with the place under an anchor kept there: fast at
+/// first, then slower.
 class SmoothZoom {
   public:
     /// A factor that is not positive does not move the camera.
@@ -65,7 +65,7 @@ class SmoothZoom {
     double m_duration;
 };
 
-/// The camera turns the short way to a bearing and leans to a pitch, about its centre.
+/// The camera rotates the short way to a bearing and tilts to a pitch, about its centre.
 class SmoothRotation {
   public:
     /// In degrees.

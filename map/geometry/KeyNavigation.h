@@ -1,6 +1,6 @@
 #pragma once
-// The camera steered by keys: steadily while a key is held, one step for a short press, and always
-// to a soft stop. Several keys act at once.
+// The camera moved by keys: steadily while a key is held, one step for a short press, always to a
+// soft stop. Several keys act at once.
 
 #include "map/geometry/Camera.h"
 
@@ -11,11 +11,11 @@ namespace vasker {
 
 /// What a key moves.
 enum class NavigationAxis {
-    right, ///< over the ground, to the right
-    down,  ///< over the ground, backwards
+    right, ///< over the map, to the right
+    down,  ///< over the map, backwards
     nearer,
     clockwise,
-    back ///< leaning back
+    back ///< tilting back
 };
 
 /// How far a short press goes along an axis: pixels, doublings of the scale, degrees.

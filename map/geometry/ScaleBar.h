@@ -6,11 +6,11 @@
 namespace vasker {
 
 struct ScaleBar {
-    double metres; ///< what the bar is long on the ground: 1, 2 or 5 times a power of ten
-    double pixels; ///< what it is long on the screen
+    double metres; ///< that the bar stands for: 1, 2 or 5 times a power of ten
+    double pixels; ///< the bar's length on the screen
 };
 
-/// Metres of ground a logical pixel at the camera's centre, across the screen. On the sphere of
+/// Metres on the earth a logical pixel at the camera's centre, across the screen. On the sphere of
 /// Web Mercator, radius 6,378,137 m, where a parallel is as long as the cosine of its latitude.
 [[nodiscard]] double metresPerPixel(const Camera& camera) noexcept;
 

@@ -1,5 +1,5 @@
 #pragma once
-// Straight lines between two points, on the ground or on the screen.
+// Straight lines between two points, on the map plane or on the screen.
 
 #include <algorithm>
 #include <cmath>

@@ -21,7 +21,7 @@ struct CoverTile {
 [[nodiscard]] bool seesTile(const Camera& camera, const CoverTile& tile, double margin);
 
 /// The tiles that cover what `camera` sees, and `margin` pixels around it: of `zoom` where the
-/// ground is as near as the camera's centre, of smaller zooms farther away. They do not overlap.
+/// map is as near as the camera's centre, of smaller zooms farther away. They do not overlap.
 /// Those nearest to the middle of the screen come first.
 [[nodiscard]] std::vector<CoverTile> tileCover(const Camera& camera, int zoom, double margin);
 

@@ -61,25 +61,25 @@ Camera PanDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
 }
 
 Camera RotateDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
-    if (!m_turning && distance(m_pressed, point) < dragThreshold) {
+    if (!m_rotating && distance(m_pressed, point) < dragThreshold) {
         return camera;
     }
-    m_turning = true;
-    const Camera turned =
+    m_rotating = true;
+    const Camera rotated =
         camera.rotated((point.x - m_last.x) * rotateDegreesPerPixel, camera.focus())
             .tilted((m_last.y - point.y) * tiltDegreesPerPixel);
     m_last = point;
-    return turned;
+    return rotated;
 }
 
-double Pinch::turnFor(double degrees) noexcept {
+double Pinch::rotationFor(double degrees) noexcept {
     m_twist += degrees;
-    if (m_turning) {
+    if (m_rotating) {
         return -degrees;
     }
     const double beyond = std::abs(m_twist) - pinchRotateThreshold;
-    m_turning = beyond >= 0;
-    return m_turning ? -std::copysign(beyond, m_twist) : 0;
+    m_rotating = beyond >= 0;
+    return m_rotating ? -std::copysign(beyond, m_twist) : 0;
 }
 
 Camera Pinch::moved(const Camera& camera, ScreenPoint first, ScreenPoint second) noexcept {
@@ -88,13 +88,13 @@ Camera Pinch::moved(const Camera& camera, ScreenPoint first, ScreenPoint second)
     const double spread = distance(m_first, m_second);
     const bool hasDirection = spread > 0 && distance(first, second) > 0;
     const double factor = hasDirection ? distance(first, second) / spread : 1;
-    const double turn =
-        hasDirection
-            ? turnFor(std::remainder(direction(first, second) - direction(m_first, m_second), 360))
-            : 0;
+    const double rotation = hasDirection
+                                ? rotationFor(std::remainder(
+                                      direction(first, second) - direction(m_first, m_second), 360))
+                                : 0;
     m_first = first;
     m_second = second;
-    return camera.dragged(before, after).zoomed(factor, after).rotated(turn, after);
+    return camera.dragged(before, after).zoomed(factor, after).rotated(rotation, after);
 }
 
 } // namespace vasker

@@ -1,5 +1,5 @@
 #pragma once
-// What the pointer asks of the camera. Plain values: tested without a window.
+// What gestures of pointer and fingers do to the camera. Plain values.
 
 #include "map/geometry/Camera.h"
 
@@ -9,7 +9,7 @@ namespace vasker {
 inline constexpr double dragThreshold = 4;
 inline constexpr double touchDragThreshold = 10;
 
-/// How much nearer one notch of a wheel, a way on a touchpad and one double click come.
+/// By which factor one notch of a wheel, a way on a touchpad and one double click zoom.
 [[nodiscard]] double wheelZoomFactor(double angleDelta) noexcept;
 [[nodiscard]] double touchpadZoomFactor(double pixels) noexcept;
 inline constexpr double doubleClickZoomFactor = 2;
@@ -23,7 +23,7 @@ class PanDrag {
     explicit PanDrag(ScreenPoint pressed, double threshold = dragThreshold) noexcept
         : m_pressed(pressed), m_last(pressed), m_threshold(threshold) {}
 
-    /// The camera after the pointer moved to `point`; the ground stays under it.
+    /// The camera after the pointer moved to `point`; what was under it stays there.
     [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint point) noexcept;
     [[nodiscard]] bool isClick() const noexcept { return !m_dragging; }
     [[nodiscard]] ScreenPoint pressed() const noexcept { return m_pressed; }
@@ -35,23 +35,23 @@ class PanDrag {
     bool m_dragging = false;
 };
 
-/// The second way to drag: across turns the camera, upwards leans it back, about its centre.
+/// The second way to drag: across rotates the camera, upwards tilts it, about its centre.
 class RotateDrag {
   public:
     explicit RotateDrag(ScreenPoint pressed) noexcept : m_pressed(pressed), m_last(pressed) {}
 
     [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint point) noexcept;
-    [[nodiscard]] bool isClick() const noexcept { return !m_turning; }
+    [[nodiscard]] bool isClick() const noexcept { return !m_rotating; }
     [[nodiscard]] ScreenPoint pressed() const noexcept { return m_pressed; }
 
   private:
     ScreenPoint m_pressed;
     ScreenPoint m_last;
-    bool m_turning = false;
+    bool m_rotating = false;
 };
 
-/// Two fingers on the map: the ground under them stays under them. The camera turns with them only
-/// once they have turned by more than a few degrees, so that a plain zoom keeps its bearing.
+/// Two fingers on the map: what is under them stays under them. The camera rotates with them only
+/// once they have rotated by more than a few degrees, so that a plain zoom keeps its bearing.
 class Pinch {
   public:
     Pinch(ScreenPoint first, ScreenPoint second) noexcept : m_first(first), m_second(second) {}
@@ -60,13 +60,13 @@ class Pinch {
     moved(const Camera& camera, ScreenPoint first, ScreenPoint second) noexcept;
 
   private:
-    /// How far the camera turns when the fingers turn by `degrees` clockwise.
-    [[nodiscard]] double turnFor(double degrees) noexcept;
+    /// How far the camera rotates when the fingers rotate by `degrees` clockwise.
+    [[nodiscard]] double rotationFor(double degrees) noexcept;
 
     ScreenPoint m_first;
     ScreenPoint m_second;
-    double m_twist = 0; ///< degrees that the fingers have turned so far
-    bool m_turning = false;
+    double m_twist = 0; ///< degrees that the fingers have rotated so far
+    bool m_rotating = false;
 };
 
 } // namespace vasker

@@ -1,5 +1,6 @@
 #pragma once
-// The motion that the map is in, advanced once a frame. While none runs nothing asks for frames.
+// The motion of the camera that runs now, advanced once a frame. While none runs no frame is
+// requested.
 
 #include "map/geometry/CameraMotion.h"
 #include "map/geometry/KeyNavigation.h"

@@ -61,7 +61,7 @@ void MapNavigator::carryOut(const MapCommand& command) {
                        m_motion.release(release.axis, release.direction);
                    },
                    [this](const ReleaseAllAxes&) { m_motion.releaseAll(); },
-                   [this](const Pick& wanted) { m_input.setPickHit(pick && pick(wanted)); },
+                   [this](const Pick& request) { m_input.setPickHit(pick && pick(request)); },
                    [this](const OpenMenu& menu) { Q_EMIT menuRequested(menu.point, menu.reach); },
                    [this](const ShowOverview&) { Q_EMIT overviewRequested(); },
                    [this](const TakeFocus&) { Q_EMIT focusRequested(); },

@@ -42,21 +42,21 @@ class Nearest {
     std::optional<AssetIndex> m_asset;
 };
 
-/// The ground under the square of `reach` pixels around `point`.
-MapRect groundAround(ScreenPoint point, double reach, const Camera& camera) {
-    MapRect ground = MapRect::null();
+/// What lies under the square of `reach` pixels around `point`.
+MapRect areaAround(ScreenPoint point, double reach, const Camera& camera) {
+    MapRect area = MapRect::null();
     for (const double dx : {-reach, reach}) {
         for (const double dy : {-reach, reach}) {
             const MapPoint corner = camera.screenToWorld({point.x + dx, point.y + dy});
-            ground = ground.united({corner.x, corner.y, 0, 0});
+            area = area.united({corner.x, corner.y, 0, 0});
         }
     }
-    return ground;
+    return area;
 }
 
-std::optional<AssetIndex> markAt(ScreenPoint point, double reach, const HitScene& scene) {
+std::optional<AssetIndex> markerAt(ScreenPoint point, double reach, const HitScene& scene) {
     Nearest nearest(reach);
-    const MapRect around = groundAround(point, reach + dotRadius + dotCasing, scene.camera);
+    const MapRect around = areaAround(point, reach + dotRadius + dotCasing, scene.camera);
     for (const double offset : worldCopyOffsets(around)) {
         for (std::size_t i = scene.markers.size(); i-- > 0;) { // the first is on top
             const Marker& marker = scene.markers[i];
@@ -82,7 +82,7 @@ std::optional<AssetIndex> routeAt(ScreenPoint point,
                                   std::span<const RouteRun> runs,
                                   const HitScene& scene) {
     Nearest nearest(reach);
-    const MapRect around = groundAround(point, reach + halfWidth, scene.camera);
+    const MapRect around = areaAround(point, reach + halfWidth, scene.camera);
     const auto tolerance = static_cast<float>(routeTolerancePixels / scene.camera.scale());
     for (const double offset : worldCopyOffsets(around)) {
         MapRect there = around;
@@ -129,7 +129,7 @@ std::optional<AssetIndex> hitTest(ScreenPoint point, double reach, const HitScen
     if (hitsTheSelected(point, reach, scene)) {
         return scene.selected;
     }
-    if (const auto mark = markAt(point, reach, scene)) {
+    if (const auto mark = markerAt(point, reach, scene)) {
         return mark;
     }
     return routeAt(point, reach, routeWidth / 2, scene.geometry.runs(), scene);

@@ -10,7 +10,7 @@
 
 namespace vasker {
 
-/// How far from a mark or a line it is still hit, in logical pixels.
+/// How far from a marker or a line it is still hit, in logical pixels.
 inline constexpr double pointerReach = 6;
 inline constexpr double touchReach = 12;
 
@@ -24,8 +24,9 @@ struct HitScene {
     std::optional<AssetIndex> selected;
 };
 
-/// The record at `point` or within `reach` pixels of it: the selected one before all, marks before
-/// lines, the nearer before the farther, of equally near marks the one that is drawn on top.
+/// The record at `point` or within `reach` pixels of it: the selected one before all, markers
+/// before lines, the nearer before the farther, of equally near markers the one that is drawn on
+/// top.
 [[nodiscard]] std::optional<AssetIndex>
 hitTest(ScreenPoint point, double reach, const HitScene& scene);
 

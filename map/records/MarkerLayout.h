@@ -1,8 +1,8 @@
 #pragma once
-// Which records stand as pins and which as dots. No record is ever without a mark; only a dot
+// Which records stand as pins and which as dots. No record is ever without a marker; only a dot
 // that lies wholly under others, but for slivers of less than half a pixel, is not drawn.
 //
-// Where pins would crowd, rarer kinds have the room, then the order of the list. The layout
+// Where pins would crowd, rarer kinds come first, then the order of the list. The layout
 // holds for all scales of one level and for every place of the world, so that nothing changes while
 // the map is dragged or a record is selected.
 
@@ -26,15 +26,15 @@ inline constexpr double dotCasing = 1;
 /// The most pins that are drawn at once.
 inline constexpr std::size_t maximumPins = 500;
 
-/// A record's mark, ready to be projected.
+/// A record's marker, ready to be projected.
 struct Marker {
     AssetIndex asset;
     MapPoint point;
-    bool isAlone = false; ///< of a pin in a layout: no other mark stands near it
+    bool isAlone = false; ///< of a pin in a layout: no other marker stands near it
 };
 
-/// A pin stands alone where no other mark is nearer than this, in logical pixels: its title
-/// covers nobody.
+/// A pin stands alone where no other marker is nearer than this, in logical pixels: its label
+/// covers none.
 inline constexpr double aloneDistance = 64;
 
 struct MarkerLayout {

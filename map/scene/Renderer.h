@@ -2,7 +2,7 @@
 
 namespace vasker {
 
-/// Whether pictures are drawn by the processor and not by a graphics card. Render thread, while the
+/// Whether frames are drawn by the processor and not by a graphics card. Render thread, while the
 /// scene graph is synchronised.
 [[nodiscard]] bool rendersInSoftware();
 

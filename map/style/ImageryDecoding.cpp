@@ -9,7 +9,7 @@ namespace vasker {
 
 namespace {
 
-// Decoders make a picture of the half that came as well, grey below; the end tells that all did.
+// Decoders make an image of the half that came as well, grey below; the end tells that all did.
 // Some writers put a few bytes behind it.
 bool hasItsEnd(QByteArrayView bytes, QByteArrayView format) {
     constexpr qsizetype slack = 64;

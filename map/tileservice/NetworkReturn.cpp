@@ -12,14 +12,14 @@ void NetworkReturn::watch() {
     if (!QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability)) {
         return;
     }
-    QObject::connect(QNetworkInformation::instance(),
-                     &QNetworkInformation::reachabilityChanged,
-                     &m_context,
-                     [this](QNetworkInformation::Reachability reachability) {
-                         if (reachability == QNetworkInformation::Reachability::Online && heard) {
-                             heard();
-                         }
-                     });
+    connect(QNetworkInformation::instance(),
+            &QNetworkInformation::reachabilityChanged,
+            this,
+            [this](QNetworkInformation::Reachability reachability) {
+                if (reachability == QNetworkInformation::Reachability::Online) {
+                    Q_EMIT returned();
+                }
+            });
 }
 
 } // namespace vasker

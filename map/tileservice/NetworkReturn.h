@@ -1,24 +1,25 @@
 #pragma once
-// Tells when the network is back, where the desktop says so. The user interface's thread.
+// Tells when the network is back, where the desktop says so. User-interface thread.
 
 #include <QObject>
 
-#include <functional>
-
 namespace vasker {
 
-class NetworkReturn {
-  public:
-    /// Called each time that the network has come back.
-    std::function<void()> heard;
+class NetworkReturn : public QObject {
+    Q_OBJECT
 
-    /// Begins to listen; does nothing when it does already. Where nobody tells of the network
-    /// nothing is ever heard.
+  public:
+    using QObject::QObject;
+
+    /// Begins to listen; does nothing when it does already. Where the desktop does not tell of the
+    /// network no signal is ever sent.
     void watch();
+
+  Q_SIGNALS:
+    void returned();
 
   private:
     bool m_isWatching = false;
-    QObject m_context; ///< no call outlives this object
 };
 
 } // namespace vasker

@@ -25,10 +25,6 @@ TileService::TileService(const TileSources& sources, Options options, QObject* p
     : QObject(parent), m_sources(sources.usable(options.plainLoopback)),
       m_options(std::move(options)), m_cache(m_options.cacheFolder, m_options.cacheBytes),
       m_hosts(m_options.retry) {
-    m_networkReturn.heard = [this] {
-        m_hosts.networkReturned();
-        schedule();
-    };
     m_turn.setSingleShot(true);
     connect(&m_turn, &QTimer::timeout, this, &TileService::takeTurn);
 }
@@ -62,6 +58,11 @@ void TileService::discard(const ServiceTile& tile) {
         m_cache.drop(source->address(tile.key).toString());
         m_missing.insert(tile);
     }
+}
+
+void TileService::networkReturned() {
+    m_hosts.networkReturned();
+    schedule();
 }
 
 void TileService::schedule() {
@@ -216,7 +217,7 @@ void TileService::settle(const ServiceTile& tile, Request& request) {
         break;
     case TileVerdict::unreachable:
         m_hosts.unreachable(request.address, request.started, Clock::now());
-        m_networkReturn.watch(); // not before: where it works nobody needs to hear that it does
+        Q_EMIT unreachable();
         settleFailure(tile, request, found);
         break;
     }

@@ -5,7 +5,6 @@
 // responses come as signals, later.
 
 #include "map/tileservice/MissingTiles.h"
-#include "map/tileservice/NetworkReturn.h"
 #include "map/tileservice/RetryDelay.h"
 #include "map/tileservice/TileCache.h"
 #include "map/tileservice/TileFetch.h"
@@ -52,6 +51,8 @@ class TileService : public QObject {
     void setRequests(const std::vector<ServiceTile>& tiles);
     /// What arrived for `tile` could not be decoded: it is forgotten, and missing from now on.
     void discard(const ServiceTile& tile);
+    /// The network is back: what could not be reached is tried again at once.
+    void networkReturned();
 
   Q_SIGNALS:
     /// A tile is there: its bytes as the service sent them; vector tiles may be gzip or zlib.
@@ -59,6 +60,8 @@ class TileService : public QObject {
     /// No source covers it, the service has no such tile, or its responses were no tile. Not sent
     /// while there is only no network: that may come back.
     void missing(const vasker::ServiceTile& tile);
+    /// A service could not be reached.
+    void unreachable();
 
   private:
     using Clock = TileServiceHosts::Clock;
@@ -97,7 +100,6 @@ class TileService : public QObject {
     MissingTiles m_missing{10'000};
     /// Made for the first tile that comes from the network: it takes its time.
     std::unique_ptr<QNetworkAccessManager> m_network;
-    NetworkReturn m_networkReturn;
     std::vector<ServiceTile> m_order;
     std::map<ServiceTile, Request> m_requests;
     QTimer m_turn{this};

@@ -49,7 +49,7 @@ MapView::MapView(QQuickItem* parent)
     connect(this, &MapView::motionChanged, this, [this] {
         m_navigator.setReducedMotion(m_reducedMotion);
     });
-    m_navigator.pick = [this](const Pick& wanted) { return pick(wanted); };
+    m_navigator.pick = [this](const Pick& request) { return pick(request); };
     connect(&m_navigator, &MapNavigator::moved, this, &MapView::moveCamera);
     connect(&m_navigator, &MapNavigator::menuRequested, this, &MapView::openMenu);
     connect(&m_navigator, &MapNavigator::overviewRequested, this, &MapView::overviewRequested);
@@ -177,14 +177,14 @@ QSGNode* MapView::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* /*data*
     return node;
 }
 
-bool MapView::pick(const Pick& wanted) {
+bool MapView::pick(const Pick& request) {
     const MapRecords& records = m_composer.records();
-    const auto record = records.hit(wanted.point, wanted.reach, resolvedCamera());
+    const auto record = records.hit(request.point, request.reach, resolvedCamera());
     auto sharing = record ? records.sharingPlaceWith(*record) : std::vector<AssetIndex>();
     if (sharing.size() > 1 && records.idOf(record) != m_selection) {
         Q_EMIT choiceOffered({this->records().loaded,
                               std::make_shared<const std::vector<AssetIndex>>(std::move(sharing))},
-                             QPointF(wanted.point.x, wanted.point.y));
+                             QPointF(request.point.x, request.point.y));
     } else {
         Q_EMIT picked(records.idOf(record));
     }

@@ -135,7 +135,7 @@ class MapView : public vasker::InputItem {
     void changeView();
     void moveCamera(const Camera& camera);
     void refreshCursor();
-    bool pick(const Pick& wanted);
+    bool pick(const Pick& request);
     void openMenu(ScreenPoint point, double reach);
 
     MapComposer m_composer;

@@ -1,0 +1,120 @@
+#include "map/frame/MapComposer.h"
+
+#include "platform/ui/Fonts.h"
+#include "platform/ui/Palette.h"
+#include "tests/map/records/RecordSetBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace vasker {
+namespace {
+
+class MapComposerTest : public testing::Test {
+  protected:
+    static void SetUpTestSuite() { installInterfaceFont(); }
+
+    MapComposerTest() {
+        composer.records().setRecords(
+            recordSetOf({facilityAt(54, -112, "refinery"),
+                         facilityAt(54.001, -112, "gas_plant"),
+                         pipelineAlong({{{-113, 53}, {-111, 55}}, {{-111, 55}, {-110, 55}}})}));
+    }
+
+    MapFrame compose() { return composer.compose(state, camera, {}); }
+    template <typename Layer>
+    static std::vector<const Layer*> layersOf(const MapFrame& frame) {
+        std::vector<const Layer*> found;
+        for (const MapLayer& layer : frame.layers) {
+            if (const auto* const each = std::get_if<Layer>(&layer)) {
+                found.push_back(each);
+            }
+        }
+        return found;
+    }
+
+    MapComposer composer{MapLanguage::english};
+    MapState state;
+    const Camera camera{canadaOverview, {900, 700}};
+};
+
+TEST_F(MapComposerTest, AFrameIsAnOrderedListOfLayers) {
+    const MapFrame frame = compose();
+    std::string order;
+    for (const MapLayer& layer : frame.layers) {
+        order += "BTLDS"[layer.index()];
+    }
+    // Background, tiles, the routes and those that stand out, dots, labels, pins.
+    EXPECT_EQ(order, "BTLLLLDSS");
+    EXPECT_EQ(frame.size, QSizeF(900, 700));
+}
+
+TEST_F(MapComposerTest, TheListOfLayersHasTheSameKindsInEveryFrame) {
+    const MapFrame first = compose();
+    composer.records().setRecords({});
+    const MapFrame second = compose();
+    ASSERT_EQ(first.layers.size(), second.layers.size());
+    for (std::size_t i = 0; i < first.layers.size(); ++i) {
+        EXPECT_EQ(first.layers[i].index(), second.layers[i].index()) << i;
+    }
+}
+
+TEST_F(MapComposerTest, WithoutTilesRecordsAreDrawnLive) {
+    const MapFrame frame = compose();
+    EXPECT_FALSE(layersOf<LineLayer>(frame).front()->strip.empty());
+    EXPECT_EQ(layersOf<DotLayer>(frame).front()->dots.size(), 1U); // the other has a pin
+}
+
+TEST_F(MapComposerTest, TheSameStateGivesTheSameFrame) {
+    static_cast<void>(compose());
+    const MapFrame first = compose();
+    const MapFrame second = compose();
+    EXPECT_EQ(layersOf<LineLayer>(first).front()->strip.size(),
+              layersOf<LineLayer>(second).front()->strip.size());
+    const auto spritesOf = [](const SpriteLayer& layer) {
+        std::vector<ScreenPoint> corners;
+        for (const SpriteSheet& sheet : layer.sheets) {
+            for (const Sprite& sprite : sheet.sprites) {
+                corners.push_back(sprite.corner);
+            }
+        }
+        return corners;
+    };
+    for (const std::size_t layer : {0U, 1U}) {
+        EXPECT_EQ(spritesOf(*layersOf<SpriteLayer>(first)[layer]),
+                  spritesOf(*layersOf<SpriteLayer>(second)[layer]));
+    }
+}
+
+TEST_F(MapComposerTest, TheSelectedRouteIsBlueAndWide) {
+    composer.records().setSelection(QStringLiteral("R-2"));
+    const MapFrame frame = compose();
+    const LineLayer& selected = *layersOf<LineLayer>(frame)[3];
+    EXPECT_FALSE(selected.strip.empty());
+    EXPECT_EQ(selected.style.width, 5);
+    EXPECT_EQ(selected.style.color, colorValue(PaletteColor::blue, ColorScheme::light));
+}
+
+TEST_F(MapComposerTest, AControlOverTheMapKeepsLabelsAway) {
+    composer.records().setSelection(QStringLiteral("R-0"));
+    state.obstacles = {{0, 0, 900, 700}};
+    composer.records().setSelection({});
+    const MapFrame frame = compose();
+    EXPECT_TRUE(layersOf<SpriteLayer>(frame).front()->sheets.empty());
+}
+
+TEST(MapFrame, ImagesThatWereNotYetHandedOverAreNotLost) {
+    MapFrame before;
+    before.layers.emplace_back(TileLayer{{}, {{1, {}}, {2, {}}}, {1, 2}});
+    MapFrame after;
+    after.layers.emplace_back(TileLayer{{}, {{3, {}}}, {2, 3}});
+    after.takeImages(before);
+    const auto& images = std::get<TileLayer>(after.layers.front()).newImages;
+    ASSERT_EQ(images.size(), 2U); // the first tile is no longer needed
+    EXPECT_EQ(images[0].tile, 3U);
+    EXPECT_EQ(images[1].tile, 2U);
+}
+
+} // namespace
+} // namespace vasker
