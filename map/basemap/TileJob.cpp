@@ -3,8 +3,6 @@
 #include "map/labels/PlaceLabels.h"
 #include "map/style/TilePainter.h"
 
-#include <QPainter>
-
 #include <utility>
 
 namespace vasker {
@@ -30,8 +28,7 @@ TileJob::Result TileJob::run(const std::stop_token& stop) && {
         tile.image = std::exchange(tile.basemap, QImage());
     } else if (!stop.stop_requested()) {
         tile.image = tile.basemap.copy();
-        QPainter painter(&tile.image);
-        overlay->paint(painter,
+        overlay->paint(tile.image,
                        tile.pixels.bounds(tile.devicePixelsPerMapPoint),
                        tile.devicePixelsPerMapPoint);
     }

@@ -30,6 +30,10 @@ constexpr int worldZoom = 2;
 
 constexpr std::chrono::milliseconds fadeTime{220};
 
+/// How long a frame waits for another overlay of tiles whose basemap is there, so that the map
+/// changes in the same frame as the list.
+constexpr std::chrono::milliseconds overlayPatience{25};
+
 } // namespace
 
 TilePyramid::TilePyramid(TileLibrary& library, QObject* parent)
@@ -48,6 +52,11 @@ BasemapFrame TilePyramid::compose(const BasemapView& view, std::chrono::nanoseco
     begin();
     promote();
     request();
+    if (m_pending && m_pending->number != m_awaited && lacksOnlyOverlay(*m_pending)) {
+        m_awaited = m_pending->number;
+        m_library.workers().wait(this, overlayPatience);
+        promote();
+    }
     BasemapFrame frame = show(now);
     frame.isComplete =
         m_current && !m_pending && !m_fade && suits(*m_current) && covers(*m_current);
@@ -104,6 +113,17 @@ bool TilePyramid::covers(const TileGeneration& generation) {
     return m_view.camera.scale() >= generation.scale / 4 && generation.covers(cover(generation, 0));
 }
 
+/// Whether all that is missing of the view is the overlay.
+bool TilePyramid::lacksOnlyOverlay(const TileGeneration& generation) {
+    return m_view.camera.scale() >= generation.scale / 4 &&
+           std::ranges::all_of(cover(generation, 0),
+                               [&generation](const CoverTile& tile) {
+                                   return generation.tiles.contains(tile.key) ||
+                                          generation.bare.contains(tile.key);
+                               }) &&
+           !covers(generation);
+}
+
 /// The images of a generation become textures a few a frame, before it is shown; those of the first
 /// one of all, and those that only have another overlay, at once.
 bool TilePyramid::isReadyToShow(const TileGeneration& generation) {
@@ -132,7 +152,9 @@ void TilePyramid::request() {
     TileGeneration& needed = m_pending ? *m_pending : *m_current;
     collect(needed, 0, jobs);
     collect(*m_world, 0, jobs);
-    collect(needed, paintedAhead, jobs);
+    if (!lacksOnlyOverlay(needed)) {
+        collect(needed, paintedAhead, jobs);
+    }
     if (!jobs.empty() || m_hasJobs) { // else every frame would wait for the workers' lock
         m_hasJobs = !jobs.empty();
         m_library.workers().setJobs(this, std::move(jobs));

@@ -59,6 +59,7 @@ class TilePyramid : public QObject {
     [[nodiscard]] const std::vector<CoverTile>& cover(const TileGeneration& generation,
                                                       double margin);
     [[nodiscard]] bool covers(const TileGeneration& generation);
+    [[nodiscard]] bool lacksOnlyOverlay(const TileGeneration& generation);
     [[nodiscard]] bool isReadyToShow(const TileGeneration& generation);
     void promote();
     void request();
@@ -83,6 +84,7 @@ class TilePyramid : public QObject {
     std::map<std::pair<std::uint64_t, TileKey>, Request> m_requests; ///< by generation and tile
     bool m_hasJobs = false; ///< the workers may have jobs of ours that were not begun
     std::map<std::pair<int, double>, std::vector<CoverTile>> m_covers; ///< of m_view
+    std::uint64_t m_awaited = 0; ///< the generation whose overlay a frame has waited for
     std::uint64_t m_lastNumber = 0;
     TileNumber m_lastTile = 0;
 };

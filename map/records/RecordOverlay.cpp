@@ -1,11 +1,14 @@
 #include "map/records/RecordOverlay.h"
 
+#include "map/records/CoverageMask.h"
 #include "map/records/RouteStyle.h"
 
 #include <QPainter>
-#include <QPolygonF>
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
+#include <span>
 
 namespace vasker {
 
@@ -26,12 +29,6 @@ QImage dotSprite(const QColor& color, const QColor& casing, double devicePixels)
     return sprite;
 }
 
-/// A line with its colour, ready to be drawn.
-struct ColoredLine {
-    Rgb color;
-    QPolygonF places;
-};
-
 } // namespace
 
 RecordOverlay::RecordOverlay(std::shared_ptr<const LoadedRelease> loaded,
@@ -40,7 +37,14 @@ RecordOverlay::RecordOverlay(std::shared_ptr<const LoadedRelease> loaded,
                              RecordColors colors,
                              double devicePixels)
     : m_loaded(std::move(loaded)), m_routes(std::move(routes)), m_layout(std::move(layout)),
-      m_colors(std::move(colors)), m_devicePixels(devicePixels) {
+      m_colors(std::move(colors)), m_devicePixels(devicePixels),
+      m_lines(routeWidth / 2 * devicePixels, (routeWidth / 2 + routeCasing) * devicePixels) {
+    for (const RouteRun& run : m_loaded->geometry.runs()) {
+        const std::optional<Rgb>& color = m_routes[run.asset];
+        if (color && std::ranges::find(m_lineColors, *color) == m_lineColors.end()) {
+            m_lineColors.push_back(*color);
+        }
+    }
     for (const Marker& dot : m_layout->dots) {
         const Rgb color = m_colors.records[dot.asset];
         if (!m_sprites.contains(color)) {
@@ -49,15 +53,16 @@ RecordOverlay::RecordOverlay(std::shared_ptr<const LoadedRelease> loaded,
     }
 }
 
-void RecordOverlay::paint(QPainter& painter,
+void RecordOverlay::paint(QImage& image,
                           const MapRect& bounds,
                           double devicePixelsPerMapPoint) const {
-    paintRoutes(painter, bounds, devicePixelsPerMapPoint);
-    paintDots(painter, bounds, devicePixelsPerMapPoint);
+    paintRoutes(image, bounds, devicePixelsPerMapPoint);
+    paintDots(image, bounds, devicePixelsPerMapPoint);
 }
 
-/// First every casing, then every core: where a branch meets a trunk, no casing cuts the trunk.
-void RecordOverlay::paintRoutes(QPainter& painter, const MapRect& bounds, double scale) const {
+/// First every casing, then the cores, color by color: where a branch meets a trunk, no casing cuts
+/// the trunk.
+void RecordOverlay::paintRoutes(QImage& image, const MapRect& bounds, double scale) const {
     const LineView view{.project = [&](MapPoint point) -> PerspectivePoint {
                             return {(point.x - bounds.x) * scale, (point.y - bounds.y) * scale, 1};
                         },
@@ -65,41 +70,32 @@ void RecordOverlay::paintRoutes(QPainter& painter, const MapRect& bounds, double
                         .height = bounds.height * scale,
                         .seen = bounds.inset(-lineReach / scale, -lineReach / scale),
                         .scale = scale / m_devicePixels};
-    std::vector<ColoredLine> lines;
+    std::vector<std::optional<CoverageMask>> cores(m_lineColors.size());
+    std::optional<CoverageMask> casings;
+    const auto made = [&image](std::optional<CoverageMask>& mask) -> CoverageMask& {
+        return mask ? *mask : mask.emplace(image.width(), image.height());
+    };
     drawRouteLines(m_loaded->geometry,
                    m_loaded->geometry.runs(),
                    m_routes,
                    view,
-                   [&lines](Rgb color, std::span<const ScreenPoint> line) {
-                       ColoredLine& added = lines.emplace_back(ColoredLine{color, {}});
-                       added.places.reserve(static_cast<qsizetype>(line.size()));
-                       for (const ScreenPoint& place : line) {
-                           added.places.append(QPointF(place.x, place.y));
-                       }
+                   [&](Rgb color, std::span<const ScreenPoint> line) {
+                       const auto known = std::ranges::find(m_lineColors, color);
+                       const auto place = static_cast<std::size_t>(known - m_lineColors.begin());
+                       m_lines.cover(line, made(cores[place]), made(casings));
                    });
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
-    const auto draw = [&](const ColoredLine& line) {
-        if (line.places.size() == 1) {
-            painter.drawPoint(line.places.first());
-        } else {
-            painter.drawPolyline(line.places);
-        }
-    };
-    const auto penOf = [this](const QColor& color, double width) {
-        return QPen(color, width * m_devicePixels, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    };
-    painter.setPen(penOf(m_colors.routeCasing, routeWidth + 2 * routeCasing));
-    for (const ColoredLine& line : lines) {
-        draw(line);
+    if (casings) {
+        casings->paint(image, m_colors.routeCasing);
     }
-    for (const ColoredLine& line : lines) {
-        painter.setPen(penOf(colorOf(line.color), routeWidth));
-        draw(line);
+    for (std::size_t i = 0; i < cores.size(); ++i) {
+        if (cores[i]) {
+            cores[i]->paint(image, colorOf(m_lineColors[i]));
+        }
     }
 }
 
-void RecordOverlay::paintDots(QPainter& painter, const MapRect& bounds, double scale) const {
+void RecordOverlay::paintDots(QImage& image, const MapRect& bounds, double scale) const {
+    QPainter painter(&image);
     const double margin = (dotRadius + dotCasing + 1) * m_devicePixels / scale;
     for (const double offset : worldCopyOffsets(bounds.inset(-margin, -margin))) {
         MapRect around = bounds.inset(-margin, -margin);

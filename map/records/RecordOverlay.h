@@ -3,6 +3,7 @@
 // without a graphics card that is quicker than drawing them in each frame. Immutable; any thread.
 
 #include "map/layers/Rgb.h"
+#include "map/records/LineCoverage.h"
 #include "map/records/LoadedRelease.h"
 #include "map/records/MarkerLayout.h"
 #include "map/records/RouteLines.h"
@@ -32,22 +33,23 @@ class RecordOverlay final : public TileOverlay {
                   RecordColors colors,
                   double devicePixels);
 
-    void
-    paint(QPainter& painter, const MapRect& bounds, double devicePixelsPerMapPoint) const override;
+    void paint(QImage& image, const MapRect& bounds, double devicePixelsPerMapPoint) const override;
 
     [[nodiscard]] const std::shared_ptr<const LoadedRelease>& loaded() const { return m_loaded; }
     /// Which records are dots of the overlay; the others are pins.
     [[nodiscard]] const MarkerLayout& layout() const noexcept { return *m_layout; }
 
   private:
-    void paintRoutes(QPainter& painter, const MapRect& bounds, double scale) const;
-    void paintDots(QPainter& painter, const MapRect& bounds, double scale) const;
+    void paintRoutes(QImage& image, const MapRect& bounds, double scale) const;
+    void paintDots(QImage& image, const MapRect& bounds, double scale) const;
 
     std::shared_ptr<const LoadedRelease> m_loaded;
     RouteColors m_routes;
     std::shared_ptr<const MarkerLayout> m_layout;
     RecordColors m_colors;
     double m_devicePixels;
+    LineCoverage m_lines;
+    std::vector<Rgb> m_lineColors; ///< each once, in the order in which they are painted
     std::map<Rgb, QImage> m_sprites;
 };
 

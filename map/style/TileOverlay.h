@@ -4,7 +4,7 @@
 
 #include "map/geometry/MapRect.h"
 
-class QPainter;
+class QImage;
 
 namespace vasker {
 
@@ -15,11 +15,10 @@ class TileOverlay {
     TileOverlay(const TileOverlay&) = delete;
     TileOverlay& operator=(const TileOverlay&) = delete;
 
-    /// Paints what lies in and around `bounds` (map points), all that the tile covers. The
-    /// painter's unit is the device pixel, its origin the north-west corner of `bounds`. Any
-    /// thread, several at once.
+    /// Paints what lies in and around `bounds` (map points) on `image`, an opaque raster tile that
+    /// covers them. Any thread, several at once.
     virtual void
-    paint(QPainter& painter, const MapRect& bounds, double devicePixelsPerMapPoint) const = 0;
+    paint(QImage& image, const MapRect& bounds, double devicePixelsPerMapPoint) const = 0;
 };
 
 } // namespace vasker

@@ -12,7 +12,7 @@ namespace vasker {
 
 class GatedOverlay final : public TileOverlay {
   public:
-    void paint(QPainter& /*painter*/, const MapRect& bounds, double /*scale*/) const override {
+    void paint(QImage& /*image*/, const MapRect& bounds, double /*scale*/) const override {
         std::unique_lock lock(m_mutex);
         m_begun.push_back(bounds);
         m_changed.notify_all();

@@ -3,8 +3,6 @@
 #include "map/records/RouteStyle.h"
 #include "tests/map/records/RecordSetBuilder.h"
 
-#include <QPainter>
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -63,8 +61,7 @@ class Painted {
                                     {std::move(colors), casing, casing},
                                     devicePixels);
         m_image.fill(background);
-        QPainter painter(&m_image);
-        overlay.paint(painter, bounds, scale);
+        overlay.paint(m_image, bounds, scale);
     }
     [[nodiscard]] const QImage& image() const { return m_image; }
     [[nodiscard]] QColor at(int x, int y) const { return m_image.pixelColor(x, y); }
@@ -185,8 +182,7 @@ TEST(RecordOverlay, ARecordThatIsNotShownHasNoLine) {
                                 1);
     QImage image(side, side, QImage::Format_RGB32);
     image.fill(background);
-    QPainter painter(&image);
-    overlay.paint(painter, frame.bounds(), scale);
+    overlay.paint(image, frame.bounds(), scale);
     EXPECT_EQ(image.pixelColor(100, 100), background);
 }
 
