@@ -10,6 +10,9 @@ namespace vasker {
 
 namespace {
 
+/// What an entry of the decoded tiles takes beside the tile, in bytes.
+constexpr qsizetype leastCost = 100;
+
 std::string_view viewOf(const QByteArray& bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
@@ -89,6 +92,12 @@ ProvidedTile TileProvider::read(TileKey key, BasemapTheme theme) {
     return found;
 }
 
+void TileProvider::refuseVector(const ProvidedTile& found) {
+    const std::pair place{found.vectorRevision != 0, found.data.vectorKey};
+    const std::scoped_lock lock(m_mutex);
+    m_decoded.insert(place, new Decoded{nullptr, found.vectorRevision}, leastCost);
+}
+
 std::vector<ServiceTile> TileProvider::requestsFor(TileKey key, BasemapTheme theme) const {
     std::vector<ServiceTile> requests;
     if (showsImagery(theme)) {
@@ -130,7 +139,7 @@ TileProvider::decoded(TileKey key, std::uint64_t revision, std::string_view byte
         }
     }
     const VectorPointer tile = decode(bytes);
-    const auto cost = static_cast<qsizetype>(tile ? tile->memoryBytes() : 0) + 100;
+    const auto cost = static_cast<qsizetype>(tile ? tile->memoryBytes() : 0) + leastCost;
     const std::scoped_lock lock(m_mutex);
     const Decoded* const known = m_decoded.object(place);
     if (known == nullptr || known->revision <= revision) { // an older decode keeps off newer ones
@@ -176,6 +185,7 @@ bool TileProvider::readReceivedVector(TileKey key, ProvidedTile& found) {
     }
     found.data.vector = tile;
     found.data.vectorKey = key;
+    found.vectorRevision = held->revision;
     add(found.attributions, attributionOf(sent));
     return true;
 }

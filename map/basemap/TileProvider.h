@@ -21,6 +21,7 @@ namespace vasker {
 struct ProvidedTile {
     TileData data;
     std::vector<Attribution> attributions;
+    std::uint64_t vectorRevision = 0;     ///< which of the tiles of its key data.vector is
     std::vector<ServiceTile> undecodable; ///< what services sent and could not be decoded
 };
 
@@ -41,6 +42,9 @@ class TileProvider {
     /// Of each place the nearest zoom that is there; of one zoom, what a service sent before what
     /// an archive holds.
     [[nodiscard]] ProvidedTile read(TileKey key, BasemapTheme theme);
+
+    /// The vector tile of `found` cannot be painted: from now on it counts as undecodable.
+    void refuseVector(const ProvidedTile& found);
 
     /// Which tiles of services would show `key` better than what the archives hold.
     [[nodiscard]] std::vector<ServiceTile> requestsFor(TileKey key, BasemapTheme theme) const;

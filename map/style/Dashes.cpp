@@ -4,10 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace vasker {
 
 namespace {
+
+using DrawDash = std::function<bool(const QPolygonF&)>;
 
 double distance(QPointF a, QPointF b) {
     return std::hypot(b.x() - a.x(), b.y() - a.y());
@@ -46,82 +49,85 @@ double lengthOf(const QPolygonF& line) {
     return length;
 }
 
-/// Walks along a line and keeps what lies under a dash; begins in the middle of one.
+/// Walks along a line and draws what lies under a dash; begins in the middle of one.
 class DashWalk {
   public:
-    DashWalk(QPointF start, double dash, double gap)
-        : m_dash(dash), m_gap(gap), m_left(dash / 2), m_place(start), m_current{start} {}
+    DashWalk(QPointF start, double dash, double gap, const DrawDash& draw)
+        : m_dash(dash), m_gap(gap), m_left(dash / 2), m_draw(draw),
+          m_place(start), m_current{start} {}
 
-    void goTo(QPointF to) {
+    /// Whether the walk goes on.
+    bool goTo(QPointF to) {
         const QPointF from = m_place;
         const double step = distance(from, to);
         double done = 0;
         while (step - done > m_left) {
             done += m_left;
-            turnAt(between(from, to, done / step));
+            if (!turnAt(between(from, to, done / step))) {
+                return false;
+            }
         }
         m_left -= step - done;
         m_place = to;
         if (m_isDash) {
             m_current.append(to);
         }
+        return true;
     }
 
-    [[nodiscard]] std::vector<QPolygonF> finish() {
-        if (m_isDash && m_current.size() > 1) {
-            m_dashes.push_back(std::move(m_current));
-        }
-        return std::move(m_dashes);
-    }
+    bool finish() { return !m_isDash || m_current.size() < 2 || m_draw(m_current); }
 
   private:
-    void turnAt(QPointF turn) {
+    bool turnAt(QPointF turn) {
+        bool goesOn = true;
         if (m_isDash) {
             m_current.append(turn);
-            m_dashes.push_back(std::move(m_current));
+            goesOn = m_draw(m_current);
         }
         m_current = {turn};
         m_isDash = !m_isDash;
         m_left = m_isDash ? m_dash : m_gap;
+        return goesOn;
     }
 
     double m_dash;
     double m_gap;
     double m_left; ///< until dash and gap change
+    const DrawDash& m_draw;
     bool m_isDash = true;
     QPointF m_place;
     QPolygonF m_current;
-    std::vector<QPolygonF> m_dashes;
 };
 
 /// A line that begins and ends in the middle of a dash; whole where it is too short for that.
-std::vector<QPolygonF> dashesBetweenEnds(const QPolygonF& line, double dash, double gap) {
+bool drawBetweenEnds(const QPolygonF& line, double dash, double gap, const DrawDash& draw) {
     const double length = lengthOf(line);
     const double count = std::round(length / (dash + gap));
     if (count < 1) {
-        return {line};
+        return draw(line);
     }
     const double stretch = length / (count * (dash + gap));
-    DashWalk walk(line.front(), dash * stretch, gap * stretch);
+    DashWalk walk(line.front(), dash * stretch, gap * stretch, draw);
     for (qsizetype i = 1; i < line.size(); ++i) {
-        walk.goTo(line[i]);
+        if (!walk.goTo(line[i])) {
+            return false;
+        }
     }
     return walk.finish();
 }
 
 } // namespace
 
-std::vector<QPolygonF> dashes(const QPolygonF& line, double dash, double gap, const QRectF& tile) {
-    std::vector<QPolygonF> result;
+void dashes(
+    const QPolygonF& line, double dash, double gap, const QRectF& tile, const DrawDash& draw) {
     if (line.size() < 2) {
-        return result;
+        return;
     }
     for (const QPolygonF& piece : cutAtEdges(line, tile)) {
-        for (QPolygonF& part : dashesBetweenEnds(piece, dash, gap)) {
-            result.push_back(std::move(part));
+        if (!drawBetweenEnds(piece, dash, gap, draw)) {
+            return;
         }
     }
-    return result;
 }
 
 } // namespace vasker

@@ -4,14 +4,17 @@
 #include <QPolygonF>
 #include <QRectF>
 
-#include <vector>
+#include <functional>
 
 namespace vasker {
 
-/// `line` in dashes, in device pixels. Where the line crosses an edge of `tile`, a dash has its
-/// middle, so that the neighbour's raster tile continues the pattern. The pattern is stretched a
-/// little to fit between.
-[[nodiscard]] std::vector<QPolygonF>
-dashes(const QPolygonF& line, double dash, double gap, const QRectF& tile);
+/// Calls `draw` with each dash of `line` as it is cut, in device pixels, until it returns false.
+/// Where the line crosses an edge of `tile`, a dash has its middle, so that the neighbour's raster
+/// tile continues the pattern. The pattern is stretched a little to fit between.
+void dashes(const QPolygonF& line,
+            double dash,
+            double gap,
+            const QRectF& tile,
+            const std::function<bool(const QPolygonF&)>& draw);
 
 } // namespace vasker

@@ -19,12 +19,18 @@ bool hasItsEnd(QByteArrayView bytes, QByteArrayView format) {
                              : true;
 }
 
+bool hasTooManyScans(const QByteArray& bytes, QByteArrayView format) {
+    return format == "jpeg" &&
+           jpegScans({bytes.constData(), static_cast<std::size_t>(bytes.size())},
+                     maximumImageryScans) > maximumImageryScans;
+}
+
 } // namespace
 
 QImage decodedImagery(const QByteArray& bytes) {
     const char* const format =
         imageryFormat({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    if (format == nullptr || !hasItsEnd(bytes, format)) {
+    if (format == nullptr || !hasItsEnd(bytes, format) || hasTooManyScans(bytes, format)) {
         return {};
     }
     QBuffer buffer;

@@ -67,8 +67,9 @@ QImage paintTile(const TileData& data, const TileRequest& requested) {
     image.fill(mapTheme(drawn).land);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
+    PaintBudget budget(outlineBudget * std::max(pixels.width, pixels.height));
     if (!hasImagery || !data.hasFullImagery(request.key)) {
-        paintVectorTile(painter, data, request, drawn);
+        paintVectorTile(painter, data, request, drawn, budget);
     }
     if (hasImagery && !data.imagery.empty()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -76,10 +77,10 @@ QImage paintTile(const TileData& data, const TileRequest& requested) {
             paintImagery(painter, tile, request);
         }
         if (request.theme == BasemapTheme::hybrid) {
-            paintVectorTile(painter, data, request, BasemapTheme::hybrid);
+            paintVectorTile(painter, data, request, BasemapTheme::hybrid, budget);
         }
     }
-    return image;
+    return budget.isSpent() ? QImage() : image;
 }
 
 } // namespace vasker

@@ -6,9 +6,13 @@
 
 namespace vasker {
 
+/// What painting a vector tile may cost, in pixels of outline for each pixel of the raster tile's
+/// side. The tiles of the built-in basemap take less than a quarter.
+inline constexpr double outlineBudget = 1'600;
+
 /// The raster tile, opaque, of the size of request.pixels(). Where the theme asks for imagery and
 /// there is none, also in a part of the tile, the drawn map in its dark theme. Scales that make no
-/// sense are brought into range.
+/// sense are brought into range. Null where the vector tile asks for more than outlineBudget.
 [[nodiscard]] QImage paintTile(const TileData& data, const TileRequest& request);
 
 } // namespace vasker

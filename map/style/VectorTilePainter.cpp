@@ -4,10 +4,13 @@
 #include "map/style/StyleLayer.h"
 #include "map/style/TileClip.h"
 
+#include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace vasker {
@@ -29,6 +32,18 @@ QPen penOf(const QColor& color, double width, Qt::PenCapStyle cap) {
             hasCurves ? Qt::RoundJoin : Qt::BevelJoin};
 }
 
+/// The painter's time for a line grows with the square of how often it crosses a row of pixels:
+/// long lines are drawn in pieces, in sides of the raster tile.
+constexpr double longestPiece = 4;
+
+double lengthOf(const QPolygonF& line) {
+    double length = 0;
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        length += QLineF(line[i - 1], line[i]).length();
+    }
+    return length;
+}
+
 QColor faded(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(static_cast<double>(color.alphaF()) * opacity));
     return color;
@@ -39,8 +54,10 @@ class VectorTilePainter {
     VectorTilePainter(QPainter& painter,
                       const TileData& data,
                       const TileRequest& request,
-                      const MapTheme& theme)
-        : m_painter(painter), m_theme(theme), m_clip(data.vectorKey, request),
+                      const MapTheme& theme,
+                      PaintBudget& budget)
+        : m_painter(painter), m_theme(theme), m_budget(budget), m_clip(data.vectorKey, request),
+          m_side(std::max(request.pixels().width, request.pixels().height)),
           m_density(request.devicePixelsPerPixel), m_zoom(request.zoom()) {
         for (const VectorLayer& layer : data.vector->layers) {
             for (const VectorFeature& feature : layer.features) {
@@ -80,16 +97,9 @@ class VectorTilePainter {
                 drawLine(layer, feature, color);
             }
             break;
-        case StyleLayer::Kind::halo: {
-            QPainterPath path;
-            for (Feature& feature : features) {
-                for (const QPolygonF& piece : lines(feature)) {
-                    path.addPolygon(piece);
-                }
-            }
-            m_painter.strokePath(path, penOf(color, widthOf(layer), Qt::FlatCap));
+        case StyleLayer::Kind::halo:
+            drawHalo(features, penOf(color, widthOf(layer), Qt::FlatCap));
             break;
-        }
         }
     }
 
@@ -117,17 +127,24 @@ class VectorTilePainter {
     }
 
     void fill(const VectorFeature& feature) {
-        if (feature.parts.size() == 1) {
-            const QPolygonF ring = m_clip.ring(feature.parts.front());
+        std::vector<QPolygonF> rings;
+        for (const std::vector<TilePoint>& part : feature.parts) {
+            QPolygonF ring = m_clip.ring(part);
             if (!ring.empty()) {
-                m_painter.drawPolygon(ring, Qt::OddEvenFill);
+                rings.push_back(std::move(ring));
             }
+        }
+        if (rings.empty() || !m_budget.spend(fillCost(rings))) {
+            return;
+        }
+        if (rings.size() == 1) {
+            m_painter.drawPolygon(rings.front(), Qt::OddEvenFill);
             return;
         }
         QPainterPath path;
         path.setFillRule(Qt::OddEvenFill);
-        for (const std::vector<TilePoint>& part : feature.parts) {
-            path.addPolygon(m_clip.ring(part));
+        for (const QPolygonF& ring : rings) {
+            path.addPolygon(ring);
             path.closeSubpath();
         }
         m_painter.drawPath(path);
@@ -149,22 +166,73 @@ class VectorTilePainter {
             return;
         }
         for (const QPolygonF& piece : lines(feature)) {
-            draw(dashes(piece,
-                        dashPattern.dash * m_density,
-                        dashPattern.gap * m_density,
-                        m_clip.tileEdges()));
+            if (m_budget.isSpent()) {
+                return;
+            }
+            dashes(piece,
+                   dashPattern.dash * m_density,
+                   dashPattern.gap * m_density,
+                   m_clip.tileEdges(),
+                   [this](const QPolygonF& dash) {
+                       drawPiece(dash);
+                       return !m_budget.isSpent();
+                   });
         }
+    }
+
+    void drawHalo(std::vector<Feature>& features, const QPen& pen) {
+        std::vector<QPolygonF> pieces;
+        double length = 0;
+        const auto stroke = [&] {
+            if (m_budget.spend(strokeCost(pieces, pen.widthF()))) {
+                QPainterPath path;
+                for (const QPolygonF& piece : pieces) {
+                    path.addPolygon(piece);
+                }
+                m_painter.strokePath(path, pen);
+            }
+            pieces.clear();
+            length = 0;
+        };
+        for (Feature& feature : features) {
+            for (const QPolygonF& piece : lines(feature)) {
+                pieces.push_back(piece);
+                length += lengthOf(piece);
+                if (length > longestPiece * m_side) {
+                    stroke();
+                }
+            }
+        }
+        stroke();
     }
 
     void draw(const std::vector<QPolygonF>& lines) {
         for (const QPolygonF& line : lines) {
+            qsizetype first = 0;
+            double length = 0;
+            for (qsizetype i = 1; i < line.size(); ++i) {
+                length += QLineF(line[i - 1], line[i]).length();
+                if (length > longestPiece * m_side && i + 1 < line.size()) {
+                    drawPiece(line.mid(first, i - first + 1));
+                    first = i;
+                    length = 0;
+                }
+            }
+            drawPiece(first == 0 ? line : QPolygonF(line.mid(first)));
+        }
+    }
+
+    void drawPiece(const QPolygonF& line) {
+        if (m_budget.spend(strokeCost({&line, 1}, m_painter.pen().widthF()))) {
             m_painter.drawPolyline(line);
         }
     }
 
     QPainter& m_painter;
     const MapTheme& m_theme;
+    PaintBudget& m_budget;
     TileClip m_clip;
+    double m_side; ///< of the raster tile, in device pixels
     double m_density;
     double m_zoom;
     std::array<std::vector<Feature>, featureClasses> m_features;
@@ -175,13 +243,16 @@ class VectorTilePainter {
 void paintVectorTile(QPainter& painter,
                      const TileData& data,
                      const TileRequest& request,
-                     BasemapTheme theme) {
+                     BasemapTheme theme,
+                     PaintBudget& budget) {
     if (!data.vector) {
         return;
     }
-    VectorTilePainter tile(painter, data, request, mapTheme(theme));
+    VectorTilePainter tile(painter, data, request, mapTheme(theme), budget);
     for (const StyleLayer& layer : styleLayers()) {
-        tile.paint(layer);
+        if (!budget.isSpent()) {
+            tile.paint(layer);
+        }
     }
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The format of an imagery tile, told by its first bytes.
+// What the bytes of an imagery tile tell before they are decoded.
 
 #include <string_view>
 
@@ -7,5 +7,9 @@ namespace vasker {
 
 /// "jpeg", "png" or "webp"; null for any other format.
 [[nodiscard]] const char* imageryFormat(std::string_view bytes) noexcept;
+
+/// How many scans a JPEG image consists of; each of them goes over the whole image, so that few
+/// bytes can ask for much time. Counts no further than `most` and one.
+[[nodiscard]] int jpegScans(std::string_view bytes, int most) noexcept;
 
 } // namespace vasker

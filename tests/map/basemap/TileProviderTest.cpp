@@ -153,6 +153,20 @@ TEST_F(TileProviderTest, ADamagedTileOfAServiceIsAsIfItHadNotComeAndIsReportedOn
     EXPECT_TRUE(read().undecodable.empty());
 }
 
+TEST_F(TileProviderTest, ATileThatIsRefusedIsAsIfItCouldNotBeDecoded) {
+    archive({{place.ancestor(3), seaTile()}, {place.ancestor(4), landTile()}});
+    send(vectorOf(place), landTile());
+    provider().refuseVector(read());
+    const ProvidedTile found = read();
+    EXPECT_EQ(found.data.vectorKey, place.ancestor(3));
+    EXPECT_EQ(found.undecodable, std::vector{vectorOf(place)});
+    provider().refuseVector(found);
+    EXPECT_EQ(read().data.vectorKey, place.ancestor(4));
+    EXPECT_TRUE(read().undecodable.empty());
+    send(vectorOf(place), seaTile());
+    EXPECT_TRUE(isSea(read().data));
+}
+
 TEST_F(TileProviderTest, AWholeTileAfterADamagedOneIsUsed) {
     send(vectorOf(place), "no tile at all");
     EXPECT_EQ(read().data.vector, nullptr);

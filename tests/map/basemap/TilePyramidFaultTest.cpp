@@ -126,6 +126,25 @@ TEST_F(TilePyramidFaultTest, ADamagedTileIsNotKeptForTheNextTime) {
     EXPECT_TRUE(lookUntil([&] { return middleColor() == water; }));
 }
 
+TEST_F(TilePyramidFaultTest, ATileThatTakesTooLongToPaintLeavesTheArchivesAndIsNotKept) {
+    const QString path = vectorPath(homeZoom, homeTile.column, homeTile.row);
+    server.setAnswer(path, {.body = QByteArray::fromStdString(zigzagTile(20'000))});
+    openWithServices();
+    ASSERT_TRUE(lookUntil([&] { return server.requestsFor(path) == 1; }));
+    ASSERT_TRUE(lookUntilComplete());
+    EXPECT_EQ(middleColor(), land);
+    server.setAnswer(path, {.body = sea});
+    int frames = 0;
+    ASSERT_TRUE(lookUntil([&] {
+        if (++frames % 20 == 0) { // the program is started again
+            close();
+            openWithServices();
+        }
+        return server.requestsFor(path) >= 2; // not out of the cache
+    }));
+    EXPECT_TRUE(lookUntil([&] { return middleColor() == water; }));
+}
+
 TEST_F(TilePyramidFaultTest, ImageryOfTheServiceIsShownAndCredited) {
     server.setOtherAnswer({.body = imageryImage(Qt::red)});
     openWithServices();

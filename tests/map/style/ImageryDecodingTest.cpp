@@ -3,6 +3,7 @@
 #include "map/tiles/ImageryFormat.h"
 
 #include <QBuffer>
+#include <QImageWriter>
 
 #include <gtest/gtest.h>
 
@@ -74,6 +75,37 @@ TEST(ImageryDecoding, TheSidesAreBounded) {
     EXPECT_FALSE(decodedImagery(encoded(gradient(1024, 1024), "jpeg")).isNull());
     EXPECT_TRUE(decodedImagery(encoded(gradient(1025, 1), "jpeg")).isNull());
     EXPECT_TRUE(decodedImagery(encoded(gradient(1, 1025), "png")).isNull());
+}
+
+/// A progressive JPEG image whose last scan is repeated until there are `scans`.
+QByteArray jpegOf(int scans) {
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setProgressiveScanWrite(true);
+    EXPECT_TRUE(writer.write(gradient(64, 64)));
+    const QByteArray last = jpeg.sliced(jpeg.lastIndexOf("\xff\xda")).chopped(2);
+    const QByteArray end = jpeg.last(2);
+    jpeg.chop(2);
+    for (int had = static_cast<int>(jpeg.count("\xff\xda")); had < scans; ++had) {
+        jpeg += last;
+    }
+    return jpeg + end;
+}
+
+TEST(ImageryDecoding, TheScansOfAJpegImageAreBounded) {
+    const QImage image = decodedImagery(jpegOf(0));
+    EXPECT_EQ(image.size(), QSize(64, 64));
+    EXPECT_FALSE(decodedImagery(jpegOf(maximumImageryScans)).isNull());
+    EXPECT_TRUE(decodedImagery(jpegOf(maximumImageryScans + 1)).isNull());
+    EXPECT_TRUE(decodedImagery(jpegOf(30'000)).isNull());
+}
+
+TEST(ImageryDecoding, WhatLooksLikeAScanInsideOfAHeaderIsNone) {
+    QByteArray jpeg = jpegOf(0);
+    const QByteArray lookalikes = QByteArray("\xff\xda").repeated(200);
+    jpeg.insert(2, QByteArray("\xff\xfe\x01\x92", 4) + lookalikes); // a comment
+    EXPECT_FALSE(decodedImagery(jpeg).isNull());
 }
 
 TEST(ImageryDecoding, AHeaderThatLiesOfItsSizeCostsThePicture) {

@@ -60,6 +60,31 @@ inline std::string seaTile() {
     return bytes;
 }
 
+/// A vector tile with a sea whose shore crosses the whole tile so often.
+inline std::string zigzagTile(int crossings) {
+    constexpr std::int32_t side = 4096;
+    std::vector<std::uint32_t> geometry{1U << 3U | 1U, 0, 0};
+    geometry.push_back(static_cast<std::uint32_t>(crossings) << 3U | 2U);
+    for (int i = 0; i < crossings; ++i) {
+        const int across = (i + 1) * side / crossings - i * side / crossings;
+        geometry.push_back(protozero::encode_zigzag32(across));
+        geometry.push_back(protozero::encode_zigzag32(i % 2 == 0 ? side : -side));
+    }
+    geometry.push_back(1U << 3U | 7U);
+    std::string bytes;
+    protozero::pbf_writer tile(bytes);
+    protozero::pbf_writer layer(tile, 3);
+    layer.add_string(1, "ocean");
+    {
+        protozero::pbf_writer feature(layer, 2);
+        feature.add_enum(3, 3); // a polygon
+        feature.add_packed_uint32(4, geometry.begin(), geometry.end());
+    }
+    layer.add_uint32(5, side);
+    layer.add_uint32(15, 2);
+    return bytes;
+}
+
 /// A photograph as a service sends it, of 256 pixels.
 inline QByteArray imageryImage(const QColor& color) {
     QImage image(256, 256, QImage::Format_RGB32);

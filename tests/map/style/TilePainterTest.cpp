@@ -1,6 +1,10 @@
 #include "map/style/TilePainter.h"
 
+#include "map/geometry/TileCover.h"
 #include "map/style/MapTheme.h"
+#include "map/style/VectorTilePainter.h"
+#include "map/tiles/TileArchive.h"
+#include "map/tiles/TileInflation.h"
 
 #include <QPainter>
 
@@ -279,6 +283,70 @@ TEST(TilePainter, TheLastTileReachesTheWorldsEnd) {
     const PixelRect pixels = last.pixels();
     EXPECT_EQ(pixels.x + pixels.width, 101);
     EXPECT_EQ(pixels.y + pixels.height, 101);
+}
+
+/// `crossings` lines through the whole tile, side by side.
+Points zigzag(int crossings) {
+    Points points;
+    for (int i = 0; i <= crossings; ++i) {
+        const float across = static_cast<float>(i) / static_cast<float>(crossings);
+        points.push_back({across, i % 2 == 0 ? 0.0F : 1.0F});
+    }
+    return points;
+}
+
+TEST(TilePainter, ATileWhoseLinesTakeTooLongToPaintIsRefused) {
+    const auto painted = [](VectorLayer layer) {
+        return paintTile(dataOf({std::move(layer)}), requestFor(tile));
+    };
+    const auto closed = [](Points ring) {
+        ring.push_back(ring.front());
+        return ring;
+    };
+    for (const int crossings : {10, 20}) {
+        EXPECT_FALSE(painted({"boundaries", {border(2, zigzag(crossings))}}).isNull());
+        EXPECT_FALSE(painted({"boundaries", {border(4, zigzag(crossings))}}).isNull());
+        EXPECT_FALSE(painted({"ocean", {area("", {closed(zigzag(crossings))})}}).isNull());
+    }
+    for (const int crossings : {3'000, 20'000}) {
+        EXPECT_TRUE(painted({"boundaries", {border(2, zigzag(crossings))}}).isNull());
+        EXPECT_TRUE(painted({"boundaries", {border(4, zigzag(crossings))}}).isNull());
+        EXPECT_TRUE(painted({"ocean", {area("", {closed(zigzag(crossings))})}}).isNull());
+    }
+}
+
+TEST(TilePainter, ManySmallPiecesAreBoundedAsLongLinesAre) {
+    const auto painted = [](std::size_t count) {
+        std::vector<VectorFeature> squares(count, area("", {square(0.5F, 0.51F)}));
+        return paintTile(dataOf({{"ocean", std::move(squares)}}), requestFor(tile));
+    };
+    EXPECT_FALSE(painted(1'000).isNull());
+    EXPECT_TRUE(painted(100'000).isNull());
+}
+
+TEST(TilePainter, NoTileOfTheBuiltInBasemapTakesAQuarterOfTheBudget) {
+    const auto archive = TileArchive::open(VASKER_RESOURCES "/basemap.mbtiles");
+    ASSERT_NE(archive, nullptr);
+    const Camera canada(canadaOverview, {1280, 800});
+    int painted = 0;
+    for (int zoom = 1; zoom <= 6; ++zoom) {
+        for (const CoverTile& each : tileCover(canada, zoom, 0)) {
+            const auto stored = archive->nearestTile(each.key);
+            ASSERT_TRUE(stored);
+            TileData data;
+            data.vector = std::make_shared<const VectorTile>(
+                decodeVectorTile(inflatedTile(stored->bytes).value()).value());
+            data.vectorKey = stored->key;
+            QImage image(512, 512, QImage::Format_RGB32);
+            QPainter painter(&image);
+            painter.setRenderHint(QPainter::Antialiasing);
+            PaintBudget budget(outlineBudget * 512 / 4);
+            paintVectorTile(painter, data, requestFor(each.key), BasemapTheme::light, budget);
+            EXPECT_FALSE(budget.isSpent()) << zoom << ' ' << each.key.column << ' ' << each.key.row;
+            ++painted;
+        }
+    }
+    EXPECT_GT(painted, 50);
 }
 
 } // namespace

@@ -1,0 +1,33 @@
+#pragma once
+// What painting may cost. A few bytes of a vector tile can ask for minutes: the painter's time
+// grows with the length of outlines, and with the square of how often they cross one row of pixels.
+
+#include <QPolygonF>
+
+#include <span>
+
+namespace vasker {
+
+/// What filling these rings at once takes, in pixels of outline: about a quarter of a microsecond
+/// each. The rings are in device pixels and lie in or near a raster tile.
+[[nodiscard]] double fillCost(std::span<const QPolygonF> rings);
+/// What drawing these lines at once takes, `width` device pixels wide.
+[[nodiscard]] double strokeCost(std::span<const QPolygonF> lines, double width);
+
+class PaintBudget {
+  public:
+    /// In pixels of outline.
+    explicit PaintBudget(double pixels) noexcept : m_left(pixels) {}
+
+    /// Spends `cost` pixels; whether the budget held them.
+    bool spend(double cost) noexcept {
+        m_left -= cost;
+        return m_left >= 0;
+    }
+    [[nodiscard]] bool isSpent() const noexcept { return m_left < 0; }
+
+  private:
+    double m_left;
+};
+
+} // namespace vasker
