@@ -4,7 +4,9 @@
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QEvent>
 #include <QFileInfo>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QJSEngine>
 #include <QMap>
@@ -35,30 +37,57 @@ ColorScheme systemScheme() {
 }
 
 // The portal's numbers: 1 asks for dark, 2 for light, anything else for nothing in particular.
-ColorScheme portalScheme(uint number) {
+std::optional<ColorScheme> portalScheme(uint number) {
     switch (number) {
     case 1:
         return ColorScheme::dark;
     case 2:
         return ColorScheme::light;
     default:
-        return systemScheme();
+        return std::nullopt;
     }
 }
 
+/// In pixels: 11 points at 96 dots per inch, the largest of the usual sizes of desktops. A system
+/// font that is larger was chosen to be.
+constexpr double usualFontSize = 11 * 96.0 / 72.0;
+
+constexpr double mostTextScale = 2;
+
 } // namespace
 
-Appearance::Appearance(const QDBusConnection& bus, QObject* parent)
-    : QObject(parent), m_bus(bus), m_scheme(systemScheme()) {
-    if (m_bus.isConnected()) {
-        m_bus.connect(service,
-                      path,
-                      interface,
-                      QStringLiteral("SettingChanged"),
-                      this,
-                      SLOT(apply(QString, QString, QDBusVariant)));
-        askPortal();
+Appearance::Appearance(const QDBusConnection& bus, QObject* parent) : QObject(parent), m_bus(bus) {
+    qGuiApp->installEventFilter(this);
+    if (!m_bus.isConnected()) {
+        return;
     }
+    qRegisterMetaType<QDBusVariant>(); // the slot below is not connected without it
+    if (!m_bus.connect(service,
+                       path,
+                       interface,
+                       QStringLiteral("SettingChanged"),
+                       this,
+                       SLOT(apply(QString, QString, QDBusVariant)))) {
+        qWarning("The desktop's settings cannot be followed.");
+    }
+    askPortal();
+}
+
+ColorScheme Appearance::scheme() const {
+    return m_scheme.value_or(systemScheme());
+}
+
+double Appearance::textScale() const {
+    const double ofFont = QFontInfo(QGuiApplication::font()).pixelSize() / usualFontSize;
+    return std::clamp(std::max(ofFont, m_gnomeTextScale), 1.0, mostTextScale);
+}
+
+bool Appearance::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == qGuiApp && (event->type() == QEvent::ApplicationPaletteChange ||
+                               event->type() == QEvent::ApplicationFontChange)) {
+        Q_EMIT changed();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 QDBusConnection Appearance::sessionBus() {
@@ -101,15 +130,15 @@ void Appearance::apply(const QString& group, const QString& key, const QDBusVari
     if (group == desktopGroup && key == u"color-scheme") {
         m_scheme = portalScheme(value.toUInt());
     } else if (group == desktopGroup && key == u"contrast") {
-        m_highContrast = value.toUInt() == 1;
+        m_desktop.highContrast = value.toUInt() == 1;
     } else if (group == gnomeContrastGroup && key == u"high-contrast") {
-        m_highContrast = value.toBool();
+        m_gnome.highContrast = value.toBool();
     } else if (group == desktopGroup && key == u"reduced-motion") {
-        m_reducedMotion = value.toUInt() == 1;
+        m_desktop.reducedMotion = value.toUInt() == 1;
     } else if (group == gnomeGroup && key == u"enable-animations") {
-        m_reducedMotion = !value.toBool();
+        m_gnome.reducedMotion = !value.toBool();
     } else if (group == gnomeGroup && key == u"text-scaling-factor") {
-        m_textScale = std::clamp(value.toDouble(), 1.0, 2.0);
+        m_gnomeTextScale = value.toDouble();
     } else {
         return;
     }

@@ -1,7 +1,7 @@
 #pragma once
 // How the desktop wants programs to look: light or dark, contrast, motion, text size. Read from the
-// desktop's settings portal and followed live; without a portal the system palette decides. One
-// object serves all windows.
+// desktop's settings portal and followed live; without a portal the system's palette and font
+// decide. One object serves all windows.
 
 #include "platform/ui/Palette.h"
 
@@ -9,6 +9,8 @@
 #include <QDBusVariant>
 #include <QObject>
 #include <QtQmlIntegration>
+
+#include <optional>
 
 class QJSEngine;
 class QQmlEngine;
@@ -33,12 +35,16 @@ class Appearance : public QObject {
     /// The one object of the process, made on first use.
     static Appearance* create(QQmlEngine*, QJSEngine*);
 
-    [[nodiscard]] bool isDark() const noexcept { return m_scheme == ColorScheme::dark; }
-    [[nodiscard]] ColorScheme scheme() const noexcept { return m_scheme; }
-    [[nodiscard]] bool highContrast() const noexcept { return m_highContrast; }
-    [[nodiscard]] bool reducedMotion() const noexcept { return m_reducedMotion; }
+    [[nodiscard]] bool isDark() const { return scheme() == ColorScheme::dark; }
+    [[nodiscard]] ColorScheme scheme() const;
+    [[nodiscard]] bool highContrast() const noexcept {
+        return m_desktop.highContrast || m_gnome.highContrast;
+    }
+    [[nodiscard]] bool reducedMotion() const noexcept {
+        return m_desktop.reducedMotion || m_gnome.reducedMotion;
+    }
     /// What the sizes of texts are multiplied with, 1 to 2.
-    [[nodiscard]] double textScale() const noexcept { return m_textScale; }
+    [[nodiscard]] double textScale() const;
 
   Q_SIGNALS:
     void changed();
@@ -46,14 +52,24 @@ class Appearance : public QObject {
   private Q_SLOTS:
     void apply(const QString& group, const QString& key, const QDBusVariant& value);
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
+    /// What one source of settings says; where two say something of the same, either can ask for
+    /// it.
+    struct Source {
+        bool highContrast = false;
+        bool reducedMotion = false;
+    };
+
     void askPortal();
 
     QDBusConnection m_bus;
-    ColorScheme m_scheme;
-    bool m_highContrast = false;
-    bool m_reducedMotion = false;
-    double m_textScale = 1;
+    std::optional<ColorScheme> m_scheme; ///< none: the system's palette decides
+    Source m_desktop;                    ///< of every desktop's settings
+    Source m_gnome;                      ///< of GNOME's own keys
+    double m_gnomeTextScale = 1;
 };
 
 } // namespace vasker

@@ -28,7 +28,7 @@ run_packages=(
 test_packages=(
     libgtest-dev libgmock-dev qml6-module-qttest
     clang-format clang-tidy desktop-file-utils appstream
-    xvfb xauth x11-utils xdotool dbus-daemon at-spi2-core python3 python3-gi gir1.2-atspi-2.0
+    xvfb xauth x11-utils x11-apps xdotool dbus-daemon at-spi2-core python3 python3-gi gir1.2-atspi-2.0
 )
 
 # Installs those of the packages given that are missing, and touches no other package.

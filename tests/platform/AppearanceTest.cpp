@@ -3,7 +3,10 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusVirtualObject>
+#include <QFont>
+#include <QGuiApplication>
 #include <QMap>
+#include <QPalette>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -78,6 +81,51 @@ TEST(Appearance, ChangesAreFollowedLive) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !desktop.isDark(); }));
     portal.change(gnome, QStringLiteral("text-scaling-factor"), 9.0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.textScale() == 2; }));
+}
+
+TEST(Appearance, EitherSourceOfASettingCanAskForIt) {
+    const QString contrast = QStringLiteral("contrast");
+    const QString gnomeContrast = QStringLiteral("org.gnome.desktop.a11y.interface");
+    const QString highContrast = QStringLiteral("high-contrast");
+    Portal portal({{appearance, {{contrast, 1U}, {QStringLiteral("reduced-motion"), 1U}}},
+                   {gnome, {{QStringLiteral("enable-animations"), true}}},
+                   {gnomeContrast, {{highContrast, false}}}});
+    const Appearance desktop(QDBusConnection::sessionBus());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.highContrast(); }));
+    EXPECT_TRUE(desktop.reducedMotion());
+    portal.change(gnomeContrast, highContrast, true);
+    portal.change(appearance, contrast, 0U);
+    portal.change(gnome, QStringLiteral("text-scaling-factor"), 1.25);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.textScale() == 1.25; }));
+    EXPECT_TRUE(desktop.highContrast());
+    portal.change(gnomeContrast, highContrast, false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !desktop.highContrast(); }));
+}
+
+TEST(Appearance, WithoutAPreferenceTheSystemPaletteIsFollowedLive) {
+    const Appearance desktop(QDBusConnection(QStringLiteral("none")));
+    const QPalette usual = QGuiApplication::palette();
+    int changes = 0;
+    QObject::connect(&desktop, &Appearance::changed, [&changes] { ++changes; });
+    QGuiApplication::setPalette(QPalette(QColor(20, 20, 20)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return changes > 0; }));
+    EXPECT_TRUE(desktop.isDark());
+    QGuiApplication::setPalette(usual);
+    EXPECT_FALSE(desktop.isDark());
+}
+
+TEST(Appearance, ALargeSystemFontMakesTextsLarger) {
+    const Appearance desktop(QDBusConnection(QStringLiteral("none")));
+    const QFont usual = QGuiApplication::font();
+    QFont large = usual;
+    large.setPixelSize(22);
+    QGuiApplication::setFont(large);
+    EXPECT_NEAR(desktop.textScale(), 1.5, 0.01);
+    large.setPixelSize(90);
+    QGuiApplication::setFont(large);
+    EXPECT_EQ(desktop.textScale(), 2);
+    QGuiApplication::setFont(usual);
+    EXPECT_EQ(desktop.textScale(), 1);
 }
 
 } // namespace

@@ -5,6 +5,7 @@ Needs a session bus and an X display of its own, see tools/headless.
 
 import os
 import signal
+import struct
 import subprocess
 import tempfile
 import time
@@ -87,6 +88,11 @@ class Control:
         if not Atspi.EditableText.set_text_contents(self.node, text):
             raise Missed(f"takes no text: {self.text()}")
 
+    def box(self):
+        """Where it is on the display: left, top, width, height in pixels."""
+        box = Atspi.Component.get_extents(self.node, Atspi.CoordType.SCREEN)
+        return box.x, box.y, box.width, box.height
+
     def contents(self):
         return Atspi.Text.get_text(self.node, 0, -1)
 
@@ -154,6 +160,24 @@ def switch_accessibility(on):
 def ask_display(*words):
     """What the display answers; nothing where it finds nothing."""
     return subprocess.run(["xdotool", *words], capture_output=True, text=True).stdout
+
+
+class Screen:
+    """What the display shows: a picture in the format of xwd, 32 bits a pixel."""
+
+    def __init__(self):
+        data = subprocess.run(["xwd", "-root", "-silent"], capture_output=True, check=True).stdout
+        header = struct.unpack(">25I", data[:100])
+        self.width, self.height, self._stride = header[4], header[5], header[12]
+        if self._stride != 4 * self.width or header[7] != 0:
+            raise RuntimeError(f"the display has no 32 bits a pixel, lowest first: {header}")
+        self._pixels = data[header[0] + 12 * header[19] :]
+
+    def pixel(self, x, y):
+        """Red, green and blue."""
+        place = y * self._stride + 4 * x
+        blue, green, red = self._pixels[place : place + 3]
+        return red, green, blue
 
 
 class Program:

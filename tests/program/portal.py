@@ -36,6 +36,9 @@ INTERFACES = """
     <method name="ReadAll">
       <arg type="as" direction="in"/><arg type="a{sa{sv}}" direction="out"/>
     </method>
+    <signal name="SettingChanged">
+      <arg type="s"/><arg type="s"/><arg type="v"/>
+    </signal>
   </interface>
   <interface name="org.freedesktop.FileManager1">
     <method name="ShowItems">
@@ -73,6 +76,16 @@ class Portal:
         found = lambda: [arguments for name, arguments in self.calls if name == method]
         wait(lambda: len(found()) >= times, f"nobody called {method}")
         return found()[-1]
+
+    def change(self, group, key, value):
+        """The user changes a setting of the desktop. `value`: a GLib.Variant."""
+        self._bus.emit_signal(
+            None,
+            "/org/freedesktop/portal/desktop",
+            "org.freedesktop.portal.Settings",
+            "SettingChanged",
+            GLib.Variant("(ssv)", (group, key, value)),
+        )
 
     def _serve(self, ready):
         self._context = GLib.MainContext.new()
