@@ -2,8 +2,8 @@
 // A release made ready for views, once, in the load task: name order, folded search texts, kinds.
 // Answers exactly as the definitions in Classification.h do. Immutable; any thread.
 
-#include "data/FoldedTexts.h"
 #include "data/OpenMapRelease.h"
+#include "data/text/FoldedTexts.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -35,7 +35,7 @@ PRODUCT = ("data/", "platform/", "presentation/", "map/", "detail/", "app/")
 # Headers that only some files of the product may include: pattern, who may, what to call it.
 PRIVATE_HEADERS = (
     (r"simdjson", ("data/ReleaseReader",), "simdjson"),
-    (r"unicode/", ("data/Text", "data/IcuText"), "ICU"),
+    (r"unicode/", ("data/text/",), "ICU"),
     (r"openssl/", ("data/Digest",), "libcrypto"),
     (r"uriparser/", ("data/WebAddress",), "the URL parser"),
     (r"sqlite3", ("map/tiles/", "map/tileservice/"), "SQLite"),

@@ -1,5 +1,5 @@
-#include "data/IcuText.h"
-#include "data/Text.h"
+#include "data/text/IcuText.h"
+#include "data/text/Text.h"
 
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>

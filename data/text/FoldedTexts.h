@@ -6,8 +6,8 @@
 // the code of a joined character (Text.h), which stands for the character as a whole, so that
 // nothing is found that begins or ends inside a character.
 
-#include "data/BytePattern.h"
-#include "data/Text.h"
+#include "data/text/BytePattern.h"
+#include "data/text/Text.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "data/Text.h"
+#include "data/text/Text.h"
 
 #include <gtest/gtest.h>
 

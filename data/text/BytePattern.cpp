@@ -1,4 +1,4 @@
-#include "data/BytePattern.h"
+#include "data/text/BytePattern.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,4 +1,4 @@
-#include "data/FoldedTexts.h"
+#include "data/text/FoldedTexts.h"
 
 #include <array>
 #include <utility>

@@ -1,6 +1,6 @@
-#include "data/Text.h"
+#include "data/text/Text.h"
 
-#include "data/IcuText.h"
+#include "data/text/IcuText.h"
 
 #include <unicode/brkiter.h>
 #include <unicode/casemap.h>
