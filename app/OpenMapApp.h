@@ -2,7 +2,7 @@
 // The application: a group of windows that share the user's settings and nothing else.
 
 #include "app/BackgroundThreads.h"
-#include "data/text/Text.h"
+#include "data/text/TextLocale.h"
 #include "map/basemap/TileLibrary.h"
 #include "platform/Bundle.h"
 #include "platform/DesktopActivation.h"

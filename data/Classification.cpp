@@ -1,5 +1,10 @@
 #include "data/Classification.h"
 
+#include "data/text/Capitalization.h"
+#include "data/text/CaseFolding.h"
+#include "data/text/CodePointOrder.h"
+#include "data/text/NameOrder.h"
+
 #include <algorithm>
 #include <array>
 #include <unordered_set>
@@ -73,15 +78,19 @@ std::vector<AssetIndex> filtered(const OpenMapRelease& release,
 }
 
 std::vector<std::string> kinds(const OpenMapRelease& release) {
-    std::vector<std::string> distinct;
+    std::vector<std::pair<std::string, std::string_view>> distinct; // sort key, kind
     std::unordered_set<std::string_view> seen;
     for (const OpenMapRelease::Asset& asset : release.assets) {
         if (seen.insert(asset.kind).second) {
-            distinct.push_back(asset.kind);
+            distinct.emplace_back(codePointSortKey(asset.kind), asset.kind);
         }
     }
-    std::ranges::stable_sort(distinct, precedesInCodePointOrder);
-    return distinct;
+    std::ranges::stable_sort(
+        distinct, {}, [](const auto& each) -> auto& { return each.first; });
+    std::vector<std::string> sorted(distinct.size());
+    std::ranges::transform(
+        distinct, sorted.begin(), [](const auto& each) { return std::string(each.second); });
+    return sorted;
 }
 
 } // namespace vasker

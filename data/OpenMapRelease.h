@@ -5,7 +5,7 @@
 // All records are plain values that nobody changes after decode(); they may be read from any
 // thread. Texts are UTF-8. Coordinates are WGS-84 decimal degrees.
 
-#include "data/text/Text.h"
+#include "data/text/TextLocale.h"
 
 #include <array>
 #include <cstddef>

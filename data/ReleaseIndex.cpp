@@ -1,6 +1,7 @@
 #include "data/ReleaseIndex.h"
 
 #include "data/Classification.h"
+#include "data/text/NameOrder.h"
 
 #include <algorithm>
 #include <numeric>

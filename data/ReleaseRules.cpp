@@ -3,6 +3,7 @@
 #include "data/Citations.h"
 #include "data/InternetDateTime.h"
 #include "data/WebAddress.h"
+#include "data/text/Characters.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,5 +1,8 @@
 #include "data/text/FoldedTexts.h"
 
+#include "data/text/CaseFolding.h"
+#include "data/text/Characters.h"
+
 #include <array>
 #include <utility>
 

@@ -7,7 +7,7 @@
 // nothing is found that begins or ends inside a character.
 
 #include "data/text/BytePattern.h"
-#include "data/text/Text.h"
+#include "data/text/TextLocale.h"
 
 #include <cstddef>
 #include <cstdint>

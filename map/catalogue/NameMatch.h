@@ -1,7 +1,7 @@
 #pragma once
 // Which part of a name the search text was found in, and how that is shown.
 
-#include "data/text/Text.h"
+#include "data/text/CaseFolding.h"
 
 #include <QString>
 #include <QStringView>
