@@ -1,5 +1,8 @@
 #include "data/ReleaseWriter.h"
 
+#include "data/ReleaseFields.h"
+
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <stdexcept>
@@ -8,84 +11,18 @@ namespace vasker {
 
 namespace {
 
-void append(std::string& json, std::string_view text);
-void append(std::string& json, std::int64_t number);
-void append(std::string& json, double number);
-void append(std::string& json, const OpenMapRelease::Position& position);
-void append(std::string& json, const OpenMapRelease::Source& source);
-void append(std::string& json, const OpenMapRelease::Fact& fact);
-void append(std::string& json, const OpenMapRelease::Asset& asset);
-void append(std::string& json, const OpenMapRelease& release);
-
-template <typename Value>
-void append(std::string& json, const std::vector<Value>& values) {
-    json += '[';
-    for (const Value& value : values) {
-        if (&value != &values.front()) {
-            json += ',';
-        }
-        append(json, value);
-    }
-    json += ']';
-}
-
-/// The fields of one JSON object, in the order of the calls.
-class Object {
-  public:
-    explicit Object(std::string& json) : m_json(json) {}
-    Object(const Object&) = delete;
-    Object& operator=(const Object&) = delete;
-
-    template <typename Value>
-    Object& field(std::string_view key, const Value& value) {
-        m_json += m_isEmpty ? '{' : ',';
-        m_isEmpty = false;
-        append(m_json, key);
-        m_json += ':';
-        append(m_json, value);
-        return *this;
-    }
-
-    Object& field(std::string_view key, const std::optional<std::string>& text) {
-        return text ? field(key, *text) : *this;
-    }
-
-    void end() { m_json += '}'; }
-
-  private:
-    std::string& m_json;
-    bool m_isEmpty = true;
-};
-
 void appendEscaped(std::string& json, char character) {
+    constexpr std::string_view named = "\"\\\b\f\n\r\t";
+    constexpr std::string_view names = "\"\\bfnrt";
     constexpr std::string_view digits = "0123456789abcdef";
-    switch (character) {
-    case '"':
-        json += "\\\"";
-        break;
-    case '\\':
-        json += "\\\\";
-        break;
-    case '\b':
-        json += "\\b";
-        break;
-    case '\f':
-        json += "\\f";
-        break;
-    case '\n':
-        json += "\\n";
-        break;
-    case '\r':
-        json += "\\r";
-        break;
-    case '\t':
-        json += "\\t";
-        break;
-    default:
-        json += "\\u00";
-        json += digits[static_cast<unsigned char>(character) >> 4U];
-        json += digits[static_cast<unsigned char>(character) & 0xFU];
+    json += '\\';
+    if (const std::size_t at = named.find(character); at != std::string_view::npos) {
+        json += names[at];
+        return;
     }
+    json += "u00";
+    json += digits[static_cast<unsigned char>(character) >> 4U];
+    json += digits[static_cast<unsigned char>(character) & 0xFU];
 }
 
 bool mustBeEscaped(char character) {
@@ -142,55 +79,40 @@ void append(std::string& json, const OpenMapRelease::Position& position) {
     json += ']';
 }
 
-void append(std::string& json, const OpenMapRelease::Source& source) {
-    Object(json)
-        .field("id", source.id)
-        .field("publisher", source.publisher)
-        .field("dataset", source.dataset)
-        .field("sourceURL", source.sourceURL)
-        .field("licenceURL", source.licenceURL)
-        .field("attribution", source.attribution)
-        .field("conditions", source.conditions)
-        .field("modifications", source.modifications)
-        .end();
+template <typename Value>
+void append(std::string& json, const std::vector<Value>& values);
+
+template <typename Value>
+void appendField(std::string& json, std::string_view key, const Value& value) {
+    json += json.back() == '{' ? "" : ",";
+    append(json, key);
+    json += ':';
+    append(json, value);
 }
 
-void append(std::string& json, const OpenMapRelease::Fact& fact) {
-    Object(json)
-        .field("label", fact.label)
-        .field("value", fact.value)
-        .field("sourceID", fact.sourceID)
-        .field("asOf", fact.asOf)
-        .end();
+void appendField(std::string& json, std::string_view key, const std::optional<std::string>& text) {
+    if (text) {
+        appendField(json, key, *text);
+    }
 }
 
-void append(std::string& json, const OpenMapRelease::Asset& asset) {
-    Object(json)
-        .field("id", asset.id)
-        .field("name", asset.name)
-        .field("kind", asset.kind)
-        .field("jurisdiction", asset.jurisdiction)
-        .field("sourceID", asset.sourceID)
-        .field("status", asset.status)
-        .field("asOf", asset.asOf)
-        .field("latitude", asset.latitude)
-        .field("longitude", asset.longitude)
-        .field("reportedCompany", asset.reportedCompany)
-        .field("facts", asset.facts)
-        .field("routes", asset.routes)
-        .end();
+template <HasFields Record>
+void append(std::string& json, const Record& record) {
+    json += '{';
+    std::apply(
+        [&](const auto&... field) { (appendField(json, field.key, record.*field.member), ...); },
+        fieldsOf<Record>);
+    json += '}';
 }
 
-void append(std::string& json, const OpenMapRelease& release) {
-    Object(json)
-        .field("schemaVersion", release.schemaVersion)
-        .field("releaseID", release.releaseID)
-        .field("generatedAt", release.generatedAt)
-        .field("coverageName", release.coverageName)
-        .field("limitations", release.limitations)
-        .field("sources", release.sources)
-        .field("assets", release.assets)
-        .end();
+template <typename Value>
+void append(std::string& json, const std::vector<Value>& values) {
+    json += '[';
+    for (const Value& value : values) {
+        json += &value == values.data() ? "" : ",";
+        append(json, value);
+    }
+    json += ']';
 }
 
 template <typename Record>
