@@ -15,12 +15,14 @@ constexpr std::size_t readLimit = OpenMapRelease::maximumFileSize + 1;
 
 } // namespace
 
-LoadOutcome
-loadRelease(const std::string& path, const std::string& expectedSHA256, const TextLocale& locale) {
+LoadOutcome loadRelease(const std::string& path,
+                        const std::string& expectedSHA256,
+                        const TextLocale& locale,
+                        const std::stop_token& stop) {
     try {
         auto release = std::make_shared<const OpenMapRelease>(
-            OpenMapRelease::decode(readWholeFile(path, readLimit), expectedSHA256));
-        return std::make_shared<const LoadedRelease>(std::move(release), locale);
+            OpenMapRelease::decode(readWholeFile(path, readLimit, stop), expectedSHA256, stop));
+        return std::make_shared<const LoadedRelease>(std::move(release), locale, stop);
     } catch (const std::system_error& error) {
         return LoadFailure{error.code().message()};
     } catch (const std::exception& error) {

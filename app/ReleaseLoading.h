@@ -5,6 +5,7 @@
 #include "map/records/RecordSet.h"
 
 #include <memory>
+#include <stop_token>
 #include <string>
 #include <variant>
 
@@ -19,8 +20,11 @@ struct LoadFailure {
 
 using LoadOutcome = std::variant<std::shared_ptr<const LoadedRelease>, LoadFailure>;
 
-/// Reads the file at `path` whole and decodes it against `expectedSHA256`.
-[[nodiscard]] LoadOutcome
-loadRelease(const std::string& path, const std::string& expectedSHA256, const TextLocale& locale);
+/// Reads the file at `path` whole and decodes it against `expectedSHA256`. Ends early, with a
+/// failure that nobody needs, if `stop` asks to stop.
+[[nodiscard]] LoadOutcome loadRelease(const std::string& path,
+                                      const std::string& expectedSHA256,
+                                      const TextLocale& locale,
+                                      const std::stop_token& stop = {});
 
 } // namespace vasker

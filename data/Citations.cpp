@@ -7,7 +7,7 @@ namespace vasker {
 Citations::Citations(const std::vector<OpenMapRelease::Source>& sources)
     : m_isCited(sources.size()) {
     for (const OpenMapRelease::Source& source : sources) {
-        m_places.emplace(source.id, m_places.size());
+        m_indices.emplace(source.id, m_indices.size());
     }
 }
 
@@ -15,8 +15,8 @@ bool Citations::cite(std::string_view id) {
     if (m_last != nullptr && m_last->first == id) {
         return true;
     }
-    const auto found = m_places.find(id);
-    if (found == m_places.end()) {
+    const auto found = m_indices.find(id);
+    if (found == m_indices.end()) {
         return false;
     }
     m_last = &*found;

@@ -1,5 +1,5 @@
 #pragma once
-// Which sources of a release its records cite.
+// Which sources of a release are cited by its records and facts.
 
 #include "data/OpenMapRelease.h"
 
@@ -11,23 +11,23 @@
 
 namespace vasker {
 
-/// Refers to the sources it was made from, whose ids differ; they must outlive it. Values that
-/// stand together mostly cite one source, so that the source cited last is asked first.
+/// Refers to the sources that it was made from; they must outlive it and have different ids.
 class Citations {
   public:
     explicit Citations(const std::vector<OpenMapRelease::Source>& sources);
     Citations(const Citations&) = delete;
     Citations& operator=(const Citations&) = delete;
 
-    /// Whether `id` names a source, which counts as cited from now on.
+    /// Returns whether a source has this id; if so, it is cited from now on.
     [[nodiscard]] bool cite(std::string_view id);
 
-    /// The place in the list of sources of the first one that was never cited.
+    /// Returns the index of the first source that is not cited.
     [[nodiscard]] std::optional<std::size_t> firstUncited() const;
 
   private:
-    std::unordered_map<std::string_view, std::size_t> m_places;
+    std::unordered_map<std::string_view, std::size_t> m_indices;
     std::vector<bool> m_isCited;
+    /// Neighbouring values mostly cite the same source, which is therefore compared first.
     const std::pair<const std::string_view, std::size_t>* m_last = nullptr;
 };
 

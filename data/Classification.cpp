@@ -1,5 +1,6 @@
 #include "data/Classification.h"
 
+#include "data/Cancelled.h"
 #include "data/text/Capitalization.h"
 #include "data/text/CaseFolding.h"
 #include "data/text/CodePointOrder.h"
@@ -77,10 +78,11 @@ std::vector<AssetIndex> filtered(const OpenMapRelease& release,
     return kept;
 }
 
-std::vector<std::string> kinds(const OpenMapRelease& release) {
+std::vector<std::string> kinds(const OpenMapRelease& release, const std::stop_token& stop) {
     std::vector<std::pair<std::string, std::string_view>> distinct; // sort key, kind
     std::unordered_set<std::string_view> seen;
     for (const OpenMapRelease::Asset& asset : release.assets) {
+        throwIfCancelled(stop);
         if (seen.insert(asset.kind).second) {
             distinct.emplace_back(codePointSortKey(asset.kind), asset.kind);
         }

@@ -1,24 +1,27 @@
 #pragma once
-// What the lists of a release mean, written as plain, uncached definitions.
-// Views ask a ReleaseIndex, which is tested to answer as these do.
+// The definitions of the lists that views show, as plain functions that keep nothing. Views use a
+// ReleaseIndex; tests compare it with these.
 
 #include "data/OpenMapRelease.h"
 #include "data/ReleaseIndex.h"
 
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vasker {
 
-/// The records of `release` that pass the kind filter ("all": every record) and the search text,
-/// sorted by name; names that compare as equal keep their file order.
+/// Returns the records that are of `kind` ("all" stands for every kind) and match `query`, sorted
+/// by name. Records whose names are equal in that order are in file order.
 [[nodiscard]] std::vector<AssetIndex> filtered(const OpenMapRelease& release,
                                                std::string_view query,
                                                std::string_view kind,
                                                const TextLocale& locale);
 
-/// The distinct kinds of `release`, in the code-point order of their canonically composed forms.
-[[nodiscard]] std::vector<std::string> kinds(const OpenMapRelease& release);
+/// Returns the distinct kinds of the records, in the code-point order of their composed forms.
+/// Throws Cancelled if `stop` asks to stop.
+[[nodiscard]] std::vector<std::string> kinds(const OpenMapRelease& release,
+                                             const std::stop_token& stop = {});
 
 } // namespace vasker

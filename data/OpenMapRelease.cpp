@@ -23,8 +23,10 @@ void refuseOversized(std::string_view bytes) {
     }
 }
 
-void refuseOtherDigest(std::string_view bytes, std::string_view expectedSHA256) {
-    const std::string digest = sha256(bytes);
+void refuseOtherDigest(std::string_view bytes,
+                       std::string_view expectedSHA256,
+                       const std::stop_token& stop) {
+    const std::string digest = sha256(bytes, stop);
     if (digest != expectedSHA256) {
         throw Refusal(Invalid::checksum, "the file's SHA-256 digest is " + digest);
     }
@@ -48,11 +50,18 @@ void refuseUnknownKey(const std::optional<std::string>& firstUnknownKey) {
 
 OpenMapRelease OpenMapRelease::decode(std::string_view bytes, std::string_view expectedSHA256) {
     refuseOversized(bytes);
-    refuseOtherDigest(bytes, expectedSHA256);
-    ReleaseReading reading = readReleaseAndKeys(bytes);
+    return decode(withJSONPadding(bytes), expectedSHA256, {});
+}
+
+OpenMapRelease OpenMapRelease::decode(std::string&& bytes,
+                                      std::string_view expectedSHA256,
+                                      const std::stop_token& stop) {
+    refuseOversized(bytes);
+    refuseOtherDigest(bytes, expectedSHA256, stop);
+    ReleaseReading reading = readReleaseAndKeys(std::move(bytes), stop);
     refuseOtherVersion(reading.release.schemaVersion);
     refuseUnknownKey(reading.firstUnknownKey);
-    validate(reading.release);
+    validate(reading.release, stop);
     return std::move(reading.release);
 }
 
@@ -75,7 +84,7 @@ std::string_view OpenMapRelease::errorDescription(Invalid invalid) noexcept {
 }
 
 const char* OpenMapRelease::Refusal::what() const noexcept {
-    return errorDescription(m_invalid).data(); // a literal, so a terminated one
+    return errorDescription(m_invalid).data(); // a literal, which is terminated
 }
 
 const OpenMapRelease::Source* OpenMapRelease::source(std::string_view id) const noexcept {

@@ -1,17 +1,17 @@
 #pragma once
-// The records of one packaged release of the Canadian energy infrastructure map, and how its file
-// is loaded: whole and checked, or not at all.
+// The records of a release of the Canadian energy infrastructure map, and how a release is loaded:
+// checked as a whole, or not at all.
 //
-// All records are plain values that nobody changes after decode(); they may be read from any
-// thread. Texts are UTF-8. Coordinates are WGS-84 decimal degrees.
+// All records are plain values that never change after decode(), so that any thread may read them.
+// Texts are UTF-8. Coordinates are WGS-84 decimal degrees.
 
 #include "data/text/TextLocale.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,43 +19,43 @@
 namespace vasker {
 
 struct OpenMapRelease {
-    /// Why a release file is refused.
+    /// Why a release is refused.
     enum class Invalid { oversized, checksum, schema, records, provenance, coordinates };
 
-    /// The fixed, user-facing message of a refusal.
+    /// Returns the fixed message that users see for a refusal.
     [[nodiscard]] static std::string_view errorDescription(Invalid invalid) noexcept;
 
-    /// A refusal as decode() throws it: what() is errorDescription(); place() says which rule
-    /// failed and where, for people who package releases
-    /// ("assets[12].routes[0][3]: longitude 200 is outside -180 to 180").
+    /// The error of decode() for a release that is refused. what() is errorDescription(); place()
+    /// tells people who make releases which rule is broken and where, as in
+    /// "assets[12].routes[0][3]: longitude 200 is outside -180 to 180".
     class Refusal;
 
-    /// Where in the file a value stands that has the wrong JSON type. The JSON library's own errors
-    /// that decode() passes on carry this as a second base where the place is known; what() is the
-    /// library's text, unchanged.
+    /// The place in the file of the value that an error is about. It is a second base of the JSON
+    /// library's errors that decode() passes on, if their place is known.
     class Located;
 
-    /// A position of a route. The file has longitude first. One that the file gives with more or
-    /// fewer than two numbers is read as {NaN, NaN}, which no file can say otherwise, and refused.
+    /// A position of a route. The file has longitude first. {NaN, NaN} stands for a position of the
+    /// file that has not two numbers; it is refused.
     struct Position {
-        double longitude; ///< degrees, -180 to 180 once validated
-        double latitude;  ///< degrees, -90 to 90 once validated
+        double longitude; ///< degrees, -180 to 180 in a valid release
+        double latitude;  ///< degrees, -90 to 90 in a valid release
         friend bool operator==(const Position&, const Position&) = default;
     };
     using Route = std::vector<Position>;
 
     /// A cited public dataset.
     struct Source {
-        std::string id;          ///< 64 hexadecimal digits
-        std::string publisher;   ///< also the fallback of shortName()
-        std::string dataset;     ///< one of five keys, see ReleaseRules
+        std::string id; ///< 64 hexadecimal digits
+        std::string publisher;
+        std::string dataset;     ///< one of datasetKeys
         std::string sourceURL;   ///< https
         std::string licenceURL;  ///< https
-        std::string attribution; ///< as the licence requires it
+        std::string attribution; ///< the text that the licence requires
         std::string conditions;
         std::string modifications;
 
-        /// A short display name by `dataset`; the publisher for an unknown key.
+        /// Returns a short name for `dataset`, or the publisher if the key is unknown. The view
+        /// lives as long as this source.
         [[nodiscard]] std::string_view shortName() const noexcept;
         friend bool operator==(const Source&, const Source&) = default;
     };
@@ -64,58 +64,65 @@ struct OpenMapRelease {
     struct Fact {
         std::string label;
         std::string value;
-        std::string sourceID; ///< the `id` of a Source
-        std::string asOf;     ///< the period of this value
+        std::string sourceID; ///< the `id` of a source
+        std::string asOf;     ///< the period that the value describes
         friend bool operator==(const Fact&, const Fact&) = default;
     };
 
-    /// A mapped record: a facility (no route) or a pipeline (one route or more).
+    /// A mapped record: a facility, which has no route, or a pipeline.
     struct Asset {
         std::string id;
         std::string name;
-        std::string kind; ///< category key such as "gas_plant"; may be empty or unknown
+        std::string kind; ///< a category key such as "gas_plant"; may be empty or unknown
         std::string jurisdiction;
-        std::string sourceID; ///< the `id` of a Source
+        std::string sourceID; ///< the `id` of a source
         std::string status;
-        std::string asOf;
+        std::string asOf;     ///< the period that the record describes
         double latitude = 0;  ///< degrees
         double longitude = 0; ///< degrees
         std::optional<std::string> reportedCompany;
         std::vector<Fact> facts;
         std::vector<Route> routes;
 
-        /// The display label of a category key: a fixed label for eight keys, any other key
-        /// capitalised word by word, the empty label for the empty key.
+        /// Returns the label of a category key: a fixed label for eight keys, else the key with
+        /// each word capitalized.
         [[nodiscard]] static std::string categoryLabel(std::string_view kind);
-        /// categoryLabel() of this record's `kind`.
+        /// Returns categoryLabel() of this record's `kind`.
         [[nodiscard]] std::string category() const;
-        /// Whether the record is drawn as lines: it has at least one route.
+        /// Returns whether the record has at least one route.
         [[nodiscard]] bool hasRoute() const noexcept { return !routes.empty(); }
-        /// Whether name, id, company, jurisdiction or a fact's value contains `query`, ignoring
-        /// letter case in `locale` and nothing else. The empty query matches every record.
+        /// Returns whether name, id, company, jurisdiction or the value of a fact contains `query`,
+        /// ignoring letter case in `locale`. Each record matches the empty query.
         [[nodiscard]] bool matches(std::string_view query, const TextLocale& locale) const;
         friend bool operator==(const Asset&, const Asset&) = default;
     };
 
     std::int64_t schemaVersion = 1;
     std::string releaseID;
-    std::string generatedAt; ///< packaging time, an internet date-time
+    std::string generatedAt; ///< when the release was packaged, an internet date-time
     std::string coverageName;
     std::vector<std::string> limitations;
     std::vector<Source> sources;
     std::vector<Asset> assets;
 
-    /// Largest file that is accepted, in bytes.
+    /// Size of the largest accepted file, in bytes.
     static constexpr std::size_t maximumFileSize = 15'000'000;
 
-    /// The release in `bytes`, checked whole: size, digest, typed decoding, version, unknown keys,
-    /// rules. Throws Refusal, or the JSON library's own error (a std::exception) unchanged.
-    /// `expectedSHA256` is compared as it stands with 64 lower-case hexadecimal digits.
-    /// Where an object repeats a key, the last value counts, as in most JSON readers.
+    /// Returns the release in the file `bytes` if it passes all checks, in this order: size,
+    /// digest, JSON types, schema version, unknown keys, rules.
+    ///
+    /// Throws Refusal, or the JSON library's own error unchanged, a std::exception.
+    /// `expectedSHA256` is compared exactly with 64 lower-case hexadecimal digits.
     [[nodiscard]] static OpenMapRelease decode(std::string_view bytes,
                                                std::string_view expectedSHA256);
 
-    /// The first source with exactly this id, or nullptr. Lives as long as the release.
+    /// The same for bytes that the caller no longer needs, which spares a copy of them if they have
+    /// the capacity that readWholeFile() leaves. Throws Cancelled if `stop` asks to stop, which is
+    /// checked between the steps and within long ones.
+    [[nodiscard]] static OpenMapRelease
+    decode(std::string&& bytes, std::string_view expectedSHA256, const std::stop_token& stop);
+
+    /// Returns the first source with exactly this id, or nullptr. It lives as long as the release.
     [[nodiscard]] const Source* source(std::string_view id) const noexcept;
 
     friend bool operator==(const OpenMapRelease&, const OpenMapRelease&) = default;

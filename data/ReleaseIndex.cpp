@@ -1,5 +1,6 @@
 #include "data/ReleaseIndex.h"
 
+#include "data/Cancelled.h"
 #include "data/Classification.h"
 #include "data/text/NameOrder.h"
 
@@ -13,48 +14,53 @@ namespace {
 
 using Asset = OpenMapRelease::Asset;
 
-std::vector<AssetIndex> nameOrderOf(const std::vector<Asset>& assets, const TextLocale& locale) {
+std::vector<AssetIndex> nameOrderOf(const std::vector<Asset>& assets,
+                                    const TextLocale& locale,
+                                    const std::stop_token& stop) {
     const NameOrder order(locale);
     std::vector<std::pair<std::string, AssetIndex>> keyed;
     keyed.reserve(assets.size());
     for (const Asset& asset : assets) {
+        throwIfCancelled(stop);
         keyed.emplace_back(order.sortKey(asset.name), static_cast<AssetIndex>(keyed.size()));
     }
-    std::ranges::sort(keyed); // the place in the file decides between equal keys
+    std::ranges::sort(keyed); // equal keys in file order
     std::vector<AssetIndex> sorted(assets.size());
     std::ranges::transform(keyed, sorted.begin(), [](const auto& each) { return each.second; });
     return sorted;
 }
 
-void addTexts(FoldedTexts& texts, const Asset& asset) {
-    texts.addText(asset.name);
-    texts.addText(asset.id);
+void addTexts(FoldedTexts& texts, const Asset& asset, const std::stop_token& stop) {
+    texts.addText(asset.name, stop);
+    texts.addText(asset.id, stop);
     if (asset.reportedCompany) {
-        texts.addText(*asset.reportedCompany);
+        texts.addText(*asset.reportedCompany, stop);
     }
-    texts.addText(asset.jurisdiction);
+    texts.addText(asset.jurisdiction, stop);
     for (const OpenMapRelease::Fact& fact : asset.facts) {
-        texts.addText(fact.value);
+        texts.addText(fact.value, stop);
     }
     texts.endRecord();
 }
 
 } // namespace
 
-ReleaseIndex::ReleaseIndex(std::shared_ptr<const OpenMapRelease> release, TextLocale locale)
+ReleaseIndex::ReleaseIndex(std::shared_ptr<const OpenMapRelease> release,
+                           TextLocale locale,
+                           const std::stop_token& stop)
     : m_release(std::move(release)), m_locale(std::move(locale)),
-      m_kinds(vasker::kinds(*m_release)), m_nameOrder(nameOrderOf(m_release->assets, m_locale)),
-      m_texts(m_locale) {
+      m_kinds(vasker::kinds(*m_release, stop)),
+      m_nameOrder(nameOrderOf(m_release->assets, m_locale, stop)), m_texts(m_locale) {
     const std::vector<Asset>& assets = m_release->assets;
 
-    std::unordered_map<std::string_view, std::uint32_t> placeOfKind;
+    std::unordered_map<std::string_view, std::uint32_t> indexOfKind;
     for (const std::string& kind : m_kinds) {
-        placeOfKind.emplace(kind, static_cast<std::uint32_t>(placeOfKind.size()));
+        indexOfKind.emplace(kind, static_cast<std::uint32_t>(indexOfKind.size()));
     }
-    m_kindsInNameOrder.reserve(assets.size());
+    m_kindIndices.reserve(assets.size());
     for (const AssetIndex each : m_nameOrder) {
-        m_kindsInNameOrder.push_back(placeOfKind.at(assets[each].kind));
-        addTexts(m_texts, assets[each]);
+        m_kindIndices.push_back(indexOfKind.at(assets[each].kind));
+        addTexts(m_texts, assets[each], stop);
     }
     m_texts.finish();
 
@@ -64,7 +70,7 @@ ReleaseIndex::ReleaseIndex(std::shared_ptr<const OpenMapRelease> release, TextLo
     }
 }
 
-std::vector<std::uint32_t> ReleaseIndex::ranksOf(std::string_view query) const {
+std::vector<std::uint32_t> ReleaseIndex::matchingRanks(std::string_view query) const {
     if (!query.empty()) {
         return m_texts.recordsWith(query);
     }
@@ -75,19 +81,19 @@ std::vector<std::uint32_t> ReleaseIndex::ranksOf(std::string_view query) const {
 
 std::vector<std::size_t> ReleaseIndex::counts(std::string_view query) const {
     std::vector<std::size_t> counts(m_kinds.size());
-    for (const std::uint32_t rank : ranksOf(query)) {
-        ++counts[m_kindsInNameOrder[rank]];
+    for (const std::uint32_t rank : matchingRanks(query)) {
+        ++counts[m_kindIndices[rank]];
     }
     return counts;
 }
 
 std::vector<AssetIndex> ReleaseIndex::filtered(std::string_view query,
                                                std::string_view kind) const {
-    std::vector<std::uint32_t> ranks = ranksOf(query);
+    std::vector<std::uint32_t> ranks = matchingRanks(query);
     if (kind != "all") {
-        const auto place =
+        const auto index =
             static_cast<std::uint32_t>(std::ranges::find(m_kinds, kind) - m_kinds.begin());
-        std::erase_if(ranks, [&](std::uint32_t rank) { return m_kindsInNameOrder[rank] != place; });
+        std::erase_if(ranks, [&](std::uint32_t rank) { return m_kindIndices[rank] != index; });
     }
     std::ranges::transform(
         ranks, ranks.begin(), [this](std::uint32_t rank) { return m_nameOrder[rank]; });

@@ -1,6 +1,5 @@
 #pragma once
-// A release made ready for views, once, in the load task: name order, folded search texts, kinds.
-// Answers exactly as the definitions in Classification.h do. Immutable; any thread.
+// A release prepared for views: its records in name order, its texts folded for search, its kinds.
 
 #include "data/OpenMapRelease.h"
 #include "data/text/FoldedTexts.h"
@@ -9,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -16,41 +16,47 @@
 
 namespace vasker {
 
-/// A place in OpenMapRelease::assets.
+/// An index in OpenMapRelease::assets.
 using AssetIndex = std::uint32_t;
 
+/// Answers as the definitions in Classification.h do, in less time. Immutable; any thread.
 class ReleaseIndex {
   public:
-    ReleaseIndex(std::shared_ptr<const OpenMapRelease> release, TextLocale locale);
+    /// Throws Cancelled if `stop` asks to stop.
+    ReleaseIndex(std::shared_ptr<const OpenMapRelease> release,
+                 TextLocale locale,
+                 const std::stop_token& stop = {});
 
     [[nodiscard]] const OpenMapRelease& release() const noexcept { return *m_release; }
     [[nodiscard]] const TextLocale& locale() const noexcept { return m_locale; }
 
-    /// The records that pass `kind` ("all" passes every record) and `query`, in name order; records
-    /// whose names compare as equal keep their file order.
+    /// Returns the records that match `query` and are of `kind` ("all" stands for every kind), in
+    /// name order. Records whose names are equal in that order are in file order.
     [[nodiscard]] std::vector<AssetIndex> filtered(std::string_view query,
                                                    std::string_view kind) const;
-    /// How many records of each kind pass `query`, in the order of kinds().
+
+    /// Returns for each of kinds() how many records of this kind match `query`.
     [[nodiscard]] std::vector<std::size_t> counts(std::string_view query) const;
-    /// The distinct kinds, in code-point order.
+
+    /// Returns the distinct kinds in code-point order.
     [[nodiscard]] const std::vector<std::string>& kinds() const noexcept { return m_kinds; }
 
-    /// The first record with exactly this id, or nothing.
+    /// Returns the first record with exactly this id, or nothing.
     [[nodiscard]] std::optional<AssetIndex> find(std::string_view id) const;
 
-    /// The folded texts that filtered() searches, in name order.
+    /// Returns the texts that queries are searched in; their records are in name order.
     [[nodiscard]] const FoldedTexts& texts() const noexcept { return m_texts; }
 
   private:
-    /// The places in name order of the records that pass `query`, ascending.
-    [[nodiscard]] std::vector<std::uint32_t> ranksOf(std::string_view query) const;
+    /// A rank is a place in name order. Returns those of the matching records, ascending.
+    [[nodiscard]] std::vector<std::uint32_t> matchingRanks(std::string_view query) const;
 
-    std::shared_ptr<const OpenMapRelease> m_release; ///< the views below are of its texts
+    std::shared_ptr<const OpenMapRelease> m_release; ///< owns the texts that m_byID refers to
     TextLocale m_locale;
     std::vector<std::string> m_kinds;
-    std::vector<AssetIndex> m_nameOrder;
-    std::vector<std::uint32_t> m_kindsInNameOrder; ///< places in m_kinds
-    FoldedTexts m_texts;                           ///< its records are in name order
+    std::vector<AssetIndex> m_nameOrder;      ///< by rank
+    std::vector<std::uint32_t> m_kindIndices; ///< by rank; indices in m_kinds
+    FoldedTexts m_texts;                      ///< by rank
     std::unordered_map<std::string_view, AssetIndex> m_byID;
 };
 

@@ -1,303 +1,315 @@
 #include "data/ReleaseReader.h"
 
+#include "data/Cancelled.h"
+#include "data/ReleaseFields.h"
+
 #include <simdjson.h>
 
+#include <array>
+#include <bitset>
+#include <cmath>
 #include <limits>
+
+// A document is read while it is parsed, which takes the least time and memory. If anything in it
+// is unusual (an unknown, repeated, escaped or missing key, a value of the wrong type, bad JSON),
+// it is parsed once more as a tree, from which the exact answer is read. Both go through the lists
+// of ReleaseFields.
 
 namespace vasker {
 
 namespace {
 
-using simdjson::dom::array;
-using simdjson::dom::element;
-using simdjson::dom::object;
+namespace stream = simdjson::ondemand;
+namespace tree = simdjson::dom;
 
-/// The way from the root to a value, kept on the stack and made into text only for a message.
+template <typename Type>
+inline constexpr bool isList = false;
+template <typename Element>
+inline constexpr bool isList<std::vector<Element>> = true;
+
+template <typename Type>
+inline constexpr bool isOptional = false;
+template <typename Element>
+inline constexpr bool isOptional<std::optional<Element>> = true;
+
+template <typename Record>
+inline constexpr std::size_t fieldCount = std::tuple_size_v<decltype(fieldsOf<Record>)>;
+
+/// What reading needs to know and finds out, besides the values.
+struct Context {
+    const std::stop_token& stop;
+    std::optional<std::string> firstUnknownKey;
+};
+
+// From a stream. Any error means that the tree is read instead.
+
+[[noreturn]] void failAsUnusual() {
+    throw simdjson::simdjson_error(simdjson::INCORRECT_TYPE);
+}
+
+/// In place of a Place: no message is made of the errors of a stream.
+struct NoPlace {
+    Context& context;
+    template <typename KeyOrIndex>
+    [[nodiscard]] const NoPlace& at(const KeyOrIndex&) const {
+        return *this;
+    }
+};
+
+template <typename Type>
+Type get(stream::value json, const NoPlace&) {
+    return json.get<Type>().value();
+}
+
+/// The tree refuses integers beyond 64 bits, the stream does not.
+template <>
+double get<double>(stream::value json, const NoPlace&) {
+    constexpr double largestCertain = 9e18;
+    const double number = json.get_double().value();
+    if (!(std::abs(number) < largestCertain)) {
+        failAsUnusual();
+    }
+    return number;
+}
+
+stream::array arrayOf(stream::value json, const NoPlace&) {
+    return json.get_array().value();
+}
+
+stream::value elementOf(simdjson::simdjson_result<stream::value> element) {
+    return element.value();
+}
+
+// From a tree.
+
+/// The way from the root to a value; made into text only for a message.
 class Place {
   public:
-    Place() = default; ///< the root
-    Place(const Place& parent, std::string_view key) : m_parent(&parent), m_key(key) {}
-    Place(const Place& parent, std::size_t index) : m_parent(&parent), m_index(index) {}
+    explicit Place(Context& root) : context(root) {}
+    [[nodiscard]] Place at(std::string_view key) const { return {*this, key, 0}; }
+    [[nodiscard]] Place at(std::size_t index) const { return {*this, {}, index}; }
 
     [[nodiscard]] std::string text() const {
         if (m_parent == nullptr) {
             return {};
         }
-        std::string way = m_parent->text();
-        if (m_index != noIndex) {
-            return way + '[' + std::to_string(m_index) + ']';
+        const std::string parent = m_parent->text();
+        if (m_key.data() == nullptr) {
+            return parent + '[' + std::to_string(m_index) + ']';
         }
-        return way.empty() ? std::string(m_key) : way + '.' + std::string(m_key);
+        return parent.empty() ? std::string(m_key) : parent + '.' + std::string(m_key);
     }
 
-  private:
-    static constexpr std::size_t noIndex = std::numeric_limits<std::size_t>::max();
+    Context& context;
 
-    const Place* m_parent = nullptr;
-    std::string_view m_key;
-    std::size_t m_index = noIndex;
+  private:
+    Place(const Place& parent, std::string_view key, std::size_t index)
+        : context(parent.context), m_parent(&parent), m_key(key), m_index(index) {}
+
+    const Place* m_parent = nullptr; ///< null for the root
+    std::string_view m_key;          ///< null for an element of a list
+    std::size_t m_index = 0;
 };
 
-/// The library's error together with the place of the value.
-class WrongValue final : public simdjson::simdjson_error, public OpenMapRelease::Located {
+/// The JSON library's error together with the place of the value.
+class LocatedError final : public simdjson::simdjson_error, public OpenMapRelease::Located {
   public:
-    WrongValue(simdjson::error_code error, const Place& place)
+    LocatedError(simdjson::error_code error, const Place& place)
         : simdjson_error(error), Located(place.text()) {}
 };
 
-template <typename Value>
-Value typed(element value, const Place& place) {
-    Value result;
-    if (const auto error = value.get(result)) {
-        throw WrongValue(error, place);
+template <typename Type>
+Type get(tree::element json, const Place& place) {
+    Type value;
+    if (const auto error = json.get(value)) {
+        throw LocatedError(error, place);
     }
-    return result;
+    return value;
 }
 
-struct UnknownKeys {
-    std::optional<std::string> first;
-
-    void note(const Place& record, std::string_view key) {
-        if (!first) {
-            first = Place(record, key).text();
-        }
-    }
-};
-
-template <std::size_t Count>
-using Keys = std::array<std::string_view, Count>;
-
-constexpr Keys<7> releaseKeys = {"schemaVersion",
-                                 "releaseID",
-                                 "generatedAt",
-                                 "coverageName",
-                                 "limitations",
-                                 "sources",
-                                 "assets"};
-constexpr Keys<8> sourceKeys = {"id",
-                                "publisher",
-                                "dataset",
-                                "sourceURL",
-                                "licenceURL",
-                                "attribution",
-                                "conditions",
-                                "modifications"};
-constexpr Keys<12> assetKeys = {"id",
-                                "name",
-                                "kind",
-                                "jurisdiction",
-                                "sourceID",
-                                "status",
-                                "asOf",
-                                "latitude",
-                                "longitude",
-                                "reportedCompany",
-                                "facts",
-                                "routes"};
-constexpr Keys<4> factKeys = {"label", "value", "sourceID", "asOf"};
-
-/// The values of one object under the keys of its record; the last value of each key.
-template <std::size_t Count>
-class Fields {
-  public:
-    Fields(element value, const Keys<Count>& keys, const Place& place, UnknownKeys& unknownKeys)
-        : m_keys(keys), m_place(place) {
-        for (const auto field : typed<object>(value, place)) {
-            if (const std::size_t at = find(field.key); at < Count) {
-                m_values[at] = field.value;
-                m_present[at] = true;
-            } else {
-                unknownKeys.note(place, field.key);
-            }
-        }
-    }
-
-    template <typename Value>
-    [[nodiscard]] Value get(std::string_view key) {
-        const std::size_t at = find(key);
-        if (!m_present[at]) {
-            throw WrongValue(simdjson::NO_SUCH_FIELD, Place(m_place, key));
-        }
-        return typed<Value>(m_values[at], Place(m_place, key));
-    }
-
-    [[nodiscard]] std::string text(std::string_view key) {
-        return std::string(get<std::string_view>(key));
-    }
-
-    /// Nothing where the key is absent or its value null.
-    [[nodiscard]] std::optional<std::string> optionalText(std::string_view key) {
-        const std::size_t at = find(key);
-        if (!m_present[at] || m_values[at].is_null()) {
-            return std::nullopt;
-        }
-        return text(key);
-    }
-
-    /// The elements of the array under `key`, each read by `read(element, place)`.
-    template <typename Read>
-    [[nodiscard]] auto list(std::string_view key, const Read& read) {
-        return readList(get<array>(key), Place(m_place, key), read);
-    }
-
-  private:
-    /// Where `key` stands among the record's keys, or Count. Keys mostly come in the record's
-    /// order.
-    std::size_t find(std::string_view key) {
-        if (m_keys[m_next] != key) {
-            m_next = 0;
-            while (m_keys[m_next] != key) {
-                if (++m_next == Count) {
-                    m_next = 0;
-                    return Count;
-                }
-            }
-        }
-        const std::size_t at = m_next;
-        m_next = at + 1 == Count ? 0 : at + 1;
-        return at;
-    }
-
-    const Keys<Count>& m_keys;
-    const Place& m_place;
-    std::array<element, Count> m_values{};
-    std::array<bool, Count> m_present{};
-    std::size_t m_next = 0;
-};
-
-template <typename Read>
-auto readList(array values, const Place& place, const Read& read) {
-    std::vector<decltype(read(element(), place))> list;
-    list.reserve(values.size());
-    for (const element value : values) {
-        list.push_back(read(value, Place(place, list.size())));
-    }
-    return list;
+tree::array arrayOf(tree::element json, const Place& place) {
+    return get<tree::array>(json, place);
 }
 
-OpenMapRelease::Position readPosition(element value, const Place& place) {
+tree::element elementOf(tree::element element) {
+    return element;
+}
+
+// From either, into a value that is still as its constructor made it.
+
+template <HasFields Record>
+void readInto(Record& record, stream::value json, const NoPlace& place);
+template <HasFields Record>
+void readInto(Record& record, tree::element json, const Place& place);
+
+template <typename Json, typename JsonPlace>
+void readInto(OpenMapRelease::Position& position, Json json, const JsonPlace& place) {
     constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
-    std::array<double, 2> pair{};
     std::size_t count = 0;
-    for (const element number : typed<array>(value, place)) {
-        const auto degrees = typed<double>(number, Place(place, count));
-        if (count < pair.size()) {
-            pair[count] = degrees;
-        }
+    for (auto each : arrayOf(json, place)) {
+        const auto number = get<double>(elementOf(each), place.at(count));
+        (count == 0 ? position.longitude : position.latitude) = number;
         ++count;
     }
-    if (count != pair.size()) {
-        return {noNumber, noNumber};
+    if (count != 2) {
+        position = {noNumber, noNumber};
     }
-    return {pair[0], pair[1]};
 }
 
-OpenMapRelease::Route readRoute(element value, const Place& place) {
-    return readList(typed<array>(value, place), place, readPosition);
+template <typename Value, typename Json, typename JsonPlace>
+void readInto(Value& value, Json json, const JsonPlace& place) {
+    if constexpr (isList<Value>) {
+        constexpr std::size_t elementsBetweenChecks = 1'024;
+        for (auto each : arrayOf(json, place)) {
+            if (value.size() % elementsBetweenChecks == 0) {
+                throwIfCancelled(place.context.stop);
+            }
+            const auto& elementPlace = place.at(value.size());
+            readInto(value.emplace_back(), elementOf(each), elementPlace);
+        }
+        value.shrink_to_fit();
+    } else if constexpr (isOptional<Value>) {
+        if (!json.is_null()) {
+            readInto(value.emplace(), json, place);
+        }
+    } else if constexpr (std::is_same_v<Value, std::string>) {
+        value = get<std::string_view>(json, place);
+    } else {
+        value = get<Value>(json, place);
+    }
 }
 
-OpenMapRelease::Source readSource(element value, const Place& place, UnknownKeys& unknownKeys) {
-    Fields fields(value, sourceKeys, place, unknownKeys);
-    return {.id = fields.text("id"),
-            .publisher = fields.text("publisher"),
-            .dataset = fields.text("dataset"),
-            .sourceURL = fields.text("sourceURL"),
-            .licenceURL = fields.text("licenceURL"),
-            .attribution = fields.text("attribution"),
-            .conditions = fields.text("conditions"),
-            .modifications = fields.text("modifications")};
+template <typename Record, typename Visit, std::size_t... index>
+bool anyField(const Visit& visit, std::index_sequence<index...>) {
+    return (visit(index, std::get<index>(fieldsOf<Record>)) || ...);
 }
 
-OpenMapRelease::Fact readFact(element value, const Place& place, UnknownKeys& unknownKeys) {
-    Fields fields(value, factKeys, place, unknownKeys);
-    return {.label = fields.text("label"),
-            .value = fields.text("value"),
-            .sourceID = fields.text("sourceID"),
-            .asOf = fields.text("asOf")};
+/// Calls `visit(index, field)` for the fields of `Record` until it returns true, which is returned.
+template <typename Record, typename Visit>
+bool anyField(const Visit& visit) {
+    return anyField<Record>(visit, std::make_index_sequence<fieldCount<Record>>());
 }
 
-OpenMapRelease::Asset readAsset(element value, const Place& place, UnknownKeys& unknownKeys) {
-    const auto fact = [&unknownKeys](element each, const Place& at) {
-        return readFact(each, at, unknownKeys);
-    };
-    Fields fields(value, assetKeys, place, unknownKeys);
-    return {.id = fields.text("id"),
-            .name = fields.text("name"),
-            .kind = fields.text("kind"),
-            .jurisdiction = fields.text("jurisdiction"),
-            .sourceID = fields.text("sourceID"),
-            .status = fields.text("status"),
-            .asOf = fields.text("asOf"),
-            .latitude = fields.get<double>("latitude"),
-            .longitude = fields.get<double>("longitude"),
-            .reportedCompany = fields.optionalText("reportedCompany"),
-            .facts = fields.list("facts", fact),
-            .routes = fields.list("routes", readRoute)};
+/// Reads an object whose keys are all known, are all there and come once, in any order.
+template <HasFields Record>
+void readInto(Record& record, stream::value json, const NoPlace& place) {
+    std::bitset<fieldCount<Record>> isRead;
+    std::size_t next = 0;
+    for (auto property : json.get_object().value()) {
+        const stream::raw_json_string key = property.key().value();
+        const auto readFrom = [&](std::size_t first) {
+            return anyField<Record>([&](std::size_t index, const auto& field) {
+                if (index < first || isRead[index] || !key.unsafe_is_equal(field.key)) {
+                    return false;
+                }
+                readInto(record.*field.member, stream::value(property.value()), place);
+                isRead.set(index);
+                next = index + 1;
+                return true;
+            });
+        };
+        if (!readFrom(next) && !readFrom(0)) {
+            failAsUnusual();
+        }
+    }
+    if (anyField<Record>([&](std::size_t index, const auto& field) {
+            return !isRead[index] && !isOptional<std::decay_t<decltype(record.*field.member)>>;
+        })) {
+        failAsUnusual();
+    }
 }
 
-OpenMapRelease readRelease(element value, const Place& place, UnknownKeys& unknownKeys) {
-    const auto limitation = [](element each, const Place& at) {
-        return std::string(typed<std::string_view>(each, at));
-    };
-    const auto source = [&unknownKeys](element each, const Place& at) {
-        return readSource(each, at, unknownKeys);
-    };
-    const auto asset = [&unknownKeys](element each, const Place& at) {
-        return readAsset(each, at, unknownKeys);
-    };
-    Fields fields(value, releaseKeys, place, unknownKeys);
-    return {.schemaVersion = fields.get<std::int64_t>("schemaVersion"),
-            .releaseID = fields.text("releaseID"),
-            .generatedAt = fields.text("generatedAt"),
-            .coverageName = fields.text("coverageName"),
-            .limitations = fields.list("limitations", limitation),
-            .sources = fields.list("sources", source),
-            .assets = fields.list("assets", asset)};
+template <HasFields Record>
+void readInto(Record& record, tree::element json, const Place& place) {
+    std::array<std::optional<tree::element>, fieldCount<Record>> lastValues;
+    for (const auto property : get<tree::object>(json, place)) {
+        const bool isKnown = anyField<Record>([&](std::size_t index, const auto& field) {
+            return field.key == property.key && (lastValues.at(index) = property.value, true);
+        });
+        if (!isKnown && !place.context.firstUnknownKey) {
+            place.context.firstUnknownKey = place.at(property.key).text();
+        }
+    }
+    anyField<Record>([&](std::size_t index, const auto& field) {
+        if (const auto value = lastValues.at(index)) {
+            readInto(record.*field.member, *value, place.at(field.key));
+        } else if (!isOptional<std::decay_t<decltype(record.*field.member)>>) {
+            throw LocatedError(simdjson::NO_SUCH_FIELD, place.at(field.key));
+        }
+        return false;
+    });
 }
 
-/// `read` on the root of the one parse of `json`; the parser and its memory end with the call.
-template <typename Read>
-auto parsed(std::string_view json, const Read& read) {
-    simdjson::dom::parser parser;
-    element root;
-    if (const auto error = parser.parse(json.data(), json.size()).get(root)) {
+template <typename Record>
+std::optional<Record> readStream(const std::string& paddedJson, Context& context) {
+    try {
+        stream::parser parser;
+        stream::document document = parser.iterate(paddedJson);
+        std::optional<Record> record(std::in_place);
+        readInto(*record, stream::value(document.get_value()), NoPlace{context});
+        const bool isAtEnd = document.current_location().error() == simdjson::OUT_OF_BOUNDS;
+        return isAtEnd ? std::move(record) : std::nullopt;
+    } catch (const simdjson::simdjson_error&) {
+        return std::nullopt;
+    }
+}
+
+template <typename Record>
+Record readTree(const std::string& paddedJson, Context& context) {
+    tree::parser parser;
+    tree::element root;
+    if (const auto error = parser.parse(paddedJson).get(root)) {
         throw simdjson::simdjson_error(error);
     }
-    UnknownKeys unknownKeys;
-    return read(root, Place(), unknownKeys);
+    Record record;
+    readInto(record, root, Place(context));
+    return record;
+}
+
+template <typename Record>
+Record read(const std::string& paddedJson, Context& context) {
+    std::optional<Record> record = readStream<Record>(paddedJson, context);
+    return record ? std::move(*record) : readTree<Record>(paddedJson, context);
+}
+
+template <typename Record>
+Record read(std::string_view json) {
+    const std::stop_token never;
+    Context context{never, std::nullopt};
+    return read<Record>(withJSONPadding(json), context);
 }
 
 } // namespace
 
-ReleaseReading readReleaseAndKeys(std::string_view json) {
-    return parsed(json, [](element root, const Place& place, UnknownKeys& unknownKeys) {
-        ReleaseReading reading;
-        reading.release = readRelease(root, place, unknownKeys);
-        reading.firstUnknownKey = std::move(unknownKeys.first);
-        return reading;
-    });
+ReleaseReading readReleaseAndKeys(std::string json, const std::stop_token& stop) {
+    json.reserve(json.size() + simdjson::SIMDJSON_PADDING);
+    Context context{stop, std::nullopt};
+    ReleaseReading reading{read<OpenMapRelease>(json, context), std::nullopt};
+    reading.firstUnknownKey = std::move(context.firstUnknownKey);
+    return reading;
+}
+
+std::string withJSONPadding(std::string_view json) {
+    std::string bytes;
+    bytes.reserve(json.size() + simdjson::SIMDJSON_PADDING);
+    bytes = json;
+    return bytes;
 }
 
 OpenMapRelease readRelease(std::string_view json) {
-    return readReleaseAndKeys(json).release;
+    return read<OpenMapRelease>(json);
 }
 
 OpenMapRelease::Source readSource(std::string_view json) {
-    return parsed(json, [](element root, const Place& place, UnknownKeys& unknownKeys) {
-        return readSource(root, place, unknownKeys);
-    });
+    return read<OpenMapRelease::Source>(json);
 }
 
 OpenMapRelease::Asset readAsset(std::string_view json) {
-    return parsed(json, [](element root, const Place& place, UnknownKeys& unknownKeys) {
-        return readAsset(root, place, unknownKeys);
-    });
+    return read<OpenMapRelease::Asset>(json);
 }
 
 OpenMapRelease::Fact readFact(std::string_view json) {
-    return parsed(json, [](element root, const Place& place, UnknownKeys& unknownKeys) {
-        return readFact(root, place, unknownKeys);
-    });
+    return read<OpenMapRelease::Fact>(json);
 }
 
 } // namespace vasker

@@ -1,22 +1,24 @@
 #pragma once
-// Bytes to records, by type only: what the values say is the matter of ReleaseRules.
+// Reads the records of a release from JSON. What their values mean is checked by ReleaseRules.
 //
-// Every function takes one JSON document, holds nothing between calls and may run on any thread.
-// A document that is not JSON, a required key that is missing or null and a value of the wrong JSON
-// type throw the JSON library's own error, a std::exception; it is an OpenMapRelease::Located as
-// well where the place is known. Deep nesting is the library's error too (from 1,024 levels on).
+// Each function takes one JSON document, which must be an object. It throws the JSON library's own
+// error, a std::exception, for a document that is not JSON or is nested 1,024 levels deep, for a
+// required key that is missing or null, and for a value of the wrong JSON type. The error is an
+// OpenMapRelease::Located too if the place is known. Any thread.
 //
-// Numbers: `schemaVersion` is a JSON integer that fits 64 bits, so 1.0 and 1e0 are of the wrong
-// type. Coordinates are any JSON number that the library reads: an integer beyond 64 bits and a
-// number beyond the range of a double are its errors. Keys: one that a record does not know is
-// passed over here. Of a repeated key only the last value counts, for its type, its content and its
-// keys; the earlier ones are not looked at. Positions: an array of numbers whose count is not two
-// is read as the position {NaN, NaN}, which JSON cannot express otherwise, so that the rules find
-// it at its place in their order.
+// - `schemaVersion` is an integer of 64 bits; 1.0 and 1e0 are of the wrong type.
+// - Coordinates are any JSON numbers. The library refuses integers beyond 64 bits and numbers
+// beyond
+//   the range of a double.
+// - A position that has not two numbers is read as {NaN, NaN}, which JSON cannot express, so that
+//   ReleaseRules refuses it in its turn.
+// - Of a repeated key only the last value counts; the others only have to be JSON.
+// - Unknown keys are skipped.
 
 #include "data/OpenMapRelease.h"
 
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 
@@ -29,12 +31,16 @@ namespace vasker {
 
 struct ReleaseReading {
     OpenMapRelease release;
-    /// The place of the first key that no record knows, such as "assets[3].facts[0].unit", in the
-    /// order: the root's keys, the sources', then every asset's with its facts' behind them.
+    /// The place of the first unknown key, such as "assets[3].facts[0].unit", in this order: the
+    /// keys of the root, those of each source, those of each asset followed by those of its facts.
     std::optional<std::string> firstUnknownKey;
 };
 
-/// A release and the check for unknown keys, from one parse.
-[[nodiscard]] ReleaseReading readReleaseAndKeys(std::string_view json);
+/// Reads a release and looks for unknown keys. `json` is read in place if it has the capacity of
+/// withJSONPadding(), and is freed at the end. Throws Cancelled if `stop` asks to stop.
+[[nodiscard]] ReleaseReading readReleaseAndKeys(std::string json, const std::stop_token& stop = {});
+
+/// Returns a copy of `json` with capacity for the bytes that the JSON library may read after it.
+[[nodiscard]] std::string withJSONPadding(std::string_view json);
 
 } // namespace vasker

@@ -5,6 +5,7 @@
 #include "map/records/RecordGeometry.h"
 
 #include <memory>
+#include <stop_token>
 
 namespace vasker {
 
@@ -12,8 +13,10 @@ struct LoadedRelease {
     ReleaseIndex index;
     RecordGeometry geometry;
 
-    LoadedRelease(std::shared_ptr<const OpenMapRelease> release, TextLocale locale)
-        : index(release, std::move(locale)), geometry(*release) {}
+    LoadedRelease(std::shared_ptr<const OpenMapRelease> release,
+                  TextLocale locale,
+                  const std::stop_token& stop = {})
+        : index(release, std::move(locale), stop), geometry(*release) {}
 };
 
 } // namespace vasker

@@ -1,5 +1,7 @@
 #include "data/Digest.h"
 
+#include "data/Cancelled.h"
+
 #include <gtest/gtest.h>
 
 namespace vasker {
@@ -13,6 +15,20 @@ TEST(Digest, IsTheSHA256OfTheBytesInLowerCaseHexadecimal) {
               "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
     EXPECT_EQ(sha256(std::string(1'000'000, 'a')),
               "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+}
+
+TEST(Digest, IsThatOfAllBytesHoweverManyStepsTheyTake) {
+    // From `head -c SIZE /dev/zero | sha256sum`.
+    EXPECT_EQ(sha256(std::string(1'048'576, '\0')),
+              "30e14955ebf1352266dc2ff8067e68104607e750abb9d3b36582b8af909fcb58");
+    EXPECT_EQ(sha256(std::string(1'048'577, '\0')),
+              "2cb74edba754a81d121c9db6833704a8e7d417e5b13d1a19f4a52f007d644264");
+}
+
+TEST(Digest, IsNoLongerMadeWhenAStopIsRequested) {
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_THROW(static_cast<void>(sha256("abc", stop.get_token())), Cancelled);
 }
 
 } // namespace

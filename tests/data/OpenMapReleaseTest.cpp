@@ -1,5 +1,6 @@
 #include "data/OpenMapRelease.h"
 
+#include "data/Cancelled.h"
 #include "data/Digest.h"
 #include "data/ReleaseWriter.h"
 #include "tests/support/ReleaseBuilder.h"
@@ -122,6 +123,24 @@ TEST(OpenMapRelease, UnknownKeysAreCheckedBeforeTheRules) {
     EXPECT_EQ(outcomeOf(release), "records: releaseID: empty");
     EXPECT_EQ(outcomeOf(replaced(encode(release), R"("label":)", R"("unit":"t","label":)")),
               "schema: assets[0].facts[0].unit: unknown key");
+}
+
+TEST(OpenMapRelease, BytesMayBeGivenAway) {
+    const OpenMapRelease release = makeRelease();
+    std::string json = encode(release);
+    const std::string digest = sha256(json);
+    EXPECT_EQ(OpenMapRelease::decode(std::move(json), digest, {}), release);
+}
+
+TEST(OpenMapRelease, LoadingEndsWhenAStopIsRequested) {
+    const std::string json = encode(makeRelease());
+    const std::string digest = sha256(json);
+    std::stop_source stop;
+    EXPECT_EQ(OpenMapRelease::decode(std::string(json), digest, stop.get_token()), makeRelease());
+    stop.request_stop();
+    EXPECT_THROW(
+        static_cast<void>(OpenMapRelease::decode(std::string(json), digest, stop.get_token())),
+        Cancelled);
 }
 
 TEST(OpenMapRelease, ASourceIsFoundByItsExactId) {

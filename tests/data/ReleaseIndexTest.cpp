@@ -1,5 +1,6 @@
 #include "data/ReleaseIndex.h"
 
+#include "data/Cancelled.h"
 #include "data/Classification.h"
 #include "tests/support/ReleaseBuilder.h"
 
@@ -225,6 +226,14 @@ TEST(ReleaseIndex, ACopyAnswersWhenTheOriginalIsGone) {
     index.reset();
     EXPECT_EQ(copy.filtered("plant 1", "all"), std::vector<AssetIndex>{1});
     EXPECT_EQ(copy.find("A-1"), 1U);
+}
+
+TEST(ReleaseIndex, IsNotMadeWhenAStopIsRequested) {
+    std::stop_source stop;
+    stop.request_stop();
+    const auto release = std::make_shared<OpenMapRelease>(makeRelease());
+    EXPECT_THROW(ReleaseIndex(release, TextLocale("en"), stop.get_token()), Cancelled);
+    EXPECT_THROW(static_cast<void>(kinds(*release, stop.get_token())), Cancelled);
 }
 
 } // namespace

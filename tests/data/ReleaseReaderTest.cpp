@@ -1,5 +1,6 @@
 #include "data/ReleaseReader.h"
 
+#include "data/Cancelled.h"
 #include "data/ReleaseWriter.h"
 #include "tests/support/ReleaseBuilder.h"
 
@@ -282,6 +283,98 @@ TEST(ReleaseReader, AMillionRepeatedKeysAreRead) {
     }
     json += R"("label":"last","value":"","sourceID":"","asOf":""})";
     EXPECT_EQ(readFact(json).label, "last");
+}
+
+TEST(ReleaseReader, KeysMayBeEscaped) {
+    EXPECT_EQ(readFact(replaced(encode(makeFact()), R"("label")", R"("l\u0061bel")")), makeFact());
+    EXPECT_EQ(readReleaseAndKeys(replaced(encode(makeRelease()), R"("assets")", R"("\u0061ssets")"))
+                  .firstUnknownKey,
+              std::nullopt);
+}
+
+TEST(ReleaseReader, ValuesThatAreSkippedMustBeJSON) {
+    const std::string json = encode(makeFact());
+    for (const std::string value :
+         {"nul", "01", "1.", "[1,]", "{\"a\"}", "\"\\q\"", "\"\\ud800\"", "tru", "", "}"}) {
+        for (const std::string key : {"unit", "label"}) { // unknown, and repeated later
+            const std::string text =
+                outcome(readFact,
+                        replaced(json, R"({"label")", "{\"" + key + "\":" + value + R"(,"label")"));
+            EXPECT_NE(text, "read") << value;
+            EXPECT_EQ(text.find("label"), std::string::npos) << value << ": " << text;
+        }
+    }
+}
+
+TEST(ReleaseReader, NothingButBlanksFollowsTheRecord) {
+    const std::string json = encode(makeFact());
+    EXPECT_EQ(readFact(" \t\r\n" + json + "\n "), makeFact());
+    for (const std::string rest : {"x", "{}", "]", "}", "\"", ",", "1", "\x01"}) {
+        EXPECT_NE(outcome(readFact, json + rest), "read") << rest;
+    }
+}
+
+TEST(ReleaseReader, AnIntegerBeyondTheRangeOfTheLibraryIsItsError) {
+    EXPECT_EQ(readAsset(assetWithRoutes("[[[9223372036854775807,-9223372036854775808]]]"))
+                  .routes[0][0]
+                  .longitude,
+              9223372036854775808.0);
+    for (const std::string number : {"18446744073709551616", "-9223372036854775809"}) {
+        EXPECT_NE(assetOutcome(assetWithRoutes("[[[" + number + ",0]]]")), "read") << number;
+    }
+}
+
+/// How reading ends, with all that it found out.
+std::string everythingOf(const std::string& json) {
+    try {
+        const ReleaseReading reading = readReleaseAndKeys(json);
+        return encode(reading.release);
+    } catch (const std::exception& error) {
+        const auto* const located = dynamic_cast<const OpenMapRelease::Located*>(&error);
+        return error.what() + (located == nullptr ? std::string() : " at " + located->place());
+    }
+}
+
+/// An unknown key makes the reader take another way.
+TEST(ReleaseReader, AnUnknownKeyDoesNotChangeWhatIsRead) {
+    const std::string json = encode(makeRelease());
+    for (std::size_t at = 1; at + 1 < json.size(); ++at) {
+        for (const std::string change : {"",
+                                         " ",
+                                         "\"",
+                                         "\\",
+                                         ",",
+                                         ":",
+                                         "{",
+                                         "}",
+                                         "[",
+                                         "]",
+                                         "0",
+                                         "-",
+                                         ".",
+                                         "e",
+                                         "null",
+                                         "\x01",
+                                         "\xC3"}) {
+            std::string changed = json;
+            changed.replace(at, 1, change);
+            const std::string withKey = changed.substr(0, changed.size() - 1) + R"(,"~":0})";
+            ASSERT_EQ(everythingOf(changed), everythingOf(withKey)) << changed;
+        }
+    }
+}
+
+TEST(ReleaseReader, ReadingEndsWhenAStopIsRequested) {
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_THROW(static_cast<void>(readReleaseAndKeys(encode(makeRelease()), stop.get_token())),
+                 Cancelled);
+}
+
+TEST(ReleaseReader, ACopyWithPaddingHasRoomForWhatTheLibraryReads) {
+    const std::string padded = withJSONPadding("{}");
+    EXPECT_EQ(padded, "{}");
+    EXPECT_GE(padded.capacity(), 66U);
 }
 
 } // namespace

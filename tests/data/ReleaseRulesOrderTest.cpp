@@ -39,18 +39,17 @@ TEST(ReleaseRules, TheFirstBrokenRuleDecides) {
     broken.releaseID = "r";
     EXPECT_EQ(checked(broken), "records: coverageName: empty");
     broken.coverageName = "c";
-    EXPECT_EQ(checked(broken), "records: generatedAt: \"\" is no internet date-time");
+    EXPECT_EQ(checked(broken), "records: generatedAt: \"\" is not an internet date-time");
     broken.generatedAt = "2025-11-20T12:00:00Z";
     EXPECT_EQ(checked(broken), "records: limitations: none");
     broken.limitations = {"l"};
     EXPECT_EQ(checked(broken), "records: assets: 10001 is outside 1 to 10000");
     broken.assets.resize(3);
-    EXPECT_EQ(checked(broken), "records: assets[1].id: \"A-0\" stands there before");
+    EXPECT_EQ(checked(broken), "records: assets[1].id: \"A-0\" is repeated");
     broken.assets[1].id = "A-1";
     EXPECT_EQ(checked(broken), "provenance: sources: 101 is outside 1 to 100");
     broken.sources.resize(3);
-    EXPECT_EQ(checked(broken),
-              "provenance: sources[2].id: \"" + sourceID() + "\" stands there before");
+    EXPECT_EQ(checked(broken), "provenance: sources[2].id: \"" + sourceID() + "\" is repeated");
 
     // Records are checked one by one, so that an earlier asset's last rule precedes a later one's
     // first.

@@ -1,5 +1,6 @@
 #include "data/ReleaseRules.h"
 
+#include "data/Cancelled.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <gtest/gtest.h>
@@ -70,7 +71,7 @@ TEST(ReleaseRules, AnEmptyCoverageNameIsRefused) {
 
 TEST(ReleaseRules, APackagingTimeThatIsNoInternetDateTimeIsRefused) {
     EXPECT_EQ(outcomeAfter([](Release& r) { r.generatedAt = "2025-11-20"; }),
-              "records: generatedAt: \"2025-11-20\" is no internet date-time");
+              "records: generatedAt: \"2025-11-20\" is not an internet date-time");
 }
 
 TEST(ReleaseRules, AtLeastOneLimitationIsRequired) {
@@ -89,7 +90,7 @@ TEST(ReleaseRules, OneToTenThousandAssetsAreAccepted) {
 
 TEST(ReleaseRules, AssetsDifferInID) {
     EXPECT_EQ(outcomeAfter([](Release& r) { r.assets[1].id = "A-0"; }),
-              "records: assets[1].id: \"A-0\" stands there before");
+              "records: assets[1].id: \"A-0\" is repeated");
     EXPECT_EQ(outcomeAfter([](Release& r) { r.assets[1].id = "a-0"; }), "ok");
 }
 
@@ -116,7 +117,7 @@ TEST(ReleaseRules, AMillionSourcesAreRefusedByTheirCount) {
 
 TEST(ReleaseRules, SourcesDifferInID) {
     EXPECT_EQ(outcomeAfter([](Release& r) { r.sources.push_back(makeSource()); }),
-              "provenance: sources[1].id: \"" + sourceID() + "\" stands there before");
+              "provenance: sources[1].id: \"" + sourceID() + "\" is repeated");
 }
 
 // Every source.
@@ -187,13 +188,14 @@ TEST(ReleaseRules, ASourceHasPublisherAttributionConditionsAndModifications) {
 }
 
 TEST(ReleaseRules, TheAddressesOfASourceAreSecure) {
-    EXPECT_EQ(outcomeAfter([](Release& r) { r.sources[0].sourceURL = "http://example.ca"; }),
-              "provenance: sources[0].sourceURL: \"http://example.ca\" is no https address with a "
-              "host and without a user");
     EXPECT_EQ(
-        outcomeAfter([](Release& r) { r.sources[0].licenceURL = "https://u:p@example.ca"; }),
-        "provenance: sources[0].licenceURL: \"https://u:p@example.ca\" is no https address with "
-        "a host and without a user");
+        outcomeAfter([](Release& r) { r.sources[0].sourceURL = "http://example.ca"; }),
+        "provenance: sources[0].sourceURL: \"http://example.ca\" is not an https address with a "
+        "host and without a user");
+    EXPECT_EQ(outcomeAfter([](Release& r) { r.sources[0].licenceURL = "https://u:p@example.ca"; }),
+              "provenance: sources[0].licenceURL: \"https://u:p@example.ca\" is not an https "
+              "address with "
+              "a host and without a user");
 }
 
 // Every asset.
@@ -275,9 +277,9 @@ TEST(ReleaseRules, APointLiesOnTheGlobe) {
 
 TEST(ReleaseRules, ARouteHasAtLeastTwoPoints) {
     EXPECT_EQ(outcomeAfter([](Release& r) { r.assets[1].routes.push_back(makeRoute(1)); }),
-              "coordinates: assets[1].routes[1]: 1 points are fewer than 2");
+              "coordinates: assets[1].routes[1]: fewer than 2 points");
     EXPECT_EQ(outcomeAfter([](Release& r) { r.assets[1].routes.push_back({}); }),
-              "coordinates: assets[1].routes[1]: 0 points are fewer than 2");
+              "coordinates: assets[1].routes[1]: fewer than 2 points");
 }
 
 TEST(ReleaseRules, AllRoutesTogetherHaveAtMostThreeHundredThousandPoints) {
@@ -359,6 +361,12 @@ TEST(ReleaseRules, EverySourceIsCitedByAnAssetOrAFact) {
                   r.assets[0].facts[0].sourceID = sourceID(1);
               }),
               "ok");
+}
+
+TEST(ReleaseRules, AreNoLongerCheckedWhenAStopIsRequested) {
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_THROW(validate(makeRelease(), stop.get_token()), Cancelled);
 }
 
 } // namespace
