@@ -1,28 +1,34 @@
-// What the kit costs on a release at its limits, each figure beside its floor:
+// What the kit costs, each figure beside its floor, which is measured in the same run:
 //
-//   decode/limits      OpenMapRelease::decode(): bytes to a checked release
-//   floor/decode       libcrypto's SHA-256 and one bare parse of the same bytes, already padded, by
-//   a
-//                      fresh simdjson DOM parser; decode() does both and can be no faster
-//   index/limits       making a ReleaseIndex of it
-//   floor/index        copying the bytes of its searched texts once
-//   filtered/limits/*  one ReleaseIndex::filtered(), by kind of query
-//   filtered/texts/*   the same on a file of the largest size without routes: the most text
-//   floor/filtered     reading the bytes of the folded texts at the limits once: the C library's
-//                      memchr() for a byte that does not occur
-//   floor/texts        the same for the most text
+//   decode/*        OpenMapRelease::decode(), from the bytes that readWholeFile() returns to a
+//                   checked release; without freeing the release
+//   floor/decode    what the libraries that we use take for a digest and a parse that checks all of
+//                   JSON: libcrypto's SHA-256, and simdjson's DOM in a new parser from bytes that
+//                   are already padded; without freeing the tree
+//   index/*         making a ReleaseIndex
+//   floor/index     copying the bytes that its search goes through
+//   filtered/*      one ReleaseIndex::filtered(), by kind of query
+//   floor/filtered  reading the bytes that the search goes through, by memchr() for an absent byte
+//
+// by release:
+//
+//   1%, 10%, limits 100 to 10,000 records, with routes; `limits` is a file of the largest size
+//   texts           a file of the largest size without routes, which has the most text
+//   marks ...       valid files of the largest size that are one text of one kind of characters
 
 #include "data/Digest.h"
 #include "data/OpenMapRelease.h"
 #include "data/ReleaseIndex.h"
+#include "data/ReleaseReader.h"
+#include "data/ReleaseWriter.h"
 #include "tools/openmap-release/Synthesis.h"
 
 #include <benchmark/benchmark.h>
 #include <simdjson.h>
 
 #include <cstring>
-#include <iostream>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -34,12 +40,20 @@ using vasker::OpenMapRelease;
 using vasker::ReleaseIndex;
 using vasker::TextLocale;
 
-/// A file of the largest size with the most records.
-std::string fileWith(std::size_t routePoints) {
-    return vasker::synthesizeFile({.records = 10'000,
-                                   .routePoints = routePoints,
-                                   .bytes = OpenMapRelease::maximumFileSize,
-                                   .seed = 1});
+std::string fileWith(std::size_t records, std::size_t routePoints, std::size_t bytes) {
+    return vasker::synthesizeFile(
+        {.records = records, .routePoints = routePoints, .bytes = bytes, .seed = 1});
+}
+
+/// A file of almost the largest size whose only record has an id of many `characters`.
+std::string fileOf(std::string_view characters) {
+    OpenMapRelease release = vasker::synthesize({.records = 5, .seed = 1});
+    std::string& id = release.assets.front().id;
+    const std::size_t room = OpenMapRelease::maximumFileSize - vasker::encode(release).size();
+    while (id.size() + characters.size() <= room) {
+        id += characters;
+    }
+    return vasker::encode(release);
 }
 
 std::shared_ptr<const OpenMapRelease> releaseOf(const std::string& file) {
@@ -47,22 +61,32 @@ std::shared_ptr<const OpenMapRelease> releaseOf(const std::string& file) {
         OpenMapRelease::decode(file, vasker::sha256(file)));
 }
 
-void decode(benchmark::State& state, const std::string& file, const std::string& digest) {
+void decode(benchmark::State& state, const std::string& file) {
+    const std::string digest = vasker::sha256(file);
+    std::optional<OpenMapRelease> release;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(OpenMapRelease::decode(file, digest));
+        state.PauseTiming();
+        release.reset();
+        std::string bytes = vasker::withJSONPadding(file);
+        state.ResumeTiming();
+        release = OpenMapRelease::decode(std::move(bytes), digest, {});
     }
 }
 
-void floorOfDecode(benchmark::State& state, const std::string& file, const std::string& digest) {
+void floorOfDecode(benchmark::State& state, const std::string& file) {
+    const std::string digest = vasker::sha256(file);
     const simdjson::padded_string padded(file);
+    std::optional<simdjson::dom::parser> parser;
     for (auto _ : state) {
+        state.PauseTiming();
+        parser.reset();
+        state.ResumeTiming();
         if (vasker::sha256(padded) != digest) {
             throw std::logic_error("the digest of the same bytes differs");
         }
-        simdjson::dom::parser parser;
         simdjson::dom::element root;
-        if (parser.parse(padded).get(root) != simdjson::SUCCESS) {
-            throw std::logic_error("the release is no JSON");
+        if (parser.emplace().parse(padded).get(root) != simdjson::SUCCESS) {
+            throw std::logic_error("the release is not JSON");
         }
         benchmark::DoNotOptimize(root);
     }
@@ -95,7 +119,7 @@ void filter(benchmark::State& state, const ReleaseIndex& index, const std::strin
 }
 
 void floorOfFilter(benchmark::State& state, const ReleaseIndex& index) {
-    constexpr int absentByte = 0xC0; // of no UTF-8
+    constexpr int absentByte = 0xC0; // UTF-8 does not have it
     const std::string_view texts = index.texts().bytes();
     for (auto _ : state) {
         benchmark::DoNotOptimize(std::memchr(texts.data(), absentByte, texts.size()));
@@ -103,41 +127,69 @@ void floorOfFilter(benchmark::State& state, const ReleaseIndex& index) {
     state.counters["bytes"] = static_cast<double>(texts.size());
 }
 
+template <typename Body>
+void add(const std::string& name, Body body) {
+    benchmark::RegisterBenchmark(name.c_str(), std::move(body))->Unit(benchmark::kMillisecond);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     const TextLocale locale("en_CA");
-    const std::string file = fileWith(300'000);
-    const std::string digest = vasker::sha256(file);
-    const auto release = releaseOf(file);
-    const ReleaseIndex index(release, locale);
-    const ReleaseIndex texts(releaseOf(fileWith(0)), locale);
 
-    const auto add = [](const std::string& name, auto&& body) {
-        benchmark::RegisterBenchmark(name.c_str(), body)->Unit(benchmark::kMillisecond);
-    };
-    add("floor/decode", [&](auto& state) { floorOfDecode(state, file, digest); });
-    add("decode/limits", [&](auto& state) { decode(state, file, digest); });
-    add("floor/index", [&](auto& state) { floorOfIndex(state, index); });
-    add("index/limits", [&](auto& state) { makeIndex(state, release, locale); });
-    add("floor/filtered", [&](auto& state) { floorOfFilter(state, index); });
-    add("floor/texts", [&](auto& state) { floorOfFilter(state, texts); });
+    std::vector<std::pair<std::string, std::string>> files = {
+        {"1%", fileWith(100, 3'000, 150'000)},
+        {"10%", fileWith(1'000, 30'000, 1'500'000)},
+        {"limits", fileWith(10'000, 300'000, OpenMapRelease::maximumFileSize)},
+        {"texts", fileWith(10'000, 0, OpenMapRelease::maximumFileSize)}};
+    for (const auto& [name, characters] :
+         std::vector<std::pair<std::string, std::string>>{{"marks", "\u0301\u0316"},
+                                                          {"decomposing-marks", "\u0F73"},
+                                                          {"joined-letters", "x\u0302"},
+                                                          {"accents", "\u00C9"},
+                                                          {"ideographs", "\u4E00"},
+                                                          {"hangul-letters", "\u1100"}}) {
+        files.emplace_back(name, fileOf(characters));
+    }
+    std::vector<std::shared_ptr<const OpenMapRelease>> releases;
+    std::vector<ReleaseIndex> indices;
+    for (const auto& [name, file] : files) {
+        releases.push_back(releaseOf(file));
+        indices.emplace_back(releases.back(), locale);
+    }
 
+    constexpr std::size_t sizes = 4; // the first files differ in size, the others in their text
     const std::vector<std::pair<std::string, std::string>> queries = {
         {"empty", ""},
         {"letter", "e"},
         {"word", "gas"},
-        {"name", release->assets[index.filtered("", "all").back()].name},
+        {"part-of-word", "tion"},
+        {"name", releases[2]->assets[indices[2].filtered("", "all").back()].name},
         {"accent", "\u00C9"},
         {"joined", "e\u0332"}, // two code points, one character
         {"blanks", "    "},
         {"absent", "quetzalcoatl"},
         {"absent-of-common-letters", "a tenaritone"},
     };
-    for (const auto& [kind, query] : queries) {
-        add("filtered/limits/" + kind, [&](auto& state) { filter(state, index, query); });
-        add("filtered/texts/" + kind, [&](auto& state) { filter(state, texts, query); });
+    for (std::size_t at = 0; at < files.size(); ++at) {
+        const std::string& name = files[at].first;
+        add("floor/decode/" + name,
+            [&, at](auto& state) { floorOfDecode(state, files[at].second); });
+        add("decode/" + name, [&, at](auto& state) { decode(state, files[at].second); });
+        add("floor/index/" + name, [&, at](auto& state) { floorOfIndex(state, indices[at]); });
+        add("index/" + name, [&, at](auto& state) { makeIndex(state, releases[at], locale); });
+        add("floor/filtered/" + name, [&, at](auto& state) { floorOfFilter(state, indices[at]); });
+        if (at < sizes) {
+            for (std::size_t query = 0; query < queries.size(); ++query) {
+                add("filtered/" + name + '/' + queries[query].first, [&, at, query](auto& state) {
+                    filter(state, indices[at], queries[query].second);
+                });
+            }
+        } else {
+            add("filtered/" + name + "/part-of-character",
+                [&, at](auto& state) { filter(state, indices[at], "x"); });
+        }
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

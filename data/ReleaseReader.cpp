@@ -2,6 +2,7 @@
 
 #include "data/Cancelled.h"
 #include "data/ReleaseFields.h"
+#include "data/ReleaseRules.h"
 
 #include <simdjson.h>
 
@@ -160,6 +161,9 @@ template <typename Value, typename Json, typename JsonPlace>
 void readInto(Value& value, Json json, const JsonPlace& place) {
     if constexpr (isList<Value>) {
         constexpr std::size_t elementsBetweenChecks = 1'024;
+        if constexpr (std::is_same_v<typename Value::value_type, OpenMapRelease::Asset>) {
+            value.reserve(maximumAssets); // moving records while their list grows takes long
+        }
         for (auto each : arrayOf(json, place)) {
             if (value.size() % elementsBetweenChecks == 0) {
                 throwIfCancelled(place.context.stop);
