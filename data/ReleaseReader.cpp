@@ -9,7 +9,10 @@
 #include <array>
 #include <bitset>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <memory>
+#include <new>
 
 // A document is read while it is parsed, which takes the least time and memory. If anything in it
 // is unusual (an unknown, repeated, escaped or missing key, a value of the wrong type, bad JSON),
@@ -48,9 +51,17 @@ struct Context {
     throw simdjson::simdjson_error(simdjson::INCORRECT_TYPE);
 }
 
+/// Where texts are unescaped, one over the other. The parser has memory for this too, but does not
+/// notice when there is none.
+struct Unescaping {
+    const stream::parser& parser;
+    std::unique_ptr<std::uint8_t[]> bytes;
+};
+
 /// In place of a Place: no message is made of the errors of a stream.
 struct NoPlace {
     Context& context;
+    const Unescaping& unescaping;
     template <typename KeyOrIndex>
     [[nodiscard]] const NoPlace& at(const KeyOrIndex&) const {
         return *this;
@@ -60,6 +71,13 @@ struct NoPlace {
 template <typename Type>
 Type get(stream::value json, const NoPlace&) {
     return json.get<Type>().value();
+}
+
+/// The view is valid until the next text is read.
+template <>
+std::string_view get<std::string_view>(stream::value json, const NoPlace& place) {
+    std::uint8_t* end = place.unescaping.bytes.get();
+    return place.unescaping.parser.unescape(json.get_raw_json_string().value(), end).value();
 }
 
 /// The tree refuses integers beyond 64 bits, the stream does not.
@@ -249,8 +267,11 @@ std::optional<Record> readStream(const std::string& paddedJson, Context& context
     try {
         stream::parser parser;
         stream::document document = parser.iterate(paddedJson);
+        const Unescaping unescaping{parser,
+                                    std::make_unique_for_overwrite<std::uint8_t[]>(
+                                        paddedJson.size() + simdjson::SIMDJSON_PADDING)};
         std::optional<Record> record(std::in_place);
-        readInto(*record, stream::value(document.get_value()), NoPlace{context});
+        readInto(*record, stream::value(document.get_value()), NoPlace{context, unescaping});
         const bool isAtEnd = document.current_location().error() == simdjson::OUT_OF_BOUNDS;
         return isAtEnd ? std::move(record) : std::nullopt;
     } catch (const simdjson::simdjson_error&) {
@@ -263,6 +284,9 @@ Record readTree(const std::string& paddedJson, Context& context) {
     tree::parser parser;
     tree::element root;
     if (const auto error = parser.parse(paddedJson).get(root)) {
+        if (error == simdjson::MEMALLOC) {
+            throw std::bad_alloc();
+        }
         throw simdjson::simdjson_error(error);
     }
     Record record;

@@ -4,7 +4,8 @@
 // Each function takes one JSON document, which must be an object. It throws the JSON library's own
 // error, a std::exception, for a document that is not JSON or is nested 1,024 levels deep, for a
 // required key that is missing or null, and for a value of the wrong JSON type. The error is an
-// OpenMapRelease::Located too if the place is known. Any thread.
+// OpenMapRelease::Located too if the place is known. Where memory is missing it is std::bad_alloc.
+// Any thread.
 //
 // - `schemaVersion` is an integer of 64 bits; 1.0 and 1e0 are of the wrong type.
 // - Coordinates are any JSON numbers. The library refuses integers beyond 64 bits and numbers
