@@ -4,6 +4,7 @@
 #include "data/OpenMapRelease.h"
 
 #include <exception>
+#include <new>
 #include <system_error>
 
 namespace vasker {
@@ -25,6 +26,8 @@ LoadOutcome loadRelease(const std::string& path,
         return std::make_shared<const LoadedRelease>(std::move(release), locale, stop);
     } catch (const std::system_error& error) {
         return LoadFailure{error.code().message()};
+    } catch (const std::bad_alloc&) {
+        return LoadFailure{std::make_error_code(std::errc::not_enough_memory).message()};
     } catch (const std::exception& error) {
         return LoadFailure{error.what()};
     }

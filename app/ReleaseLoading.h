@@ -12,7 +12,8 @@
 namespace vasker {
 
 /// The user-facing description of a failure: a refusal's message, the operating system's own words
-/// for a file that cannot be read, the JSON library's for a file it cannot decode.
+/// for a file that cannot be read and for missing memory, the JSON library's for a file it cannot
+/// decode.
 struct LoadFailure {
     std::string description;
     friend bool operator==(const LoadFailure&, const LoadFailure&) = default;
