@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <ctime>
 
 namespace vasker {
 namespace {
@@ -141,6 +142,20 @@ TEST(OpenMapRelease, LoadingEndsWhenAStopIsRequested) {
     EXPECT_THROW(
         static_cast<void>(OpenMapRelease::decode(std::string(json), digest, stop.get_token())),
         Cancelled);
+}
+
+TEST(OpenMapRelease, ALimitationTakesLessThanAMicrosecond) {
+    OpenMapRelease release = makeRelease();
+    for (const std::size_t count : {1'000'000UL, 4'500'000UL}) { // the latter nearly fill a file
+        release.limitations.assign(count, "");
+        std::string json = encode(release);
+        const std::string digest = sha256(json);
+        const std::clock_t begin = std::clock();
+        const OpenMapRelease decoded = OpenMapRelease::decode(std::move(json), digest, {});
+        EXPECT_LT(std::clock() - begin,
+                  static_cast<std::clock_t>(count) * (CLOCKS_PER_SEC / 1'000'000));
+        EXPECT_EQ(decoded.limitations.size(), count);
+    }
 }
 
 TEST(OpenMapRelease, ASourceIsFoundByItsExactId) {
