@@ -217,7 +217,8 @@ template <HasFields Record>
 void readInto(Record& record, stream::value json, const NoPlace& place) {
     std::bitset<fieldCount<Record>> isRead;
     std::size_t next = 0;
-    for (auto property : json.get_object().value()) {
+    stream::object object = json.get_object().value(); // named: the loop would not keep it alive
+    for (auto property : object) {
         const stream::raw_json_string key = property.key().value();
         const auto readFrom = [&](std::size_t first) {
             return anyField<Record>([&](std::size_t index, const auto& field) {
