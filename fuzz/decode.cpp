@@ -1,10 +1,13 @@
-// Any bytes are decoded, refused or an error of the JSON library, within bounded time and memory;
-// what is accepted reads back from its own encoding, and its index answers.
+// Any bytes are decoded, refused or an error of the JSON library, within bounded time and memory,
+// and the rules that are written a second time for the tests say the same of the values; what is
+// accepted reads back from its own encoding, and its index answers.
 
 #include "data/Digest.h"
 #include "data/OpenMapRelease.h"
 #include "data/ReleaseIndex.h"
+#include "data/ReleaseReader.h"
 #include "data/ReleaseWriter.h"
+#include "tests/support/PlainRules.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -21,8 +24,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         release =
             std::make_shared<OpenMapRelease>(OpenMapRelease::decode(bytes, vasker::sha256(bytes)));
+    } catch (const OpenMapRelease::Refusal& refusal) {
+        const bool isOfValues = refusal.invalid() >= OpenMapRelease::Invalid::records;
+        if (isOfValues && vasker::plainVerdict(vasker::readRelease(bytes)) != refusal.invalid()) {
+            std::abort();
+        }
+        return 0;
     } catch (const std::exception&) {
         return 0;
+    }
+    if (vasker::plainVerdict(*release)) {
+        std::abort();
     }
     const std::string written = vasker::encode(*release);
     if (OpenMapRelease::decode(written, vasker::sha256(written)) != *release) {
