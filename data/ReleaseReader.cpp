@@ -51,11 +51,13 @@ struct Context {
     throw simdjson::simdjson_error(simdjson::INCORRECT_TYPE);
 }
 
+using Bytes = std::unique_ptr<std::uint8_t[]>; // NOLINT(*-avoid-c-arrays): not filled with zeros
+
 /// Where texts are unescaped, one over the other. The parser has memory for this too, but does not
 /// notice when there is none.
 struct Unescaping {
     const stream::parser& parser;
-    std::unique_ptr<std::uint8_t[]> bytes;
+    Bytes bytes;
 };
 
 /// In place of a Place: no message is made of the errors of a stream.
@@ -268,9 +270,10 @@ std::optional<Record> readStream(const std::string& paddedJson, Context& context
     try {
         stream::parser parser;
         stream::document document = parser.iterate(paddedJson);
-        const Unescaping unescaping{parser,
-                                    std::make_unique_for_overwrite<std::uint8_t[]>(
-                                        paddedJson.size() + simdjson::SIMDJSON_PADDING)};
+        const Unescaping unescaping{
+            parser,
+            std::make_unique_for_overwrite<Bytes::element_type[]>( // NOLINT(*-avoid-c-arrays)
+                paddedJson.size() + simdjson::SIMDJSON_PADDING)};
         std::optional<Record> record(std::in_place);
         readInto(*record, stream::value(document.get_value()), NoPlace{context, unescaping});
         const bool isAtEnd = document.current_location().error() == simdjson::OUT_OF_BOUNDS;

@@ -14,6 +14,10 @@
 #include <new>
 #include <tuple>
 
+// Allocation functions have global state and malloc().
+// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables)
+// NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
+
 namespace {
 
 constexpr long never = -1;
@@ -96,6 +100,9 @@ void freedForICU(const void*, void* memory) {
     freed(memory);
 }
 
+// NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
+// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
+
 class AllocationFailure : public testing::Test {
   protected:
     static void SetUpTestSuite() {
@@ -103,7 +110,7 @@ class AllocationFailure : public testing::Test {
         u_setMemoryFunctions(nullptr, allocatedForICU, reallocatedForICU, freedForICU, &status);
         ASSERT_TRUE(U_SUCCESS(status));
     }
-    ~AllocationFailure() override { allocationsUntilFailure = never; }
+    void TearDown() override { allocationsUntilFailure = never; }
 
     /// Runs `work` with the first, then the second, ... allocation failing, alone and with all
     /// later ones, until none fails. Its result has to be the right one or std::bad_alloc.
@@ -112,22 +119,30 @@ class AllocationFailure : public testing::Test {
         const auto expected = work(); // makes, too, what is made once for the process
         for (const bool laterOnes : {false, true}) {
             laterOnesFailToo = laterOnes;
-            bool isDone = false;
-            for (long allocations = 0; !isDone; ++allocations) {
-                const long before = live;
-                allocationsUntilFailure = allocations;
-                try {
-                    const auto result = work();
-                    isDone = allocationsUntilFailure > 0;
-                    allocationsUntilFailure = never;
-                    ASSERT_EQ(result, expected) << "after " << allocations << " allocations";
-                } catch (const std::bad_alloc&) {
-                    allocationsUntilFailure = never;
-                }
-                ASSERT_EQ(live, before) << "after " << allocations << " allocations";
+            long allocations = 0;
+            while (!isDone(work, expected, allocations) && !HasFailure()) {
+                ++allocations;
             }
         }
         EXPECT_EQ(work(), expected);
+    }
+
+    /// Runs `work` with one failure after `allocations`. Returns whether it needs no more.
+    template <typename Work, typename Result>
+    static bool isDone(const Work& work, const Result& expected, long allocations) {
+        const long before = live;
+        bool isDone = false;
+        allocationsUntilFailure = allocations;
+        try {
+            const auto result = work();
+            isDone = allocationsUntilFailure > 0;
+            allocationsUntilFailure = never;
+            EXPECT_EQ(result, expected) << "after " << allocations << " allocations";
+        } catch (const std::bad_alloc&) {
+            allocationsUntilFailure = never;
+        }
+        EXPECT_EQ(live, before) << "after " << allocations << " allocations";
+        return isDone;
     }
 
     /// A release with texts that take every way through ICU.

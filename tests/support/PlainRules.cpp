@@ -104,6 +104,22 @@ std::optional<Invalid> verdictOf(const OpenMapRelease::Asset& asset,
     return std::nullopt;
 }
 
+/// The digits are known to be digits.
+bool isDayAndTime(std::string_view text) {
+    const auto number = [&](std::size_t at, std::size_t length) {
+        return std::stoi(std::string(text.substr(at, length)));
+    };
+    const int year = number(0, 4);
+    const int month = number(5, 2);
+    const bool isLeapYear = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+    const int daysOfMonth = month == 2 ? 28 + (isLeapYear ? 1 : 0)
+                            : month == 4 || month == 6 || month == 9 || month == 11 ? 30
+                                                                                    : 31;
+    return month >= 1 && month <= 12 && number(8, 2) >= 1 && number(8, 2) <= daysOfMonth &&
+           number(11, 2) < 24 && number(14, 2) < 60 && number(17, 2) < 60 &&
+           (text.back() == 'Z' || (number(20, 2) < 24 && number(23, 2) < 60));
+}
+
 // The grammar of RFC 3986.
 
 bool isUnreservedOrDelimiter(char each) {
@@ -120,7 +136,8 @@ bool consistsOf(std::string_view text, std::string_view more) {
                 return false;
             }
             at += 2;
-        } else if (!isUnreservedOrDelimiter(text[at]) && more.find(text[at]) == more.npos) {
+        } else if (!isUnreservedOrDelimiter(text[at]) &&
+                   more.find(text[at]) == std::string_view::npos) {
             return false;
         }
     }
@@ -128,15 +145,15 @@ bool consistsOf(std::string_view text, std::string_view more) {
 }
 
 bool isPort(std::string_view text) {
-    return text.empty() ||
-           (text.front() == ':' && text.substr(1).find_first_not_of("0123456789") == text.npos);
+    return text.empty() || (text.front() == ':' && text.substr(1).find_first_not_of("0123456789") ==
+                                                       std::string_view::npos);
 }
 
 /// The inside of the brackets.
 bool isAddressLiteral(std::string_view text) {
     if (text.starts_with('v') || text.starts_with('V')) {
         const std::size_t dot = text.find('.');
-        if (dot == text.npos || dot < 2 || dot + 1 == text.size()) {
+        if (dot == std::string_view::npos || dot < 2 || dot + 1 == text.size()) {
             return false;
         }
         for (const char each : text.substr(1, dot - 1)) {
@@ -144,17 +161,17 @@ bool isAddressLiteral(std::string_view text) {
                 return false;
             }
         }
-        return text.find('%') == text.npos && consistsOf(text.substr(dot + 1), ":");
+        return text.find('%') == std::string_view::npos && consistsOf(text.substr(dot + 1), ":");
     }
     std::array<unsigned char, sizeof(in6_addr)> address{};
-    return text.find('\0') == text.npos &&
+    return text.find('\0') == std::string_view::npos &&
            inet_pton(AF_INET6, std::string(text).c_str(), address.data()) == 1;
 }
 
 bool isHostAndPort(std::string_view text) {
     if (text.starts_with('[')) {
         const std::size_t end = text.find(']');
-        return end != text.npos && isAddressLiteral(text.substr(1, end - 1)) &&
+        return end != std::string_view::npos && isAddressLiteral(text.substr(1, end - 1)) &&
                isPort(text.substr(end + 1));
     }
     const std::size_t end = std::min(text.find(':'), text.size());
@@ -212,18 +229,7 @@ bool plainIsInternetDateTime(std::string_view text) {
             return false;
         }
     }
-    const auto number = [&](std::size_t at, std::size_t length) {
-        return std::stoi(std::string(text.substr(at, length)));
-    };
-    const int year = number(0, 4);
-    const int month = number(5, 2);
-    const bool isLeapYear = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-    const int daysOfMonth = month == 2 ? 28 + (isLeapYear ? 1 : 0)
-                            : month == 4 || month == 6 || month == 9 || month == 11 ? 30
-                                                                                    : 31;
-    return month >= 1 && month <= 12 && number(8, 2) >= 1 && number(8, 2) <= daysOfMonth &&
-           number(11, 2) < 24 && number(14, 2) < 60 && number(17, 2) < 60 &&
-           (text.back() == 'Z' || (number(20, 2) < 24 && number(23, 2) < 60));
+    return isDayAndTime(text);
 }
 
 bool plainSecureURL(std::string_view text) {

@@ -126,20 +126,20 @@ void changeCount(std::vector<Record>& records, Choices& choices, std::size_t lim
 }
 
 void changeSource(OpenMapRelease::Source& source, Choices& choices) {
-    std::string* const fields[] = {&source.id,
-                                   &source.publisher,
-                                   &source.dataset,
-                                   &source.sourceURL,
-                                   &source.licenceURL,
-                                   &source.attribution,
-                                   &source.conditions,
-                                   &source.modifications};
-    *fields[choices.below(std::size(fields))] = text(choices);
+    const std::array fields = {&source.id,
+                               &source.publisher,
+                               &source.dataset,
+                               &source.sourceURL,
+                               &source.licenceURL,
+                               &source.attribution,
+                               &source.conditions,
+                               &source.modifications};
+    *fields.at(choices.below(fields.size())) = text(choices);
 }
 
 void changeFact(OpenMapRelease::Fact& fact, Choices& choices) {
-    std::string* const fields[] = {&fact.label, &fact.value, &fact.sourceID, &fact.asOf};
-    *fields[choices.below(std::size(fields))] = text(choices);
+    const std::array fields = {&fact.label, &fact.value, &fact.sourceID, &fact.asOf};
+    *fields.at(choices.below(fields.size())) = text(choices);
 }
 
 void changeRoutes(std::vector<OpenMapRelease::Route>& routes, Choices& choices) {
@@ -160,13 +160,13 @@ void changeRoutes(std::vector<OpenMapRelease::Route>& routes, Choices& choices) 
 }
 
 void changeAsset(OpenMapRelease::Asset& asset, Choices& choices) {
-    std::string* const fields[] = {&asset.id,
-                                   &asset.name,
-                                   &asset.kind,
-                                   &asset.jurisdiction,
-                                   &asset.sourceID,
-                                   &asset.status,
-                                   &asset.asOf};
+    const std::array fields = {&asset.id,
+                               &asset.name,
+                               &asset.kind,
+                               &asset.jurisdiction,
+                               &asset.sourceID,
+                               &asset.status,
+                               &asset.asOf};
     switch (choices.below(8)) {
     case 0:
         asset.longitude = number(choices);
@@ -187,7 +187,7 @@ void changeAsset(OpenMapRelease::Asset& asset, Choices& choices) {
     case 5:
         return changeRoutes(asset.routes, choices);
     default:
-        *fields[choices.below(std::size(fields))] = text(choices);
+        *fields.at(choices.below(fields.size())) = text(choices);
     }
 }
 
