@@ -5,6 +5,7 @@
 #include "data/InternetDateTime.h"
 #include "data/WebAddress.h"
 #include "data/text/Characters.h"
+#include "data/text/Hexadecimal.h"
 
 #include <algorithm>
 #include <charconv>
@@ -143,37 +144,6 @@ struct SourceSubject {
 
     [[nodiscard]] std::string place() const { return element("sources", index) + '.'; }
 };
-
-/// Returns the length in bytes of the hexadecimal digit that `text` begins with, or 0. The
-/// full-width forms of the digits (U+FF10 to FF19, FF21 to FF26, FF41 to FF46) count as well.
-std::size_t hexadecimalDigitLength(std::string_view text) {
-    const auto isBetween = [](char character, char first, char last) {
-        return character >= first && character <= last;
-    };
-    const char first = text.front();
-    if (isBetween(first, '0', '9') || isBetween(first, 'A', 'F') || isBetween(first, 'a', 'f')) {
-        return 1;
-    }
-    constexpr std::size_t wideLength = 3;
-    if (text.size() < wideLength) {
-        return 0;
-    }
-    const bool isWide = (text.starts_with("\xEF\xBC") && (isBetween(text[2], '\x90', '\x99') ||
-                                                          isBetween(text[2], '\xA1', '\xA6'))) ||
-                        (text.starts_with("\xEF\xBD") && isBetween(text[2], '\x81', '\x86'));
-    return isWide ? wideLength : 0;
-}
-
-bool isHexadecimal(std::string_view text, std::size_t digits) {
-    for (; !text.empty() && digits > 0; --digits) {
-        const std::size_t length = hexadecimalDigitLength(text);
-        if (length == 0) {
-            return false;
-        }
-        text.remove_prefix(length);
-    }
-    return text.empty() && digits == 0;
-}
 
 Violation sourceIDIsNotHexadecimal(const SourceSubject& subject) {
     return isHexadecimal(subject.source.id, sourceIDLength)

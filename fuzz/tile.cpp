@@ -2,7 +2,7 @@
 // header promises of its geometry and its memory.
 
 #include "map/tiles/TileInflation.h"
-#include "map/tiles/VectorTile.h"
+#include "map/tiles/VectorTileDecoding.h"
 
 #include <cmath>
 #include <cstddef>

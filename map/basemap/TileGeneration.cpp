@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vasker {
 
@@ -33,6 +34,15 @@ TileRequest TileGeneration::requestFor(TileKey key) const noexcept {
             .devicePixelsPerMapPoint = std::ldexp(scale * devicePixelsPerPixel, key.zoom - zoom),
             .devicePixelsPerPixel = devicePixelsPerPixel,
             .theme = theme};
+}
+
+TileJob TileGeneration::jobFor(TileKey key, std::shared_ptr<TileProvider> provider) const {
+    const auto known = bare.find(key);
+    return {.request = requestFor(key),
+            .language = language,
+            .provider = std::move(provider),
+            .overlay = overlay,
+            .bare = known != bare.end() ? known->second : RasterTile()};
 }
 
 void TileGeneration::takeBasemap(const TileGeneration& other) {

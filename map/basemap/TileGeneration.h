@@ -4,6 +4,7 @@
 
 #include "map/basemap/BasemapView.h"
 #include "map/basemap/RasterTile.h"
+#include "map/basemap/TileJob.h"
 #include "map/geometry/TileCover.h"
 #include "map/style/TileRequest.h"
 #include "map/tileservice/ServiceTile.h"
@@ -37,6 +38,8 @@ struct TileGeneration {
     /// Whether it has all tiles of `cover`.
     [[nodiscard]] bool covers(const std::vector<CoverTile>& cover) const;
     [[nodiscard]] TileRequest requestFor(TileKey key) const noexcept;
+    /// The work of one of its tiles.
+    [[nodiscard]] TileJob jobFor(TileKey key, std::shared_ptr<TileProvider> provider) const;
 
     /// Takes over what `other`, of the same scale and theme, has painted of the basemap.
     void takeBasemap(const TileGeneration& other);

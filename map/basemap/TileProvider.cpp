@@ -2,6 +2,7 @@
 
 #include "map/style/ImageryDecoding.h"
 #include "map/tiles/TileInflation.h"
+#include "map/tiles/VectorTileDecoding.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,6 @@
 #include "map/basemap/TilePyramid.h"
 
 #include "map/basemap/BasemapFrameBuilder.h"
-#include "map/basemap/TileJob.h"
 
 #include <algorithm>
 #include <cmath>
@@ -194,22 +193,17 @@ void TilePyramid::collect(TileGeneration& generation,
 TileWorkers::Job TilePyramid::job(TileGeneration& generation,
                                   TileKey key,
                                   std::shared_ptr<std::atomic<bool>> begun) {
-    TileJob work{.request = generation.requestFor(key),
-                 .language = generation.language,
-                 .provider = m_library.provider(),
-                 .overlay = generation.overlay,
-                 .bare = {}};
-    if (const auto bare = generation.bare.find(key); bare != generation.bare.end()) {
-        work.bare = bare->second;
-    }
-    return [this, work, number = generation.number, begun = std::move(begun)](
-               const std::stop_token& stop) mutable -> TileWorkers::Completion {
-        begun->store(true);
-        return [this, number, begun, result = std::move(work).run(stop)]() mutable {
-            m_library.discard(result.undecodable);
-            takePainted(number, begun, std::move(result.tile));
+    return
+        [this,
+         work = generation.jobFor(key, m_library.provider()),
+         number = generation.number,
+         begun = std::move(begun)](const std::stop_token& stop) mutable -> TileWorkers::Completion {
+            begun->store(true);
+            return [this, number, begun, result = std::move(work).run(stop)]() mutable {
+                m_library.discard(result.undecodable);
+                takePainted(number, begun, std::move(result.tile));
+            };
         };
-    };
 }
 
 TileGeneration* TilePyramid::generation(std::uint64_t number) const {

@@ -1,11 +1,9 @@
 #pragma once
 // A vector tile of the Shortbread schema, decoded: the attributes that this map uses, and geometry
-// in fractions of the tile's side. Bytes come from files and from the network: whatever is wrong
-// with them costs the tile, never more.
+// in fractions of the tile's side.
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,13 +53,5 @@ struct VectorTile {
     /// About what the tile takes of memory.
     [[nodiscard]] std::size_t memoryBytes() const noexcept;
 };
-
-/// In version 2.1 of the format of vector tiles (MVT). Nothing where the bytes are no vector tile;
-/// none at all are an empty one. Passed over: attributes that this map does not use; layers without
-/// a name or with an extent of zero or beyond 2^24; features without geometry, with geometry that
-/// breaks the format, or that reach further than 64 tiles away; texts of more than 256
-/// bytes. Takes time in proportion to the bytes, and at most some fifty times their memory: a tile
-/// whose features repeat one long text to fill more is refused.
-[[nodiscard]] std::optional<VectorTile> decodeVectorTile(std::string_view inflated);
 
 } // namespace vasker

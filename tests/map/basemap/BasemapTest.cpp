@@ -3,7 +3,7 @@
 #include "map/geometry/Projection.h"
 #include "map/tiles/TileArchive.h"
 #include "map/tiles/TileInflation.h"
-#include "map/tiles/VectorTile.h"
+#include "map/tiles/VectorTileDecoding.h"
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,7 @@
 #include "map/geometry/TileCover.h"
 #include "map/tiles/TileArchive.h"
 #include "map/tiles/TileInflation.h"
+#include "map/tiles/VectorTileDecoding.h"
 
 #include <gtest/gtest.h>
 

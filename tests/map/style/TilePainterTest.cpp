@@ -5,6 +5,7 @@
 #include "map/style/VectorTilePainter.h"
 #include "map/tiles/TileArchive.h"
 #include "map/tiles/TileInflation.h"
+#include "map/tiles/VectorTileDecoding.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "map/tiles/VectorTile.h"
+#include "map/tiles/VectorTileDecoding.h"
 
 #include <gtest/gtest.h>
 #include <protozero/pbf_writer.hpp>
