@@ -11,25 +11,43 @@ from pathlib import Path
 
 FOLDERS = ("data", "platform", "presentation", "map", "detail", "app", "tools", "bench", "fuzz", "tests")
 
-# What a folder may include. The innermost folder that a file stands in decides. A name that ends in
-# a stroke is a folder, any other the beginning of a header's name.
+# What a folder may include beside itself. The innermost folder that a file stands in decides.
 ARROWS = {
-    "data/": {"data/"},
-    "platform/": {"platform/"},
-    "presentation/": {"presentation/", "data/", "platform/"},
-    "map/": {"map/", "presentation/", "data/", "platform/"},
-    "map/geometry/": {"map/geometry/"},
-    "map/tiles/": {"map/tiles/", "map/geometry/"},
-    "map/tileservice/": {"map/tileservice/", "map/tiles/", "map/geometry/"},
-    "detail/": {"detail/", "presentation/", "data/", "platform/"},
-    "app/": {"app/", "map/", "detail/", "presentation/", "data/", "platform/"},
-    "tools/": {"tools/", "data/"},
+    "data/": set(),
+    "platform/": set(),
+    "presentation/": {"data/", "platform/"},
+    "map/geometry/": set(),
+    "map/layers/": {"map/geometry/"},
+    "map/tiles/": {"map/geometry/"},
+    "map/tileservice/": {"map/tiles/", "map/geometry/"},
+    "map/style/": {"map/tiles/", "map/geometry/", "platform/"},
+    "map/labels/": {"map/layers/", "map/style/", "map/tiles/", "map/geometry/", "platform/"},
+    "map/basemap/": {
+        "map/labels/", "map/layers/", "map/style/", "map/tileservice/", "map/tiles/", "map/geometry/",
+        "platform/",
+    },
+    "map/records/": {
+        "map/layers/", "map/style/", "map/geometry/", "presentation/", "data/", "platform/",
+    },
+    "map/frame/": {
+        "map/basemap/", "map/records/", "map/labels/", "map/layers/", "map/style/", "map/geometry/",
+    },
+    "map/scene/": {"map/frame/", "map/layers/", "map/geometry/"},
+    "map/input/": {"map/records/", "map/geometry/"},
+    "map/view/": {
+        "map/input/", "map/scene/", "map/frame/", "map/records/", "map/basemap/", "map/style/",
+        "map/layers/", "map/geometry/", "presentation/", "data/", "platform/",
+    },
+    "map/catalogue/": {"map/records/", "presentation/", "data/", "platform/"},
+    "detail/": {"presentation/", "data/", "platform/"},
+    "app/": {"map/", "detail/", "presentation/", "data/", "platform/"},
+    "tools/": {"data/"},
     "bench/": {folder + "/" for folder in FOLDERS},
     "fuzz/": {folder + "/" for folder in FOLDERS},
     "tests/": {folder + "/" for folder in FOLDERS},
 }
 
-# The folders of the product; tests, tools and benches may look behind any curtain.
+# The folders of the product; tests, tools and benches may use every library.
 PRODUCT = ("data/", "platform/", "presentation/", "map/", "detail/", "app/")
 
 # Headers that only some files of the product may include: pattern, who may, what to call it.
@@ -65,8 +83,14 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 QML_IMPORT = re.compile(r'^\s*import\s+(?:"([^"]+)"|([A-Za-z][\w.]*))')
 QML_MODULE = re.compile(r"^\s*URI\s+([\w.]+)", re.MULTILINE)
 
-# Lines after which a file's job is looked at again; nothing has grown that far.
+# Lines of a unit, the header and the source of one class together, after which its job is split.
 MOST_LINES = {".qml": 150, ".cpp": 400, ".h": 400, ".vert": 400, ".frag": 400}
+
+# Units of a folder of the product, after which it is split.
+MOST_UNITS = 36
+
+# Sources whose header would say nothing: programs.
+WITHOUT_HEADER = {"main"}
 
 
 def within(path, places):
@@ -80,8 +104,9 @@ def within(path, places):
 
 
 def allowed_for(path):
-    """What the file at `path` may include."""
-    return ARROWS[max((room for room in ARROWS if path.startswith(room)), key=len)]
+    """What the file at `path` may include; nothing where no rule knows its folder."""
+    folders = [folder for folder in ARROWS if path.startswith(folder)]
+    return ARROWS[max(folders, key=len)] | {max(folders, key=len)} if folders else set()
 
 
 def include_faults(root, path, own, system):
@@ -133,7 +158,7 @@ def import_faults(root, path, folder, module, modules):
         return
     else:
         return
-    # A module may be wider than a room of it: all of map is one module.
+    # A module may hold several folders: all of map is one module.
     if not path.startswith(target + "/") and not within(target + "/", allowed_for(path)):
         yield f"{target} is not below {path.rsplit('/', 1)[0]}"
 
@@ -145,15 +170,58 @@ def source_files(root):
                 yield file
 
 
+def unit_faults(root, files):
+    """What is too large, and the sources without a header: (path, line number, what is wrong)."""
+    lengths = {}
+    units = {}
+    for file in files:
+        path = file.relative_to(root).as_posix()
+        unit = path[: -len(file.suffix)]
+        kind = "qml" if file.suffix == ".qml" else "code"
+        length = len(file.read_text(encoding="utf-8").splitlines())
+        total = lengths[unit, kind] = lengths.get((unit, kind), 0) + length
+        most = MOST_LINES[file.suffix]
+        if total > most >= total - length:
+            yield path, length, f"{unit} is longer than {most} lines: split its job"
+        if not path.startswith(PRODUCT):
+            continue
+        folder = path.rpartition("/")[0]
+        had = units.setdefault(folder, set())
+        if unit not in had and len(had) == MOST_UNITS:
+            yield path, 1, f"{folder} has more than {MOST_UNITS} units: split it"
+        had.add(unit)
+        if file.suffix == ".cpp" and file.stem not in WITHOUT_HEADER:
+            if not file.with_suffix(".h").is_file():
+                yield path, 1, "has no header"
+
+
+def circles():
+    """Folders that may include each other, by whatever way."""
+    for start in ARROWS:
+        reached, ahead = set(), [start]
+        while ahead:
+            allowed = {
+                folder
+                for place in ARROWS[ahead.pop()]
+                for folder in ARROWS
+                if folder.startswith(place)
+            }
+            ahead += allowed - reached
+            reached |= allowed
+        if start in reached and start.startswith(PRODUCT):
+            yield start
+
+
 def faults(root):
     """Every broken rule below `root`: (path, line number, what is wrong)."""
     root = Path(root).resolve()
     modules = qml_modules(root)
+    for folder in circles():
+        yield folder, 1, "may include itself by way of others"
+    yield from unit_faults(root, source_files(root))
     for file in source_files(root):
         path = file.relative_to(root).as_posix()
         lines = file.read_text(encoding="utf-8").splitlines()
-        if len(lines) > MOST_LINES[file.suffix]:
-            yield path, len(lines), f"longer than {MOST_LINES[file.suffix]} lines: split its job"
         for number, line in enumerate(lines, start=1):
             if file.suffix == ".qml":
                 found = QML_IMPORT.match(line)

@@ -3,9 +3,16 @@
 
 import tempfile
 import unittest
+import unittest.mock
 from pathlib import Path
 
 import arrows
+
+
+def with_headers(files):
+    """The tree, with an empty header for each source that has none."""
+    headers = {path[:-4] + ".h": "" for path in files if path.endswith(".cpp")}
+    return {**headers, **files}
 
 
 def faults(files):
@@ -27,7 +34,8 @@ class Folders(unittest.TestCase):
             "map/records/RecordSet.h": '#include "data/Text.h"\n#include "map/geometry/Camera.h"\n',
             "map/basemap/TilePyramid.h": '#include "map/geometry/Camera.h"\n',
             "map/records/Layout.h": '#include "map/records/RecordSet.h"\n',
-            "map/scene/MapNode.h": '#include "map/basemap/TilePyramid.h"\n',
+            "map/frame/MapFrame.h": '#include "map/basemap/TilePyramid.h"\n',
+            "map/scene/MapNode.h": '#include "map/frame/MapFrame.h"\n',
             "map/view/MapView.h": '#include "map/scene/MapNode.h"\n',
             "app/main.cpp": '#include "map/records/RecordSet.h"\n#include "platform/Locale.h"\n',
         }
@@ -60,7 +68,7 @@ class Folders(unittest.TestCase):
             ("tools/pack.cpp", "app/Workspace.h"),
         ):
             with self.subTest(user=user, header=header):
-                found = faults({**headers, user: f'\n#include "{header}"\n'})
+                found = faults(with_headers({**headers, user: f'\n#include "{header}"\n'}))
                 self.assertEqual(len(found), 1, found)
                 self.assertIn(f'{user}:2: "{header}" is not below', found[0])
 
@@ -80,12 +88,12 @@ class Folders(unittest.TestCase):
 
 class Libraries(unittest.TestCase):
     def found(self, path, header):
-        return faults({path: f"#include <{header}>\n"})
+        return faults(with_headers({path: f"#include <{header}>\n"}))
 
-    def test_each_library_has_its_one_door(self):
-        for door, header in (
+    def test_each_library_has_its_one_user(self):
+        for user, header in (
             ("data/ReleaseReader.cpp", "simdjson.h"),
-            ("data/Text.cpp", "unicode/coll.h"),
+            ("data/text/Collation.h", "unicode/coll.h"),
             ("data/Digest.cpp", "openssl/evp.h"),
             ("data/WebAddress.cpp", "uriparser/Uri.h"),
             ("map/tiles/TileArchive.cpp", "sqlite3.h"),
@@ -98,11 +106,11 @@ class Libraries(unittest.TestCase):
             ("map/scene/MarkerNode.cpp", "rhi/qrhi.h"),
             ("map/view/MapView.cpp", "QSGNode"),
         ):
-            with self.subTest(door=door, header=header):
-                self.assertEqual(self.found(door, header), [])
+            with self.subTest(user=user, header=header):
+                self.assertEqual(self.found(user, header), [])
 
-    def test_a_library_behind_any_other_door_is_found(self):
-        for door, header in (
+    def test_a_library_in_any_other_file_is_found(self):
+        for user, header in (
             ("data/ReleaseRules.cpp", "simdjson.h"),
             ("data/ReleaseIndex.cpp", "unicode/coll.h"),
             ("app/Workspace.cpp", "openssl/evp.h"),
@@ -120,8 +128,8 @@ class Libraries(unittest.TestCase):
             ("map/view/MapView.cpp", "private/qsgnode_p.h"),
             ("app/Frame.cpp", "QOpenGLContext"),
         ):
-            with self.subTest(door=door, header=header):
-                self.assertEqual(len(self.found(door, header)), 1)
+            with self.subTest(user=user, header=header):
+                self.assertEqual(len(self.found(user, header)), 1)
 
     def test_qt_in_the_kit_is_found(self):
         for header in ("QString", "QtCore/QString", "private/qstringlist_p.h"):
@@ -167,11 +175,42 @@ class Qml(unittest.TestCase):
                 self.assertEqual(len(self.found(path, line)), 1)
 
 
-class Length(unittest.TestCase):
-    def test_a_file_that_has_grown_too_long_is_found(self):
-        self.assertEqual(faults({"data/Long.cpp": "\n" * 400, "app/Long.qml": "\n" * 150}), [])
-        self.assertEqual(len(faults({"data/Long.cpp": "\n" * 401})), 1)
-        self.assertEqual(len(faults({"app/Long.qml": "\n" * 151})), 1)
+class Units(unittest.TestCase):
+    def found(self, files):
+        return [each.rpartition(": ")[2] for each in faults(with_headers(files))]
+
+    def test_a_class_that_has_grown_too_long_is_found(self):
+        self.assertEqual(self.found({"data/Long.cpp": "\n" * 400, "app/Long.qml": "\n" * 150}), [])
+        for files in (
+            {"data/Long.cpp": "\n" * 401},
+            {"data/Long.h": "\n" * 100, "data/Long.cpp": "\n" * 301},
+        ):
+            self.assertEqual(len(self.found(files)), 1, files)
+        self.assertEqual(len(self.found({"app/Long.qml": "\n" * 151})), 1)
+
+    def test_a_folder_with_too_many_units_is_found(self):
+        units = {f"map/style/Unit{number}.cpp": "" for number in range(arrows.MOST_UNITS)}
+        self.assertEqual(self.found(units), [])
+        self.assertEqual(
+            self.found({**units, "map/style/View.qml": ""}), ["split it"]
+        )
+
+    def test_a_source_without_a_header_is_found(self):
+        self.assertEqual(len(faults({"map/style/Alone.cpp": ""})), 1)
+        self.assertEqual(faults({"app/main.cpp": "", "tests/map/SomeTest.cpp": ""}), [])
+
+    def test_a_folder_that_no_rule_knows_includes_nothing(self):
+        tree = {"data/Text.h": "", "map/Loose.h": '#include "data/Text.h"\n'}
+        self.assertEqual(len(faults(tree)), 1)
+
+
+class Circles(unittest.TestCase):
+    def test_no_folder_includes_itself_by_way_of_others(self):
+        self.assertEqual(list(arrows.circles()), [])
+
+    def test_a_circle_is_found(self):
+        with unittest.mock.patch.dict(arrows.ARROWS, {"data/": {"app/"}}):
+            self.assertIn("app/", list(arrows.circles()))
 
 
 if __name__ == "__main__":
