@@ -1,5 +1,5 @@
 // openmap-release: makes, checks and reads release files. Picks the command and prints its result.
-#include "tools/openmap-release/Command.h"
+#include "tools/openmap-release/commands/Command.h"
 
 #include <fcntl.h>
 #include <unistd.h>

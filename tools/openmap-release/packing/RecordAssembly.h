@@ -4,11 +4,11 @@
 
 #include "data/OpenMapRelease.h"
 #include "tools/openmap-release/packing/Datasets.h"
-#include "tools/openmap-release/packing/GemPipelines.h"
-#include "tools/openmap-release/packing/GemTerminals.h"
-#include "tools/openmap-release/packing/Ghgrp.h"
-#include "tools/openmap-release/packing/JsonFiles.h"
-#include "tools/openmap-release/packing/Npri.h"
+#include "tools/openmap-release/packing/tables/GemPipelines.h"
+#include "tools/openmap-release/packing/tables/GemTerminals.h"
+#include "tools/openmap-release/packing/tables/Ghgrp.h"
+#include "tools/openmap-release/packing/tables/JsonFiles.h"
+#include "tools/openmap-release/packing/tables/Npri.h"
 
 #include <span>
 #include <string>

@@ -2,7 +2,7 @@
 // The Greenhouse Gas Reporting Program's facility table, and what its history says about which of
 // its facilities is which in the National Pollutant Release Inventory.
 
-#include "tools/openmap-release/packing/Cells.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <map>
 #include <optional>

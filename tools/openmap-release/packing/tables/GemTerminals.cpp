@@ -1,6 +1,6 @@
-#include "tools/openmap-release/packing/GemTerminals.h"
+#include "tools/openmap-release/packing/tables/GemTerminals.h"
 
-#include "tools/openmap-release/packing/Provinces.h"
+#include "tools/openmap-release/packing/tables/Provinces.h"
 
 #include <set>
 

@@ -1,4 +1,4 @@
-#include "tools/openmap-release/packing/Cells.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <algorithm>
 #include <array>

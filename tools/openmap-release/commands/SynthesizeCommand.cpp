@@ -1,6 +1,6 @@
-#include "tools/openmap-release/Command.h"
 #include "tools/openmap-release/FileAccess.h"
 #include "tools/openmap-release/Synthesis.h"
+#include "tools/openmap-release/commands/Command.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 // Global Energy Monitor's table of terminals for liquefied natural gas, one row per unit.
 
-#include "tools/openmap-release/packing/Cells.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "tools/openmap-release/packing/Provinces.h"
+#include "tools/openmap-release/packing/tables/Provinces.h"
 
 #include <algorithm>
 #include <array>

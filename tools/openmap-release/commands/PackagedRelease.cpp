@@ -1,4 +1,4 @@
-#include "tools/openmap-release/PackagedRelease.h"
+#include "tools/openmap-release/commands/PackagedRelease.h"
 
 #include "data/Digest.h"
 #include "tools/openmap-release/FileAccess.h"

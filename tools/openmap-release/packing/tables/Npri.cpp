@@ -1,6 +1,6 @@
-#include "tools/openmap-release/packing/Npri.h"
+#include "tools/openmap-release/packing/tables/Npri.h"
 
-#include "tools/openmap-release/packing/Provinces.h"
+#include "tools/openmap-release/packing/tables/Provinces.h"
 
 #include <set>
 

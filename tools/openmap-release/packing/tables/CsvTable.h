@@ -1,7 +1,7 @@
 #pragma once
 // A CSV file with a heading line, as UTF-8 text. The only door to libcsv.
 
-#include "tools/openmap-release/packing/InputError.h"
+#include "tools/openmap-release/packing/tables/InputError.h"
 
 #include <cstddef>
 #include <initializer_list>

@@ -1,7 +1,7 @@
 #pragma once
 // The National Pollutant Release Inventory's facility table and its newer list of positions.
 
-#include "tools/openmap-release/packing/Cells.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <map>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "tools/openmap-release/packing/CsvTable.h"
+#include "tools/openmap-release/packing/tables/CsvTable.h"
 
 #include <csv.h>
 

@@ -2,7 +2,7 @@
 // A release file as the commands open it, and how a refusal is told.
 
 #include "data/OpenMapRelease.h"
-#include "tools/openmap-release/Command.h"
+#include "tools/openmap-release/commands/Command.h"
 
 #include <optional>
 #include <string>

@@ -1,11 +1,11 @@
 #include "data/Digest.h"
 #include "data/InternetDateTime.h"
 #include "data/ReleaseWriter.h"
-#include "tools/openmap-release/Command.h"
 #include "tools/openmap-release/FileAccess.h"
-#include "tools/openmap-release/packing/InputError.h"
-#include "tools/openmap-release/packing/JsonFiles.h"
+#include "tools/openmap-release/commands/Command.h"
 #include "tools/openmap-release/packing/Packing.h"
+#include "tools/openmap-release/packing/tables/InputError.h"
+#include "tools/openmap-release/packing/tables/JsonFiles.h"
 
 #include <array>
 #include <filesystem>

@@ -1,7 +1,7 @@
-#include "tools/openmap-release/packing/Ghgrp.h"
+#include "tools/openmap-release/packing/tables/Ghgrp.h"
 
-#include "tools/openmap-release/packing/Npri.h"
-#include "tools/openmap-release/packing/Provinces.h"
+#include "tools/openmap-release/packing/tables/Npri.h"
+#include "tools/openmap-release/packing/tables/Provinces.h"
 
 #include <algorithm>
 #include <array>

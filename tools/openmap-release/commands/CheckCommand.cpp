@@ -1,5 +1,5 @@
-#include "tools/openmap-release/Command.h"
-#include "tools/openmap-release/PackagedRelease.h"
+#include "tools/openmap-release/commands/Command.h"
+#include "tools/openmap-release/commands/PackagedRelease.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,6 +1,6 @@
 #include "data/Classification.h"
-#include "tools/openmap-release/Command.h"
-#include "tools/openmap-release/PackagedRelease.h"
+#include "tools/openmap-release/commands/Command.h"
+#include "tools/openmap-release/commands/PackagedRelease.h"
 
 namespace vasker {
 namespace {

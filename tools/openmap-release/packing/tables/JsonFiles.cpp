@@ -1,6 +1,6 @@
-#include "tools/openmap-release/packing/JsonFiles.h"
+#include "tools/openmap-release/packing/tables/JsonFiles.h"
 
-#include "tools/openmap-release/packing/InputError.h"
+#include "tools/openmap-release/packing/tables/InputError.h"
 
 #include <simdjson.h>
 

@@ -2,7 +2,7 @@
 // What a cell of a published table says: nothing, a text, a number, a quantity, a position.
 
 #include "data/OpenMapRelease.h"
-#include "tools/openmap-release/packing/CsvTable.h"
+#include "tools/openmap-release/packing/tables/CsvTable.h"
 
 #include <initializer_list>
 #include <optional>

@@ -2,7 +2,7 @@
 // Global Energy Monitor's two tables of pipelines: one for oil and natural-gas liquids, one for
 // gas.
 
-#include "tools/openmap-release/packing/Cells.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <optional>
 #include <string>
