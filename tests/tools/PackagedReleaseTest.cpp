@@ -1,12 +1,14 @@
 // The release that the viewer is shipped with.
 #include "tests/support/ReleaseBuilder.h"
 #include "tests/tools/ToolRun.h"
+#include "tools/openmap-release/packing/Description.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
 #include <set>
+#include <stdexcept>
 
 namespace vasker {
 namespace {
@@ -28,68 +30,153 @@ std::string bundledDigest() {
 class PackagedRelease : public testing::Test {
   protected:
     PackagedRelease()
-        : m_release(OpenMapRelease::decode(contentOf(releaseFile()), bundledDigest())) {}
+        : m_release(OpenMapRelease::decode(contentOf(releaseFile()), bundledDigest())),
+          m_description(readDescription("canada-energy.toml", contentOf(VASKER_DESCRIPTION))) {}
 
-    [[nodiscard]] std::ptrdiff_t recordsWithPrefix(std::string_view prefix) const {
-        return std::ranges::count_if(m_release.assets, [&](const OpenMapRelease::Asset& asset) {
-            return asset.id.starts_with(prefix);
-        });
+    /// The source that was made of the table for `role`.
+    [[nodiscard]] const OpenMapRelease::Source& source(TableRole role) const {
+        const std::string& text = m_description.table(role)->source.modifications;
+        const auto found =
+            std::ranges::find_if(m_release.sources, [&](const OpenMapRelease::Source& source) {
+                return source.modifications.starts_with(text);
+            });
+        if (found == m_release.sources.end()) {
+            throw std::runtime_error("the release was packed with another description");
+        }
+        return *found;
     }
 
-    /// The whole number before `words` in the text of a source's modifications.
-    [[nodiscard]] std::ptrdiff_t told(std::size_t source, std::string_view words) const {
-        const std::string& text = m_release.sources.at(source).modifications;
-        const std::size_t end = text.find(words);
-        EXPECT_NE(end, std::string::npos) << words;
-        const std::size_t start = text.find_last_not_of("0123456789", end - 2) + 1;
-        return std::stol(text.substr(start, end - start));
+    /// The number behind `words` in the counts of a source's modifications; 0 where they are none.
+    [[nodiscard]] std::ptrdiff_t told(TableRole role, const std::string& words) const {
+        const std::string& text = source(role).modifications;
+        const std::size_t place = text.find(words + ": ");
+        if (place == std::string::npos) {
+            return 0;
+        }
+        std::string digits = text.substr(place + words.size() + 2);
+        digits.resize(digits.find_first_not_of("0123456789,"));
+        std::erase(digits, ',');
+        return std::stol(digits);
+    }
+
+    [[nodiscard]] std::ptrdiff_t recordsOf(TableRole role) const {
+        return std::ranges::count(
+            m_release.assets, source(role).id, &OpenMapRelease::Asset::sourceID);
+    }
+
+    /// How many facts with `label` a source reports.
+    [[nodiscard]] std::ptrdiff_t factsOf(TableRole role, std::string_view label) const {
+        std::ptrdiff_t count = 0;
+        for (const OpenMapRelease::Asset& asset : m_release.assets) {
+            count += std::ranges::count_if(asset.facts, [&](const OpenMapRelease::Fact& fact) {
+                return fact.sourceID == source(role).id && fact.label.starts_with(label);
+            });
+        }
+        return count;
     }
 
     OpenMapRelease m_release;
+    Description m_description;
 };
+
+using enum TableRole;
 
 TEST_F(PackagedRelease, PassesTheCheckWithTheBundledDigest) {
     const ToolOutcome outcome = runTool({"check", releaseFile(), "--sha256", bundledDigest()});
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
 }
 
-TEST_F(PackagedRelease, HoldsTheRecordsThatItsSourcesTellOf) {
-    EXPECT_EQ(recordsWithPrefix("NPRI-"), told(0, " rows became records"));
-    EXPECT_EQ(recordsWithPrefix("GHGRP-"), told(2, " became records of their own"));
-    EXPECT_EQ(recordsWithPrefix("GEM-P"),
-              told(3, " pipelines became records") + told(4, " pipelines became records"));
-    EXPECT_EQ(recordsWithPrefix("GEM-G"), told(5, " of them"));
+TEST_F(PackagedRelease, LeavesRoomForTheNextOne) {
+    EXPECT_LT(contentOf(releaseFile()).size(), 13'000'000U);
 }
 
-TEST_F(PackagedRelease, PlacesEachNpriRecordByTheListOrTheTable) {
-    std::map<std::string, std::ptrdiff_t> places;
-    for (const OpenMapRelease::Asset& asset : m_release.assets) {
-        for (const OpenMapRelease::Fact& fact : asset.facts) {
-            if (asset.id.starts_with("NPRI-") && fact.label == "Location basis") {
-                ++places[fact.sourceID];
-            }
+TEST_F(PackagedRelease, SaysWhatItsDescriptionSays) {
+    EXPECT_EQ(m_release.limitations, m_description.limitations);
+    EXPECT_EQ(m_release.coverageName, m_description.coverageName);
+    for (const TableRoleTraits& traits : tableRoles()) {
+        if (traits.citation == TableRoleTraits::Citation::source) {
+            const OpenMapRelease::Source& told = m_description.table(traits.role)->source;
+            EXPECT_EQ(source(traits.role).attribution, told.attribution) << traits.key;
+            EXPECT_EQ(source(traits.role).sourceURL, told.sourceURL) << traits.key;
         }
     }
-    EXPECT_EQ(places[m_release.sources[0].id], told(0, " records keep this table's position"));
-    EXPECT_EQ(places[m_release.sources[1].id], told(1, " records take theirs from here"));
+}
+
+TEST_F(PackagedRelease, HoldsTheRecordsThatItsSourcesTellOf) {
+    for (const TableRole role :
+         {npriFacilities, npriReports, oilPipelines, gasPipelines, terminals}) {
+        EXPECT_EQ(recordsOf(role), told(role, "rows as records, taken")) << traitsOf(role).key;
+        EXPECT_GT(recordsOf(role), 0);
+    }
+    EXPECT_EQ(recordsOf(ghgrpFacilities),
+              told(ghgrpFacilities, "rows as records of their own, taken"));
+}
+
+TEST_F(PackagedRelease, HoldsTheFactsThatItsSourcesTellOf) {
+    EXPECT_EQ(factsOf(npriReports, "Company in the report for "),
+              told(npriReports, "companies that differ from the facility table's, taken"));
+    EXPECT_EQ(factsOf(npriReports, "Name in the report for "),
+              told(npriReports, "names that differ from the facility table's, taken"));
+    EXPECT_EQ(factsOf(npriReportYears, "Industry code (NAICS)"),
+              told(npriReportYears, "industry codes of records without one, taken"));
+    EXPECT_EQ(factsOf(ghgrpTotals, "Total emissions"), told(ghgrpTotals, "totals, taken"));
+    EXPECT_EQ(factsOf(npriLocations, "Location basis"),
+              told(npriLocations, "positions of records, taken"));
+    EXPECT_EQ(factsOf(npriFacilities, "Location basis"),
+              told(npriFacilities, "records with this table's position, noted"));
+    EXPECT_EQ(factsOf(npriReports, "Location basis"),
+              told(npriReports, "records with this table's position, noted"));
+}
+
+TEST_F(PackagedRelease, TellsOfEachInventoryFacilityWhenItLastReported) {
+    for (const OpenMapRelease::Asset& asset : m_release.assets) {
+        const auto last = std::ranges::find(
+            asset.facts, "Last report to the inventory", &OpenMapRelease::Fact::label);
+        if (last != asset.facts.end()) {
+            EXPECT_TRUE(asset.status == "Reported for " + last->value ||
+                        asset.status == "Last reported for " + last->value)
+                << asset.id;
+            EXPECT_GE(last->value, asset.asOf) << asset.id;
+        } else if (asset.id.starts_with("NPRI-")) {
+            EXPECT_EQ(asset.status, "Reported for " + asset.asOf) << asset.id;
+        }
+    }
 }
 
 TEST_F(PackagedRelease, JoinsTheTwoFederalProgramsWithTheirOwnPeriods) {
     std::ptrdiff_t joined = 0;
-    std::set<std::string> records;
     for (const OpenMapRelease::Asset& asset : m_release.assets) {
         for (const OpenMapRelease::Fact& fact : asset.facts) {
-            if (asset.id.starts_with("NPRI-") && fact.label == "Total emissions") {
-                EXPECT_EQ(fact.sourceID, m_release.sources[2].id);
+            if (asset.id.starts_with("NPRI-") && fact.label.starts_with("Total emissions") &&
+                fact.sourceID == source(ghgrpFacilities).id) {
                 EXPECT_EQ(fact.asOf, "2021");
-                EXPECT_NE(asset.asOf, "2021");
                 ++joined;
-                records.insert(asset.id);
             }
         }
     }
-    EXPECT_EQ(joined, told(2, " facilities, whatever their industry"));
-    EXPECT_EQ(static_cast<std::ptrdiff_t>(records.size()), told(2, " NPRI records. "));
+    EXPECT_EQ(joined, told(ghgrpFacilities, "rows joined to an NPRI record, joined"));
+}
+
+TEST_F(PackagedRelease, ShowsNoTotalTwice) {
+    for (const OpenMapRelease::Asset& asset : m_release.assets) {
+        std::set<std::pair<std::string, std::string>> totals;
+        for (const OpenMapRelease::Fact& fact : asset.facts) {
+            if (fact.label.starts_with("Total emissions")) {
+                EXPECT_TRUE(totals.emplace(fact.label, fact.asOf).second) << asset.id;
+            }
+        }
+    }
+}
+
+TEST_F(PackagedRelease, HasACategoryForMostFacilities) {
+    std::map<std::string, std::size_t> kinds;
+    for (const OpenMapRelease::Asset& asset : m_release.assets) {
+        ++kinds[asset.kind];
+    }
+    EXPECT_FALSE(kinds.contains("other"));
+    EXPECT_LT(kinds["processing"] * 4, m_release.assets.size());
+    EXPECT_GT(kinds["compressor_station"], 1'000U);
+    EXPECT_GT(kinds["battery"], 1'000U);
 }
 
 TEST_F(PackagedRelease, DrawsExactlyThePipelinesAsLines) {
@@ -112,10 +199,12 @@ TEST_F(PackagedRelease, PlacesAPipelineOnOneOfItsVertices) {
 }
 
 TEST_F(PackagedRelease, HasNoFactThatSaysNothing) {
+    const std::set<std::string> nothing{"n/a", "N/A", "N/a", "na", "NA", "--", "-"};
     for (const OpenMapRelease::Asset& asset : m_release.assets) {
         for (const OpenMapRelease::Fact& fact : asset.facts) {
-            EXPECT_TRUE(fact.value != "n/a" && fact.value != "--" && !fact.value.starts_with(' '))
-                << asset.id << " " << fact.label;
+            EXPECT_FALSE(nothing.contains(fact.value)) << asset.id << " " << fact.label;
+            EXPECT_EQ(fact.value.find_first_of("\t\n\r"), std::string::npos) << asset.id;
+            EXPECT_FALSE(fact.value.starts_with(' ') || fact.value.ends_with(' ')) << asset.id;
         }
     }
 }

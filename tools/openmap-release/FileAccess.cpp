@@ -43,6 +43,24 @@ void writeAll(int descriptor, std::string_view bytes, const std::string& path) {
     }
 }
 
+std::string readAll(int descriptor, const std::string& path, std::size_t limit) {
+    constexpr std::size_t step = 1U << 20U;
+    std::string bytes;
+    while (bytes.size() < limit) {
+        const std::size_t start = bytes.size();
+        bytes.resize(start + std::min(step, limit - start));
+        const ssize_t count = ::read(descriptor, bytes.data() + start, bytes.size() - start);
+        if (count < 0 && errno != EINTR) {
+            throw FileError(path, errno);
+        }
+        bytes.resize(start + (count < 0 ? 0 : static_cast<std::size_t>(count)));
+        if (count == 0) {
+            break;
+        }
+    }
+    return bytes;
+}
+
 std::string resolved(const std::string& path) {
     std::error_code error;
     const std::filesystem::path target = std::filesystem::canonical(path, error);
@@ -165,25 +183,14 @@ FileError::FileError(const std::string& path, int errorNumber)
     : std::runtime_error(path + ": " + std::generic_category().message(errorNumber)) {}
 
 std::string readFile(const std::string& path, std::size_t limit) {
+    if (path == standardStream) {
+        return readAll(STDIN_FILENO, "standard input", limit);
+    }
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (file.number() < 0) {
         throw FileError(path, errno);
     }
-    constexpr std::size_t step = 1U << 20U;
-    std::string bytes;
-    while (bytes.size() < limit) {
-        const std::size_t start = bytes.size();
-        bytes.resize(start + std::min(step, limit - start));
-        const ssize_t count = ::read(file.number(), bytes.data() + start, bytes.size() - start);
-        if (count < 0 && errno != EINTR) {
-            throw FileError(path, errno);
-        }
-        bytes.resize(start + (count < 0 ? 0 : static_cast<std::size_t>(count)));
-        if (count == 0) {
-            break;
-        }
-    }
-    return bytes;
+    return readAll(file.number(), path, limit);
 }
 
 void writeFiles(std::span<const FileContent> files) {

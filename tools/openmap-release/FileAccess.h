@@ -15,7 +15,11 @@ class FileError final : public std::runtime_error {
     FileError(const std::string& path, int errorNumber);
 };
 
-/// The bytes of a file, or its first `limit` bytes where it is longer. Throws FileError.
+/// The path that stands for standard input or output.
+inline constexpr std::string_view standardStream = "-";
+
+/// The bytes of a file, or its first `limit` bytes where it is longer; of standard input where
+/// `path` is standardStream. Throws FileError.
 [[nodiscard]] std::string readFile(const std::string& path, std::size_t limit);
 
 struct FileContent {

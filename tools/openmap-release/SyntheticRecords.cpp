@@ -13,7 +13,7 @@
 namespace vasker {
 namespace {
 
-/// The mix of the packaged release: 119 pipelines among 4,830 records.
+/// About the mix of the packaged release, which has 119 pipelines among some thousand records.
 constexpr std::size_t recordsPerPipeline = 40;
 
 struct Dataset {

@@ -1,5 +1,9 @@
 // openmap-release: makes, checks and reads release files. Picks the command and prints its result.
-#include "tools/openmap-release/commands/Command.h"
+#include "tools/openmap-release/commands/CheckCommand.h"
+#include "tools/openmap-release/commands/KindsCommand.h"
+#include "tools/openmap-release/commands/ListCommand.h"
+#include "tools/openmap-release/commands/PackCommand.h"
+#include "tools/openmap-release/commands/SynthesizeCommand.h"
 
 #include <fcntl.h>
 #include <unistd.h>

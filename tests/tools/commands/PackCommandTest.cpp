@@ -1,6 +1,7 @@
 #include "data/Digest.h"
 #include "tests/support/ReleaseBuilder.h"
 #include "tests/tools/ToolRun.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <gtest/gtest.h>
 
@@ -24,16 +25,18 @@ class PackCommand : public testing::Test {
     [[nodiscard]] std::string output() const { return m_folder.path("out/OpenMap.json"); }
     [[nodiscard]] std::string information() const { return m_folder.path("out/Information.json"); }
 
-    [[nodiscard]] ToolOutcome pack() const {
-        return runTool({"pack",
-                        "--input",
-                        m_folder.path("in"),
-                        "--output",
-                        output(),
-                        "--information",
-                        information(),
-                        "--generated-at",
-                        time});
+    [[nodiscard]] ToolOutcome pack(const std::vector<std::string>& further = {}) const {
+        std::vector<std::string> words{"pack",
+                                       "--input",
+                                       m_folder.path("in"),
+                                       "--output",
+                                       output(),
+                                       "--information",
+                                       information(),
+                                       "--generated-at",
+                                       time};
+        words.insert(words.end(), further.begin(), further.end());
+        return runTool(words);
     }
 
     void change(const std::string& file, std::string_view from, std::string_view to) const {
@@ -94,43 +97,70 @@ TEST_F(PackCommand, MakesTheRecordsThatTheDatasetsTell) {
               contentOf(std::string(VASKER_FIXTURES) + "/records.txt"));
 }
 
-TEST_F(PackCommand, ReportsWhatItTookMergedAndDropped) {
+TEST_F(PackCommand, ReportsWhatItTookJoinedDroppedAndCorrected) {
     const ToolOutcome outcome = pack();
     EXPECT_EQ(outcome.errors, "");
     const std::string text = contentOf(output());
     EXPECT_EQ(outcome.output,
-              "taken        4  NPRI facilities\n"
-              "taken        2  GHGRP facilities as records of their own\n"
-              "taken        2  LNG terminal units\n"
-              "taken        1  oil and NGL pipelines\n"
-              "taken        1  gas pipelines\n"
-              "merged       3  GHGRP facilities into 2 NPRI records\n"
-              "dropped      1  NPRI facilities without a position: 104\n"
-              "dropped      1  GHGRP facilities of other industries\n"
-              "dropped      1  GHGRP facilities without a position: G20004\n"
-              "dropped      1  LNG terminal units without a position: G900003\n"
-              "dropped      1  oil and NGL pipelines without a geometry: P9002\n"
-              "dropped      1  oil and NGL pipelines with no vertex inside Canada: P9003\n"
-              "dropped      1  route files that no row names, oil and NGL pipelines: P9990\n"
-              "dropped      1  gas pipelines without a geometry: P9102\n"
-              "dropped      1  stray points among the lines of gas pipelines: P9101\n"
-              "dropped      1  lines of fewer than two vertices of gas pipelines: P9101\n"
-              "noted        1  gas pipelines whose third coordinate was left out: P9101\n"
-              "noted        2  NPRI records placed by the location list\n"
-              "noted        2  NPRI records placed by the facility table\n"
-              "noted        1  NPRI records with several GHGRP facilities: NPRI-105\n"
-              "noted        1  GHGRP facilities whose NPRI id changed, the most recent counts: "
-              "G20002\n"
-              "packed  10 records, " +
-                  std::to_string(text.size()) + " bytes, SHA-256 " + sha256(text) + "\n");
+              contentOf(std::string(VASKER_FIXTURES) + "/report.txt") + "packed  15 records, " +
+                  grouped(text.size()) + " bytes, SHA-256 " + sha256(text) + "\n");
+}
+
+TEST_F(PackCommand, TellsInEachSourceWhatItReports) {
+    const OpenMapRelease release = decoded(packedText());
+    ASSERT_EQ(release.sources.size(), 13U);
+    EXPECT_EQ(
+        release.sources[0].modifications,
+        "Selected. Counted in packing: cells with a tab, which became a blank, corrected: 1; "
+        "cities that name no place, such as \"na\", dropped: 1; rows without a position, "
+        "dropped: 1; rows as records, taken: 6; records with this table's position, noted: 4.");
+    EXPECT_EQ(
+        release.sources[1].modifications,
+        "Joined. Counted in packing: rows left out by hand (9999: invented twice), dropped: 1; "
+        "positions of records, taken: 2.");
 }
 
 TEST_F(PackCommand, DescribesTheRelease) {
     const OpenMapRelease release = decoded(packedText());
     EXPECT_EQ(release.releaseID, "canada-energy-2026-01");
     EXPECT_EQ(release.generatedAt, time);
-    EXPECT_EQ(release.sources.size(), 6U);
+    EXPECT_EQ(release.limitations, std::vector<std::string>{"Nothing here is real."});
     EXPECT_EQ(release.sources[0].id, sha256(contentOf(m_folder.path("in/npri_facilities.csv"))));
+    EXPECT_EQ(release.sources[0].publisher, "An inventory");
+}
+
+TEST_F(PackCommand, TakesTheDescriptionThatItIsGiven) {
+    std::filesystem::rename(m_folder.path("in/description.toml"), m_folder.path("other.toml"));
+    EXPECT_EQ(pack().status, 2);
+    EXPECT_EQ(pack({"--description", m_folder.path("other.toml")}).status, 0);
+}
+
+TEST_F(PackCommand, NamesTheLineOfAFaultInTheDescription) {
+    change("description.toml", "coverage =", "coverge =");
+    EXPECT_EQ(refusal(), "description.toml:3: coverge: unknown field, did you mean coverage?\n");
+}
+
+TEST_F(PackCommand, PacksWithoutTheTablesThatItCanDoWithout) {
+    const std::string whole = contentOf(m_folder.path("in/description.toml"));
+    const std::size_t first = whole.find("[table.npri-reports]");
+    const std::size_t second = whole.find("[table.ghgrp-facilities]");
+    const std::size_t third = whole.find("[table.ghgrp-totals]");
+    const std::size_t last = whole.find("[table.gem-oil-pipelines]");
+    static_cast<void>(m_folder.write("in/description.toml",
+                                     whole.substr(0, first) + whole.substr(second, third - second) +
+                                         whole.substr(last)));
+    const OpenMapRelease release = decoded(packedText());
+    EXPECT_EQ(release.assets[0].status, "Reported for 2016");
+    EXPECT_EQ(release.sources.size(), 6U);
+}
+
+TEST_F(PackCommand, WritesTheReleaseToStandardOutput) {
+    const std::string file = packedText();
+    const ToolOutcome outcome =
+        runTool({"pack", "--input", m_folder.path("in"), "--output", "-", "--generated-at", time});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, file);
+    EXPECT_TRUE(outcome.errors.starts_with("taken "));
 }
 
 TEST_F(PackCommand, WritesTheSameBytesAgain) {
@@ -152,7 +182,7 @@ TEST_F(PackCommand, DeclaresOnlySourcesThatAreCited) {
     const std::string table = contentOf(m_folder.path("in/gem_lng_terminals.csv"));
     static_cast<void>(
         m_folder.write("in/gem_lng_terminals.csv", table.substr(0, table.find('\n') + 1)));
-    EXPECT_EQ(decoded(packedText()).sources.size(), 5U);
+    EXPECT_EQ(decoded(packedText()).sources.size(), 12U);
 }
 
 TEST_F(PackCommand, FallsBackToTheTableWhereTheListSaysZero) {

@@ -1,4 +1,5 @@
-#include "tools/openmap-release/commands/Command.h"
+#include "tools/openmap-release/commands/CheckCommand.h"
+
 #include "tools/openmap-release/commands/PackagedRelease.h"
 
 #include <algorithm>

@@ -29,10 +29,4 @@ struct Command {
     CommandResult (*run)(const Arguments&);
 };
 
-[[nodiscard]] Command checkCommand();
-[[nodiscard]] Command listCommand();
-[[nodiscard]] Command kindsCommand();
-[[nodiscard]] Command packCommand();
-[[nodiscard]] Command synthesizeCommand();
-
 } // namespace vasker

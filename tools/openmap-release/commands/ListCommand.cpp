@@ -1,5 +1,6 @@
+#include "tools/openmap-release/commands/ListCommand.h"
+
 #include "data/Classification.h"
-#include "tools/openmap-release/commands/Command.h"
 #include "tools/openmap-release/commands/PackagedRelease.h"
 
 namespace vasker {

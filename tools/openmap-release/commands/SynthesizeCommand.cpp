@@ -1,6 +1,7 @@
+#include "tools/openmap-release/commands/SynthesizeCommand.h"
+
 #include "tools/openmap-release/FileAccess.h"
 #include "tools/openmap-release/Synthesis.h"
-#include "tools/openmap-release/commands/Command.h"
 
 #include <array>
 
@@ -15,7 +16,10 @@ CommandResult runSynthesize(const Arguments& arguments) {
                                    arguments.requiredNumber("--seed")};
     const std::string output = arguments.requiredValue("--output");
     try {
-        const std::string file = synthesizeFile(options);
+        std::string file = synthesizeFile(options);
+        if (output == standardStream) {
+            return {ExitStatus::ok, std::move(file), ""};
+        }
         writeFiles(std::array{FileContent{output, file}});
     } catch (const ImpossibleSynthesis& impossible) {
         throw UsageError(impossible.what());
@@ -37,7 +41,7 @@ Command synthesizeCommand() {
         "  --route-points M  the points of all lines together: 0, or 2 to 300000\n"
         "  --bytes B         the length of the file, at most 15000000; 0: as it comes\n"
         "  --seed S          which of the many releases of this size\n"
-        "  --output FILE     the file to write\n"
+        "  --output FILE     the file to write; \"-\": standard output\n"
         "\n"
         "Exit status: 0 done, 2 wrong usage, impossible numbers or unwritable file.\n",
         {{"--records"}, {"--route-points"}, {"--bytes"}, {"--seed"}, {"--output"}},

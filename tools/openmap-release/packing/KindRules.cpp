@@ -1,87 +1,99 @@
 #include "tools/openmap-release/packing/KindRules.h"
 
 #include <algorithm>
+#include <span>
 
 namespace vasker {
 namespace {
 
-constexpr std::string_view mining = "211142";
-constexpr std::string_view insitu = "211141";
-constexpr std::string_view refining = "324110";
-constexpr std::string_view pipelineTransport = "486";
-constexpr std::string_view pipelinesAndStorage = "9";
-constexpr std::string_view unconventionalOil = "10";
+bool isDigit(char byte) {
+    return byte >= '0' && byte <= '9';
+}
 
-/// " fort hills oil sands ": lower case, one blank around each word.
-std::string separatedWords(std::string_view text) {
-    std::string words = " ";
+enum class Hash { separates, belongsToItsWord };
+
+/// The words of `text` in lower case.
+std::vector<std::string> wordsOf(std::string_view text, Hash hash) {
+    std::vector<std::string> words;
+    bool isInWord = false;
     for (const char byte : text) {
         const bool isUpper = byte >= 'A' && byte <= 'Z';
-        const bool isLower = byte >= 'a' && byte <= 'z';
-        const bool isDigit = byte >= '0' && byte <= '9';
-        const bool isBeyondAscii = (static_cast<unsigned char>(byte) & 0x80U) != 0;
-        if (isUpper) {
-            words += static_cast<char>(byte - 'A' + 'a');
-        } else if (isLower || isDigit || isBeyondAscii) {
-            words += byte;
-        } else if (words.back() != ' ') {
-            words += ' ';
+        const bool isOther = (byte >= 'a' && byte <= 'z') || isDigit(byte) ||
+                             (byte == '#' && hash == Hash::belongsToItsWord) ||
+                             (static_cast<unsigned char>(byte) & 0x80U) != 0;
+        if (!isUpper && !isOther) {
+            isInWord = false;
+            continue;
         }
-    }
-    if (words.back() != ' ') {
-        words += ' ';
+        if (!isInWord) {
+            words.emplace_back();
+            isInWord = true;
+        }
+        words.back() += isUpper ? static_cast<char>(byte - 'A' + 'a') : byte;
     }
     return words;
 }
 
-bool applies(const KindRule& rule, const FacilityTraits& traits) {
+bool matches(std::string_view word, std::string_view pattern) {
+    if (!pattern.ends_with('#')) {
+        return word == pattern;
+    }
+    pattern.remove_suffix(1);
+    return word.starts_with(pattern) && std::ranges::any_of(word.substr(pattern.size()), isDigit);
+}
+
+bool applies(const KindRule& rule,
+             const FacilityTraits& traits,
+             std::span<const std::string_view> names) {
     const auto isOfIndustry = [&](std::string_view code) { return code.starts_with(rule.naics); };
-    const auto isNamed = [&](std::string_view words) { return containsWords(traits.name, words); };
+    const auto isNamed = [&](const std::string& words) {
+        return std::ranges::any_of(
+            names, [&](std::string_view name) { return containsWords(name, words); });
+    };
+    const bool isOfType = traits.petrinex.size() == 1 && traits.petrinex.front() == rule.petrinex;
     return (rule.naics.empty() || std::ranges::any_of(traits.naics, isOfIndustry)) &&
            (rule.sector.empty() || rule.sector == traits.sector) &&
+           (rule.petrinex.empty() || isOfType) &&
            (rule.words.empty() || std::ranges::any_of(rule.words, isNamed));
 }
 
 } // namespace
 
-std::span<const KindRule> kindRules() {
-    static const std::vector<KindRule> rules{
-        {"oil_sands_plant", mining, "", {}},
-        {"oil_sands_insitu", insitu, "", {}},
-        {"refinery", refining, "", {}},
-        {"lng_plant", "", "", {"LNG"}},
-        {"straddle_plant", "", "", {"Straddle"}},
-        {"fractionation", "", "", {"Fractionation"}},
-        {"oil_sands_insitu", "", unconventionalOil, {"SAGD", "In Situ", "Thermal"}},
-        {"oil_sands_plant", "", unconventionalOil, {"Mine", "Upgrader", "Oil Sands"}},
-        {"gas_plant", "", "", {"Gas Plant", "Gas Processing Plant"}},
-        {"refinery", "", "", {"Refinery", "Raffinerie"}},
-        {"terminal", "", "", {"Terminal"}},
-        {"storage", "", "", {"Storage"}},
-        {"other",
-         "",
-         "",
-         {"Compressor",
-          "Comp Station",
-          "Pump Station",
-          "Pumping Station",
-          "Meter Station",
-          "Metering Station"}},
-        {"other", "", pipelinesAndStorage, {"Station"}},
-        {"other", pipelineTransport, "", {}},
-        {"processing", "", "", {}},
-    };
-    return rules;
+const KindRule* KindRules::rule(std::size_t number) const {
+    for (const std::vector<KindRule>* list : {&codes, &names, &rest}) {
+        if (number >= 1 && number <= list->size()) {
+            return &(*list)[number - 1];
+        }
+        number -= std::min(number, list->size());
+    }
+    return nullptr;
 }
 
-std::string_view facilityKind(const FacilityTraits& traits) {
-    const std::span<const KindRule> rules = kindRules();
-    return std::ranges::find_if(rules, [&](const KindRule& rule) { return applies(rule, traits); })
-        ->kind;
+std::size_t KindRules::find(const FacilityTraits& traits) const {
+    const auto place = [&](const std::vector<KindRule>& list,
+                           std::span<const std::string_view> asked) -> std::size_t {
+        const auto found = std::ranges::find_if(
+            list, [&](const KindRule& rule) { return applies(rule, traits, asked); });
+        return found == list.end() ? 0 : static_cast<std::size_t>(found - list.begin()) + 1;
+    };
+    if (const std::size_t number = place(codes, traits.names)) {
+        return number;
+    }
+    for (const std::string_view& name : traits.names) {
+        if (const std::size_t number = place(names, std::span(&name, 1))) {
+            return codes.size() + number;
+        }
+    }
+    const std::size_t number = place(rest, traits.names);
+    return number == 0 ? 0 : codes.size() + names.size() + number;
 }
 
 bool containsWords(std::string_view name, std::string_view phrase) {
-    return separatedWords(name).find(separatedWords(phrase)) != std::string::npos;
+    const std::vector<std::string> words = wordsOf(name, Hash::separates);
+    const std::vector<std::string> patterns = wordsOf(phrase, Hash::belongsToItsWord);
+    return std::search(words.begin(), words.end(), patterns.begin(), patterns.end(), matches) !=
+               words.end() ||
+           patterns.empty();
 }
 
 } // namespace vasker

@@ -1,6 +1,7 @@
+#include "tools/openmap-release/packing/PackInput.h"
+
 #include "tools/openmap-release/FileAccess.h"
-#include "tools/openmap-release/packing/Datasets.h"
-#include "tools/openmap-release/packing/Packing.h"
+#include "tools/openmap-release/packing/tables/InputError.h"
 
 #include <filesystem>
 #include <system_error>
@@ -8,8 +9,17 @@
 namespace vasker {
 namespace {
 
-// Far above any of these datasets; keeps a wrong path (a device, a dump) from filling the memory.
-constexpr std::size_t largestInput = 512U << 20U;
+// Far above any of these files; keeps a wrong path (a device, a dump) from filling the memory.
+constexpr std::size_t largestInput = 64U << 20U;
+constexpr std::size_t largestDescription = 1U << 20U;
+
+std::string readBounded(const std::string& path, std::size_t limit) {
+    std::string bytes = readFile(path, limit + 1);
+    if (bytes.size() > limit) {
+        throw InputError(path, "larger than " + std::to_string(limit >> 20U) + " MiB");
+    }
+    return bytes;
+}
 
 std::map<std::string, std::string, std::less<>> readRoutes(const std::string& folder) {
     std::error_code error;
@@ -21,7 +31,7 @@ std::map<std::string, std::string, std::less<>> readRoutes(const std::string& fo
     for (const std::filesystem::directory_entry& entry : entries) {
         const std::filesystem::path& path = entry.path();
         if (path.extension() == ".geojson") {
-            routes.emplace(path.stem().string(), readFile(path.string(), largestInput));
+            routes.emplace(path.stem().string(), readBounded(path.string(), largestInput));
         }
     }
     return routes;
@@ -29,20 +39,16 @@ std::map<std::string, std::string, std::less<>> readRoutes(const std::string& fo
 
 } // namespace
 
-PackInput readPackInput(const std::string& path) {
-    const auto inFolder = [&](std::string_view file) { return path + "/" + std::string(file); };
-    const auto read = [&](std::string_view file) { return readFile(inFolder(file), largestInput); };
+PackInput readPackInput(const std::string& folder, const std::string& description) {
     PackInput input;
-    input.npriFacilities = read(inputfile::npriFacilities);
-    input.npriLocations = read(inputfile::npriLocations);
-    input.ghgrpFacilities = read(inputfile::ghgrpFacilities);
-    input.ghgrpHistory = read(inputfile::ghgrpHistory);
-    input.oilPipelines = read(inputfile::oilPipelines);
-    input.gasPipelines = read(inputfile::gasPipelines);
-    input.terminals = read(inputfile::terminals);
-    input.routeIndex = read(inputfile::routeIndex);
-    input.oilRoutes = readRoutes(inFolder(inputfile::oilRoutes));
-    input.gasRoutes = readRoutes(inFolder(inputfile::gasRoutes));
+    input.description = readDescription(std::filesystem::path(description).filename().string(),
+                                        readBounded(description, largestDescription));
+    for (const auto& [role, table] : input.description.tables) {
+        input.tables.emplace(role, readBounded(folder + "/" + table.file, largestInput));
+        if (!table.routes.empty()) {
+            input.routes.emplace(role, readRoutes(folder + "/" + table.routes));
+        }
+    }
     return input;
 }
 

@@ -1,80 +1,108 @@
 #include "tools/openmap-release/packing/PackTally.h"
 
+#include "tools/openmap-release/packing/tables/Cells.h"
+
 #include <algorithm>
-#include <string_view>
+#include <tuple>
 
 namespace vasker {
 namespace {
 
 constexpr std::size_t fewIds = 40;
 
-class Report {
-  public:
-    void add(std::string_view what, std::size_t count, std::string_view things) {
-        if (count == 0) {
-            return;
-        }
-        std::string number = std::to_string(count);
-        number.insert(0, number.size() < 6 ? 6 - number.size() : 0, ' ');
-        std::string verb(what);
-        verb.resize(8, ' ');
-        m_text += verb + number + "  " + std::string(things) + "\n";
+std::string_view nameOf(PackStep step) {
+    switch (step) {
+    case PackStep::taken:
+        return "taken";
+    case PackStep::joined:
+        return "joined";
+    case PackStep::dropped:
+        return "dropped";
+    case PackStep::corrected:
+        return "corrected";
+    case PackStep::noted:
+        return "noted";
     }
+    return "";
+}
 
-    void
-    add(std::string_view what, const std::vector<std::string>& ids, const std::string& things) {
-        if (ids.size() > fewIds) {
-            add(what, ids.size(), things);
-            return;
-        }
-        std::string list;
-        for (const std::string& id : ids) {
-            list += (list.empty() ? ": " : ", ") + id;
-        }
-        add(what, ids.size(), things + list);
-    }
+std::size_t placeOf(TableRole table) {
+    return static_cast<std::size_t>(&traitsOf(table) - tableRoles().data());
+}
 
-    void addPipelines(const PackTally::Pipelines& pipelines, const std::string& which) {
-        add("dropped", pipelines.withoutGeometry, which + " without a geometry");
-        add("dropped", pipelines.outsideCanada, which + " with no vertex inside Canada");
-        add("dropped", pipelines.withStrayPoints, "stray points among the lines of " + which);
-        add("dropped", pipelines.withLoneVertex, "lines of fewer than two vertices of " + which);
-        add("dropped", pipelines.unknownRoutes, "route files that no row names, " + which);
-        add("noted", pipelines.withThirdCoordinate, which + " whose third coordinate was left out");
-    }
-
-    [[nodiscard]] std::string take() && { return std::move(m_text); }
-
-  private:
-    std::string m_text;
-};
+void pad(std::string& text, std::size_t width) {
+    text.resize(std::max(text.size() + 1, width), ' ');
+}
 
 } // namespace
 
-std::string reportText(const PackTally& tally) {
-    Report report;
-    report.add("taken", tally.npri.taken, "NPRI facilities");
-    report.add("taken", tally.ghgrp.taken, "GHGRP facilities as records of their own");
-    report.add("taken", tally.terminals.taken, "LNG terminal units");
-    report.add("taken", tally.oil.taken, "oil and NGL pipelines");
-    report.add("taken", tally.gas.taken, "gas pipelines");
-    report.add("merged",
-               tally.ghgrpMerged.size(),
-               "GHGRP facilities into " + std::to_string(tally.npriRecordsWithGhgrp) +
-                   " NPRI records");
-    report.add("dropped", tally.npri.withoutPosition, "NPRI facilities without a position");
-    report.add("dropped", tally.ghgrpOtherIndustries, "GHGRP facilities of other industries");
-    report.add("dropped", tally.ghgrp.withoutPosition, "GHGRP facilities without a position");
-    report.add("dropped", tally.terminals.withoutPosition, "LNG terminal units without a position");
-    report.addPipelines(tally.oil, "oil and NGL pipelines");
-    report.addPipelines(tally.gas, "gas pipelines");
-    report.add("noted", tally.npriListPositions, "NPRI records placed by the location list");
-    report.add("noted", tally.npriTablePositions, "NPRI records placed by the facility table");
-    report.add("noted", tally.npriWithSeveralGhgrp, "NPRI records with several GHGRP facilities");
-    report.add("noted",
-               tally.changedLinks,
-               "GHGRP facilities whose NPRI id changed, the most recent counts");
-    return std::move(report).take();
+void PackTally::add(TableRole table, PackStep step, std::string_view things, std::string id) {
+    Entry& counted = entry(table, step, things);
+    ++counted.count;
+    counted.ids.push_back(std::move(id));
+}
+
+void PackTally::add(TableRole table, PackStep step, std::string_view things, std::size_t number) {
+    if (number > 0) {
+        entry(table, step, things).count += number;
+    }
+}
+
+std::string PackTally::report() const {
+    std::vector<const Entry*> sorted;
+    for (const Entry& counted : m_entries) {
+        sorted.push_back(&counted);
+    }
+    std::ranges::stable_sort(sorted, {}, [](const Entry* counted) {
+        return std::tuple(counted->step, placeOf(counted->table));
+    });
+    std::string text;
+    for (const Entry* counted : sorted) {
+        std::string line(nameOf(counted->step));
+        const std::string number = grouped(counted->count);
+        pad(line, std::max<std::size_t>(17 - number.size(), 10));
+        line += number + "  " + std::string(traitsOf(counted->table).key);
+        pad(line, 37);
+        line += counted->things;
+        if (counted->ids.size() == counted->count && counted->count <= fewIds) {
+            std::string_view separator = ": ";
+            for (const std::string& id : counted->ids) {
+                line += std::string(separator) + id;
+                separator = ", ";
+            }
+        }
+        text += line + "\n";
+    }
+    return text;
+}
+
+std::string PackTally::summary(TableRole table) const {
+    std::string text;
+    for (const Entry& counted : m_entries) {
+        if (counted.table == table) {
+            text += (text.empty() ? "Counted in packing: " : "; ") + counted.things + ", " +
+                    std::string(nameOf(counted.step)) + ": " + grouped(counted.count);
+        }
+    }
+    return text.empty() ? text : text + ".";
+}
+
+std::size_t
+PackTally::count(TableRole table, PackStep step, std::string_view things) const noexcept {
+    const auto found = std::ranges::find_if(m_entries, [&](const Entry& counted) {
+        return counted.table == table && counted.step == step && counted.things == things;
+    });
+    return found == m_entries.end() ? 0 : found->count;
+}
+
+PackTally::Entry& PackTally::entry(TableRole table, PackStep step, std::string_view things) {
+    const auto found = std::ranges::find_if(m_entries, [&](const Entry& counted) {
+        return counted.table == table && counted.step == step && counted.things == things;
+    });
+    if (found != m_entries.end()) {
+        return *found;
+    }
+    return m_entries.emplace_back(Entry{table, step, std::string(things), 0, {}});
 }
 
 } // namespace vasker

@@ -1,230 +1,128 @@
 #include "tools/openmap-release/packing/Packing.h"
 
 #include "data/Digest.h"
-#include "tools/openmap-release/packing/RecordAssembly.h"
+#include "tools/openmap-release/packing/FacilityCompilation.h"
+#include "tools/openmap-release/packing/GemRecords.h"
+#include "tools/openmap-release/packing/PackTables.h"
+#include "tools/openmap-release/packing/tables/RowReader.h"
 
-#include <algorithm>
 #include <set>
 #include <utility>
 
 namespace vasker {
 namespace {
 
-CsvTable table(std::string_view file, const std::string& bytes) {
-    return {std::string(file), bytes};
+using enum PackStep;
+
+std::set<std::string, std::less<>> routesInsideCanada(const CsvTable& index) {
+    index.requireColumns({"ProjectID", "vertices_inside_Canada_incl_EEZ"});
+    std::set<std::string, std::less<>> ids;
+    for (const CsvTable::Row& cells : index.rows()) {
+        const RowReader row(index, cells);
+        const std::string vertices = row.requiredDigits("vertices_inside_Canada_incl_EEZ");
+        if (vertices.find_first_not_of('0') != std::string::npos) {
+            ids.insert(row.requiredText("ProjectID"));
+        }
+    }
+    return ids;
 }
 
-SourceIds sourceIds(const PackInput& input) {
-    return {sha256(input.npriFacilities),
-            sha256(input.npriLocations),
-            sha256(input.ghgrpFacilities),
-            sha256(input.oilPipelines),
-            sha256(input.gasPipelines),
-            sha256(input.terminals)};
+/// What of a route file is left out.
+void note(const std::string& id, const RouteFile& file, TableRole table, PackTally& tally) {
+    for (std::size_t point = 0; point < file.strayPoints; ++point) {
+        tally.add(table, dropped, "stray points among lines", id);
+    }
+    for (std::size_t line = 0; line < file.loneVertices; ++line) {
+        tally.add(table, dropped, "lines of fewer than two vertices", id);
+    }
+    if (file.thirdCoordinates > 0) {
+        tally.add(table, corrected, "pipelines whose third coordinate was left out", id);
+    }
 }
-
-using FacilitiesByNpriId = std::map<std::string, std::vector<const GhgrpFacility*>, std::less<>>;
 
 /// Puts the tables together, one after the other; what happens to each row is counted.
 class Compilation {
   public:
-    explicit Compilation(const PackInput& input) : m_input(input), m_ids(sourceIds(input)) {}
+    explicit Compilation(const PackInput& input)
+        : m_input(input), m_tables(input, m_packed.tally), m_citations(m_tables.citations()) {}
 
     Packed run(const std::string& generatedAt) {
         addFacilities();
         addTerminals();
-        addPipelines(readOilPipelines(table(inputfile::oilPipelines, m_input.oilPipelines)),
-                     {m_input.oilRoutes,
-                      inputfile::oilRoutes,
-                      m_ids.oilPipelines,
-                      period::oilPipelines,
-                      m_packed.tally.oil});
-        addPipelines(readGasPipelines(table(inputfile::gasPipelines, m_input.gasPipelines)),
-                     {m_input.gasRoutes,
-                      inputfile::gasRoutes,
-                      m_ids.gasPipelines,
-                      period::gasPipelines,
-                      m_packed.tally.gas});
+        addPipelines(TableRole::oilPipelines, readOilPipelines);
+        addPipelines(TableRole::gasPipelines, readGasPipelines);
         describe(generatedAt);
         return std::move(m_packed);
     }
 
   private:
-    struct PipelineInput {
-        const std::map<std::string, std::string, std::less<>>& routes;
-        std::string_view folder;
-        const std::string& sourceID;
-        std::string_view period;
-        PackTally::Pipelines& tally;
-    };
+    using PipelineReader = std::vector<GemPipeline> (*)(const CsvTable&);
 
     void addFacilities() {
-        const auto npri =
-            readNpriFacilities(table(inputfile::npriFacilities, m_input.npriFacilities));
-        const auto ghgrp =
-            readGhgrpFacilities(table(inputfile::ghgrpFacilities, m_input.ghgrpFacilities));
-        const FacilitiesByNpriId same = facilitiesByNpriId(placed(npri), ghgrp);
-        addNpri(npri, same);
-        addGhgrp(ghgrp);
-    }
-
-    /// The NPRI facilities with their places; one without is counted and left out.
-    std::map<std::string, NpriPlacement, std::less<>>&
-    placed(const std::vector<NpriFacility>& facilities) {
-        const auto list = readNpriLocations(table(inputfile::npriLocations, m_input.npriLocations));
-        for (const NpriFacility& facility : facilities) {
-            using Basis = NpriPlacement::Basis;
-            if (const auto listed = list.find(facility.id); listed != list.end()) {
-                m_placements.emplace(facility.id,
-                                     NpriPlacement{listed->second, Basis::locationList});
-                ++m_packed.tally.npriListPositions;
-            } else if (facility.position) {
-                m_placements.emplace(facility.id,
-                                     NpriPlacement{*facility.position, Basis::facilityTable});
-                ++m_packed.tally.npriTablePositions;
-            } else {
-                m_packed.tally.npri.withoutPosition.push_back(facility.id);
-            }
-        }
-        return m_placements;
-    }
-
-    /// Which GHGRP facilities are an NPRI record that we hold, in the order of their table.
-    FacilitiesByNpriId
-    facilitiesByNpriId(const std::map<std::string, NpriPlacement, std::less<>>& held,
-                       const std::vector<GhgrpFacility>& facilities) {
-        const auto links = readFacilityLinks(table(inputfile::ghgrpHistory, m_input.ghgrpHistory));
-        PackTally& tally = m_packed.tally;
-        FacilitiesByNpriId same;
-        for (const GhgrpFacility& facility : facilities) {
-            const auto link = links.find(facility.id);
-            if (link == links.end() || !held.contains(link->second.npriId)) {
-                continue;
-            }
-            same[link->second.npriId].push_back(&facility);
-            m_merged.insert(facility.id);
-            tally.ghgrpMerged.push_back(facility.id);
-            if (link->second.hasChanged) {
-                tally.changedLinks.push_back(facility.id);
-            }
-        }
-        tally.npriRecordsWithGhgrp = same.size();
-        for (const auto& [id, several] : same) {
-            if (several.size() > 1) {
-                tally.npriWithSeveralGhgrp.push_back("NPRI-" + id);
-            }
-        }
-        return same;
-    }
-
-    void addNpri(const std::vector<NpriFacility>& facilities, const FacilitiesByNpriId& same) {
-        for (const NpriFacility& facility : facilities) {
-            const auto placement = m_placements.find(facility.id);
-            if (placement == m_placements.end()) {
-                continue;
-            }
-            const auto others = same.find(facility.id);
-            m_packed.release.assets.push_back(npriRecord(
-                facility,
-                placement->second,
-                others == same.end() ? std::span<const GhgrpFacility* const>() : others->second,
-                m_ids));
-            ++m_packed.tally.npri.taken;
-        }
-    }
-
-    void addGhgrp(const std::vector<GhgrpFacility>& facilities) {
-        PackTally& tally = m_packed.tally;
-        for (const GhgrpFacility& facility : facilities) {
-            if (m_merged.contains(facility.id)) {
-                continue;
-            }
-            if (!isEnergyIndustry(facility.naics)) {
-                ++tally.ghgrpOtherIndustries;
-            } else if (!facility.position) {
-                tally.ghgrp.withoutPosition.push_back(facility.id);
-            } else {
-                m_packed.release.assets.push_back(ghgrpRecord(facility, m_ids));
-                ++tally.ghgrp.taken;
-            }
-        }
+        FacilityCompilation facilities(m_input.description, m_tables, m_citations, m_packed.tally);
+        m_packed.release.assets = facilities.records();
+        m_packed.recordsByRule = facilities.recordsByRule();
     }
 
     void addTerminals() {
-        PackTally::Facilities& tally = m_packed.tally.terminals;
-        for (const GemTerminal& terminal :
-             readTerminals(table(inputfile::terminals, m_input.terminals))) {
+        for (const GemTerminal& terminal : readTerminals(*m_tables.find(TableRole::terminals))) {
             if (!terminal.position) {
-                tally.withoutPosition.push_back(terminal.id);
+                m_packed.tally.add(
+                    TableRole::terminals, dropped, "rows without a position", terminal.id);
                 continue;
             }
-            m_packed.release.assets.push_back(terminalRecord(terminal, m_ids));
-            ++tally.taken;
+            m_packed.release.assets.push_back(terminalRecord(terminal, m_citations));
+            m_packed.tally.add(TableRole::terminals, taken, "rows as records");
         }
     }
 
-    void addPipelines(const std::vector<GemPipeline>& pipelines, const PipelineInput& input) {
-        const auto insideCanada = routesInsideCanada();
+    void addPipelines(TableRole table, PipelineReader read) {
+        const auto insideCanada = routesInsideCanada(*m_tables.find(TableRole::routeIndex));
+        PackTally& tally = m_packed.tally;
         std::set<std::string, std::less<>> known;
-        for (const GemPipeline& pipeline : pipelines) {
+        for (const GemPipeline& pipeline : read(*m_tables.find(table))) {
             known.insert(pipeline.id);
-            RouteFile file = routesOf(pipeline.id, input);
+            RouteFile file = routesOf(pipeline.id, table);
             if (file.routes.empty()) {
-                input.tally.withoutGeometry.push_back(pipeline.id);
+                tally.add(table, dropped, "rows without a geometry", pipeline.id);
             } else if (!insideCanada.contains(pipeline.id)) {
-                input.tally.outsideCanada.push_back(pipeline.id);
+                tally.add(table, dropped, "rows with no vertex inside Canada", pipeline.id);
             } else {
-                note(pipeline.id, file, input.tally);
+                note(pipeline.id, file, table, tally);
                 m_packed.release.assets.push_back(
-                    pipelineRecord(pipeline, std::move(file), input.sourceID, input.period));
-                ++input.tally.taken;
+                    pipelineRecord(pipeline,
+                                   std::move(file),
+                                   table,
+                                   m_input.description.table(table)->routesPeriod,
+                                   m_citations));
+                tally.add(table, taken, "rows as records");
             }
         }
-        for (const auto& [id, json] : input.routes) {
+        for (const auto& [id, json] : m_input.routes.at(table)) {
             if (!known.contains(id)) {
-                input.tally.unknownRoutes.push_back(id);
+                tally.add(table, dropped, "route files that no row names", id);
             }
         }
     }
 
-    static RouteFile routesOf(const std::string& id, const PipelineInput& input) {
-        const auto found = input.routes.find(id);
-        if (found == input.routes.end()) {
+    [[nodiscard]] RouteFile routesOf(const std::string& id, TableRole table) const {
+        const auto& files = m_input.routes.at(table);
+        const auto found = files.find(id);
+        if (found == files.end()) {
             return {};
         }
-        return readRouteFile(std::string(input.folder) + "/" + id + ".geojson", found->second);
-    }
-
-    static void note(const std::string& id, const RouteFile& file, PackTally::Pipelines& tally) {
-        tally.withStrayPoints.insert(tally.withStrayPoints.end(), file.strayPoints, id);
-        tally.withLoneVertex.insert(tally.withLoneVertex.end(), file.loneVertices, id);
-        if (file.thirdCoordinates > 0) {
-            tally.withThirdCoordinate.push_back(id);
-        }
-    }
-
-    /// The project ids whose geometry has at least one vertex inside Canada.
-    [[nodiscard]] std::set<std::string, std::less<>> routesInsideCanada() const {
-        const CsvTable index = table(inputfile::routeIndex, m_input.routeIndex);
-        index.requireColumns({"ProjectID", "vertices_inside_Canada_incl_EEZ"});
-        std::set<std::string, std::less<>> ids;
-        for (const CsvTable::Row& cells : index.rows()) {
-            const RowReader row(index, cells);
-            const std::string vertices = row.requiredDigits("vertices_inside_Canada_incl_EEZ");
-            if (vertices.find_first_not_of('0') != std::string::npos) {
-                ids.insert(row.requiredText("ProjectID"));
-            }
-        }
-        return ids;
+        const std::string& folder = m_input.description.table(table)->routes;
+        return readRouteFile(folder + "/" + id + ".geojson", found->second);
     }
 
     /// The release's own fields; of the sources those that a record or a fact cites.
     void describe(const std::string& generatedAt) {
         OpenMapRelease& release = m_packed.release;
-        release.releaseID = "canada-energy-" + generatedAt.substr(0, 7);
+        const Description& description = m_input.description;
+        release.releaseID = description.releaseID + "-" + generatedAt.substr(0, 7);
         release.generatedAt = generatedAt;
-        release.coverageName = coverageName;
-        release.limitations = limitations();
+        release.coverageName = description.coverageName;
+        release.limitations = description.limitations;
         std::set<std::string, std::less<>> cited;
         for (const OpenMapRelease::Asset& asset : release.assets) {
             cited.insert(asset.sourceID);
@@ -232,17 +130,23 @@ class Compilation {
                 cited.insert(fact.sourceID);
             }
         }
-        release.sources = sources(m_ids, m_packed.tally);
-        std::erase_if(release.sources, [&](const OpenMapRelease::Source& source) {
-            return !cited.contains(source.id);
-        });
+        for (const TableRoleTraits& traits : tableRoles()) {
+            const auto citation = m_citations.find(traits.role);
+            if (citation == m_citations.end() || !cited.contains(citation->second.sourceID)) {
+                continue;
+            }
+            OpenMapRelease::Source source = description.table(traits.role)->source;
+            source.id = citation->second.sourceID;
+            const std::string counted = m_packed.tally.summary(traits.role);
+            source.modifications += counted.empty() ? "" : " " + counted;
+            release.sources.push_back(std::move(source));
+        }
     }
 
     const PackInput& m_input;
-    SourceIds m_ids;
-    std::map<std::string, NpriPlacement, std::less<>> m_placements;
-    std::set<std::string, std::less<>> m_merged;
     Packed m_packed;
+    PackTables m_tables;
+    Citations m_citations;
 };
 
 } // namespace

@@ -1,36 +1,22 @@
 #pragma once
-// From the bytes of the dataset files to a release: which rows become records, which are joined,
-// which are left out. docs/data.md tells the rules to people.
+// From the tables to a release: which rows become records, which are joined, which are left out.
+// docs/data.md tells the rules to people.
 
 #include "data/OpenMapRelease.h"
+#include "tools/openmap-release/packing/PackInput.h"
 #include "tools/openmap-release/packing/PackTally.h"
 
-#include <map>
+#include <cstddef>
 #include <string>
-#include <string_view>
+#include <vector>
 
 namespace vasker {
-
-/// The dataset files as they were read.
-struct PackInput {
-    std::string npriFacilities;
-    std::string npriLocations;
-    std::string ghgrpFacilities;
-    std::string ghgrpHistory;
-    std::string oilPipelines;
-    std::string gasPipelines;
-    std::string terminals;
-    std::string routeIndex;
-    std::map<std::string, std::string, std::less<>> oilRoutes; ///< GeoJSON by project id
-    std::map<std::string, std::string, std::less<>> gasRoutes; ///< GeoJSON by project id
-};
-
-/// The files of the folder `path`. Throws FileError for one that cannot be read.
-[[nodiscard]] PackInput readPackInput(const std::string& path);
 
 struct Packed {
     OpenMapRelease release;
     PackTally tally;
+    /// How many facilities each rule of the categories took; the first element is rule 1.
+    std::vector<std::size_t> recordsByRule;
 };
 
 /// The same input and time give the same release. `generatedAt` is an internet date-time.

@@ -29,21 +29,21 @@ TEST(Cells, NumbersAreGroupedByThousands) {
     }
 }
 
-TEST(Cells, APositionNeedsBothCoordinatesAndIsNotZeroZero) {
-    const CsvTable table("t.csv", "lat,lon\n50,-110\n0,0\n,-110\n0,-110\n");
-    const auto position = [&](std::size_t row) {
-        return RowReader(table, table.rows()[row]).position("lat", "lon");
-    };
-    EXPECT_EQ(position(0), (OpenMapRelease::Position{-110, 50}));
-    EXPECT_EQ(position(1), std::nullopt);
-    EXPECT_EQ(position(2), std::nullopt);
-    EXPECT_EQ(position(3), (OpenMapRelease::Position{-110, 0}));
+TEST(Cells, WordsForNoPlaceNameNone) {
+    for (const std::string_view cell : {"na", "NA", "N/a", "n/a", "-", "None", "UNKNOWN", " "}) {
+        EXPECT_EQ(placeName(cell), std::nullopt) << cell;
+    }
+    EXPECT_EQ(placeName(" Nakina "), "Nakina");
+    EXPECT_EQ(placeName("Na-Na"), "Na-Na");
 }
 
-TEST(Cells, JoinedPartsDoNotRepeat) {
-    const CsvTable table("t.csv", "a,b,c\nQuebec,Quebec,Canada\n,,\n");
-    EXPECT_EQ(RowReader(table, table.rows()[0]).joined({"a", "b", "c"}), "Quebec, Canada");
-    EXPECT_EQ(RowReader(table, table.rows()[1]).joined({"a", "b", "c"}), std::nullopt);
+TEST(Cells, NamesAreTheSameButForLetterCaseFullStopsAndBlanks) {
+    EXPECT_TRUE(isSameName("Énergie Inc.", "énergie  INC"));
+    EXPECT_TRUE(isSameName("C.N.R.L. ", " CNRL"));
+    EXPECT_FALSE(isSameName("Énergie", "Energie"));
+    EXPECT_FALSE(isSameName("Comp Stn 1-2", "Comp Stn 12"));
+    EXPECT_FALSE(isSameName("Larch Oil, Ltd.", "Larch Oil Ltd."));
+    EXPECT_FALSE(isSameName("Larch Oil", "LarchOil"));
 }
 
 } // namespace

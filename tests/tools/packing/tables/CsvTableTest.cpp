@@ -43,5 +43,35 @@ TEST(CsvTable, NamesFileAndLineOfWhatIsMalformed) {
     EXPECT_EQ(refusalOf("a\n"), "");
 }
 
+TEST(CsvTable, HoldsTwoMillionFieldsAtMost) {
+    std::string table = "a\n";
+    for (std::size_t row = 1; row < CsvTable::maximumFields; ++row) {
+        table += "x\n";
+    }
+    EXPECT_EQ(refusalOf(table), "");
+    EXPECT_EQ(refusalOf(table + "x\n"), "t.csv:2000001: more than 2000000 fields in one table");
+    EXPECT_EQ(refusalOf("a\n" + std::string(CsvTable::maximumFields, ',')),
+              "t.csv:2: more than 2000000 fields in one table");
+}
+
+TEST(CsvTable, OmitsEveryRowOfAKey) {
+    CsvTable table("t.csv", "id,x\n1,a\n2,b\n1,c\n");
+    EXPECT_EQ(table.omit("id", {{"1", "why"}}), (std::vector<std::string>{"1", "1"}));
+    ASSERT_EQ(table.rows().size(), 1U);
+    EXPECT_EQ(table.cell(table.rows()[0], "x"), "b");
+}
+
+TEST(CsvTable, RefusesToOmitWhatItDoesNotHave) {
+    CsvTable table("t.csv", "id\n1\n");
+    EXPECT_THROW(table.omit("id", {{"7", "why"}}), InputError);
+}
+
+TEST(CsvTable, ReplacesTabsByBlanks) {
+    CsvTable table("t.csv", "a,b\nx\ty,z\n\"p\tq\tr\",\n");
+    EXPECT_EQ(table.replaceTabs(), 2U);
+    EXPECT_EQ(table.cell(table.rows()[1], "a"), "p q r");
+    EXPECT_EQ(table.replaceTabs(), 0U);
+}
+
 } // namespace
 } // namespace vasker

@@ -1,9 +1,9 @@
 #include "tools/openmap-release/packing/tables/Cells.h"
 
+#include "data/Text.h"
+
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 
 namespace vasker {
 namespace {
@@ -55,6 +55,38 @@ std::optional<std::string> publishedText(std::string_view cell) {
     return std::string(text);
 }
 
+std::optional<std::string> placeName(std::string_view cell) {
+    constexpr auto wordsForNothing =
+        std::to_array<std::string_view>({"n/a", "na", "none", "unknown", "-"});
+    std::optional<std::string> text = publishedText(cell);
+    if (text) {
+        const std::string word = folded(*text, TextLocale("en"));
+        if (std::ranges::find(wordsForNothing, word) != wordsForNothing.end()) {
+            return std::nullopt;
+        }
+    }
+    return text;
+}
+
+bool isSameName(std::string_view one, std::string_view other) {
+    const auto plain = [](std::string_view name) {
+        std::string text = folded(name, TextLocale("en"));
+        std::erase(text, '.');
+        std::string words;
+        for (const char byte : text) {
+            if (byte != ' ' || (!words.empty() && words.back() != ' ')) {
+                words += byte;
+            }
+        }
+        return words.substr(0, words.find_last_not_of(' ') + 1);
+    };
+    return plain(one) == plain(other);
+}
+
+std::string grouped(std::size_t number) {
+    return groupedNumber(std::to_string(number)).value_or("");
+}
+
 std::optional<std::string> groupedNumber(std::string_view text) {
     const std::size_t point = std::min(text.find('.'), text.size());
     std::string whole(text.substr(0, point));
@@ -73,80 +105,6 @@ std::optional<std::string> groupedNumber(std::string_view text) {
         fraction.remove_suffix(1);
     }
     return fraction.empty() ? whole : whole + "." + std::string(fraction);
-}
-
-std::optional<std::string> RowReader::text(std::string_view heading) const {
-    return publishedText(m_table.cell(m_row, heading));
-}
-
-std::string RowReader::requiredText(std::string_view heading) const {
-    std::optional<std::string> given = text(heading);
-    if (!given) {
-        refuse("nothing stands under \"" + std::string(heading) + "\"");
-    }
-    return std::move(*given);
-}
-
-std::string RowReader::requiredDigits(std::string_view heading) const {
-    std::string given = requiredText(heading);
-    if (!std::ranges::all_of(given, isDigit)) {
-        refuse(std::string(heading) + " \"" + given + "\" is not a whole number");
-    }
-    return given;
-}
-
-std::optional<std::string> RowReader::quantity(std::string_view heading,
-                                               std::string_view unit) const {
-    const std::optional<std::string> given = text(heading);
-    if (!given) {
-        return std::nullopt;
-    }
-    std::optional<std::string> number = groupedNumber(*given);
-    if (!number) {
-        refuse(std::string(heading) + " \"" + *given + "\" is not a number");
-    }
-    return unit.empty() ? *number : *number + " " + std::string(unit);
-}
-
-std::optional<std::string>
-RowReader::joined(std::initializer_list<std::string_view> headings) const {
-    std::string list;
-    std::string last;
-    for (const std::string_view heading : headings) {
-        const std::optional<std::string> given = text(heading);
-        if (given && *given != last) {
-            list += (list.empty() ? "" : ", ") + *given;
-            last = *given;
-        }
-    }
-    return list.empty() ? std::nullopt : std::optional(list);
-}
-
-std::optional<double> RowReader::coordinate(std::string_view heading, double bound) const {
-    const std::optional<std::string> given = text(heading);
-    if (!given) {
-        return std::nullopt;
-    }
-    double degrees = 0;
-    const char* end = given->data() + given->size();
-    const auto [stopped, error] = std::from_chars(given->data(), end, degrees);
-    if (error != std::errc() || stopped != end || !std::isfinite(degrees)) {
-        refuse(std::string(heading) + " \"" + *given + "\" is not a number");
-    }
-    if (std::abs(degrees) > bound) {
-        refuse(std::string(heading) + " " + *given + " is off the globe");
-    }
-    return degrees;
-}
-
-std::optional<OpenMapRelease::Position>
-RowReader::position(std::string_view latitudeHeading, std::string_view longitudeHeading) const {
-    const std::optional<double> latitude = coordinate(latitudeHeading, 90);
-    const std::optional<double> longitude = coordinate(longitudeHeading, 180);
-    if (!latitude || !longitude || (*latitude == 0 && *longitude == 0)) {
-        return std::nullopt;
-    }
-    return OpenMapRelease::Position{*longitude, *latitude};
 }
 
 } // namespace vasker

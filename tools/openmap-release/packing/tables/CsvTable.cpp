@@ -1,38 +1,13 @@
 #include "tools/openmap-release/packing/tables/CsvTable.h"
 
 #include <csv.h>
+#include <simdjson.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
 namespace vasker {
 namespace {
-
-bool isUtf8(std::string_view text) {
-    std::size_t place = 0;
-    while (place < text.size()) {
-        const auto lead = static_cast<unsigned char>(text[place]);
-        const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || place + length > text.size()) {
-            return false;
-        }
-        std::uint32_t point = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-        for (std::size_t next = 1; next < length; ++next) {
-            const auto byte = static_cast<unsigned char>(text[place + next]);
-            if ((byte & 0xC0U) != 0x80U) {
-                return false;
-            }
-            point = (point << 6U) | (byte & 0x3FU);
-        }
-        const bool isOverlong = (length == 3 && point < 0x800) || (length == 4 && point < 0x10000);
-        if (isOverlong || (point >= 0xD800 && point <= 0xDFFF) || point > 0x10FFFF) {
-            return false;
-        }
-        place += length;
-    }
-    return true;
-}
 
 /// libcsv's parser with the rows it has read; fed line by line, so that it knows the line.
 class Parser {
@@ -65,7 +40,7 @@ class Parser {
 
   private:
     void readLine(std::string_view line) {
-        if (!isUtf8(line)) {
+        if (!simdjson::validate_utf8(line)) {
             throw InputError(m_file, m_line, "the text is not UTF-8");
         }
         if (!m_isInRow) {
@@ -76,11 +51,20 @@ class Parser {
         if (csv_parse(&m_parser, line.data(), line.size(), onField, onRow, this) != line.size()) {
             throw InputError(m_file, m_line, "a quote stands where none belongs");
         }
+        if (m_fields > CsvTable::maximumFields) {
+            throw InputError(m_file,
+                             m_line,
+                             "more than " + std::to_string(CsvTable::maximumFields) +
+                                 " fields in one table");
+        }
     }
 
     static void onField(void* text, std::size_t length, void* self) {
         auto& parser = *static_cast<Parser*>(self);
-        parser.m_cells.emplace_back(static_cast<const char*>(text), length);
+        // A line of too many is refused as soon as it is read.
+        if (++parser.m_fields <= CsvTable::maximumFields) {
+            parser.m_cells.emplace_back(static_cast<const char*>(text), length);
+        }
     }
     static void onRow(int /*terminator*/, void* self) {
         auto& parser = *static_cast<Parser*>(self);
@@ -93,6 +77,7 @@ class Parser {
     std::size_t m_line = 0;
     std::size_t m_rowLine = 0; ///< where the current or next row begins
     bool m_isInRow = false;
+    std::size_t m_fields = 0;
     std::vector<std::string> m_cells;
     std::vector<CsvTable::Row> m_rows;
 };
@@ -130,6 +115,38 @@ void CsvTable::requireColumns(std::initializer_list<std::string_view> headings) 
             throw InputError(m_file, 1, "there is no column \"" + std::string(heading) + "\"");
         }
     }
+}
+
+std::vector<std::string> CsvTable::omit(std::string_view heading, const KeyedReasons& omitted) {
+    requireColumns({heading});
+    std::vector<std::string> rows;
+    std::erase_if(m_rows, [&](const Row& row) {
+        const auto found = omitted.find(cell(row, heading));
+        if (found != omitted.end()) {
+            rows.push_back(found->first);
+        }
+        return found != omitted.end();
+    });
+    for (const auto& [key, reason] : omitted) {
+        if (std::ranges::find(rows, key) == rows.end()) {
+            throw InputError(
+                m_file, 1, "no row has the " + std::string(heading) + " " + key + " to omit");
+        }
+    }
+    return rows;
+}
+
+std::size_t CsvTable::replaceTabs() {
+    std::size_t count = 0;
+    for (Row& row : m_rows) {
+        for (std::string& text : row.cells) {
+            if (text.find('\t') != std::string::npos) {
+                std::ranges::replace(text, '\t', ' ');
+                ++count;
+            }
+        }
+    }
+    return count;
 }
 
 std::string_view CsvTable::cell(const Row& row, std::string_view heading) const {

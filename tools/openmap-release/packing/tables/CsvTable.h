@@ -1,5 +1,5 @@
 #pragma once
-// A CSV file with a heading line, as UTF-8 text. The only door to libcsv.
+// A CSV file with a heading line, as UTF-8 text. The only file that knows libcsv.
 
 #include "tools/openmap-release/packing/tables/InputError.h"
 
@@ -19,14 +19,27 @@ class CsvTable {
         std::vector<std::string> cells;
     };
 
+    /// Some 30 times those of the largest table that is packed; keeps memory below some 200 MB.
+    static constexpr std::size_t maximumFields = 2'000'000;
+
     /// The rows of `bytes` (RFC 4180, LF or CRLF, a byte order mark is passed over); `file` is the
     /// name for messages. Throws InputError for a row that has another number of fields than the
-    /// headings, a stray or missing quote, text that is not UTF-8, and a file without headings.
+    /// headings, a stray or missing quote, text that is not UTF-8, more than maximumFields fields,
+    /// and a file without headings.
     CsvTable(std::string file, std::string_view bytes);
 
     /// Throws InputError unless every one of `headings` names a column. A heading in two languages,
     /// "City / Ville", goes by its first part as well.
     void requireColumns(std::initializer_list<std::string_view> headings) const;
+
+    /// Row keys, each with the reason why its rows are left out.
+    using KeyedReasons = std::map<std::string, std::string, std::less<>>;
+    /// Removes the rows whose cell under `heading` is a key of `omitted`; returns the keys of those
+    /// rows. Throws InputError where a key has no row.
+    std::vector<std::string> omit(std::string_view heading, const KeyedReasons& omitted);
+
+    /// Makes each tab within a cell a blank; returns how many cells had one.
+    std::size_t replaceTabs();
 
     [[nodiscard]] const std::vector<Row>& rows() const noexcept { return m_rows; }
     /// The cell under `heading`, as it stands. Lives as long as the table.

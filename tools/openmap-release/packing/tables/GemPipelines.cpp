@@ -1,8 +1,7 @@
 #include "tools/openmap-release/packing/tables/GemPipelines.h"
 
 #include "tools/openmap-release/packing/tables/Provinces.h"
-
-#include <set>
+#include "tools/openmap-release/packing/tables/UniqueIds.h"
 
 namespace vasker {
 namespace {
@@ -11,12 +10,10 @@ using Reader = GemPipeline (*)(const RowReader&);
 
 std::vector<GemPipeline> readPipelines(const CsvTable& table, Reader read) {
     std::vector<GemPipeline> pipelines;
-    std::set<std::string> ids;
+    UniqueIds ids("ProjectID");
     for (const CsvTable::Row& cells : table.rows()) {
-        pipelines.push_back(read(RowReader(table, cells)));
-        if (!ids.insert(pipelines.back().id).second) {
-            table.refuse(cells, "ProjectID " + pipelines.back().id + " stands twice");
-        }
+        const RowReader row(table, cells);
+        ids.take(row, pipelines.emplace_back(read(row)).id);
     }
     return pipelines;
 }
@@ -87,7 +84,7 @@ GemPipeline readOilPipeline(const RowReader& row) {
 
 /// The provinces of both ends where the line stays in one country; else what the table calls it.
 std::string gasJurisdiction(const RowReader& row) {
-    const std::string countries = row.requiredText("CountriesOrAreas");
+    std::string countries = row.requiredText("CountriesOrAreas");
     const std::string start = row.text("StartState/Province").value_or("");
     const std::string end = row.text("EndState/Province").value_or("");
     if (countries != "Canada" || !isProvince(start) || !isProvince(end)) {

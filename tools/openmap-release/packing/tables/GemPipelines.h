@@ -2,7 +2,9 @@
 // Global Energy Monitor's two tables of pipelines: one for oil and natural-gas liquids, one for
 // gas.
 
-#include "tools/openmap-release/packing/tables/Cells.h"
+#include "data/OpenMapRelease.h"
+#include "tools/openmap-release/packing/tables/CsvTable.h"
+#include "tools/openmap-release/packing/tables/FactList.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,7 @@
 #include "tools/openmap-release/packing/tables/GemTerminals.h"
 
 #include "tools/openmap-release/packing/tables/Provinces.h"
-
-#include <set>
+#include "tools/openmap-release/packing/tables/UniqueIds.h"
 
 namespace vasker {
 namespace {
@@ -12,10 +11,7 @@ std::string jurisdictionOf(const RowReader& row) {
     if (!province) {
         return row.requiredText("Country/Area");
     }
-    if (!isProvince(*province)) {
-        row.refuse("\"" + *province + "\" is no province");
-    }
-    return *province;
+    return row.requiredProvince("State/Province");
 }
 
 std::optional<std::string> capacityOf(const RowReader& row) {
@@ -99,12 +95,10 @@ std::vector<GemTerminal> readTerminals(const CsvTable& table) {
                           "FIDYear",
                           "LastUpdated"});
     std::vector<GemTerminal> terminals;
-    std::set<std::string> ids;
+    UniqueIds ids("UnitID");
     for (const CsvTable::Row& cells : table.rows()) {
-        terminals.push_back(readTerminal(RowReader(table, cells)));
-        if (!ids.insert(terminals.back().id).second) {
-            table.refuse(cells, "UnitID " + terminals.back().id + " stands twice");
-        }
+        const RowReader row(table, cells);
+        ids.take(row, terminals.emplace_back(readTerminal(row)).id);
     }
     return terminals;
 }

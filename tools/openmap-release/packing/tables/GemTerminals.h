@@ -1,7 +1,9 @@
 #pragma once
 // Global Energy Monitor's table of terminals for liquefied natural gas, one row per unit.
 
-#include "tools/openmap-release/packing/tables/Cells.h"
+#include "data/OpenMapRelease.h"
+#include "tools/openmap-release/packing/tables/CsvTable.h"
+#include "tools/openmap-release/packing/tables/FactList.h"
 
 #include <optional>
 #include <string>

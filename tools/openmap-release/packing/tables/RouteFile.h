@@ -1,6 +1,5 @@
 #pragma once
-// The JSON that packing reads: route files (GeoJSON) and the bundle information. The only door to
-// the JSON library here.
+// The lines of a pipeline as a GeoJSON file tells them.
 
 #include "data/OpenMapRelease.h"
 
@@ -22,13 +21,5 @@ struct RouteFile {
 /// Reads a GeoJSON feature collection of lines, multi-lines and points; a feature without geometry
 /// is passed over. Throws InputError, which names `file`, for anything else.
 [[nodiscard]] RouteFile readRouteFile(std::string_view file, std::string_view json);
-
-/// The JSON object `json` with `value` under `key`: the former value is replaced, or the key is
-/// added at the end. All else stays as it stands, byte for byte. `key` and `value` hold no
-/// character that JSON escapes. Throws InputError, which names `file`, where `json` is no object.
-[[nodiscard]] std::string withTextValue(std::string_view file,
-                                        std::string_view json,
-                                        std::string_view key,
-                                        std::string_view value);
 
 } // namespace vasker

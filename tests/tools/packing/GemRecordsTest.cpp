@@ -1,4 +1,4 @@
-#include "tools/openmap-release/packing/RecordAssembly.h"
+#include "tools/openmap-release/packing/GemRecords.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,108 @@
+#include "tools/openmap-release/packing/GemRecords.h"
+
+#include "tools/openmap-release/packing/FactWriter.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+#include <vector>
+
+namespace vasker {
+namespace {
+
+/// Great-circle distance on a sphere, as the angle in radians (haversine formula).
+double angleBetween(const OpenMapRelease::Position& from, const OpenMapRelease::Position& to) {
+    constexpr double radians = std::numbers::pi / 180;
+    const double halfNorth = std::sin((to.latitude - from.latitude) * radians / 2);
+    const double halfEast = std::sin((to.longitude - from.longitude) * radians / 2);
+    const double square = halfNorth * halfNorth + std::cos(from.latitude * radians) *
+                                                      std::cos(to.latitude * radians) * halfEast *
+                                                      halfEast;
+    return 2 * std::asin(std::sqrt(std::min(1.0, square)));
+}
+
+/// For each vertex, how far it is along the line.
+std::vector<double> distancesAlong(const OpenMapRelease::Route& route) {
+    std::vector<double> distances{0};
+    for (std::size_t next = 1; next < route.size(); ++next) {
+        distances.push_back(distances.back() + angleBetween(route[next - 1], route[next]));
+    }
+    return distances;
+}
+
+std::string routeBasis(const OpenMapRelease::Asset& asset) {
+    std::size_t vertices = 0;
+    for (const OpenMapRelease::Route& route : asset.routes) {
+        vertices += route.size();
+    }
+    return "GEM route repository, " + grouped(asset.routes.size()) +
+           (asset.routes.size() == 1 ? " line, " : " lines, ") + grouped(vertices) + " vertices";
+}
+
+} // namespace
+
+OpenMapRelease::Asset terminalRecord(const GemTerminal& terminal, const Citations& citations) {
+    const Citation& citation = citations.at(TableRole::terminals);
+    OpenMapRelease::Asset asset;
+    asset.id = "GEM-" + terminal.id;
+    asset.name = terminal.name;
+    asset.kind = "lng_plant";
+    asset.jurisdiction = terminal.jurisdiction;
+    asset.sourceID = citation.sourceID;
+    asset.status = terminal.status;
+    asset.asOf = citation.period;
+    asset.reportedCompany = terminal.owner;
+    asset.longitude = terminal.position.value().longitude;
+    asset.latitude = terminal.position.value().latitude;
+    FactWriter(asset, citations).add(TableRole::terminals, terminal.facts);
+    return asset;
+}
+
+OpenMapRelease::Asset pipelineRecord(const GemPipeline& pipeline,
+                                     RouteFile routes,
+                                     TableRole table,
+                                     const std::string& routesPeriod,
+                                     const Citations& citations) {
+    const Citation& citation = citations.at(table);
+    OpenMapRelease::Asset asset;
+    asset.id = "GEM-" + pipeline.id;
+    asset.name = pipeline.name;
+    asset.kind = "pipeline";
+    asset.jurisdiction = pipeline.jurisdiction;
+    asset.sourceID = citation.sourceID;
+    asset.status = pipeline.status;
+    asset.asOf = citation.period;
+    asset.reportedCompany = pipeline.owner;
+    asset.routes = std::move(routes.routes);
+    const OpenMapRelease::Position middle = middleVertex(asset.routes);
+    asset.longitude = middle.longitude;
+    asset.latitude = middle.latitude;
+    const FactWriter facts(asset, citations);
+    facts.add(table, pipeline.facts);
+    facts.add(table, routesPeriod, "Route basis", routeBasis(asset));
+    return asset;
+}
+
+OpenMapRelease::Position middleVertex(std::span<const OpenMapRelease::Route> routes) {
+    std::vector<double> longest{-1};
+    std::size_t chosen = 0;
+    for (std::size_t place = 0; place < routes.size(); ++place) {
+        std::vector<double> distances = distancesAlong(routes[place]);
+        if (distances.back() > longest.back()) {
+            longest = std::move(distances);
+            chosen = place;
+        }
+    }
+    const double middle = longest.back() / 2;
+    std::size_t nearest = 0;
+    for (std::size_t vertex = 1; vertex < longest.size(); ++vertex) {
+        if (std::abs(longest[vertex] - middle) < std::abs(longest[nearest] - middle)) {
+            nearest = vertex;
+        }
+    }
+    return routes[chosen][nearest];
+}
+
+} // namespace vasker
