@@ -9,7 +9,7 @@ build_packages=(
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools linguist-qt6
     libgl-dev libvulkan-dev
     libsimdjson-dev libssl-dev libicu-dev libsqlite3-dev libprotozero-dev zlib1g-dev libcsv-dev liburiparser-dev
-    libtomlplusplus-dev
+    libtomlplusplus-dev nlohmann-json3-dev
     libbenchmark-dev
 )
 

@@ -17,6 +17,7 @@ namespace {
 
 ToolOutcome run(const std::vector<std::string>& words,
                 const std::string& locale,
+                const std::string& inputPath,
                 const std::string& outputPath,
                 const std::string& errorPath) {
     std::vector<std::string> texts{VASKER_RELEASE_TOOL};
@@ -31,7 +32,7 @@ ToolOutcome run(const std::vector<std::string>& words,
 
     posix_spawn_file_actions_t streams{};
     posix_spawn_file_actions_init(&streams);
-    posix_spawn_file_actions_addopen(&streams, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&streams, STDIN_FILENO, inputPath.c_str(), O_RDONLY, 0);
     posix_spawn_file_actions_addopen(
         &streams, STDOUT_FILENO, outputPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     posix_spawn_file_actions_addopen(
@@ -55,14 +56,23 @@ ToolOutcome run(const std::vector<std::string>& words,
 
 ToolOutcome runTool(const std::vector<std::string>& words, const std::string& locale) {
     const ScratchFolder folder;
-    ToolOutcome outcome = run(words, locale, folder.path("output"), folder.path("errors"));
+    ToolOutcome outcome =
+        run(words, locale, "/dev/null", folder.path("output"), folder.path("errors"));
     outcome.output = contentOf(folder.path("output"));
     return outcome;
 }
 
 ToolOutcome runToolInto(const std::string& outputPath, const std::vector<std::string>& words) {
     const ScratchFolder folder;
-    return run(words, "C", outputPath, folder.path("errors"));
+    return run(words, "C", "/dev/null", outputPath, folder.path("errors"));
+}
+
+ToolOutcome runToolWith(const std::string& input, const std::vector<std::string>& words) {
+    const ScratchFolder folder;
+    ToolOutcome outcome =
+        run(words, "C", folder.write("input", input), folder.path("output"), folder.path("errors"));
+    outcome.output = contentOf(folder.path("output"));
+    return outcome;
 }
 
 ScratchFolder::ScratchFolder() {

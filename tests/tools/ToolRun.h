@@ -18,6 +18,10 @@ struct ToolOutcome {
 [[nodiscard]] ToolOutcome runTool(const std::vector<std::string>& words,
                                   const std::string& locale = "C");
 
+/// As runTool(), with `input` on standard input.
+[[nodiscard]] ToolOutcome runToolWith(const std::string& input,
+                                      const std::vector<std::string>& words);
+
 /// As runTool(), with standard output going to `outputPath`, which is opened for writing.
 [[nodiscard]] ToolOutcome runToolInto(const std::string& outputPath,
                                       const std::vector<std::string>& words);

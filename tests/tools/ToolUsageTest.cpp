@@ -16,17 +16,28 @@ void expectWrongUsage(const std::vector<std::string>& words, const std::string& 
         << outcome.errors;
 }
 
+std::vector<std::string> commandNames() {
+    return {"check", "list", "kinds", "stats", "show", "export", "diff", "pack", "synthesize"};
+}
+
+/// The exit status of a line for the shell in which "TOOL" stands for the tool.
+int shellStatus(const std::string& line) {
+    std::string command = line;
+    command.replace(command.find("TOOL"), 4, std::string("'") + VASKER_RELEASE_TOOL + "'");
+    return WEXITSTATUS(std::system(command.c_str()));
+}
+
 TEST(ToolUsage, HelpGoesToStandardOutput) {
     const ToolOutcome outcome = runTool({"--help"});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.errors, "");
-    for (const char* command : {"check", "list", "kinds", "pack", "synthesize"}) {
-        EXPECT_NE(outcome.output.find(std::string("\n  ") + command), std::string::npos) << command;
+    for (const std::string& command : commandNames()) {
+        EXPECT_NE(outcome.output.find("\n  " + command), std::string::npos) << command;
     }
 }
 
 TEST(ToolUsage, EachCommandHasItsOwnHelp) {
-    for (const std::string command : {"check", "list", "kinds", "pack", "synthesize"}) {
+    for (const std::string& command : commandNames()) {
         const ToolOutcome outcome = runTool({command, "--help"});
         EXPECT_EQ(outcome.status, 0);
         EXPECT_EQ(outcome.errors, "");
@@ -38,10 +49,13 @@ TEST(ToolUsage, EachCommandHasItsOwnHelp) {
 TEST(ToolUsage, ACommandIsNeededAndMustBeKnown) {
     expectWrongUsage({}, "which command?");
     expectWrongUsage({"explode"}, "explode: unknown command");
+    expectWrongUsage({"exprt"}, "exprt: unknown command, did you mean export?");
 }
 
 TEST(ToolUsage, OptionsAreKnownGivenOnceAndHaveTheirValue) {
     expectWrongUsage({"check", "f", "--verbose"}, "--verbose: unknown option");
+    expectWrongUsage({"check", "f", "--explian"},
+                     "--explian: unknown option, did you mean --explain?");
     expectWrongUsage({"check", "f", "-x"}, "-x: unknown option");
     expectWrongUsage({"check", "f", "--explain", "--explain"}, "--explain: given twice");
     expectWrongUsage({"check", "f", "--sha256"}, "--sha256: needs a value");
@@ -54,6 +68,9 @@ TEST(ToolUsage, ExactlyOneFileIsRead) {
     expectWrongUsage({"check"}, "FILE: missing");
     expectWrongUsage({"list", "a", "b"}, "b: one operand too many");
     expectWrongUsage({"kinds"}, "FILE: missing");
+    expectWrongUsage({"diff", "a"}, "NEW: missing");
+    expectWrongUsage({"show", "a"}, "ID: missing");
+    expectWrongUsage({"show", "a", "b", "c"}, "c: one operand too many");
 }
 
 TEST(ToolUsage, MakingAReleaseNeedsEveryOption) {
@@ -65,9 +82,38 @@ TEST(ToolUsage, MakingAReleaseNeedsEveryOption) {
     expectWrongUsage({"synthesize", "extra"}, "extra: unexpected operand");
 }
 
+TEST(ToolUsage, TellsItsVersion) {
+    const ToolOutcome outcome = runTool({"--version"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, "openmap-release " VASKER_VERSION "\n");
+}
+
 TEST(ToolUsage, AClosedStandardOutputIsAFailure) {
-    const std::string closed = std::string("'") + VASKER_RELEASE_TOOL + "' --help 2>/dev/null >&-";
-    EXPECT_EQ(WEXITSTATUS(std::system(closed.c_str())), 2);
+    EXPECT_EQ(shellStatus("TOOL --help 2>/dev/null >&-"), 2);
+}
+
+TEST(ToolUsage, AReaderThatClosesThePipeIsNoError) {
+    const ScratchFolder folder;
+    const std::string release = folder.path("release.json");
+    ASSERT_EQ(runTool({"synthesize",
+                       "--records",
+                       "5000",
+                       "--route-points",
+                       "0",
+                       "--bytes",
+                       "0",
+                       "--seed",
+                       "1",
+                       "--output",
+                       release})
+                  .status,
+              0);
+    // More than a pipe holds, to a reader that is gone.
+    const std::string errors = folder.path("errors");
+    EXPECT_EQ(shellStatus("bash -c \"set -o pipefail; TOOL export '" + release +
+                          "' --format csv 2>'" + errors + "' | true\""),
+              0);
+    EXPECT_EQ(contentOf(errors), "");
 }
 
 } // namespace

@@ -1,7 +1,10 @@
 #include "tools/openmap-release/Arguments.h"
 
+#include "tools/openmap-release/Suggestion.h"
+
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 namespace vasker {
 namespace {
@@ -33,7 +36,9 @@ Arguments::Arguments(std::span<const std::string_view> words, std::span<const Op
         const std::string_view name = word.substr(0, equals);
         const OptionShape* shape = shapeNamed(shapes, name);
         if (shape == nullptr) {
-            refuse(name, "unknown option");
+            std::vector<std::string_view> known;
+            std::ranges::transform(shapes, std::back_inserter(known), &OptionShape::name);
+            refuse(name, "unknown option" + suggestion(name, known));
         }
         std::string value;
         if (shape->takes == OptionShape::Takes::nothing) {
@@ -83,13 +88,17 @@ std::uint64_t Arguments::requiredNumber(std::string_view option) const {
 }
 
 std::string Arguments::onlyOperand(std::string_view name) const {
-    if (m_operands.empty()) {
-        refuse(name, "missing");
+    return operands({name}).front();
+}
+
+std::vector<std::string> Arguments::operands(std::initializer_list<std::string_view> names) const {
+    if (m_operands.size() < names.size()) {
+        refuse(*(names.begin() + m_operands.size()), "missing");
     }
-    if (m_operands.size() > 1) {
-        refuse(m_operands[1], "one operand too many");
+    if (m_operands.size() > names.size()) {
+        refuse(m_operands[names.size()], "one operand too many");
     }
-    return m_operands.front();
+    return m_operands;
 }
 
 void Arguments::refuseOperands() const {

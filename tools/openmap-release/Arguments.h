@@ -2,6 +2,7 @@
 // The words of a command line, sorted into options and operands.
 
 #include <cstdint>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <span>
@@ -27,9 +28,9 @@ struct OptionShape {
 class Arguments {
   public:
     /// Sorts `words`. An option's value is the next word or follows "=" ("--query=--kind"); after
-    /// the word "--" everything is an operand. Throws UsageError for an unknown or repeated option,
-    /// and for a value that is missing (also where the next word is an option the command knows) or
-    /// one too many.
+    /// the word "--" everything is an operand, and "-" is one. Throws UsageError for an unknown
+    /// option, with the known one that may be meant, for a repeated one, and for a value that is
+    /// missing (also where the next word is an option the command knows) or one too many.
     Arguments(std::span<const std::string_view> words, std::span<const OptionShape> shapes);
 
     [[nodiscard]] bool has(std::string_view option) const;
@@ -43,6 +44,10 @@ class Arguments {
     /// The only operand, called `name` in the message; throws UsageError where there is none or
     /// more.
     [[nodiscard]] std::string onlyOperand(std::string_view name) const;
+    /// As many operands as there are `names`, in their order; throws UsageError where there are
+    /// fewer or more.
+    [[nodiscard]] std::vector<std::string>
+    operands(std::initializer_list<std::string_view> names) const;
     /// Throws UsageError where there is an operand.
     void refuseOperands() const;
 

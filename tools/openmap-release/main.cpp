@@ -1,8 +1,13 @@
 // openmap-release: makes, checks and reads release files. Picks the command and prints its result.
+#include "tools/openmap-release/Suggestion.h"
 #include "tools/openmap-release/commands/CheckCommand.h"
+#include "tools/openmap-release/commands/DiffCommand.h"
+#include "tools/openmap-release/commands/ExportCommand.h"
 #include "tools/openmap-release/commands/KindsCommand.h"
 #include "tools/openmap-release/commands/ListCommand.h"
 #include "tools/openmap-release/commands/PackCommand.h"
+#include "tools/openmap-release/commands/ShowCommand.h"
+#include "tools/openmap-release/commands/StatsCommand.h"
 #include "tools/openmap-release/commands/SynthesizeCommand.h"
 
 #include <fcntl.h>
@@ -32,6 +37,10 @@ std::vector<Command> commands() {
     return {vasker::checkCommand(),
             vasker::listCommand(),
             vasker::kindsCommand(),
+            vasker::statsCommand(),
+            vasker::showCommand(),
+            vasker::exportCommand(),
+            vasker::diffCommand(),
             vasker::packCommand(),
             vasker::synthesizeCommand()};
 }
@@ -48,7 +57,12 @@ std::string toolHelp() {
         name.resize(12, ' ');
         text += "  " + name + std::string(command.summary) + "\n";
     }
-    text += "\n\"" + std::string(toolName) + " COMMAND --help\" tells more about one of them.\n";
+    text +=
+        "\n\"" + std::string(toolName) + " COMMAND --help\" tells more about one of them, \"" +
+        std::string(toolName) +
+        " --version\"\nthe version. The file \"-\" is standard input, and as an output standard "
+        "output. A reader that\ncloses the pipe early is no error: the exit status stays that "
+        "of the command.\n";
     return text;
 }
 
@@ -83,10 +97,17 @@ CommandResult runTool(std::span<const std::string_view> words) {
     if (words.front() == "--help") {
         return {ExitStatus::ok, toolHelp(), ""};
     }
+    if (words.front() == "--version") {
+        return {ExitStatus::ok, std::string(toolName) + " " + VASKER_VERSION + "\n", ""};
+    }
     const std::vector<Command> known = commands();
     const auto command = std::ranges::find(known, words.front(), &Command::name);
     if (command == known.end()) {
-        return wrongUsage(std::string(words.front()) + ": unknown command", "COMMAND ...");
+        std::vector<std::string_view> names;
+        std::ranges::transform(known, std::back_inserter(names), &Command::name);
+        return wrongUsage(std::string(words.front()) + ": unknown command" +
+                              vasker::suggestion(words.front(), names),
+                          "COMMAND ...");
     }
     return runCommand(*command, words.subspan(1));
 }
@@ -114,7 +135,8 @@ int main(int count, char** values) {
     reserveStandardStreams();
     const std::vector<std::string_view> words(values + std::min(count, 1), values + count);
     CommandResult result = runTool(words);
-    if (const int error = print(stdout, result.output); error != 0) {
+    // A reader that has seen enough closes the pipe: "openmap-release list FILE | head".
+    if (const int error = print(stdout, result.output); error != 0 && error != EPIPE) {
         result.status = ExitStatus::failed;
         result.errors += std::string(toolName) +
                          ": standard output: " + std::generic_category().message(error) + "\n";

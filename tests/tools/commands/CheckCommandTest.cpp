@@ -104,6 +104,29 @@ TEST_F(CheckCommand, ExplainsWhereARuleFailed) {
                   "assets[1].routes[0][1]: longitude 200 is outside -180 to 180\n");
 }
 
+TEST_F(CheckCommand, ExplainsOnWhichLineAndColumnAFileIsNoJson) {
+    const ToolOutcome outcome =
+        runTool({"check", "--explain", file("{\n  \"schemaVersion\": 1,\n  oops\n}")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.output, "decoding\n");
+    EXPECT_NE(outcome.errors.find("\nline 3, column 3: "), std::string::npos) << outcome.errors;
+    EXPECT_EQ(runTool({"check", file("{\noops")}).errors.find("line"), std::string::npos);
+}
+
+TEST_F(CheckCommand, ExplainsInFewWordsHoweverLongTheFaultIs) {
+    const ToolOutcome outcome =
+        runTool({"check", "--explain", file("{\"a\":\"" + std::string(1'000'000, 'x'))});
+    EXPECT_NE(outcome.errors.find("line 1, column "), std::string::npos);
+    EXPECT_LT(outcome.errors.size(), 400U);
+}
+
+TEST_F(CheckCommand, ExplainsWhereAValueHasTheWrongType) {
+    const std::string text =
+        replaced(encode(makeRelease()), "\"schemaVersion\":1", "\"schemaVersion\":\"1\"");
+    const ToolOutcome outcome = runTool({"check", "--explain", file(text)});
+    EXPECT_NE(outcome.errors.find("\nschemaVersion"), std::string::npos) << outcome.errors;
+}
+
 TEST_F(CheckCommand, ReportsAFileThatCannotBeRead) {
     const ToolOutcome outcome = runTool({"check", missingFile()});
     EXPECT_EQ(outcome.status, 2);

@@ -66,6 +66,8 @@ TEST_F(ListCommand, PrintsNothingWhereNothingPasses) {
     const ToolOutcome outcome = runTool({"list", file(), "--kind", "GAS_PLANT"});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.errors, "no record is of the kind GAS_PLANT, did you mean gas_plant?\n");
+    EXPECT_EQ(runTool({"list", file(), "--query", "nothing"}).errors, "");
 }
 
 TEST_F(ListCommand, FoldsLettersAsTheLocaleDoes) {

@@ -29,7 +29,7 @@ CommandResult runCheck(const Arguments& arguments) {
     if (auto* refusal = std::get_if<CommandResult>(&opened)) {
         return std::move(*refusal);
     }
-    return {ExitStatus::ok, summary(std::get<OpenMapRelease>(opened)), ""};
+    return {ExitStatus::ok, summary(std::get<PackagedRelease>(opened).release), ""};
 }
 
 } // namespace

@@ -7,12 +7,12 @@ namespace vasker {
 namespace {
 
 CommandResult runKinds(const Arguments& arguments) {
-    auto opened = openRelease(arguments.onlyOperand("FILE"), std::nullopt, Explanation::none);
+    auto opened = openRelease(arguments.onlyOperand("FILE"));
     if (auto* refusal = std::get_if<CommandResult>(&opened)) {
         return std::move(*refusal);
     }
     CommandResult result;
-    for (const std::string& kind : kinds(std::get<OpenMapRelease>(opened))) {
+    for (const std::string& kind : kinds(std::get<PackagedRelease>(opened).release)) {
         result.output += kind + "\t" + OpenMapRelease::Asset::categoryLabel(kind) + "\n";
     }
     return result;

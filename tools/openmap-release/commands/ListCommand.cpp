@@ -7,15 +7,16 @@ namespace vasker {
 namespace {
 
 CommandResult runList(const Arguments& arguments) {
-    auto opened = openRelease(arguments.onlyOperand("FILE"), std::nullopt, Explanation::none);
+    auto opened = openRelease(arguments.onlyOperand("FILE"));
     if (auto* refusal = std::get_if<CommandResult>(&opened)) {
         return std::move(*refusal);
     }
-    const auto& release = std::get<OpenMapRelease>(opened);
-    CommandResult result;
+    const auto& release = std::get<PackagedRelease>(opened).release;
+    const std::string kind = arguments.value("--kind").value_or("all");
+    CommandResult result{ExitStatus::ok, "", unknownKindNote(release, kind)};
     for (const AssetIndex place : filtered(release,
                                            arguments.value("--query").value_or(""),
-                                           arguments.value("--kind").value_or("all"),
+                                           kind,
                                            TextLocale::fromEnvironment())) {
         result.output += release.assets[place].id;
         result.output += '\n';

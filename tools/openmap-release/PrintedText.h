@@ -1,0 +1,23 @@
+#pragma once
+#include <cstddef>
+#include <string>
+
+namespace vasker {
+
+/// `text` with a blank for each control character, so that no text of a release steers the terminal
+/// that it is printed on.
+[[nodiscard]] inline std::string printedText(std::string text) {
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        const auto byte = static_cast<unsigned char>(text[place]);
+        const bool isLead = byte == 0xC2 && place + 1 < text.size();
+        if (byte < 0x20 || byte == 0x7F) {
+            text[place] = ' ';
+        } else if (isLead && static_cast<unsigned char>(text[place + 1]) < 0xA0) {
+            // U+0080 to U+009F: control characters of two bytes.
+            text.replace(place, 2, " ");
+        }
+    }
+    return text;
+}
+
+} // namespace vasker

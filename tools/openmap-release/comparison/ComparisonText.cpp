@@ -1,0 +1,278 @@
+#include "tools/openmap-release/comparison/ComparisonText.h"
+
+#include "tools/openmap-release/PrintedText.h"
+#include "tools/openmap-release/packing/tables/Cells.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <utility>
+
+namespace vasker {
+namespace {
+
+constexpr std::size_t fewRecords = 6;
+constexpr std::size_t fewTransitions = 4;
+constexpr std::size_t fewFacts = 20;
+constexpr std::size_t longestValue = 60;
+
+std::string shortened(const std::string& full) {
+    std::string text = printedText(full.substr(0, 4 * longestValue));
+    if (text.size() <= longestValue) {
+        return text;
+    }
+    std::size_t end = longestValue;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
+        --end;
+    }
+    return text.substr(0, end) + "…";
+}
+
+std::string quoted(const std::optional<std::string>& value) {
+    return value ? "\"" + shortened(*value) + "\"" : "nothing";
+}
+
+std::string counted(std::size_t number, const std::string& one, const std::string& several) {
+    return grouped(number) + " " + (number == 1 ? one : several);
+}
+
+/// "1,500 km", "320 m".
+std::string distanceText(double metres) {
+    const auto whole = [](double number) {
+        return grouped(static_cast<std::size_t>(std::llround(number)));
+    };
+    return metres < 1000 ? whole(metres) + " m" : whole(metres / 1000) + " km";
+}
+
+/// ": A-1 Name, A-2 Name and 7 more".
+template <typename Records, typename Describe>
+std::string listed(const Records& records, Describe describe) {
+    std::string text;
+    for (std::size_t place = 0; place < std::min(records.size(), fewRecords); ++place) {
+        text += (place == 0 ? ": " : ", ") + describe(records[place]);
+    }
+    return records.size() > fewRecords
+               ? text + " and " + grouped(records.size() - fewRecords) + " more"
+               : text;
+}
+
+std::string nameOf(const RecordName& record) {
+    return printedText(record.id) + " " + shortened(record.name);
+}
+
+/// The changes of one field or of the facts with one label.
+class FieldChanges {
+  public:
+    void add(const ChangedValue& change) {
+        ++m_changes;
+        if (m_records.empty() || m_records.back().id != change.record.id) {
+            m_records.push_back(change.record);
+        }
+        ++m_transitions[{change.before, change.after}];
+        m_added += change.before ? 0U : 1U;
+        m_gone += change.after ? 0U : 1U;
+    }
+
+    [[nodiscard]] std::size_t count() const noexcept { return m_changes; }
+
+    [[nodiscard]] std::string text(const std::string& field) const {
+        const std::size_t changed = m_changes - m_added - m_gone;
+        std::string line = "  " + field + ": ";
+        const auto part = [&](std::size_t number, const char* what) {
+            if (number > 0) {
+                line += (line.ends_with(": ") ? "" : ", ") + grouped(number) + " " + what;
+            }
+        };
+        part(m_added, "new");
+        part(m_gone, "gone");
+        part(changed, "changed");
+        if (m_records.size() <= fewRecords) {
+            line += listed(m_records, nameOf);
+        }
+        return line + "\n" + commonest();
+    }
+
+  private:
+    using Transition = std::pair<std::optional<std::string>, std::optional<std::string>>;
+
+    /// The commonest changes from one value to another.
+    [[nodiscard]] std::string commonest() const {
+        std::vector<std::pair<std::size_t, Transition>> sorted;
+        for (const auto& [transition, count] : m_transitions) {
+            if (transition.first && transition.second) {
+                sorted.emplace_back(count, transition);
+            }
+        }
+        std::ranges::stable_sort(
+            sorted, std::ranges::greater(), [](const auto& entry) { return entry.first; });
+        std::string text;
+        for (std::size_t place = 0; place < std::min(sorted.size(), fewTransitions); ++place) {
+            const auto& [count, transition] = sorted[place];
+            text += "    " + quoted(transition.first) + " is now " + quoted(transition.second) +
+                    (count > 1 ? ", " + grouped(count) + " times" : "") + "\n";
+        }
+        if (sorted.size() > fewTransitions) {
+            text += "    and " +
+                    counted(sorted.size() - fewTransitions, "other change", "other changes") + "\n";
+        }
+        return text;
+    }
+
+    std::vector<RecordName> m_records; ///< each once
+    std::size_t m_changes = 0;
+    std::map<Transition, std::size_t> m_transitions;
+    std::size_t m_added = 0;
+    std::size_t m_gone = 0;
+};
+
+using NamedChanges = std::pair<std::string, FieldChanges>;
+
+/// The changes of `kind` by field or label, the most frequent first.
+std::vector<NamedChanges> byField(const std::vector<ChangedValue>& changes, ChangedValue::Of kind) {
+    std::map<std::string, FieldChanges> fields;
+    for (const ChangedValue& change : changes) {
+        if (change.of == kind) {
+            fields[change.field].add(change);
+        }
+    }
+    std::vector<NamedChanges> sorted(fields.begin(), fields.end());
+    std::ranges::stable_sort(sorted, std::ranges::greater(), [](const NamedChanges& named) {
+        return named.second.count();
+    });
+    return sorted;
+}
+
+std::string changesText(const std::vector<ChangedValue>& changes) {
+    std::string text;
+    for (const auto& [field, changed] : byField(changes, ChangedValue::Of::record)) {
+        text += changed.text(field);
+    }
+    const std::vector<NamedChanges> facts = byField(changes, ChangedValue::Of::fact);
+    std::size_t others = 0;
+    for (std::size_t place = 0; place < facts.size(); ++place) {
+        if (place < fewFacts) {
+            text += facts[place].second.text("fact \"" + shortened(facts[place].first) + "\"");
+        } else {
+            others += facts[place].second.count();
+        }
+    }
+    if (others > 0) {
+        text += "  and " + counted(facts.size() - fewFacts, "other fact", "other facts") + ", " +
+                counted(others, "change", "changes") + "\n";
+    }
+    return text;
+}
+
+std::string sourceText(const SourceComparison& source) {
+    std::string text;
+    if (!source.added.empty()) {
+        text += "  added: " + counted(source.added.size(), "record", "records") +
+                listed(source.added, nameOf) + "\n";
+    }
+    if (!source.gone.empty()) {
+        text += "  gone: " + counted(source.gone.size(), "record", "records") +
+                listed(source.gone, nameOf) + "\n";
+    }
+    if (!source.moved.empty()) {
+        std::vector<MovedRecord> farthest = source.moved;
+        std::ranges::stable_sort(farthest, std::ranges::greater(), &MovedRecord::metres);
+        text += "  moved: " + counted(farthest.size(), "record", "records") +
+                listed(farthest,
+                       [](const MovedRecord& moved) {
+                           return nameOf(moved.record) + " by " + distanceText(moved.metres);
+                       }) +
+                "\n";
+    }
+    text += changesText(source.changed);
+    const std::string head = "\n" + printedText(source.source) + ": " +
+                             counted(source.recordsBefore, "record", "records") + " before, " +
+                             grouped(source.recordsAfter) + " now\n";
+    return head + (text.empty() ? "  nothing changed\n" : text);
+}
+
+std::string limitationsText(const std::vector<std::string>& limitations, const char* what) {
+    std::string text;
+    for (const std::string& limitation : limitations) {
+        text += "limitation " + std::string(what) + ": " + printedText(limitation) + "\n";
+    }
+    return text;
+}
+
+using Json = nlohmann::ordered_json;
+
+Json json(const RecordName& record) {
+    return {{"id", record.id}, {"name", record.name}};
+}
+
+Json json(const std::optional<std::string>& value) {
+    return value ? Json(*value) : Json();
+}
+
+Json json(const SourceComparison& source) {
+    Json object{{"source", source.source},
+                {"recordsBefore", source.recordsBefore},
+                {"recordsAfter", source.recordsAfter},
+                {"added", Json::array()},
+                {"gone", Json::array()},
+                {"moved", Json::array()},
+                {"changed", Json::array()}};
+    for (const RecordName& record : source.added) {
+        object["added"].push_back(json(record));
+    }
+    for (const RecordName& record : source.gone) {
+        object["gone"].push_back(json(record));
+    }
+    for (const MovedRecord& moved : source.moved) {
+        object["moved"].push_back({{"id", moved.record.id},
+                                   {"name", moved.record.name},
+                                   {"from", {moved.from.longitude, moved.from.latitude}},
+                                   {"to", {moved.to.longitude, moved.to.latitude}},
+                                   {"metres", moved.metres}});
+    }
+    for (const ChangedValue& change : source.changed) {
+        const bool isFact = change.of == ChangedValue::Of::fact;
+        object["changed"].push_back({{"id", change.record.id},
+                                     {isFact ? "fact" : "field", change.field},
+                                     {"before", json(change.before)},
+                                     {"after", json(change.after)}});
+    }
+    return object;
+}
+
+} // namespace
+
+std::string comparisonText(const ReleaseComparison& comparison) {
+    std::string text = printedText(comparison.idBefore) + " of " + comparison.generatedBefore +
+                       " to " + printedText(comparison.idAfter) + " of " +
+                       comparison.generatedAfter + "\n" +
+                       counted(comparison.recordsBefore, "record", "records") + " before, " +
+                       grouped(comparison.recordsAfter) + " now\n";
+    text += limitationsText(comparison.limitationsAdded, "added");
+    text += limitationsText(comparison.limitationsGone, "gone");
+    for (const SourceComparison& source : comparison.sources) {
+        text += sourceText(source);
+    }
+    return text;
+}
+
+std::string comparisonJson(const ReleaseComparison& comparison) {
+    Json object{{"before",
+                 {{"release", comparison.idBefore},
+                  {"generatedAt", comparison.generatedBefore},
+                  {"records", comparison.recordsBefore}}},
+                {"after",
+                 {{"release", comparison.idAfter},
+                  {"generatedAt", comparison.generatedAfter},
+                  {"records", comparison.recordsAfter}}},
+                {"limitationsAdded", comparison.limitationsAdded},
+                {"limitationsGone", comparison.limitationsGone},
+                {"sources", Json::array()}};
+    for (const SourceComparison& source : comparison.sources) {
+        object["sources"].push_back(json(source));
+    }
+    return object.dump(1) + "\n";
+}
+
+} // namespace vasker

@@ -1,0 +1,122 @@
+#include "tools/openmap-release/export/CsvExport.h"
+
+#include "tools/openmap-release/export/NumberText.h"
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace vasker {
+namespace {
+
+constexpr std::string_view columns =
+    "id,name,category,category_key,jurisdiction,status,company,latitude,longitude,fact,value,"
+    "period,source,publisher,page,licence,attribution";
+constexpr std::string_view headerCells = ",,,,\n";
+
+/// A cell, quoted where it has to be. The character NUL, which no reader of CSV expects, becomes
+/// U+FFFD.
+void addCell(std::string& text, std::string_view cell) {
+    const bool needsQuotes = cell.find_first_of(",\"\r\n") != std::string_view::npos ||
+                             cell.starts_with(' ') || cell.ends_with(' ');
+    if (needsQuotes) {
+        text += '"';
+    }
+    for (const char byte : cell) {
+        if (byte == '"') {
+            text += '"';
+        }
+        if (byte == '\0') {
+            text += "\uFFFD";
+        } else {
+            text += byte;
+        }
+    }
+    if (needsQuotes) {
+        text += '"';
+    }
+}
+
+void addCells(std::string& text, std::initializer_list<std::string_view> cells) {
+    for (const std::string_view cell : cells) {
+        addCell(text, cell);
+        text += ',';
+    }
+}
+
+/// Control characters as blanks: the name of a column is one line.
+std::string oneLine(std::string text) {
+    for (char& byte : text) {
+        if (static_cast<unsigned char>(byte) < 0x20) {
+            byte = ' ';
+        }
+    }
+    return text;
+}
+
+std::string heading(const ExportHeader& header) {
+    std::string text(columns);
+    for (const std::string& name : {"release=" + header.releaseID,
+                                    "sha256=" + header.digest,
+                                    "query=" + header.query,
+                                    "filter=" + header.filter}) {
+        text += ',';
+        addCell(text, oneLine(name));
+    }
+    return text + "\n";
+}
+
+void addSource(std::string& text, std::string_view period, const OpenMapRelease::Source& source) {
+    addCells(text,
+             {period, source.shortName(), source.publisher, source.sourceURL, source.licenceURL});
+    addCell(text, source.attribution);
+    text += headerCells;
+}
+
+/// The cells of a record that each of its rows repeats.
+std::string recordCells(const OpenMapRelease::Asset& record) {
+    std::string text;
+    addCells(text,
+             {record.id,
+              record.name,
+              record.category(),
+              record.kind,
+              record.jurisdiction,
+              record.status,
+              record.reportedCompany.value_or(""),
+              numberText(record.latitude),
+              numberText(record.longitude)});
+    return text;
+}
+
+} // namespace
+
+ExportOutcome exportCsv(const OpenMapRelease& release,
+                        std::span<const AssetIndex> records,
+                        const ExportHeader& header,
+                        const ExportSink& sink) {
+    ExportBuffer buffer(sink);
+    std::string& text = buffer.text();
+    text += heading(header);
+    for (const AssetIndex place : records) {
+        const OpenMapRelease::Asset& record = release.assets[place];
+        const std::string cells = recordCells(record);
+        text += cells;
+        text += ",,";
+        addSource(text, record.asOf, *release.source(record.sourceID));
+        for (const OpenMapRelease::Fact& fact : record.facts) {
+            text += cells;
+            addCells(text, {fact.label, fact.value});
+            addSource(text, fact.asOf, *release.source(fact.sourceID));
+            if (!buffer.advance()) {
+                return buffer.finish();
+            }
+        }
+        if (!buffer.advance()) {
+            break;
+        }
+    }
+    return buffer.finish();
+}
+
+} // namespace vasker
