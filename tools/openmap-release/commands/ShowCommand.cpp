@@ -45,12 +45,15 @@ std::string described(const OpenMapRelease& release, const OpenMapRelease::Asset
                             std::string(release.source(fact.sourceID)->shortName()) + ")") +
                 "\n";
     }
+    // Several tables of one publication are credited alike.
+    std::set<std::string> credits;
     for (const OpenMapRelease::Source& source : release.sources) {
-        if (cited.contains(source.id)) {
-            text += "\n" +
-                    printedText(std::string(source.shortName()) + ": " + source.publisher + ", " +
-                                source.sourceURL) +
-                    "\n" + printedText(source.attribution + " " + source.licenceURL) + "\n";
+        const std::string credit = printedText(std::string(source.shortName()) + ": " +
+                                               source.publisher + ", " + source.sourceURL) +
+                                   "\n" +
+                                   printedText(source.attribution + " " + source.licenceURL) + "\n";
+        if (cited.contains(source.id) && credits.insert(credit).second) {
+            text += "\n" + credit;
         }
     }
     return text;
