@@ -25,6 +25,22 @@ namespace {
     QT_TRANSLATE_NOOP("Category", "Storage"),
     QT_TRANSLATE_NOOP("Category", "Pipeline"),
     QT_TRANSLATE_NOOP("Category", "Petrochemical"),
+    QT_TRANSLATE_NOOP("Category", "Asphalt_plant"),
+    QT_TRANSLATE_NOOP("Category", "Battery"),
+    QT_TRANSLATE_NOOP("Category", "Compressor_station"),
+    QT_TRANSLATE_NOOP("Category", "Dehydrator"),
+    QT_TRANSLATE_NOOP("Category", "Extraction_plant"),
+    QT_TRANSLATE_NOOP("Category", "Gas_distribution"),
+    QT_TRANSLATE_NOOP("Category", "Gas_gathering_system"),
+    QT_TRANSLATE_NOOP("Category", "Injection_facility"),
+    QT_TRANSLATE_NOOP("Category", "Offshore_platform"),
+    QT_TRANSLATE_NOOP("Category", "Petroleum_products_plant"),
+    QT_TRANSLATE_NOOP("Category", "Pipeline_facility"),
+    QT_TRANSLATE_NOOP("Category", "Pipeline_station"),
+    QT_TRANSLATE_NOOP("Category", "Satellite"),
+    QT_TRANSLATE_NOOP("Category", "Thermal_project"),
+    QT_TRANSLATE_NOOP("Category", "Treating_facility"),
+    QT_TRANSLATE_NOOP("Category", "Well_site"),
 };
 
 } // namespace

@@ -121,6 +121,70 @@
         <source>Petrochemical</source>
         <translation>Pétrochimie</translation>
     </message>
+    <message>
+        <source>Asphalt_plant</source>
+        <translation>Usine d’asphalte</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Batterie de production</translation>
+    </message>
+    <message>
+        <source>Compressor_station</source>
+        <translation>Station de compression</translation>
+    </message>
+    <message>
+        <source>Dehydrator</source>
+        <translation>Déshydrateur</translation>
+    </message>
+    <message>
+        <source>Extraction_plant</source>
+        <translation>Usine d’extraction</translation>
+    </message>
+    <message>
+        <source>Gas_distribution</source>
+        <translation>Distribution de gaz</translation>
+    </message>
+    <message>
+        <source>Gas_gathering_system</source>
+        <translation>Réseau de collecte de gaz</translation>
+    </message>
+    <message>
+        <source>Injection_facility</source>
+        <translation>Installation d’injection</translation>
+    </message>
+    <message>
+        <source>Offshore_platform</source>
+        <translation>Plateforme extracôtière</translation>
+    </message>
+    <message>
+        <source>Petroleum_products_plant</source>
+        <translation>Usine de produits pétroliers</translation>
+    </message>
+    <message>
+        <source>Pipeline_facility</source>
+        <translation>Installation de pipeline</translation>
+    </message>
+    <message>
+        <source>Pipeline_station</source>
+        <translation>Station de pipeline</translation>
+    </message>
+    <message>
+        <source>Satellite</source>
+        <translation>Batterie satellite</translation>
+    </message>
+    <message>
+        <source>Thermal_project</source>
+        <translation>Projet thermique</translation>
+    </message>
+    <message>
+        <source>Treating_facility</source>
+        <translation>Installation de traitement</translation>
+    </message>
+    <message>
+        <source>Well_site</source>
+        <translation>Emplacement de puits</translation>
+    </message>
 </context>
 <context>
     <name>FailureScreen</name>

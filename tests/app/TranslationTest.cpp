@@ -1,3 +1,4 @@
+#include "data/Classification.h"
 #include "map/catalogue/KindListModel.h"
 #include "map/catalogue/RecordListModel.h"
 #include "map/view/CameraReadout.h"
@@ -6,6 +7,7 @@
 #include "tests/support/ReleaseBuilder.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +20,11 @@ RecordSet records(std::vector<AssetIndex> shown) {
             std::make_shared<const std::vector<AssetIndex>>(std::move(shown))};
 }
 
+OpenMapRelease packagedRelease() {
+    QFile file(QStringLiteral(VASKER_RESOURCES "/OpenMap.json"));
+    return decoded(file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string());
+}
+
 // One test: a translation stays for the life of the program.
 TEST(Translation, AFrenchDesktopReadsFrench) {
     EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
@@ -27,8 +34,13 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
 
     EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Usine à gaz"));
     EXPECT_EQ(categoryText("refinery"), QStringLiteral("Raffinerie"));
-    EXPECT_EQ(categoryText("compressor_station"), QStringLiteral("Compressor_station"));
+    EXPECT_EQ(categoryText("compressor_station"), QStringLiteral("Station de compression"));
+    EXPECT_EQ(categoryText("drilling_rig"), QStringLiteral("Drilling_rig"));
     EXPECT_EQ(categoryText(""), QString());
+    // A key of several words keeps its underscores where it has no translation.
+    for (const std::string& kind : kinds(packagedRelease())) {
+        EXPECT_FALSE(categoryText(kind).contains(u'_')) << kind;
+    }
     EXPECT_EQ(KindListModel().currentLabel(), QStringLiteral("Toutes les catégories"));
 
     const QLocale french(QStringLiteral("fr_CA"));

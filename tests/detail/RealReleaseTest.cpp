@@ -44,7 +44,7 @@ const QMap<QString, QString> shortNames{
     {QStringLiteral("gem-ggit-pipelines"), QStringLiteral("GEM gas pipelines")},
     {QStringLiteral("gem-ggit-lng-terminals"), QStringLiteral("GEM LNG terminals")}};
 
-// The packaged kinds are plain words.
+// Any other packaged kind is one word to the rule for labels, underscores included.
 QString labelOf(const QString& kind) {
     return labels.value(kind, kind.left(1).toUpper() + kind.mid(1).toLower());
 }
