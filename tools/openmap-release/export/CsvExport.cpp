@@ -2,6 +2,7 @@
 
 #include "tools/openmap-release/export/NumberText.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -14,27 +15,30 @@ constexpr std::string_view columns =
     "period,source,publisher,page,licence,attribution";
 constexpr std::string_view headerCells = ",,,,\n";
 
+constexpr bool needsQuotes(char byte) {
+    return byte == ',' || byte == '"' || byte == '\r' || byte == '\n';
+}
+
+constexpr bool isRewritten(char byte) {
+    return byte == '"' || byte == '\0';
+}
+
 /// A cell, quoted where it has to be. The character NUL, which no reader of CSV expects, becomes
 /// U+FFFD.
 void addCell(std::string& text, std::string_view cell) {
-    const bool needsQuotes = cell.find_first_of(",\"\r\n") != std::string_view::npos ||
-                             cell.starts_with(' ') || cell.ends_with(' ');
-    if (needsQuotes) {
-        text += '"';
-    }
-    for (const char byte : cell) {
-        if (byte == '"') {
-            text += '"';
+    const bool quoted =
+        std::ranges::any_of(cell, needsQuotes) || cell.starts_with(' ') || cell.ends_with(' ');
+    text += quoted ? "\"" : "";
+    for (;;) {
+        const auto* const special = std::ranges::find_if(cell, isRewritten);
+        text.append(cell.begin(), special);
+        if (special == cell.end()) {
+            break;
         }
-        if (byte == '\0') {
-            text += "\uFFFD";
-        } else {
-            text += byte;
-        }
+        text += *special == '"' ? "\"\"" : "\uFFFD";
+        cell = {special + 1, cell.end()};
     }
-    if (needsQuotes) {
-        text += '"';
-    }
+    text += quoted ? "\"" : "";
 }
 
 void addCells(std::string& text, std::initializer_list<std::string_view> cells) {
