@@ -1,6 +1,7 @@
 #include "tools/openmap-release/packing/tables/Cells.h"
 
-#include "data/Text.h"
+#include "data/text/CaseFolding.h"
+#include "data/text/TextLocale.h"
 
 #include <algorithm>
 #include <array>
