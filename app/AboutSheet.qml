@@ -38,7 +38,7 @@ Sheet {
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
                     textStyle: Theme.caption
-                    color: Theme.ink2
+                    color: Theme.text2
                     text: qsTr("Version %1").arg(root.version)
                     spoken: true
                 }

@@ -24,7 +24,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "map"
             size: 64 * Theme.iconScale
-            color: Theme.ink3
+            color: Theme.text3
         }
         Item {
             width: 1
@@ -48,7 +48,7 @@ Item {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             textStyle: Theme.field
-            color: Theme.ink2
+            color: Theme.text2
             text: root.description
         }
     }

@@ -43,7 +43,7 @@ Item {
             id: label
 
             textStyle: Theme.body
-            color: Theme.ink2
+            color: Theme.text2
             text: qsTr("Opening the bundled map…")
         }
     }

@@ -16,7 +16,7 @@ SectionRow {
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         textStyle: Theme.caption
-        color: Theme.ink2
+        color: Theme.text2
         text: root.fact.label
         spoken: true
     }

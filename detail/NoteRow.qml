@@ -7,7 +7,7 @@ SectionRow {
 
     required property string text
     property TextStyle textStyle: Theme.footnote
-    property color color: Theme.ink
+    property color color: Theme.text
 
     Label {
         width: parent.width

@@ -32,7 +32,7 @@ SectionRow {
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         textStyle: Theme.caption
-        color: Theme.ink2
+        color: Theme.text2
         text: root.credit.conditions
         spoken: true
     }
@@ -41,7 +41,7 @@ SectionRow {
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         textStyle: Theme.caption
-        color: Theme.ink2
+        color: Theme.text2
         text: root.credit.modifications
         spoken: true
     }

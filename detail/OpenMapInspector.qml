@@ -69,7 +69,7 @@ Item {
                     width: parent.width
                     horizontalAlignment: TextEdit.AlignLeft
                     textStyle: Theme.caption
-                    color: Theme.ink2
+                    color: Theme.text2
                     text: root.content.subtitle
                     keyTarget: list
                 }
@@ -89,7 +89,7 @@ Item {
             }
             NoteRow {
                 textStyle: Theme.caption
-                color: Theme.ink2
+                color: Theme.text2
                 text: root.content.caveat
             }
         }

@@ -41,7 +41,7 @@ Item {
             }
             NoteRow {
                 textStyle: Theme.caption
-                color: Theme.ink2
+                color: Theme.text2
                 text: root.content.identity
             }
             NoteRow {

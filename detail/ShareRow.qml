@@ -81,7 +81,7 @@ SectionRow {
         width: parent.width - x
         wrapMode: Text.Wrap
         textStyle: Theme.caption
-        color: Theme.ink2
+        color: Theme.text2
         text: FileShare.message
         spoken: true
     }

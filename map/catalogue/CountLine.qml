@@ -51,7 +51,7 @@ Item {
         width: parent.width - 16
         wrapMode: Text.Wrap
         textStyle: Theme.caption
-        color: Theme.ink2
+        color: Theme.text2
         text: root.text
     }
     HoverHandler {

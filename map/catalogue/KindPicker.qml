@@ -44,7 +44,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         visible: x + implicitWidth + 8 + value.implicitWidth < chevron.x
         textStyle: Theme.field
-        color: Theme.ink2
+        color: Theme.text2
         text: qsTr("Layer")
     }
     Label {
@@ -65,7 +65,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.updown"
         size: 16 * Theme.iconScale
-        color: Theme.ink
+        color: Theme.text
     }
     HoverHandler {
         id: hover

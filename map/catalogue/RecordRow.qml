@@ -102,14 +102,14 @@ Item {
             visible: root.unit.length > 0
             wrapMode: Text.Wrap
             textStyle: Theme.captionLine
-            color: Theme.ink2
+            color: Theme.text2
             text: root.unit
         }
         Label {
             width: parent.width
             wrapMode: Text.Wrap
             textStyle: Theme.captionLine
-            color: Theme.ink2
+            color: Theme.text2
             text: root.category
         }
     }

@@ -11,15 +11,15 @@ Item {
     property var links: []
     property string note: ""
     property real maximumWidth: 1000
-    required property MapInk inks
+    required property MapTextColors colors
 
     implicitWidth: Math.min(Math.ceil(measure.implicitWidth), maximumWidth)
     implicitHeight: flow.implicitHeight
 
     component Piece: HaloText {
         textStyle: Theme.mapNote
-        color: root.inks.ink2
-        halo: root.inks.halo
+        color: root.colors.text2
+        halo: root.colors.halo
     }
     component Separator: Piece {
         text: " · "

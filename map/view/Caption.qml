@@ -23,7 +23,7 @@ Rectangle {
         y: 10
         name: "info.circle"
         size: 16 * Theme.iconScale
-        color: Theme.ink
+        color: Theme.text
     }
     Label {
         id: text

@@ -76,7 +76,7 @@ Item {
             y: 0
             size: 14
             name: "needle"
-            color: Theme.ink3
+            color: Theme.text3
             rotation: 180
         }
     }

@@ -74,7 +74,7 @@ Item {
             width: Math.min(implicitWidth, texts.most)
             wrapMode: Text.Wrap
             textStyle: Theme.captionLine
-            color: Theme.ink2
+            color: Theme.text2
             text: root.caption
         }
     }

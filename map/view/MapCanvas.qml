@@ -22,8 +22,8 @@ MapView {
 
         map: root
     }
-    MapInk {
-        id: inks
+    MapTextColors {
+        id: textColors
 
         overImagery: root.status.showsImagery
     }
@@ -66,7 +66,7 @@ MapView {
         anchors.bottomMargin: 12
         barLength: readout.barLength
         text: readout.barText
-        inks: inks
+        colors: textColors
     }
     Attribution {
         id: attribution
@@ -78,7 +78,7 @@ MapView {
         maximumWidth: parent.width - anchors.rightMargin - bar.x - bar.width - 24
         note: imageryWait.over ? qsTr("Satellite imagery needs a network connection") : ""
         links: root.status.attribution
-        inks: inks
+        colors: textColors
     }
     Compass {
         id: compass

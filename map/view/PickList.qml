@@ -44,7 +44,7 @@ PopupSurface {
         height: 30
         verticalAlignment: Text.AlignVCenter
         textStyle: Theme.caption
-        color: Theme.ink2
+        color: Theme.text2
         text: qsTr("%n records at this place", "", list.count)
     }
     ListView {

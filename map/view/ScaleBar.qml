@@ -8,7 +8,7 @@ Item {
 
     required property real barLength
     required property string text
-    required property MapInk inks
+    required property MapTextColors colors
 
     implicitWidth: end.x + end.width
     implicitHeight: end.implicitHeight + 10
@@ -28,7 +28,7 @@ Item {
         width: (upright ? 0 : reach) + thick
         height: (upright ? reach : 0) + thick
         radius: thick / 2
-        color: wide ? root.inks.halo : root.inks.ink
+        color: wide ? root.colors.halo : root.colors.text
     }
     component Strokes: Item {
         id: strokes
@@ -74,8 +74,8 @@ Item {
         x: -1
         text: "0"
         textStyle: Theme.mapNote
-        color: root.inks.ink
-        halo: root.inks.halo
+        color: root.colors.text
+        halo: root.colors.halo
     }
     HaloText {
         id: end
@@ -83,7 +83,7 @@ Item {
         x: Math.round(root.barLength - implicitWidth / 2)
         text: root.text
         textStyle: Theme.mapNote
-        color: root.inks.ink
-        halo: root.inks.halo
+        color: root.colors.text
+        halo: root.colors.halo
     }
 }

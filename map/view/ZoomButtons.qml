@@ -46,7 +46,7 @@ Item {
             anchors.centerIn: parent
             name: half.icon
             size: 20
-            color: half.atEnd ? Theme.ink3 : Theme.ink
+            color: half.atEnd ? Theme.text3 : Theme.text
         }
         FocusRing {
             around: 10

@@ -26,7 +26,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "search"
             size: 44 * Theme.iconScale
-            color: Theme.ink3
+            color: Theme.text3
         }
         Item {
             width: 1
@@ -48,7 +48,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
             textStyle: Theme.footnote
-            color: Theme.ink2
+            color: Theme.text2
             text: root.advice
         }
     }

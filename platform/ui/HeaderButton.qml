@@ -64,7 +64,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: root.icon
         size: 20 * Theme.iconScale
-        color: Theme.ink
+        color: Theme.text
     }
     Label {
         id: label
@@ -85,7 +85,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.down"
         size: 14 * Theme.iconScale
-        color: Theme.ink2
+        color: Theme.text2
     }
     ToolTip {
         text: root.text

@@ -10,7 +10,7 @@ Text {
     property bool spoken: false
 
     font: root.textStyle.font
-    color: Theme.ink
+    color: Theme.text
     textFormat: Text.PlainText
     lineHeightMode: Text.FixedHeight
     lineHeight: root.textStyle.lineHeight

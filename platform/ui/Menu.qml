@@ -91,7 +91,7 @@ PopupSurface {
                     Layout.topMargin: 6
                     Layout.bottomMargin: 4
                     textStyle: Theme.menuTitle
-                    color: Theme.ink2
+                    color: Theme.text2
                     text: root.title
                 }
                 Repeater {

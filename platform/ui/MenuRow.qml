@@ -57,7 +57,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             name: root.checked ? "check" : root.icon
             size: 16 * Theme.iconScale
-            color: root.checked ? Theme.accent : Theme.ink
+            color: root.checked ? Theme.accent : Theme.text
         }
         Label {
             id: label
@@ -78,7 +78,7 @@ Item {
             anchors.rightMargin: root.note.length > 0 ? 10 : 0
             anchors.verticalCenter: parent.verticalCenter
             textStyle: Theme.caption
-            color: Theme.ink2
+            color: Theme.text2
             text: root.note
         }
         HoverHandler {

@@ -25,7 +25,7 @@ Item {
         width: 5
         height: root.thumbLength
         radius: Theme.thumbRadius
-        color: drag.active || hover.hovered ? Theme.ink3 : Theme.thumb
+        color: drag.active || hover.hovered ? Theme.text3 : Theme.thumb
     }
     HoverHandler {
         id: hover

@@ -36,7 +36,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         name: "search"
         size: 16 * Theme.iconScale
-        color: Theme.ink2
+        color: Theme.text2
     }
     TextInput {
         id: input
@@ -47,7 +47,7 @@ Rectangle {
         anchors.rightMargin: clear.visible ? 2 : 10
         anchors.verticalCenter: parent.verticalCenter
         font: Theme.field.font
-        color: Theme.ink
+        color: Theme.text
         selectionColor: Theme.accent
         selectedTextColor: Theme.onAccent
         selectByMouse: true
@@ -74,7 +74,7 @@ Rectangle {
         anchors.right: input.right
         anchors.verticalCenter: parent.verticalCenter
         textStyle: Theme.footnote
-        color: Theme.ink2
+        color: Theme.text2
         elide: Text.ElideRight
         text: root.prompt
     }
@@ -95,7 +95,7 @@ Rectangle {
             anchors.centerIn: parent
             name: "xmark"
             size: 16 * Theme.iconScale
-            color: Theme.ink2
+            color: Theme.text2
         }
         HoverHandler {
             cursorShape: Qt.ArrowCursor

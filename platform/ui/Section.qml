@@ -17,7 +17,7 @@ Column {
         width: parent.width - 28
         wrapMode: Text.Wrap
         textStyle: Theme.sectionTitle
-        color: Theme.ink2
+        color: Theme.text2
         text: root.title
         spoken: true
         Accessible.role: Accessible.Heading

@@ -12,7 +12,7 @@ TextEdit {
     font: root.textStyle.font
     topPadding: root.textStyle.halfLeading
     bottomPadding: root.textStyle.halfLeading
-    color: Theme.ink
+    color: Theme.text
     selectionColor: Theme.accent
     selectedTextColor: Theme.onAccent
     textFormat: TextEdit.PlainText

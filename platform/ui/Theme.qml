@@ -15,22 +15,22 @@ QtObject {
     readonly property color card: dark ? "#23282D" : "#FFFFFF"
     readonly property color control: dark ? "#262B30" : "#FFFFFF"
     readonly property color raised: dark ? "#30363C" : "#FFFFFF"
-    readonly property color line: highContrast ? ink3 : (dark ? "#2C3136" : "#E1E1DD")
-    readonly property color controlLine: highContrast ? ink3 : (dark ? "#454C54" : "#C9CAC7")
-    readonly property color ink: dark ? "#ECEEF0" : "#1A1D21"
-    readonly property color ink2: highContrast ? ink : (dark ? "#A9B0B8" : "#565C65")
-    readonly property color ink3: dark ? "#7F8790" : "#7B828B"
+    readonly property color line: highContrast ? text3 : (dark ? "#2C3136" : "#E1E1DD")
+    readonly property color controlLine: highContrast ? text3 : (dark ? "#454C54" : "#C9CAC7")
+    readonly property color text: dark ? "#ECEEF0" : "#1A1D21"
+    readonly property color text2: highContrast ? text : (dark ? "#A9B0B8" : "#565C65")
+    readonly property color text3: dark ? "#7F8790" : "#7B828B"
     readonly property color accent: dark ? "#84B8FF" : "#1A5FD0"
     readonly property color onAccent: dark ? "#0E1318" : "#FFFFFF"
     // The compass needle's end; the red of the records.
     readonly property color north: dark ? "#FD504B" : "#CC1C46"
     readonly property color selected: dark ? "#2A3A50" : "#E4EDFB"
-    readonly property color hover: Qt.alpha(ink, 0.06)
-    readonly property color pressed: Qt.alpha(ink, 0.11)
+    readonly property color hover: Qt.alpha(text, 0.06)
+    readonly property color pressed: Qt.alpha(text, 0.11)
     // Over what lies behind a sheet; the second where it stays in use to the eye.
     readonly property color scrim: dark ? Qt.rgba(0, 0, 0, 0.5) : Qt.alpha("#14181D", 0.28)
     readonly property color sideScrim: dark ? Qt.rgba(0, 0, 0, 0.24) : Qt.alpha("#14181D", 0.14)
-    readonly property color thumb: Qt.alpha(ink3, 0.45)
+    readonly property color thumb: Qt.alpha(text3, 0.45)
 
     // The desktop's text size; all text and the controls around it follow, widths and gaps do not.
     readonly property real textScale: Appearance.textScale
