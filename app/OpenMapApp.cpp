@@ -60,7 +60,7 @@ QString OpenMapApp::version() {
 
 QQuickWindow* OpenMapApp::openWindow() {
     // Loading starts first: it goes on while the window is being made.
-    auto root = std::make_unique<OpenMapRoot>(m_bundle, m_locale, m_preferences, m_threads);
+    auto root = std::make_unique<OpenMapRoot>(m_bundle, m_locale, m_preferences);
     root->load();
     if (m_component.isNull()) {
         m_component.loadUrl(QUrl(QStringLiteral("qrc:/qt/qml/Vasker/App/Main.qml")));

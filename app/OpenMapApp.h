@@ -1,7 +1,6 @@
 #pragma once
 // The application: a group of windows that share the user's settings and nothing else.
 
-#include "app/BackgroundThreads.h"
 #include "data/text/TextLocale.h"
 #include "map/basemap/TileLibrary.h"
 #include "platform/Bundle.h"
@@ -55,8 +54,6 @@ class OpenMapApp : public QObject {
     Bundle m_bundle;
     TextLocale m_locale;
     Preferences m_preferences;
-    // Before the engine, so that it ends after the windows that use it.
-    BackgroundThreads m_threads;
     TileLibrary m_tiles;
     QQmlEngine m_engine;
     QQmlComponent m_component;

@@ -1,12 +1,13 @@
 #include "app/OpenMapRoot.h"
 
-#include "app/LoadTask.h"
 #include "data/OpenMapRelease.h"
+#include "platform/Background.h"
 
 #include <QFile>
 #include <QJsonValue>
 
 #include <system_error>
+#include <utility>
 
 namespace vasker {
 
@@ -26,13 +27,12 @@ const QString reassurance = QStringLiteral(
 OpenMapRoot::OpenMapRoot(Bundle bundle,
                          TextLocale locale,
                          Preferences& preferences,
-                         BackgroundThreads& threads,
                          QObject* parent)
     : QObject(parent), m_bundle(std::move(bundle)), m_locale(std::move(locale)),
-      m_preferences(preferences), m_threads(threads) {}
+      m_preferences(preferences) {}
 
 void OpenMapRoot::load() {
-    if (m_workspace != nullptr || m_failed || m_task != nullptr) {
+    if (std::exchange(m_started, true)) {
         return;
     }
     const auto resource = m_bundle.resource(resourceName, resourceExtension);
@@ -42,13 +42,14 @@ void OpenMapRoot::load() {
         return;
     }
     try {
-        m_task = new LoadTask(
-            m_threads,
+        runInBackground(
+            this,
             [path = QFile::encodeName(*resource).toStdString(),
              expected = digest.toStdString(),
-             locale = m_locale] { return loadRelease(path, expected, locale); },
-            this);
-        connect(m_task, &LoadTask::finished, this, &OpenMapRoot::finish);
+             locale = m_locale](const std::stop_token& stop) {
+                return loadRelease(path, expected, locale, stop);
+            },
+            [this](const LoadOutcome& outcome) { finish(outcome); });
     } catch (const std::system_error& error) {
         fail(error.code().message());
     }
@@ -72,7 +73,6 @@ void OpenMapRoot::fail(std::string description) {
 }
 
 void OpenMapRoot::finish(const LoadOutcome& outcome) {
-    m_task->deleteLater();
     if (const auto* failure = std::get_if<LoadFailure>(&outcome)) {
         fail(failure->description);
         return;

@@ -2,7 +2,6 @@
 // What a window shows: the release is being opened, cannot be shown, or is there. It loads once;
 // the first outcome stays for the life of the window.
 
-#include "app/BackgroundThreads.h"
 #include "app/OpenMapWorkspace.h"
 #include "app/ReleaseLoading.h"
 #include "platform/Bundle.h"
@@ -15,7 +14,6 @@
 
 namespace vasker {
 
-class LoadTask;
 class Preferences;
 
 class OpenMapRoot : public QObject {
@@ -30,11 +28,10 @@ class OpenMapRoot : public QObject {
     enum class Screen { Loading, Failed, Ready };
     Q_ENUM(Screen)
 
-    /// All references outlive the root.
+    /// `preferences` outlive the root.
     OpenMapRoot(Bundle bundle,
                 TextLocale locale,
                 Preferences& preferences,
-                BackgroundThreads& threads,
                 QObject* parent = nullptr);
 
     /// Starts loading; does nothing when that has been done before, however it went.
@@ -56,8 +53,7 @@ class OpenMapRoot : public QObject {
     Bundle m_bundle;
     TextLocale m_locale;
     Preferences& m_preferences;
-    BackgroundThreads& m_threads;
-    LoadTask* m_task = nullptr;
+    bool m_started = false;
     OpenMapWorkspace* m_workspace = nullptr;
     std::string m_error;
     bool m_failed = false;

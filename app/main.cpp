@@ -2,6 +2,7 @@
 #include "app/QmlModules.h"
 #include "platform/AccessibleIds.h"
 #include "platform/Appearance.h"
+#include "platform/Background.h"
 #include "platform/DesktopActivation.h"
 #include "platform/Locale.h"
 #include "platform/Memory.h"
@@ -12,6 +13,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <cstdlib>
 
 namespace {
 
@@ -29,10 +31,7 @@ bool startedByBus() {
     return started;
 }
 
-} // namespace
-
-int main(int argc, char* argv[]) {
-    vasker::returnFreedPictures();
+int run(int argc, char* argv[]) {
     // Qt asks once, when it starts, whether there is a screen reader: one may be started later.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const bool serves = startedByBus();
@@ -78,4 +77,16 @@ int main(int argc, char* argv[]) {
         windows.openWindowInFront(token);
     }
     return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    vasker::returnFreedPictures();
+    const int status = run(argc, argv);
+    // A read from a disk that is gone never returns; its thread must not keep the program.
+    if (!vasker::finishBackgroundWork()) {
+        std::_Exit(status);
+    }
+    return status;
 }

@@ -1,6 +1,7 @@
 #include "platform/FileShare.h"
 
 #include "platform/Appearance.h"
+#include "platform/Background.h"
 #include "platform/FileCopy.h"
 #include "platform/Portal.h"
 
@@ -21,6 +22,7 @@
 #include <QStandardPaths>
 
 #include <memory>
+#include <system_error>
 
 namespace vasker {
 
@@ -41,8 +43,6 @@ QDBusUnixFileDescriptor opened(const QString& path) {
 
 FileShare::FileShare(const QDBusConnection& bus, QQmlEngine* engine, QObject* parent)
     : QObject(parent), m_bus(bus), m_engine(engine) {}
-
-FileShare::~FileShare() = default;
 
 FileShare* FileShare::create(QQmlEngine* engine, QJSEngine*) {
     static auto* const shared = new FileShare(Appearance::sessionBus(), engine, qGuiApp);
@@ -105,13 +105,19 @@ void FileShare::copyTo(const QString& path, const QUrl& place) {
         return;
     }
     const QString target = place.toLocalFile();
-    m_threads.start([this, path, target] {
-        const QString fault = copyWhole(path, target);
-        QMetaObject::invokeMethod(this, [this, target, fault] {
-            setMessage(fault.isEmpty() ? tr("Saved to %1").arg(target)
-                                       : tr("The copy could not be saved: %1").arg(fault));
-        });
-    });
+    const auto tellOf = [this, target](const QString& fault) {
+        setMessage(fault.isEmpty() ? tr("Saved to %1").arg(target)
+                                   : tr("The copy could not be saved: %1").arg(fault));
+    };
+    try {
+        runInBackground(
+            this,
+            [path, target](const std::stop_token&) { return copyWhole(path, target); },
+            tellOf,
+            AtExit::finish);
+    } catch (const std::system_error& error) {
+        tellOf(QString::fromStdString(error.code().message()));
+    }
 }
 
 void FileShare::showInFolder(const QString& path) {

@@ -7,7 +7,6 @@
 #include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
-#include <QThreadPool>
 #include <QUrl>
 #include <QtQmlIntegration>
 
@@ -28,7 +27,6 @@ class FileShare : public QObject {
     explicit FileShare(const QDBusConnection& bus,
                        QQmlEngine* engine = nullptr,
                        QObject* parent = nullptr);
-    ~FileShare() override;
     /// The one object of the process, made on first use.
     static FileShare* create(QQmlEngine* engine, QJSEngine*);
 
@@ -61,8 +59,6 @@ class FileShare : public QObject {
     QDBusConnection m_bus;
     QPointer<QQmlEngine> m_engine;
     QString m_message;
-    // Last: while it ends its work, all the rest is still there.
-    QThreadPool m_threads;
 };
 
 } // namespace vasker

@@ -41,7 +41,7 @@ class StartUp : public testing::Test {
     }
     [[nodiscard]] std::unique_ptr<OpenMapRoot> root() {
         return std::make_unique<OpenMapRoot>(
-            Bundle(m_folder.path()), TextLocale("en"), m_preferences, m_threads);
+            Bundle(m_folder.path()), TextLocale("en"), m_preferences);
     }
     /// The failure text after loading; empty where the release is shown.
     [[nodiscard]] std::string failure() {
@@ -62,7 +62,6 @@ class StartUp : public testing::Test {
 
     QTemporaryDir m_folder;
     Preferences m_preferences{m_folder.filePath(QStringLiteral("preferences"))};
-    BackgroundThreads m_threads;
     const std::string m_release = encode(makeRelease());
 };
 
