@@ -1,6 +1,6 @@
 #include "map/catalogue/KindListModel.h"
 
-#include "presentation/CategoryText.h"
+#include "presentation/RecordText.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,7 +1,7 @@
 #include "map/catalogue/RecordListModel.h"
 
 #include "map/catalogue/NameMatch.h"
-#include "presentation/CategoryText.h"
+#include "presentation/RecordText.h"
 #include "presentation/Symbols.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "map/view/MapHover.h"
 
 #include "map/records/PinShape.h"
-#include "presentation/CategoryText.h"
+#include "presentation/RecordText.h"
 
 namespace vasker {
 

@@ -3,7 +3,7 @@
 #include "map/catalogue/RecordListModel.h"
 #include "map/view/CameraReadout.h"
 #include "platform/Locale.h"
-#include "presentation/CategoryText.h"
+#include "presentation/RecordText.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "presentation/CategoryText.h"
+#include "presentation/RecordText.h"
 
 #include "data/OpenMapRelease.h"
 
