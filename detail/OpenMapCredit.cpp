@@ -1,6 +1,7 @@
 #include "detail/OpenMapCredit.h"
 
 #include "detail/PromptCount.h"
+#include "presentation/RecordText.h"
 
 #include <QUrl>
 #include <QVariant>
@@ -8,7 +9,7 @@
 namespace vasker {
 
 std::optional<QString> linkAddress(std::string_view text) {
-    const QUrl url(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    const QUrl url(toQString(text));
     if (!url.isValid() || url.isEmpty()) {
         return {};
     }

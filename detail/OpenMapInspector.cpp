@@ -1,9 +1,9 @@
 #include "detail/OpenMapInspector.h"
 
 #include "detail/PromptCount.h"
+#include "presentation/RecordText.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace vasker {
 
@@ -13,28 +13,13 @@ using Asset = OpenMapRelease::Asset;
 using Fact = OpenMapRelease::Fact;
 using Source = OpenMapRelease::Source;
 
-const QString separator = QStringLiteral(" · ");
-
-QString toQString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// The label of a category in the language of the interface: the application's own labels are
-/// translated in one place for all views, any other label stays as it is.
-QString categoryText(const Asset& asset) {
-    const std::string label = asset.category();
-    const bool isPlain = label.find('\0') == std::string::npos;
-    return isPlain ? QCoreApplication::translate("Category", label.c_str()) : toQString(label);
-}
-
 std::optional<OpenMapFact::Link> provenance(const OpenMapRelease& release, const Fact& fact) {
     const Source* const source = release.source(fact.sourceID);
     const auto address = source == nullptr ? std::nullopt : linkAddress(source->sourceURL);
     if (!address) {
         return {};
     }
-    return OpenMapFact::Link{toQString(source->shortName()) + separator + toQString(fact.asOf),
-                             *address};
+    return OpenMapFact::Link{sourceLine(*source, fact), *address};
 }
 
 bool cites(const Asset& asset, const Source& source) {
@@ -56,7 +41,7 @@ QString locationText(const Asset& asset) {
 
 OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release, const Asset& asset) {
     OpenMapInspector inspector{.name = toQString(asset.name),
-                               .subtitle = categoryText(asset) + separator + toQString(asset.id),
+                               .subtitle = recordSubtitle(asset),
                                .period = toQString(asset.asOf),
                                .status = toQString(asset.status),
                                .company = {},

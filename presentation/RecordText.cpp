@@ -1,7 +1,5 @@
 #include "presentation/RecordText.h"
 
-#include "data/OpenMapRelease.h"
-
 #include <QCoreApplication>
 
 #include <array>
@@ -45,13 +43,31 @@ namespace {
 
 } // namespace
 
+QString toQString(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString joined(const QString& first, const QString& second) {
+    return first + QStringLiteral(" · ") + second;
+}
+
 QString categoryText(std::string_view kind) {
     const std::string label = OpenMapRelease::Asset::categoryLabel(kind);
-    return QCoreApplication::translate("Category", label.c_str());
+    // A text with a zero character is none of ours, and translate() would cut it there.
+    const bool isOurs = label.find('\0') == std::string::npos;
+    return isOurs ? QCoreApplication::translate("Category", label.c_str()) : toQString(label);
 }
 
 QString categoryLine(const OpenMapRelease::Asset& asset) {
-    return categoryText(asset.kind) + QStringLiteral(" · ") + QString::fromStdString(asset.asOf);
+    return joined(categoryText(asset.kind), toQString(asset.asOf));
+}
+
+QString recordSubtitle(const OpenMapRelease::Asset& asset) {
+    return joined(categoryText(asset.kind), toQString(asset.id));
+}
+
+QString sourceLine(const OpenMapRelease::Source& source, const OpenMapRelease::Fact& fact) {
+    return joined(toQString(source.shortName()), toQString(fact.asOf));
 }
 
 } // namespace vasker

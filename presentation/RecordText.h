@@ -1,5 +1,6 @@
 #pragma once
-// The label of a category in the language of the user interface.
+// Texts composed from a record, in the language of the user interface, wherever it is shown. What
+// the release says stands in them unchanged, to be shown as plain text.
 
 #include "data/OpenMapRelease.h"
 
@@ -9,12 +10,23 @@
 
 namespace vasker {
 
-/// OpenMapRelease::Asset::categoryLabel() of `kind`, translated where it is one of the
-/// application's own labels or a plain word that datasets use as a key; any other label stays as it
-/// is.
+[[nodiscard]] QString toQString(std::string_view utf8);
+
+/// Both parts, separated by a dot in the middle of the line.
+[[nodiscard]] QString joined(const QString& first, const QString& second);
+
+/// OpenMapRelease::Asset::categoryLabel() of `kind`, translated if it is one of the application's
+/// own; a label that comes from the release stays as it is.
 [[nodiscard]] QString categoryText(std::string_view kind);
 
-/// The category and the period of a record: "Gas plant · 2016".
+/// The category and the source period: "Gas plant · 2016".
 [[nodiscard]] QString categoryLine(const OpenMapRelease::Asset& asset);
+
+/// The category and the id: "Gas plant · A-0".
+[[nodiscard]] QString recordSubtitle(const OpenMapRelease::Asset& asset);
+
+/// The short name of the source and the period of the value: "NPRI · 2016".
+[[nodiscard]] QString sourceLine(const OpenMapRelease::Source& source,
+                                 const OpenMapRelease::Fact& fact);
 
 } // namespace vasker

@@ -13,13 +13,9 @@ namespace {
 
 constexpr std::string_view unitLabel = "Reported unit";
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 QString unit(const OpenMapRelease::Asset& asset) {
     const auto fact = std::ranges::find(asset.facts, unitLabel, &OpenMapRelease::Fact::label);
-    return fact == asset.facts.end() ? QString() : text(fact->value);
+    return fact == asset.facts.end() ? QString() : toQString(fact->value);
 }
 
 } // namespace
@@ -38,10 +34,10 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
     const OpenMapRelease::Asset& record = asset(index.row());
     switch (role) {
     case IdRole:
-        return text(record.id);
+        return toQString(record.id);
     case NameRole:
     case Qt::DisplayRole:
-        return text(record.name);
+        return toQString(record.name);
     case MarkupRole:
         return markup(record);
     case UnitRole:
@@ -49,12 +45,12 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
     case CategoryRole:
         return categoryLine(record);
     case SymbolRole:
-        return text(symbol(record.kind));
+        return toQString(symbol(record.kind));
     case TintRole:
         return static_cast<int>(color(record.kind));
     case AccessibleRole:
         return tr("%1, %2, source period %3")
-            .arg(text(record.name), categoryText(record.kind), text(record.asOf));
+            .arg(toQString(record.name), categoryText(record.kind), toQString(record.asOf));
     default:
         return {};
     }
@@ -125,7 +121,7 @@ QString RecordListModel::emptyTitle() const {
 }
 
 QString RecordListModel::idAt(int row) const {
-    return row < 0 || row >= rowCount() ? QString() : text(asset(row).id);
+    return row < 0 || row >= rowCount() ? QString() : toQString(asset(row).id);
 }
 
 int RecordListModel::rowOf(const QString& id) const {
@@ -150,7 +146,7 @@ QString RecordListModel::markup(const OpenMapRelease::Asset& asset) const {
     if (m_foldedQuery.empty()) {
         return {};
     }
-    const QString name = text(asset.name);
+    const QString name = toQString(asset.name);
     const auto part = matchedPart(name, m_foldedQuery, m_records.loaded->index.locale());
     return part ? nameMarkup(name, *part) : QString();
 }

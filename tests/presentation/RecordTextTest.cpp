@@ -1,0 +1,36 @@
+#include "presentation/RecordText.h"
+
+#include "tests/support/ReleaseBuilder.h"
+
+#include <gtest/gtest.h>
+
+namespace vasker {
+namespace {
+
+TEST(RecordText, ACategoryHasItsLabelAndAnUnknownOneIsCapitalised) {
+    EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
+    EXPECT_EQ(categoryText("compressor_station"), QStringLiteral("Compressor_station"));
+    EXPECT_EQ(categoryText(""), QString());
+}
+
+TEST(RecordText, ACategoryIsNotCutAtAZeroCharacter) {
+    EXPECT_EQ(categoryText(std::string_view("a\0b", 3)).size(), 3);
+}
+
+TEST(RecordText, LinesJoinTheirPartsByADot) {
+    const OpenMapRelease::Asset asset = makeAsset();
+    EXPECT_EQ(categoryLine(asset), QStringLiteral("Gas plant · 2016"));
+    EXPECT_EQ(recordSubtitle(asset), QStringLiteral("Gas plant · A-0"));
+    EXPECT_EQ(sourceLine(makeSource(), makeFact()), QStringLiteral("NPRI · 2016"));
+}
+
+TEST(RecordText, TextsOfTheReleaseStandUnchanged) {
+    OpenMapRelease::Asset asset = makeAsset();
+    asset.id = asset.asOf = " <b>%1</b>\n&amp; %2 ";
+    const QString same = QStringLiteral(" <b>%1</b>\n&amp; %2 ");
+    EXPECT_EQ(categoryLine(asset), QStringLiteral("Gas plant · ") + same);
+    EXPECT_EQ(recordSubtitle(asset), QStringLiteral("Gas plant · ") + same);
+}
+
+} // namespace
+} // namespace vasker
