@@ -30,15 +30,15 @@ Sheet {
                 Label {
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
-                    textStyle: Theme.title2
+                    textStyle: Theme.type.title2
                     text: qsTr("Vasker Beta")
                     spoken: true
                 }
                 Label {
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
-                    textStyle: Theme.caption
-                    color: Theme.text2
+                    textStyle: Theme.type.caption
+                    color: Theme.colors.text2
                     text: qsTr("Version %1").arg(root.version)
                     spoken: true
                 }
@@ -46,7 +46,7 @@ Sheet {
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap
-                    textStyle: Theme.footnote
+                    textStyle: Theme.type.footnote
                     text: qsTr("A map of Canadian energy infrastructure from one packaged release of open data, each value with its source and its period. No account, no log; it edits nothing.")
                     spoken: true
                 }
@@ -87,7 +87,7 @@ Sheet {
                 Label {
                     width: parent.width
                     wrapMode: Text.Wrap
-                    textStyle: Theme.footnote
+                    textStyle: Theme.type.footnote
                     text: qsTr("“Sources & coverage” tells the sources of this release one by one. None of these publishers endorses this program.")
                     spoken: true
                 }

@@ -24,7 +24,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "map"
             size: 64 * Theme.iconScale
-            color: Theme.text3
+            color: Theme.colors.text3
         }
         Item {
             width: 1
@@ -36,7 +36,7 @@ Item {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            textStyle: Theme.title2
+            textStyle: Theme.type.title2
             text: qsTr("Map unavailable")
             spoken: true
         }
@@ -47,8 +47,8 @@ Item {
         SelectableText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            textStyle: Theme.field
-            color: Theme.text2
+            textStyle: Theme.type.field
+            color: Theme.colors.text2
             text: root.description
         }
     }

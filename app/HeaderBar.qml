@@ -20,7 +20,7 @@ Rectangle {
     signal recordsWanted
 
     implicitHeight: Theme.headerHeight
-    color: Theme.window
+    color: Theme.colors.window
 
     Label {
         id: title
@@ -28,7 +28,7 @@ Rectangle {
         visible: root.titleVisible
         x: 20
         anchors.verticalCenter: parent.verticalCenter
-        textStyle: Theme.headline
+        textStyle: Theme.type.headline
         text: qsTr("Vasker Beta")
         spoken: true
     }
@@ -79,6 +79,6 @@ Rectangle {
         anchors.bottom: parent.bottom
         width: parent.width
         height: 1
-        color: Theme.line
+        color: Theme.colors.line
     }
 }

@@ -28,13 +28,13 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             width: 36
             height: 36
-            track: Theme.line
-            quarter: Theme.accent
+            track: Theme.colors.line
+            quarter: Theme.colors.accent
 
             RotationAnimator on rotation {
                 from: 0
                 to: 360
-                duration: Theme.spinnerTurn
+                duration: 1100
                 loops: Animation.Infinite
                 running: root.visible && !Theme.still
             }
@@ -42,8 +42,8 @@ Item {
         Label {
             id: label
 
-            textStyle: Theme.body
-            color: Theme.text2
+            textStyle: Theme.type.body
+            color: Theme.colors.text2
             text: qsTr("Opening the bundled map…")
         }
     }

@@ -16,7 +16,7 @@ Window {
     minimumWidth: 900
     minimumHeight: 620
     visible: true
-    color: Theme.window
+    color: Theme.colors.window
 
     function showWorkspace(): void {
         if (root.screen === OpenMapRoot.Ready) {

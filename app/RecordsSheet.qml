@@ -42,7 +42,7 @@ Sheet {
             anchors.top: search.bottom
             anchors.bottom: parent.bottom
             width: parent.width
-            headColor: Theme.sheet
+            headColor: Theme.colors.sheet
             countOpens: false
             records: root.workspace.records
             query: root.workspace.query

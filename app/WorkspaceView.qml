@@ -25,7 +25,7 @@ FocusScope {
 
             width: Theme.columnWidth
             height: parent.height
-            color: Theme.window
+            color: Theme.colors.window
             // One picture while nothing in it changes: the map moves without the texts being drawn anew.
             layer.enabled: true
 
@@ -67,7 +67,7 @@ FocusScope {
             anchors.left: column.right
             width: 1
             height: parent.height
-            color: Theme.line
+            color: Theme.colors.line
         }
         HeaderBar {
             id: header

@@ -15,8 +15,8 @@ SectionRow {
         width: parent.width
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
-        textStyle: Theme.caption
-        color: Theme.text2
+        textStyle: Theme.type.caption
+        color: Theme.colors.text2
         text: root.fact.label
         spoken: true
     }

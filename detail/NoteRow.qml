@@ -6,8 +6,8 @@ SectionRow {
     id: root
 
     required property string text
-    property TextStyle textStyle: Theme.footnote
-    property color color: Theme.text
+    property textStyle textStyle: Theme.type.footnote
+    property color color: Theme.colors.text
 
     Label {
         width: parent.width

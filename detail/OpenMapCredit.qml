@@ -15,7 +15,7 @@ SectionRow {
         width: parent.width
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
-        textStyle: Theme.publisher
+        textStyle: Theme.type.publisher
         text: root.credit.publisher
         spoken: true
     }
@@ -23,7 +23,7 @@ SectionRow {
         width: parent.width
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
-        textStyle: Theme.footnote
+        textStyle: Theme.type.footnote
         text: root.credit.attribution
         spoken: true
     }
@@ -31,8 +31,8 @@ SectionRow {
         width: parent.width
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
-        textStyle: Theme.caption
-        color: Theme.text2
+        textStyle: Theme.type.caption
+        color: Theme.colors.text2
         text: root.credit.conditions
         spoken: true
     }
@@ -40,8 +40,8 @@ SectionRow {
         width: parent.width
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
-        textStyle: Theme.caption
-        color: Theme.text2
+        textStyle: Theme.type.caption
+        color: Theme.colors.text2
         text: root.credit.modifications
         spoken: true
     }

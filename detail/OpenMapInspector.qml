@@ -61,15 +61,15 @@ Item {
 
                     width: parent.width
                     horizontalAlignment: TextEdit.AlignLeft
-                    textStyle: Theme.title2
+                    textStyle: Theme.type.title2
                     text: root.content.name
                     keyTarget: list
                 }
                 SelectableText {
                     width: parent.width
                     horizontalAlignment: TextEdit.AlignLeft
-                    textStyle: Theme.caption
-                    color: Theme.text2
+                    textStyle: Theme.type.caption
+                    color: Theme.colors.text2
                     text: root.content.subtitle
                     keyTarget: list
                 }
@@ -88,8 +88,8 @@ Item {
                 value: root.content.companyName
             }
             NoteRow {
-                textStyle: Theme.caption
-                color: Theme.text2
+                textStyle: Theme.type.caption
+                color: Theme.colors.text2
                 text: root.content.caveat
             }
         }

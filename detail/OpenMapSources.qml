@@ -32,16 +32,16 @@ Item {
             title: qsTr("This release")
 
             NoteRow {
-                textStyle: Theme.body
+                textStyle: Theme.type.body
                 text: root.content.coverageName
             }
             NoteRow {
-                textStyle: Theme.body
+                textStyle: Theme.type.body
                 text: root.content.counts
             }
             NoteRow {
-                textStyle: Theme.caption
-                color: Theme.text2
+                textStyle: Theme.type.caption
+                color: Theme.colors.text2
                 text: root.content.identity
             }
             NoteRow {

@@ -32,7 +32,7 @@ SectionRow {
             width: parent.width + 20
             height: parent.height + 12
             radius: Theme.menuRowRadius
-            color: menu.opened || tap.pressed ? Theme.pressed : Theme.hover
+            color: menu.opened || tap.pressed ? Theme.colors.pressed : Theme.colors.hover
             visible: hover.hovered || menu.opened
         }
         FocusRing {
@@ -41,10 +41,10 @@ SectionRow {
         Icon {
             id: icon
 
-            y: Math.round((Theme.body.lineHeight - height) / 2)
+            y: Math.round((Theme.type.body.lineHeight - height) / 2)
             name: "square.and.arrow.up"
             size: 20 * Theme.iconScale
-            color: Theme.accent
+            color: Theme.colors.accent
         }
         Label {
             id: label
@@ -52,7 +52,7 @@ SectionRow {
             x: icon.width + 10
             width: parent.width - x
             wrapMode: Text.Wrap
-            color: Theme.accent
+            color: Theme.colors.accent
             text: qsTr("Share the open-data file")
         }
         HoverHandler {
@@ -80,8 +80,8 @@ SectionRow {
         x: icon.width + 10
         width: parent.width - x
         wrapMode: Text.Wrap
-        textStyle: Theme.caption
-        color: Theme.text2
+        textStyle: Theme.type.caption
+        color: Theme.colors.text2
         text: FileShare.message
         spoken: true
     }

@@ -1,7 +1,7 @@
 #pragma once
 // How a record of each category is marked in lists and on the map. Keys are compared exactly.
 
-#include "platform/ui/Palette.h"
+#include "platform/ui/ThemeColors.h"
 
 #include <string_view>
 

@@ -13,7 +13,7 @@ Item {
     // How many records of the current search each of the kinds holds.
     property list<int> counts
     required property string selection
-    property color headColor: Theme.window
+    property color headColor: Theme.colors.window
     // Whether the count line can be pressed.
     property bool countOpens: true
     // The id of the record that is pointed at on the map; empty: none.
@@ -76,14 +76,14 @@ Item {
             anchors.bottom: parent.bottom
             width: parent.width
             height: 1
-            color: Theme.line
+            color: Theme.colors.line
         }
     }
     Rectangle {
         anchors.top: head.bottom
         anchors.bottom: parent.bottom
         width: parent.width
-        color: Theme.surface
+        color: Theme.colors.surface
 
         Loader {
             id: list

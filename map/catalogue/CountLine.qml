@@ -32,7 +32,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: Theme.menuRowRadius
-        color: tap.pressed ? Theme.pressed : Theme.hover
+        color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
         opacity: root.pressable && (hover.hovered || tap.pressed) ? 1 : 0
         Behavior on opacity {
             NumberAnimation {
@@ -50,8 +50,8 @@ Item {
         y: 4
         width: parent.width - 16
         wrapMode: Text.Wrap
-        textStyle: Theme.caption
-        color: Theme.text2
+        textStyle: Theme.type.caption
+        color: Theme.colors.text2
         text: root.text
     }
     HoverHandler {

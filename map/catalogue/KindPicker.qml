@@ -14,9 +14,9 @@ Rectangle {
     objectName: "open-map-layer"
     implicitHeight: Theme.controlHeight
     radius: Theme.controlRadius
-    color: Theme.control
+    color: Theme.colors.control
     border.width: 1
-    border.color: Theme.controlLine
+    border.color: Theme.colors.controlLine
     activeFocusOnTab: true
 
     Accessible.role: Accessible.ComboBox
@@ -33,7 +33,7 @@ Rectangle {
     Rectangle {
         anchors.fill: parent
         radius: parent.radius
-        color: menu.opened || tap.pressed ? Theme.pressed : Theme.hover
+        color: menu.opened || tap.pressed ? Theme.colors.pressed : Theme.colors.hover
         visible: hover.hovered || menu.opened
     }
     FocusRing {}
@@ -43,8 +43,8 @@ Rectangle {
         x: 12
         anchors.verticalCenter: parent.verticalCenter
         visible: x + implicitWidth + 8 + value.implicitWidth < chevron.x
-        textStyle: Theme.field
-        color: Theme.text2
+        textStyle: Theme.type.field
+        color: Theme.colors.text2
         text: qsTr("Layer")
     }
     Label {
@@ -53,7 +53,7 @@ Rectangle {
         x: title.visible ? title.x + title.implicitWidth + 8 : 12
         width: chevron.x - x
         anchors.verticalCenter: parent.verticalCenter
-        textStyle: Theme.subheadline
+        textStyle: Theme.type.subheadline
         elide: Text.ElideRight
         text: root.kinds.currentLabel
     }
@@ -65,7 +65,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.updown"
         size: 16 * Theme.iconScale
-        color: Theme.text
+        color: Theme.colors.text
     }
     HoverHandler {
         id: hover

@@ -48,7 +48,7 @@ Item {
         anchors.leftMargin: 6
         anchors.rightMargin: 6
         radius: Theme.controlRadius
-        color: root.selected ? Theme.selected : tap.pressed ? Theme.pressed : hover.hovered || root.answering ? Theme.hover : "transparent"
+        color: root.selected ? Theme.colors.selected : tap.pressed ? Theme.colors.pressed : hover.hovered || root.answering ? Theme.colors.hover : "transparent"
 
         Rectangle {
             visible: root.selected
@@ -57,7 +57,7 @@ Item {
             width: 3
             height: parent.height - 18
             radius: 1.5
-            color: Theme.accent
+            color: Theme.colors.accent
         }
         FocusRing {
             inside: true
@@ -66,10 +66,10 @@ Item {
     }
     Icon {
         x: 20 + Math.round((Theme.iconColumn - width) / 2)
-        y: 8 + Math.round((Theme.rowName.lineHeight - height) / 2)
+        y: 8 + Math.round((Theme.type.rowName.lineHeight - height) / 2)
         name: root.symbol
         size: 18 * Theme.iconScale
-        color: RecordPalette.value(root.tint, Theme.dark)
+        color: Theme.colors.record(root.tint)
     }
     Column {
         id: texts
@@ -86,14 +86,14 @@ Item {
             width: parent.width
             visible: root.markup.length === 0
             wrapMode: Text.Wrap
-            textStyle: Theme.rowName
+            textStyle: Theme.type.rowName
             text: root.name
         }
         Label {
             width: parent.width
             visible: root.markup.length > 0
             wrapMode: Text.Wrap
-            textStyle: Theme.rowName
+            textStyle: Theme.type.rowName
             textFormat: Text.StyledText
             text: root.markup
         }
@@ -101,15 +101,15 @@ Item {
             width: parent.width
             visible: root.unit.length > 0
             wrapMode: Text.Wrap
-            textStyle: Theme.captionLine
-            color: Theme.text2
+            textStyle: Theme.type.captionLine
+            color: Theme.colors.text2
             text: root.unit
         }
         Label {
             width: parent.width
             wrapMode: Text.Wrap
-            textStyle: Theme.captionLine
-            color: Theme.text2
+            textStyle: Theme.type.captionLine
+            color: Theme.colors.text2
             text: root.category
         }
     }
@@ -120,7 +120,7 @@ Item {
         anchors.rightMargin: 14
         anchors.bottom: parent.bottom
         height: 1
-        color: Theme.line
+        color: Theme.colors.line
     }
     HoverHandler {
         id: hover

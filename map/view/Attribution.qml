@@ -17,7 +17,7 @@ Item {
     implicitHeight: flow.implicitHeight
 
     component Piece: HaloText {
-        textStyle: Theme.mapNote
+        textStyle: Theme.type.mapNote
         color: root.colors.text2
         halo: root.colors.halo
     }
@@ -32,12 +32,12 @@ Item {
         opacity: 0
 
         Label {
-            textStyle: Theme.mapNote
+            textStyle: Theme.type.mapNote
             text: root.note
         }
         Label {
             visible: noteEntry.separated
-            textStyle: Theme.mapNote
+            textStyle: Theme.type.mapNote
             text: " · "
         }
         Repeater {
@@ -50,12 +50,12 @@ Item {
                 required property int index
 
                 Label {
-                    textStyle: Theme.mapNote
+                    textStyle: Theme.type.mapNote
                     text: measured.modelData.text
                 }
                 Label {
                     visible: measured.index < root.links.length - 1
-                    textStyle: Theme.mapNote
+                    textStyle: Theme.type.mapNote
                     text: " · "
                 }
             }

@@ -7,14 +7,14 @@ Rectangle {
 
     objectName: "open-map-caption"
     implicitHeight: Math.max(glyph.height, text.implicitHeight) + 20
-    color: Theme.highContrast ? Theme.surface : Qt.alpha(Theme.surface, 0.94)
+    color: Theme.colors.strip
     Accessible.role: Accessible.StaticText
     Accessible.name: text.text
 
     Rectangle {
         width: parent.width
         height: 1
-        color: Theme.line
+        color: Theme.colors.line
     }
     Icon {
         id: glyph
@@ -23,7 +23,7 @@ Rectangle {
         y: 10
         name: "info.circle"
         size: 16 * Theme.iconScale
-        color: Theme.text
+        color: Theme.colors.text
     }
     Label {
         id: text
@@ -32,7 +32,7 @@ Rectangle {
         y: 10
         width: parent.width - x - 10
         wrapMode: Text.Wrap
-        textStyle: Theme.caption
+        textStyle: Theme.type.caption
         text: qsTr("Selected reporting records and routes. Dates and reporting boundaries vary; this is not a complete or survey-grade map.")
     }
     // What is pressed here is not pressed on the map below.

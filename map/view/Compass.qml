@@ -39,12 +39,12 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 20
-        color: Theme.raised
+        color: Theme.colors.raised
     }
     Rectangle {
         anchors.fill: parent
         radius: 20
-        color: tap.pressed ? Theme.pressed : Theme.hover
+        color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
         visible: hover.hovered || tap.pressed
     }
     FocusRing {
@@ -69,14 +69,14 @@ Item {
             y: -14
             size: 14
             name: "needle"
-            color: Theme.north
+            color: Theme.colors.north
         }
         Icon {
             x: -7
             y: 0
             size: 14
             name: "needle"
-            color: Theme.text3
+            color: Theme.colors.text3
             rotation: 180
         }
     }

@@ -7,7 +7,7 @@ Item {
     id: root
 
     required property string text
-    required property TextStyle textStyle
+    required property textStyle textStyle
     required property color color
     required property color halo
     property bool underlined: false

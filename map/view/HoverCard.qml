@@ -47,7 +47,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: Theme.raised
+        color: Theme.colors.raised
     }
     Column {
         id: texts
@@ -65,7 +65,7 @@ Item {
             wrapMode: Text.Wrap
             maximumLineCount: 3
             elide: Text.ElideRight
-            textStyle: Theme.subheadline
+            textStyle: Theme.type.subheadline
             text: root.name
         }
         Label {
@@ -73,8 +73,8 @@ Item {
 
             width: Math.min(implicitWidth, texts.most)
             wrapMode: Text.Wrap
-            textStyle: Theme.captionLine
-            color: Theme.text2
+            textStyle: Theme.type.captionLine
+            color: Theme.colors.text2
             text: root.caption
         }
     }

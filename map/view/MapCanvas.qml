@@ -54,7 +54,7 @@ MapView {
         radius: 6
         color: "transparent"
         border.width: 2
-        border.color: Theme.accent
+        border.color: Theme.colors.accent
         visible: ring.shown
     }
     ScaleBar {

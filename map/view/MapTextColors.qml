@@ -5,7 +5,7 @@ import Vasker.Platform
 QtObject {
     property bool overImagery: false
 
-    readonly property color text: overImagery ? "#ECEEF0" : Theme.text
-    readonly property color text2: overImagery ? "#ECEEF0" : Theme.text2
+    readonly property color text: overImagery ? "#ECEEF0" : Theme.colors.text
+    readonly property color text2: overImagery ? "#ECEEF0" : Theme.colors.text2
     readonly property color halo: overImagery ? "#D10A0F14" : (Theme.dark ? "#EB1E2328" : "#EBFAF9F6")
 }

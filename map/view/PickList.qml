@@ -43,8 +43,8 @@ PopupSurface {
         x: 14
         height: 30
         verticalAlignment: Text.AlignVCenter
-        textStyle: Theme.caption
-        color: Theme.text2
+        textStyle: Theme.type.caption
+        color: Theme.colors.text2
         text: qsTr("%n records at this place", "", list.count)
     }
     ListView {

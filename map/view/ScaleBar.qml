@@ -73,7 +73,7 @@ Item {
     HaloText {
         x: -1
         text: "0"
-        textStyle: Theme.mapNote
+        textStyle: Theme.type.mapNote
         color: root.colors.text
         halo: root.colors.halo
     }
@@ -82,7 +82,7 @@ Item {
 
         x: Math.round(root.barLength - implicitWidth / 2)
         text: root.text
-        textStyle: Theme.mapNote
+        textStyle: Theme.type.mapNote
         color: root.colors.text
         halo: root.colors.halo
     }

@@ -39,14 +39,14 @@ Item {
             anchors.fill: parent
             anchors.margins: 3
             radius: 7
-            color: tap.pressed ? Theme.pressed : Theme.hover
+            color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
             visible: !half.atEnd && (hover.hovered || tap.pressed)
         }
         Icon {
             anchors.centerIn: parent
             name: half.icon
             size: 20
-            color: half.atEnd ? Theme.text3 : Theme.text
+            color: half.atEnd ? Theme.colors.text3 : Theme.colors.text
         }
         FocusRing {
             around: 10
@@ -80,13 +80,13 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 10
-        color: Theme.raised
+        color: Theme.colors.raised
     }
     Rectangle {
         y: 40
         width: parent.width
         height: 1
-        color: Theme.pressed
+        color: Theme.colors.pressed
     }
     Half {
         objectName: "open-map-zoom-in"

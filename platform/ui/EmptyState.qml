@@ -26,7 +26,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "search"
             size: 44 * Theme.iconScale
-            color: Theme.text3
+            color: Theme.colors.text3
         }
         Item {
             width: 1
@@ -36,7 +36,7 @@ Item {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            textStyle: Theme.emptyTitle
+            textStyle: Theme.type.emptyTitle
             text: root.title
         }
         Item {
@@ -47,8 +47,8 @@ Item {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            textStyle: Theme.footnote
-            color: Theme.text2
+            textStyle: Theme.type.footnote
+            color: Theme.colors.text2
             text: root.advice
         }
     }

@@ -12,6 +12,6 @@ Rectangle {
     radius: inside ? around : around + 3
     color: "transparent"
     border.width: 2
-    border.color: Theme.accent
+    border.color: Theme.colors.accent
     visible: shown
 }

@@ -48,7 +48,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: tap.pressed || root.menuOpened ? Theme.pressed : Theme.hover
+        color: tap.pressed || root.menuOpened ? Theme.colors.pressed : Theme.colors.hover
         opacity: hover.hovered || tap.pressed || root.menuOpened ? 1 : 0
         Behavior on opacity {
             NumberAnimation {
@@ -64,7 +64,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: root.icon
         size: 20 * Theme.iconScale
-        color: Theme.text
+        color: Theme.colors.text
     }
     Label {
         id: label
@@ -73,7 +73,7 @@ Item {
         anchors.left: glyph.right
         anchors.leftMargin: 7
         anchors.verticalCenter: parent.verticalCenter
-        textStyle: Theme.subheadline
+        textStyle: Theme.type.subheadline
         text: root.text
     }
     Icon {
@@ -85,7 +85,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: "chevron.down"
         size: 14 * Theme.iconScale
-        color: Theme.text2
+        color: Theme.colors.text2
     }
     ToolTip {
         text: root.text

@@ -5,12 +5,12 @@ import Vasker.Platform
 Text {
     id: root
 
-    property TextStyle textStyle: Theme.body
+    property textStyle textStyle: Theme.type.body
     // Whether assistive tools read it by itself, not as part of what it labels.
     property bool spoken: false
 
     font: root.textStyle.font
-    color: Theme.text
+    color: Theme.colors.text
     textFormat: Text.PlainText
     lineHeightMode: Text.FixedHeight
     lineHeight: root.textStyle.lineHeight

@@ -36,7 +36,7 @@ SectionRow {
             width: pair.stacked ? parent.width : implicitWidth
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.Wrap
-            color: Theme.text2
+            color: Theme.colors.text2
             text: root.value
         }
     }

@@ -38,18 +38,18 @@ Item {
         width: Math.min(implicitWidth, root.width - 4 - arrow.width)
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
-        textStyle: Theme.link
-        color: Theme.accent
+        textStyle: Theme.type.captionMedium
+        color: Theme.colors.accent
         text: root.text
     }
     Icon {
         id: arrow
 
         x: label.width + 4
-        y: label.height - Theme.link.lineHeight + Math.round((Theme.link.lineHeight - height) / 2)
+        y: label.height - Theme.type.captionMedium.lineHeight + Math.round((Theme.type.captionMedium.lineHeight - height) / 2)
         name: "link.out"
         size: 12 * Theme.iconScale
-        color: Theme.accent
+        color: Theme.colors.accent
     }
     Loader {
         id: tip

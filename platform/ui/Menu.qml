@@ -90,8 +90,8 @@ PopupSurface {
                     Layout.rightMargin: 10
                     Layout.topMargin: 6
                     Layout.bottomMargin: 4
-                    textStyle: Theme.menuTitle
-                    color: Theme.text2
+                    textStyle: Theme.type.captionMedium
+                    color: Theme.colors.text2
                     text: root.title
                 }
                 Repeater {

@@ -38,7 +38,7 @@ Item {
         y: 4
         width: parent.width
         height: 1
-        color: Theme.line
+        color: Theme.colors.line
     }
     Item {
         anchors.bottom: parent.bottom
@@ -48,7 +48,7 @@ Item {
         Rectangle {
             anchors.fill: parent
             radius: Theme.menuRowRadius
-            color: tap.pressed ? Theme.pressed : Theme.hover
+            color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
             visible: root.current
         }
         Icon {
@@ -57,7 +57,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             name: root.checked ? "check" : root.icon
             size: 16 * Theme.iconScale
-            color: root.checked ? Theme.accent : Theme.text
+            color: root.checked ? Theme.colors.accent : Theme.colors.text
         }
         Label {
             id: label
@@ -68,7 +68,7 @@ Item {
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             wrapMode: Text.Wrap
-            textStyle: Theme.subheadline
+            textStyle: Theme.type.subheadline
             text: root.text
         }
         Label {
@@ -77,8 +77,8 @@ Item {
             anchors.right: parent.right
             anchors.rightMargin: root.note.length > 0 ? 10 : 0
             anchors.verticalCenter: parent.verticalCenter
-            textStyle: Theme.caption
-            color: Theme.text2
+            textStyle: Theme.type.caption
+            color: Theme.colors.text2
             text: root.note
         }
         HoverHandler {

@@ -23,7 +23,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: Theme.controlRadius
-        color: tap.pressed ? Theme.pressed : Theme.hover
+        color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
         visible: hover.hovered || tap.pressed
     }
     FocusRing {}
@@ -31,8 +31,8 @@ Item {
         id: label
 
         anchors.centerIn: parent
-        textStyle: Theme.headline
-        color: Theme.accent
+        textStyle: Theme.type.headline
+        color: Theme.colors.accent
         text: root.text
     }
     HoverHandler {

@@ -93,7 +93,7 @@ Item {
         Rectangle {
             anchors.fill: parent
             radius: Theme.cardRadius
-            color: Theme.raised
+            color: Theme.colors.raised
         }
         MouseArea {
             anchors.fill: parent

@@ -24,8 +24,8 @@ Item {
         y: 4 + (root.track - height) * Math.max(0, Math.min(1, root.flickable.visibleArea.yPosition / root.range))
         width: 5
         height: root.thumbLength
-        radius: Theme.thumbRadius
-        color: drag.active || hover.hovered ? Theme.text3 : Theme.thumb
+        radius: width / 2
+        color: drag.active || hover.hovered ? Theme.colors.text3 : Theme.colors.thumb
     }
     HoverHandler {
         id: hover

@@ -18,9 +18,9 @@ Rectangle {
 
     implicitHeight: Theme.controlHeight
     radius: Theme.controlRadius
-    color: Theme.control
+    color: Theme.colors.control
     border.width: 1
-    border.color: Theme.controlLine
+    border.color: Theme.colors.controlLine
 
     onTextChanged: if (input.text !== text) {
         input.text = text;
@@ -36,7 +36,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         name: "search"
         size: 16 * Theme.iconScale
-        color: Theme.text2
+        color: Theme.colors.text2
     }
     TextInput {
         id: input
@@ -46,10 +46,10 @@ Rectangle {
         anchors.right: clear.visible ? clear.left : parent.right
         anchors.rightMargin: clear.visible ? 2 : 10
         anchors.verticalCenter: parent.verticalCenter
-        font: Theme.field.font
-        color: Theme.text
-        selectionColor: Theme.accent
-        selectedTextColor: Theme.onAccent
+        font: Theme.type.field.font
+        color: Theme.colors.text
+        selectionColor: Theme.colors.accent
+        selectedTextColor: Theme.colors.onAccent
         selectByMouse: true
         clip: true
         activeFocusOnTab: true
@@ -73,8 +73,8 @@ Rectangle {
         anchors.left: input.left
         anchors.right: input.right
         anchors.verticalCenter: parent.verticalCenter
-        textStyle: Theme.footnote
-        color: Theme.text2
+        textStyle: Theme.type.footnote
+        color: Theme.colors.text2
         elide: Text.ElideRight
         text: root.prompt
     }
@@ -95,7 +95,7 @@ Rectangle {
             anchors.centerIn: parent
             name: "xmark"
             size: 16 * Theme.iconScale
-            color: Theme.text2
+            color: Theme.colors.text2
         }
         HoverHandler {
             cursorShape: Qt.ArrowCursor

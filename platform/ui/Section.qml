@@ -16,8 +16,8 @@ Column {
         x: 14
         width: parent.width - 28
         wrapMode: Text.Wrap
-        textStyle: Theme.sectionTitle
-        color: Theme.text2
+        textStyle: Theme.type.sectionTitle
+        color: Theme.colors.text2
         text: root.title
         spoken: true
         Accessible.role: Accessible.Heading
@@ -27,9 +27,9 @@ Column {
         width: parent.width
         height: column.height
         radius: Theme.cardRadius
-        color: Theme.card
+        color: Theme.colors.card
         border.width: 1
-        border.color: Theme.line
+        border.color: Theme.colors.line
 
         Column {
             id: column

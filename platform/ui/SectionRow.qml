@@ -18,7 +18,7 @@ Item {
         x: 14
         width: parent.width - x - 1
         height: 1
-        color: Theme.line
+        color: Theme.colors.line
     }
     Column {
         id: column

@@ -5,16 +5,16 @@ import Vasker.Platform
 TextEdit {
     id: root
 
-    property TextStyle textStyle: Theme.body
+    property textStyle textStyle: Theme.type.body
     // Gets every key before the text does: the list that the keys scroll.
     property Item keyTarget: null
 
     font: root.textStyle.font
     topPadding: root.textStyle.halfLeading
     bottomPadding: root.textStyle.halfLeading
-    color: Theme.text
-    selectionColor: Theme.accent
-    selectedTextColor: Theme.onAccent
+    color: Theme.colors.text
+    selectionColor: Theme.colors.accent
+    selectedTextColor: Theme.colors.onAccent
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
     readOnly: true

@@ -1,5 +1,7 @@
 #include "platform/ui/Shadow.h"
 
+#include "platform/ui/ThemeColors.h"
+
 #include <QHash>
 #include <QImage>
 #include <QPainter>
@@ -7,7 +9,6 @@
 #include <QSGNinePatchNode>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <memory>
 #include <vector>
@@ -16,29 +17,14 @@ namespace vasker {
 
 namespace {
 
-struct Elevation {
-    double down; ///< how far the shadow falls, in logical pixels
-    double blur; ///< its softness: twice the standard deviation, as style sheets count it
-    QColor shadow;
-    QColor hairline;
-};
-
 Elevation elevation(int level, bool dark) {
-    static const std::array light{
-        Elevation{1, 2, QColor(15, 20, 26, 41), QColor(15, 20, 26, 26)},
-        Elevation{8, 24, QColor(15, 20, 26, 46), QColor(15, 20, 26, 36)},
-        Elevation{20, 56, QColor(15, 20, 26, 71), QColor(15, 20, 26, 41)}};
-    static const std::array black{
-        Elevation{1, 3, QColor(0, 0, 0, 128), QColor(255, 255, 255, 18)},
-        Elevation{10, 28, QColor(0, 0, 0, 140), QColor(255, 255, 255, 23)},
-        Elevation{24, 64, QColor(0, 0, 0, 153), QColor(255, 255, 255, 23)}};
     const auto place = static_cast<std::size_t>(std::clamp(level, 1, 3) - 1);
-    return dark ? black[place] : light[place];
+    return themeColors(dark ? ColorScheme::dark : ColorScheme::light).elevations.at(place);
 }
 
 // Room around the surface that holds the whole shadow.
 double margin(const Elevation& raised) {
-    return std::ceil(raised.blur * 1.5 + raised.down);
+    return std::ceil(raised.blur * 1.5 + raised.offset);
 }
 
 // How far a corner reaches into the surface: as far as the shadow is curved, unless the surface is
@@ -90,7 +76,7 @@ QImage bake(const Elevation& raised, double radius, double reach, double pixelRa
     shape.scale(pixelRatio, pixelRatio);
     shape.setPen(Qt::NoPen);
     shape.setBrush(Qt::black);
-    shape.drawRoundedRect(surface.translated(0, raised.down), radius, radius);
+    shape.drawRoundedRect(surface.translated(0, raised.offset), radius, radius);
     shape.end();
     blur(alpha, raised.blur / 2 * pixelRatio);
 

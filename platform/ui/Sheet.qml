@@ -121,7 +121,7 @@ FocusScope {
 
         Rectangle {
             anchors.fill: parent
-            color: root.placement === Sheet.Trailing ? Theme.sideScrim : Theme.scrim
+            color: root.placement === Sheet.Trailing ? Theme.colors.sideScrim : Theme.colors.scrim
             opacity: root.shown
         }
     }

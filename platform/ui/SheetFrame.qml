@@ -58,7 +58,7 @@ Item {
         // At the bottom its lower corners are below the edge of the window.
         height: parent.height + (root.atBottom ? radius : 0)
         radius: Theme.sheetRadius
-        color: Theme.sheet
+        color: Theme.colors.sheet
     }
     MouseArea {
         anchors.fill: parent
@@ -87,7 +87,7 @@ Item {
             width: parent.width - 2 * (done.width + 24)
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            textStyle: Theme.headline
+            textStyle: Theme.type.headline
             text: root.title
         }
         PlainButton {
@@ -105,7 +105,7 @@ Item {
             anchors.bottom: parent.bottom
             width: parent.width
             height: 1
-            color: Theme.line
+            color: Theme.colors.line
         }
     }
     FocusScope {

@@ -58,7 +58,7 @@ Item {
         width: 36
         height: 4
         radius: 2
-        color: Qt.alpha(Theme.text3, 0.55)
+        color: Qt.alpha(Theme.colors.text3, 0.55)
 
         FocusRing {
             around: 2

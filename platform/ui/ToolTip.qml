@@ -17,9 +17,9 @@ Rectangle {
     width: label.width + 20
     height: label.implicitHeight + 12
     radius: Theme.menuRowRadius
-    color: Theme.raised
+    color: Theme.colors.raised
     border.width: 1
-    border.color: Theme.controlLine
+    border.color: Theme.colors.controlLine
 
     onWantedChanged: wanted ? delay.restart() : hide()
 
@@ -45,7 +45,7 @@ Rectangle {
         anchors.centerIn: parent
         width: Math.min(implicitWidth, root.mostWidth - 20)
         wrapMode: Text.Wrap
-        textStyle: Theme.caption
+        textStyle: Theme.type.caption
         text: root.text
     }
 }

@@ -64,7 +64,7 @@ TestCase {
         const credit = creditOf(open(Releases.withoutModifications(), ""));
         const texts = Walk.all(credit, child => child.textFormat !== undefined);
         compare(Walk.texts(credit), ["Environment and Climate Change Canada", "Contains information licensed under an open licence.", "Attribution", "", "[Source data]", "[Licence]"]);
-        compare(texts[3].height, Theme.caption.lineHeight);
+        compare(texts[3].height, Theme.type.caption.lineHeight);
         verify(Walk.withText(credit, "Source data")[0].mapToItem(credit, 0, 0).y >= texts[3].y + texts[3].height);
     }
     function test_a_licence_that_does_not_parse_leaves_one_link(): void {
