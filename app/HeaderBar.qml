@@ -51,8 +51,8 @@ Rectangle {
             id: reset
 
             objectName: "open-map-reset"
-            icon: "globe.americas"
-            text: qsTr("Canada")
+            symbol: "globe.americas"
+            label: qsTr("Canada")
             labelVisible: root.labelsVisible
             onClicked: root.cameraReset()
         }
@@ -60,8 +60,8 @@ Rectangle {
             id: sources
 
             objectName: "open-map-sources"
-            icon: "info.circle"
-            text: qsTr("Sources & coverage")
+            symbol: "info.circle"
+            label: qsTr("Sources & coverage")
             labelVisible: root.labelsVisible
             onClicked: root.sourcesWanted()
         }

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Vasker.Platform
 
@@ -10,30 +11,33 @@ HeaderButton {
 
     signal basemapPicked(string basemap)
 
+    component Choice: MenuRow {
+        required property string value
+
+        choice: true
+        chosen: root.basemap === value
+        onPicked: root.basemapPicked(value)
+    }
+
     objectName: "open-map-options"
-    icon: "map"
-    text: qsTr("Map options")
+    symbol: "map"
+    label: qsTr("Map options")
     menu: Menu {
         anchor: root
         title: qsTr("Basemap")
+        heading: title
 
-        MenuEntry {
-            text: qsTr("Map")
-            checkable: true
-            checked: root.basemap === "standard"
-            onPicked: root.basemapPicked("standard")
+        Choice {
+            label: qsTr("Map")
+            value: "standard"
         }
-        MenuEntry {
-            text: qsTr("Satellite")
-            checkable: true
-            checked: root.basemap === "satellite"
-            onPicked: root.basemapPicked("satellite")
+        Choice {
+            label: qsTr("Satellite")
+            value: "satellite"
         }
-        MenuEntry {
-            text: qsTr("Hybrid")
-            checkable: true
-            checked: root.basemap === "hybrid"
-            onPicked: root.basemapPicked("hybrid")
+        Choice {
+            label: qsTr("Hybrid")
+            value: "hybrid"
         }
     }
 }

@@ -10,38 +10,38 @@ HeaderButton {
     signal recordsWanted
 
     objectName: "open-map-menu"
-    icon: "line.3.horizontal"
-    text: qsTr("Main menu")
+    symbol: "line.3.horizontal"
+    label: qsTr("Main menu")
     labelVisible: false
     compactWidth: Theme.controlHeight
     menu: Menu {
         anchor: root
-        name: root.text
+        title: root.label
 
-        MenuEntry {
-            text: qsTr("New window")
-            shortcut: "Ctrl+N"
+        MenuRow {
+            label: qsTr("New window")
+            note: "Ctrl+N"
             onPicked: root.actions.windowWanted()
         }
-        MenuEntry {
-            text: qsTr("Records…")
-            shortcut: "Ctrl+R"
+        MenuRow {
+            label: qsTr("Records…")
+            note: "Ctrl+R"
             startsGroup: true
             onPicked: root.recordsWanted()
         }
-        MenuEntry {
-            text: qsTr("Keyboard shortcuts")
-            shortcut: "Ctrl+?"
+        MenuRow {
+            label: qsTr("Keyboard shortcuts")
+            note: "Ctrl+?"
             startsGroup: true
             onPicked: root.actions.shortcutsWanted()
         }
-        MenuEntry {
-            text: qsTr("About Vasker Beta")
+        MenuRow {
+            label: qsTr("About Vasker Beta")
             onPicked: root.actions.aboutWanted()
         }
-        MenuEntry {
-            text: qsTr("Quit")
-            shortcut: "Ctrl+Q"
+        MenuRow {
+            label: qsTr("Quit")
+            note: "Ctrl+Q"
             startsGroup: true
             onPicked: root.actions.quitWanted()
         }

@@ -17,19 +17,20 @@ Menu {
         root.openAt(over, place);
     }
 
-    name: qsTr("Record")
+    title: qsTr("Record")
 
-    MenuEntry {
-        text: qsTr("Show details")
-        offered: root.recordId !== root.workspace.inspector
+    MenuRow {
+        visible: root.recordId !== root.workspace.inspector
+        height: visible ? implicitHeight : 0
+        label: qsTr("Show details")
         onPicked: root.workspace.selection = root.recordId
     }
-    MenuEntry {
-        text: qsTr("Copy citation")
+    MenuRow {
+        label: qsTr("Copy citation")
         onPicked: Clipboard.setText(root.record.citation)
     }
-    MenuEntry {
-        text: qsTr("Copy coordinates")
+    MenuRow {
+        label: qsTr("Copy coordinates")
         onPicked: Clipboard.setText(root.record.coordinates)
     }
 }

@@ -10,7 +10,7 @@ Sheet {
 
     required property OpenMapWorkspace workspace
 
-    signal menuWanted(string id, Item over, point place)
+    signal menuRequested(string id, Item over, point place)
 
     title: qsTr("Records")
     placement: Sheet.BottomEdge
@@ -53,7 +53,7 @@ Sheet {
             onKindPicked: kind => root.workspace.kind = kind
             onRecordPicked: id => root.workspace.selection = id
             onSelectionCleared: root.dismissed()
-            onMenuWanted: (id, over, place) => root.menuWanted(id, over, place)
+            onMenuRequested: (id, over, place) => root.menuRequested(id, over, place)
         }
         Shortcut {
             sequence: "Ctrl+F"

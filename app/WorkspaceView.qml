@@ -53,12 +53,12 @@ FocusScope {
                 kinds: root.workspace.kinds
                 counts: root.workspace.counts
                 selection: root.workspace.selection
-                answering: map.hover.recordId
+                hoveredOnMap: map.hover.recordId
                 onKindPicked: kind => root.workspace.kind = kind
                 onRecordPicked: id => root.workspace.selection = id
                 onSelectionCleared: root.workspace.selection = ""
                 onCountPressed: root.workspace.showingRecords = true
-                onMenuWanted: (id, over, place) => menu.offer(id, over, place)
+                onMenuRequested: (id, over, place) => menu.offer(id, over, place)
             }
         }
         Rectangle {
@@ -97,7 +97,7 @@ FocusScope {
             basemap: root.workspace.basemap
             tiles: root.tiles
             coveredRight: inspector.covered
-            hovered: map.hover.recordId.length > 0 ? map.hover.recordId : catalogue.pointed
+            hovered: map.hover.recordId.length > 0 ? map.hover.recordId : catalogue.hovered
             onPicked: id => root.workspace.selection = id
             onMoved: camera => root.workspace.camera = camera
             onOverviewRequested: root.workspace.resetCamera()
@@ -114,7 +114,7 @@ FocusScope {
         id: records
 
         workspace: root.workspace
-        onMenuWanted: (id, over, place) => menu.offer(id, over, place)
+        onMenuRequested: (id, over, place) => menu.offer(id, over, place)
     }
     InspectorSheet {
         id: inspector

@@ -2,7 +2,7 @@ import QtQuick
 import Vasker.Detail
 import Vasker.Platform
 
-// Offers the file of the release, and tells in a quiet line how the last wish for it ended.
+// Offers the file of the release, and tells in a quiet line how the last action on it ended.
 SectionRow {
     id: root
 
@@ -10,69 +10,46 @@ SectionRow {
 
     spacing: 4
 
-    Item {
+    Button {
         id: button
 
         objectName: "open-map-share"
         width: parent.width
-        height: Math.max(label.height, icon.height)
-        activeFocusOnTab: true
-        Accessible.role: Accessible.Button
-        Accessible.name: label.text
+        implicitHeight: Math.max(title.height, icon.height)
+        leftInset: -10
+        rightInset: -10
+        topInset: -6
+        bottomInset: -6
+        radius: Theme.menuRowRadius
+        label: qsTr("Share the open-data file")
+        opened: menu.shown
         Accessible.ignored: !visible
-        Accessible.focusable: true
-        Accessible.onPressAction: menu.offer()
-        Keys.onSpacePressed: menu.offer()
-        Keys.onReturnPressed: menu.offer()
-        Keys.onEnterPressed: menu.offer()
+        onClicked: menu.toggle()
 
-        Rectangle {
-            x: -10
-            y: -6
-            width: parent.width + 20
-            height: parent.height + 12
-            radius: Theme.menuRowRadius
-            color: menu.opened || tap.pressed ? Theme.colors.pressed : Theme.colors.hover
-            visible: hover.hovered || menu.opened
-        }
-        FocusRing {
-            around: 4
-        }
         Icon {
             id: icon
 
             y: Math.round((Theme.type.body.lineHeight - height) / 2)
+            anchors.left: parent.left
             name: "square.and.arrow.up"
             size: 20 * Theme.iconScale
             color: Theme.colors.accent
         }
         Label {
-            id: label
+            id: title
 
-            x: icon.width + 10
-            width: parent.width - x
+            anchors.left: icon.right
+            anchors.leftMargin: 10
+            anchors.right: parent.right
             wrapMode: Text.Wrap
             color: Theme.colors.accent
-            text: qsTr("Share the open-data file")
-        }
-        HoverHandler {
-            id: hover
-        }
-        TapHandler {
-            id: tap
-
-            gesturePolicy: TapHandler.ReleaseWithinBounds
-            onTapped: {
-                button.forceActiveFocus(Qt.MouseFocusReason);
-                menu.offer();
-            }
+            text: button.label
         }
         ShareMenu {
             id: menu
 
-            row: button
+            anchor: button
             file: root.file
-            onClosed: button.forceActiveFocus(Qt.PopupFocusReason)
         }
     }
     Label {

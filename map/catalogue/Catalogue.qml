@@ -16,17 +16,16 @@ Item {
     property color headColor: Theme.colors.window
     // Whether the count line can be pressed.
     property bool countOpens: true
-    // The id of the record that is pointed at on the map; empty: none.
-    property string answering
-    // The id of the record whose row is under the pointer; empty: none.
-    readonly property string pointed: (list.item as RecordList)?.pointed ?? ""
+    // The ids of the records whose marker on the map, and whose row, is under the pointer; empty: none.
+    property string hoveredOnMap
+    readonly property string hovered: (list.item as RecordList)?.hovered ?? ""
 
     signal kindPicked(string kind)
     signal recordPicked(string id)
     signal selectionCleared
     signal countPressed
     // What can be done with a record is asked for, at a place of `over`.
-    signal menuWanted(string id, Item over, point place)
+    signal menuRequested(string id, Item over, point place)
 
     function enterList(): void {
         (list.item as RecordList)?.enter();
@@ -68,9 +67,20 @@ Item {
             x: 8
             y: picker.y + picker.height + 2
             width: Math.min(implicitWidth, parent.width - 16)
-            text: recordModel.countText
-            pressable: root.countOpens
+            label: recordModel.countText
+            visible: root.countOpens
             onClicked: root.countPressed()
+        }
+        Label {
+            visible: !root.countOpens
+            x: 16
+            y: countLine.y + 4
+            width: countLine.width - 16
+            wrapMode: Text.Wrap
+            textStyle: Theme.type.caption
+            color: Theme.colors.text2
+            text: recordModel.countText
+            spoken: true
         }
         Rectangle {
             anchors.bottom: parent.bottom
@@ -97,8 +107,8 @@ Item {
         }
         Binding {
             target: list.item as RecordList
-            property: "answering"
-            value: root.answering
+            property: "hoveredOnMap"
+            value: root.hoveredOnMap
         }
         Connections {
             target: list.item as RecordList
@@ -109,8 +119,8 @@ Item {
             function onCleared(): void {
                 root.selectionCleared();
             }
-            function onMenuWanted(id: string, over: Item, place: point): void {
-                root.menuWanted(id, over, place);
+            function onMenuRequested(id: string, over: Item, place: point): void {
+                root.menuRequested(id, over, place);
             }
         }
         EmptyState {

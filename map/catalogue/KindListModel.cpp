@@ -2,7 +2,6 @@
 
 #include "presentation/RecordText.h"
 
-#include <algorithm>
 #include <numeric>
 
 namespace vasker {
@@ -91,15 +90,12 @@ QString KindListModel::valueAt(int row) const {
     return row == 0 ? allKinds : m_kinds.at(row - 1);
 }
 
-int KindListModel::rowStartingWith(const QString& typed, int row) const {
-    const int count = rowCount();
-    for (int step = 0; step < count; ++step) {
-        const int each = (std::max(row, 0) + step) % count;
-        if (labelAt(each).startsWith(typed, Qt::CaseInsensitive)) {
-            return each;
-        }
+QList<QString> KindListModel::labels() const {
+    QList<QString> labels;
+    for (int row = 0; row < rowCount(); ++row) {
+        labels.append(labelAt(row));
     }
-    return -1;
+    return labels;
 }
 
 QString KindListModel::labelAt(int row) const {

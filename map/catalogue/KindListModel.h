@@ -18,6 +18,7 @@ class KindListModel : public QAbstractListModel {
     Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY kindChanged)
     /// The chosen entry's row, -1 where the kind has none.
     Q_PROPERTY(int currentRow READ currentRow NOTIFY currentChanged)
+    Q_PROPERTY(QList<QString> labels READ labels NOTIFY kindsChanged)
     Q_PROPERTY(QString currentLabel READ currentLabel NOTIFY currentChanged)
 
   public:
@@ -45,9 +46,8 @@ class KindListModel : public QAbstractListModel {
 
     /// The value of the entry in `row`, empty outside the list.
     Q_INVOKABLE QString valueAt(int row) const;
-    /// The first row from `row` on, and then from the start, whose label begins with `typed`,
-    /// whatever the case; -1 where none does.
-    Q_INVOKABLE int rowStartingWith(const QString& typed, int row) const;
+    /// What the entries are called, in their order.
+    [[nodiscard]] QList<QString> labels() const;
 
   Q_SIGNALS:
     void kindsChanged();

@@ -1,10 +1,10 @@
-pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Vasker.Map
 import Vasker.Platform
 
 // Chooses the category to show: a field that opens a list of them.
-Rectangle {
+T.ComboBox {
     id: root
 
     required property KindListModel kinds
@@ -13,36 +13,45 @@ Rectangle {
 
     objectName: "open-map-layer"
     implicitHeight: Theme.controlHeight
-    radius: Theme.controlRadius
-    color: Theme.colors.control
-    border.width: 1
-    border.color: Theme.colors.controlLine
-    activeFocusOnTab: true
-
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
     Accessible.role: Accessible.ComboBox
     Accessible.name: qsTr("Layer")
     Accessible.description: root.kinds.currentLabel
     Accessible.focusable: true
-    Accessible.onPressAction: menu.toggle()
-    Keys.onSpacePressed: menu.open()
-    Keys.onReturnPressed: menu.open()
-    Keys.onEnterPressed: menu.open()
-    Keys.onDownPressed: menu.open()
-    Keys.onUpPressed: menu.open()
-
-    Rectangle {
-        anchors.fill: parent
-        radius: parent.radius
-        color: menu.opened || tap.pressed ? Theme.colors.pressed : Theme.colors.hover
-        visible: hover.hovered || menu.opened
+    Accessible.onPressAction: (root.popup as Menu).toggle()
+    Keys.onPressed: event => {
+        event.accepted = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Down, Qt.Key_Up].includes(event.key);
+        if (event.accepted && !event.isAutoRepeat) {
+            root.popup.open();
+        }
     }
-    FocusRing {}
+
+    popup: KindMenu {
+        anchor: root
+        kinds: root.kinds
+        onPicked: kind => root.picked(kind)
+    }
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: Theme.colors.control
+        border.width: 1
+        border.color: Theme.colors.controlLine
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: root.down ? Theme.colors.pressed : Theme.colors.hover
+            visible: root.hovered || root.down
+        }
+    }
     Label {
         id: title
 
-        x: 12
+        visible: 12 + implicitWidth + 8 + value.implicitWidth < chevron.x
+        anchors.left: parent.left
+        anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        visible: x + implicitWidth + 8 + value.implicitWidth < chevron.x
         textStyle: Theme.type.field
         color: Theme.colors.text2
         text: qsTr("Layer")
@@ -50,8 +59,9 @@ Rectangle {
     Label {
         id: value
 
-        x: title.visible ? title.x + title.implicitWidth + 8 : 12
-        width: chevron.x - x
+        anchors.left: title.visible ? title.right : parent.left
+        anchors.leftMargin: title.visible ? 8 : 12
+        anchors.right: chevron.left
         anchors.verticalCenter: parent.verticalCenter
         textStyle: Theme.type.subheadline
         elide: Text.ElideRight
@@ -67,24 +77,5 @@ Rectangle {
         size: 16 * Theme.iconScale
         color: Theme.colors.text
     }
-    HoverHandler {
-        id: hover
-    }
-    TapHandler {
-        id: tap
-
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: {
-            root.forceActiveFocus(Qt.MouseFocusReason);
-            menu.toggle();
-        }
-    }
-    KindMenu {
-        id: menu
-
-        anchor: root
-        kinds: root.kinds
-        onPicked: kind => root.picked(kind)
-        onClosed: root.forceActiveFocus(Qt.PopupFocusReason)
-    }
+    FocusRing {}
 }

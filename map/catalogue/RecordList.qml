@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Vasker.Map
 import Vasker.Platform
 
@@ -8,15 +9,14 @@ ListView {
     id: root
 
     required property RecordListModel records
-    // The id of the record that is pointed at on the map; empty: none.
-    property string answering
-    // The id of the record whose row is under the pointer; empty: none.
-    property string pointed
+    // The ids of the records whose marker on the map, and whose row, is under the pointer; empty: none.
+    property string hoveredOnMap
+    property string hovered
 
     signal picked(string id)
     signal cleared
     // What can be done with a record is asked for, at a place of `over`.
-    signal menuWanted(string id, Item over, point place)
+    signal menuRequested(string id, Item over, point place)
 
     objectName: "open-map-records"
     model: root.records
@@ -25,6 +25,7 @@ ListView {
     cacheBuffer: 320
     boundsBehavior: Flickable.StopAtBounds
     pixelAligned: true
+    T.ScrollBar.vertical: ScrollBar {}
     keyNavigationEnabled: true
     highlightFollowsCurrentItem: true
     highlightMoveDuration: 0
@@ -44,7 +45,7 @@ ListView {
     }
     function offerMenu(): void {
         if (root.currentItem !== null) {
-            root.menuWanted(root.records.idAt(root.currentIndex), root.currentItem, Qt.point(44, root.currentItem.height / 2));
+            root.menuRequested(root.records.idAt(root.currentIndex), root.currentItem, Qt.point(44, root.currentItem.height / 2));
         }
     }
     function pageRows(): int {
@@ -54,9 +55,6 @@ ListView {
     onActiveFocusChanged: if (activeFocus && currentIndex < 0) {
         go(Math.max(0, root.records.selectedRow));
     }
-    Keys.onReturnPressed: root.picked(root.records.idAt(root.currentIndex))
-    Keys.onEnterPressed: root.picked(root.records.idAt(root.currentIndex))
-    Keys.onSpacePressed: root.picked(root.records.idAt(root.currentIndex))
     Keys.onEscapePressed: root.cleared()
     Keys.onMenuPressed: root.offerMenu()
     Keys.onPressed: event => {
@@ -81,21 +79,21 @@ ListView {
     delegate: RecordRow {
         width: ListView.view.width
         selected: index === root.records.selectedRow
-        answering: recordId === root.answering
+        hoveredOnMap: recordId === root.hoveredOnMap
         current: root.activeFocus && ListView.isCurrentItem
         separatorVisible: index < root.count - 1 && index + 1 !== root.records.selectedRow
         onHoveredChanged: {
             if (hovered) {
-                root.pointed = recordId;
-            } else if (root.pointed === recordId) {
-                root.pointed = "";
+                root.hovered = recordId;
+            } else if (root.hovered === recordId) {
+                root.hovered = "";
             }
         }
         onPicked: {
             root.currentIndex = index;
             root.picked(recordId);
         }
-        onMenuWanted: place => root.menuWanted(recordId, this, place)
+        onMenuRequested: place => root.menuRequested(recordId, this, place)
     }
 
     Connections {
@@ -119,8 +117,5 @@ ListView {
                 root.positionViewAtIndex(root.currentIndex, ListView.Contain);
             }
         }
-    }
-    ScrollThumb {
-        flickable: root
     }
 }

@@ -1,10 +1,11 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Vasker.Map
 import Vasker.Platform
 
 // One record: icon, name, reported unit, category and period.
-Item {
+T.ItemDelegate {
     id: root
 
     required property int index
@@ -18,20 +19,21 @@ Item {
     required property string accessibleText
 
     property bool selected: false
-    // Whether its mark is pointed at on the map.
-    property bool answering: false
+    // Whether the pointer is on its marker on the map.
+    property bool hoveredOnMap: false
     property bool current: false
     // Whether the list keeps it for a record to come: then it lies there unseen.
     property bool kept: false
     property bool separatorVisible: true
-    readonly property bool filled: selected || answering || hover.hovered || tap.pressed
-    readonly property bool hovered: hover.hovered
+    readonly property bool filled: selected || hoveredOnMap || hovered || down
 
     signal picked
-    signal menuWanted(point place)
+    signal menuRequested(point place)
 
     objectName: "open-map-record-" + root.recordId
     implicitHeight: texts.height + 16
+    focusPolicy: Qt.NoFocus
+    hoverEnabled: true
     ListView.onPooled: root.kept = true
     ListView.onReused: root.kept = false
     Accessible.role: Accessible.ListItem
@@ -41,32 +43,50 @@ Item {
     Accessible.selected: root.selected
     Accessible.focusable: true
     Accessible.focused: root.current
-    Accessible.onPressAction: root.picked()
+    Accessible.onPressAction: root.clicked()
+    Keys.forwardTo: PressKeys {
+        button: root
+    }
+    onClicked: root.picked()
 
-    Rectangle {
-        anchors.fill: parent
-        anchors.leftMargin: 6
-        anchors.rightMargin: 6
-        radius: Theme.controlRadius
-        color: root.selected ? Theme.colors.selected : tap.pressed ? Theme.colors.pressed : hover.hovered || root.answering ? Theme.colors.hover : "transparent"
-
+    background: Item {
         Rectangle {
-            visible: root.selected
-            x: 4
-            y: 9
-            width: 3
-            height: parent.height - 18
-            radius: 1.5
-            color: Theme.colors.accent
+            anchors.fill: parent
+            anchors.leftMargin: 6
+            anchors.rightMargin: 6
+            radius: Theme.controlRadius
+            color: root.selected ? Theme.colors.selected : root.down ? Theme.colors.pressed : root.filled ? Theme.colors.hover : "transparent"
+
+            Rectangle {
+                visible: root.selected
+                anchors.left: parent.left
+                anchors.leftMargin: 4
+                y: 9
+                width: 3
+                height: parent.height - 18
+                radius: 1.5
+                color: Theme.colors.accent
+            }
+            FocusRing {
+                inside: true
+                shown: root.current && FocusVisibility.visible
+            }
         }
-        FocusRing {
-            inside: true
-            shown: root.current && FocusVisibility.visible
+        Rectangle {
+            visible: root.separatorVisible && !root.filled
+            anchors.left: parent.left
+            anchors.leftMargin: 20 + Theme.iconColumn + 10
+            anchors.right: parent.right
+            anchors.rightMargin: 14
+            anchors.bottom: parent.bottom
+            height: 1
+            color: Theme.colors.line
         }
     }
     Icon {
-        x: 20 + Math.round((Theme.iconColumn - width) / 2)
         y: 8 + Math.round((Theme.type.rowName.lineHeight - height) / 2)
+        anchors.left: parent.left
+        anchors.leftMargin: 20 + Math.round((Theme.iconColumn - width) / 2)
         name: root.symbol
         size: 18 * Theme.iconScale
         color: Theme.colors.record(root.tint)
@@ -113,26 +133,13 @@ Item {
             text: root.category
         }
     }
-    Rectangle {
-        visible: root.separatorVisible && !root.filled
-        anchors.left: texts.left
-        anchors.right: parent.right
-        anchors.rightMargin: 14
-        anchors.bottom: parent.bottom
-        height: 1
-        color: Theme.colors.line
-    }
-    HoverHandler {
-        id: hover
-    }
-    TapHandler {
-        id: tap
+    // In an item of its own: a handler makes its item take every button of the mouse.
+    Item {
+        anchors.fill: parent
 
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.picked()
-    }
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: point => root.menuWanted(point.position)
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: point => root.menuRequested(point.position)
+        }
     }
 }

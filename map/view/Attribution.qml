@@ -90,42 +90,22 @@ Item {
 
                 required property var modelData
                 required property int index
-                readonly property string address: entry.modelData.address
-                readonly property bool leads: entry.address.length > 0
 
-                Piece {
+                Link {
                     id: link
 
                     objectName: "open-map-credit-" + entry.index
+                    implicitWidth: piece.implicitWidth
+                    implicitHeight: piece.implicitHeight
                     text: entry.modelData.text
-                    underlined: entry.leads && hover.hovered
-                    activeFocusOnTab: entry.leads
-                    Accessible.role: entry.leads ? Accessible.Link : Accessible.StaticText
-                    Accessible.name: link.text
-                    Accessible.description: entry.address
-                    Accessible.focusable: entry.leads
-                    Accessible.onPressAction: link.open()
-                    Keys.onReturnPressed: link.open()
-                    Keys.onEnterPressed: link.open()
-                    Keys.onSpacePressed: link.open()
+                    address: entry.modelData.address
+                    addressShown: false
 
-                    function open(): void {
-                        SystemBrowser.open(entry.address);
-                    }
+                    Piece {
+                        id: piece
 
-                    FocusRing {
-                        around: 3
-                    }
-                    HoverHandler {
-                        id: hover
-
-                        enabled: entry.leads
-                        cursorShape: Qt.PointingHandCursor
-                    }
-                    TapHandler {
-                        enabled: entry.leads
-                        gesturePolicy: TapHandler.ReleaseWithinBounds
-                        onTapped: link.open()
+                        text: link.text
+                        underlined: link.enabled && link.hovered
                     }
                 }
                 Separator {

@@ -3,7 +3,7 @@ import Vasker.Platform
 
 // Where north is while it is not up; a press sets the map upright. It hides when there is nothing
 // to tell, but the keyboard still finds it.
-Item {
+Button {
     id: root
 
     required property real bearing
@@ -11,92 +11,69 @@ Item {
     required property bool upright
     readonly property bool shown: !upright || activeFocus
 
-    signal clicked
-
     implicitWidth: 40
     implicitHeight: 40
+    radius: 20
+    label: qsTr("Set north up")
+    tip: label
+    tipPlace: ToolTip.Beside
     opacity: shown ? 1 : 0
-    activeFocusOnTab: true
-    Accessible.role: Accessible.Button
-    Accessible.name: qsTr("Set north up")
-    Accessible.focusable: true
-    Accessible.onPressAction: root.clicked()
-    Keys.onSpacePressed: root.clicked()
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
+    // While it hides, the pointer is the map's.
+    containmentMask: shown ? null : nowhere
 
     Behavior on opacity {
         NumberAnimation {
             duration: Theme.menuDuration
         }
     }
-    Shadow {
-        anchors.fill: parent
-        radius: 20
-        dark: Theme.dark
+    background: RaisedSurface {
+        radius: root.radius
         level: 1
+
+        ButtonFill {
+            anchors.fill: parent
+            radius: root.radius
+            shown: root.hovered
+            held: root.down
+        }
     }
-    Rectangle {
-        anchors.fill: parent
-        radius: 20
-        color: Theme.colors.raised
-    }
-    Rectangle {
-        anchors.fill: parent
-        radius: 20
-        color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
-        visible: hover.hovered || tap.pressed
-    }
-    FocusRing {
-        around: 20
-    }
-    Item {
-        anchors.centerIn: parent
-        transform: [
-            Rotation {
-                angle: -root.bearing
-            },
-            Rotation {
-                axis.x: 1
-                axis.y: 0
-                axis.z: 0
-                angle: root.pitch * 0.8
+    contentItem: Item {
+        Item {
+            anchors.centerIn: parent
+            transform: [
+                Rotation {
+                    angle: -root.bearing
+                },
+                Rotation {
+                    axis.x: 1
+                    axis.y: 0
+                    axis.z: 0
+                    angle: root.pitch * 0.8
+                }
+            ]
+
+            Icon {
+                x: -7
+                y: -14
+                size: 14
+                name: "needle"
+                color: Theme.colors.north
             }
-        ]
-
-        Icon {
-            x: -7
-            y: -14
-            size: 14
-            name: "needle"
-            color: Theme.colors.north
-        }
-        Icon {
-            x: -7
-            y: 0
-            size: 14
-            name: "needle"
-            color: Theme.colors.text3
-            rotation: 180
+            Icon {
+                x: -7
+                y: 0
+                size: 14
+                name: "needle"
+                color: Theme.colors.text3
+                rotation: 180
+            }
         }
     }
-    ToolTip {
-        x: -width - 6
-        y: Math.round((parent.height - height) / 2)
-        text: qsTr("Set north up")
-        wanted: root.shown && hover.hovered
-    }
-    HoverHandler {
-        id: hover
+    QtObject {
+        id: nowhere
 
-        enabled: root.shown
-        cursorShape: Qt.ArrowCursor
-    }
-    TapHandler {
-        id: tap
-
-        enabled: root.shown
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.clicked()
+        function contains(point: point): bool {
+            return false;
+        }
     }
 }

@@ -38,16 +38,9 @@ Item {
         interval: 120
         onTriggered: root.visible = true
     }
-    Shadow {
+    RaisedSurface {
         anchors.fill: parent
         radius: Theme.controlRadius
-        dark: Theme.dark
-        level: 2
-    }
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.controlRadius
-        color: Theme.colors.raised
     }
     Column {
         id: texts

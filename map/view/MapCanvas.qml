@@ -119,9 +119,8 @@ MapView {
     PickList {
         id: choice
 
-        mapItem: root
+        anchor: root
         onPicked: id => root.picked(id)
-        onClosed: root.forceActiveFocus(Qt.PopupFocusReason)
     }
     FocusRing {
         id: ring

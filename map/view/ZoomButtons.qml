@@ -15,72 +15,43 @@ Item {
     implicitWidth: 40
     implicitHeight: 80
 
-    component Half: Item {
+    component Half: Button {
         id: half
 
-        required property string icon
-        required property string text
+        required property string symbol
         property bool atEnd: false
 
-        signal clicked
+        implicitWidth: 40
+        implicitHeight: 40
+        radius: 10
+        ringInside: true
+        tip: label
+        tipPlace: ToolTip.Beside
 
-        width: 40
-        height: 40
-        activeFocusOnTab: true
-        Accessible.role: Accessible.Button
-        Accessible.name: half.text
-        Accessible.focusable: true
-        Accessible.onPressAction: half.clicked()
-        Keys.onSpacePressed: half.clicked()
-        Keys.onReturnPressed: half.clicked()
-        Keys.onEnterPressed: half.clicked()
-
-        Rectangle {
-            anchors.fill: parent
-            anchors.margins: 3
-            radius: 7
-            color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
-            visible: !half.atEnd && (hover.hovered || tap.pressed)
+        background: Item {
+            ButtonFill {
+                visible: !half.atEnd
+                anchors.fill: parent
+                anchors.margins: 3
+                radius: 7
+                shown: half.hovered
+                held: half.down
+            }
         }
-        Icon {
-            anchors.centerIn: parent
-            name: half.icon
-            size: 20
-            color: half.atEnd ? Theme.colors.text3 : Theme.colors.text
-        }
-        FocusRing {
-            around: 10
-            inside: true
-        }
-        ToolTip {
-            x: -width - 6
-            y: Math.round((parent.height - height) / 2)
-            text: half.text
-            wanted: hover.hovered
-        }
-        HoverHandler {
-            id: hover
-
-            cursorShape: Qt.ArrowCursor
-        }
-        TapHandler {
-            id: tap
-
-            gesturePolicy: TapHandler.ReleaseWithinBounds
-            onTapped: half.clicked()
+        contentItem: Item {
+            Icon {
+                anchors.centerIn: parent
+                name: half.symbol
+                size: 20
+                color: half.atEnd ? Theme.colors.text3 : Theme.colors.text
+            }
         }
     }
 
-    Shadow {
+    RaisedSurface {
         anchors.fill: parent
         radius: 10
-        dark: Theme.dark
         level: 1
-    }
-    Rectangle {
-        anchors.fill: parent
-        radius: 10
-        color: Theme.colors.raised
     }
     Rectangle {
         y: 40
@@ -90,16 +61,16 @@ Item {
     }
     Half {
         objectName: "open-map-zoom-in"
-        icon: "plus"
-        text: qsTr("Zoom in")
+        symbol: "plus"
+        label: qsTr("Zoom in")
         atEnd: root.nearest
         onClicked: root.zoomedIn()
     }
     Half {
         objectName: "open-map-zoom-out"
         y: 40
-        icon: "minus"
-        text: qsTr("Zoom out")
+        symbol: "minus"
+        label: qsTr("Zoom out")
         atEnd: root.farthest
         onClicked: root.zoomedOut()
     }

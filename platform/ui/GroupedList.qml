@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 import Vasker.Platform
 
 // Sections one below the other, scrolled by wheel, finger and keys. What has the keyboard is in view.
@@ -33,6 +34,7 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     flickableDirection: Flickable.VerticalFlick
     pixelAligned: true
+    T.ScrollBar.vertical: ScrollBar {}
 
     onFocusedChanged: if (FocusVisibility.visible && holds(focused)) {
         reveal(focused);
@@ -66,8 +68,5 @@ Flickable {
         y: 16
         width: root.width - 2 * x
         spacing: 20
-    }
-    ScrollThumb {
-        flickable: root
     }
 }

@@ -2,102 +2,57 @@ import QtQuick
 import Vasker.Platform
 
 // A button of the header bar: an icon and, where there is room, its label. With a menu it opens that.
-Item {
+Button {
     id: root
 
-    required property string icon
-    required property string text
+    required property string symbol
     property Menu menu: null
     property bool labelVisible: true
     property real compactWidth: 44
-    readonly property real fullWidth: 20 * Theme.iconScale + 7 + label.implicitWidth + (menu === null ? 0 : 4 + chevron.width) + 22
-    readonly property bool menuOpened: menu !== null && menu.opened
-
-    signal clicked
-
-    function press(): void {
-        if (root.menu === null) {
-            root.clicked();
-            return;
-        }
-        root.forceActiveFocus(Qt.OtherFocusReason);
-        root.menu.toggle();
-    }
-    function pressAlong(event: var): void {
-        event.accepted = root.menu !== null;
-        if (event.accepted) {
-            root.press();
-        }
-    }
+    readonly property real fullWidth: glyph.width + 7 + title.implicitWidth + (menu === null ? 0 : 4 + chevron.width) + 22
 
     implicitWidth: labelVisible ? fullWidth : compactWidth
-    implicitHeight: Theme.controlHeight
-    activeFocusOnTab: true
+    opened: menu !== null && menu.shown
+    tip: labelVisible || opened ? "" : label
+    onClicked: root.menu?.toggle()
+    Keys.enabled: root.menu !== null
+    Keys.onDownPressed: root.menu.toggle()
+    Keys.onUpPressed: root.menu.toggle()
 
-    Accessible.role: root.menu === null ? Accessible.Button : Accessible.ButtonMenu
-    Accessible.name: root.text
-    Accessible.focusable: true
-    Accessible.pressed: root.menuOpened
-    Accessible.onPressAction: root.press()
-    Keys.onSpacePressed: root.press()
-    Keys.onReturnPressed: root.press()
-    Keys.onEnterPressed: root.press()
-    Keys.onDownPressed: event => root.pressAlong(event)
-    Keys.onUpPressed: event => root.pressAlong(event)
+    Row {
+        anchors.centerIn: parent
+        height: parent.height
+        spacing: 7
 
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.controlRadius
-        color: tap.pressed || root.menuOpened ? Theme.colors.pressed : Theme.colors.hover
-        opacity: hover.hovered || tap.pressed || root.menuOpened ? 1 : 0
-        Behavior on opacity {
-            NumberAnimation {
-                duration: Theme.hoverDuration
+        Icon {
+            id: glyph
+
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.symbol
+            size: 20 * Theme.iconScale
+            color: Theme.colors.text
+        }
+        Row {
+            visible: root.labelVisible
+            height: parent.height
+            spacing: 4
+
+            Label {
+                id: title
+
+                anchors.verticalCenter: parent.verticalCenter
+                textStyle: Theme.type.subheadline
+                text: root.label
+            }
+            Icon {
+                id: chevron
+
+                visible: root.menu !== null
+                anchors.verticalCenter: parent.verticalCenter
+                name: "chevron.down"
+                size: 14 * Theme.iconScale
+                color: Theme.colors.text2
             }
         }
-    }
-    FocusRing {}
-    Icon {
-        id: glyph
-
-        x: root.labelVisible ? 11 : (root.width - width) / 2
-        anchors.verticalCenter: parent.verticalCenter
-        name: root.icon
-        size: 20 * Theme.iconScale
-        color: Theme.colors.text
-    }
-    Label {
-        id: label
-
-        visible: root.labelVisible
-        anchors.left: glyph.right
-        anchors.leftMargin: 7
-        anchors.verticalCenter: parent.verticalCenter
-        textStyle: Theme.type.subheadline
-        text: root.text
-    }
-    Icon {
-        id: chevron
-
-        visible: root.labelVisible && root.menu !== null
-        anchors.left: label.right
-        anchors.leftMargin: 4
-        anchors.verticalCenter: parent.verticalCenter
-        name: "chevron.down"
-        size: 14 * Theme.iconScale
-        color: Theme.colors.text2
-    }
-    ToolTip {
-        text: root.text
-        wanted: hover.hovered && !root.labelVisible && !root.menuOpened
-    }
-    HoverHandler {
-        id: hover
-    }
-    TapHandler {
-        id: tap
-
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.press()
     }
 }

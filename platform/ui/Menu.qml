@@ -1,149 +1,139 @@
-pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Layouts
-import QtQuick.Window
+import QtQuick.Templates as T
 import Vasker.Platform
 
-// A menu of entries. While it is open the keyboard is its rows': arrows, Home, End and first letters
-// move, Enter or space picks, Escape leaves; then it goes back to where it was.
-PopupSurface {
+// Rows to choose from, on a raised surface over everything else in the window: below `anchor`, or
+// above it where only there is room, or at a point. While it is open the keyboard is its rows'; then
+// it goes back to where it was. Escape, Tab or a press beside it closes it; what lies there does not
+// learn of it.
+T.Menu {
     id: root
 
-    // Stands above the rows; a menu without one has a name all the same.
-    property string title
-    property string name: title
-    default property list<MenuEntry> entries
+    // What opens it; its `title` tells assistive tools what it is.
+    required property Item anchor
+    // How far along its anchor it begins.
+    property real inset: 0
+    // Where its rows come from, made by its delegate, and what they say; null: they are declared in it.
+    property QtObject model: null
+    property list<string> labels
+    property real mostHeight: Infinity
+    // Stands above the rows, so far from the edge.
+    property string heading
+    property real headingInset: 18 + 16 * Theme.iconScale
+    // The row that has the keyboard first; negative: the one that is chosen, else the first.
+    property int firstRow: -1
+    // From when it opens until it is to close.
+    property bool shown: false
 
+    // The item at whose `place` it opens; null: at the anchor.
+    property Item over: null
+    property point place
+    // Where it begins, how far along it may end instead, and how much it leaves free below it.
+    property point corner
+    property real span: 0
+    property real gap: 0
     property Item before: null
 
-    function pick(entry: MenuEntry): void {
-        root.close();
-        entry.picked();
+    readonly property MenuList list: contentItem as MenuList
+    readonly property real wanted: Math.min(Math.min(list.implicitHeight, mostHeight) + topPadding + 6, parent.height - 16)
+    readonly property bool goesUp: corner.y + wanted > parent.height - 8 && (span === 0 || corner.y - gap - wanted >= 8)
+
+    function toggle(): void {
+        root.shown ? root.close() : root.open();
     }
-    // The row of the first offered entry after `from`, in steps of 1 or -1, that `fits`; around the
-    // end; -1: none.
-    function nextRow(from: int, step: int, fits: var): int {
-        for (let turn = 1; turn <= root.entries.length; ++turn) {
-            const row = (from + step * turn + 2 * root.entries.length) % root.entries.length;
-            if (root.entries[row].offered && fits(root.entries[row])) {
-                return row;
-            }
+    // Keeps pointer and shortcuts from all that lies below, but not while it fades out.
+    function block(): void {
+        const blocks = root.shown || !root.visible;
+        root.modal = blocks;
+        root.closePolicy = blocks ? T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside : T.Popup.NoAutoClose;
+    }
+    // `place` is the menu's corner, in the coordinates of `item`.
+    function openAt(item: Item, place: point): void {
+        root.over = item;
+        root.place = place;
+        root.open();
+    }
+
+    parent: anchor.Window.contentItem
+    x: Math.round(Math.max(4, corner.x + width > parent.width - 4 ? corner.x + span - width : corner.x))
+    y: Math.round(goesUp ? Math.max(8, corner.y - gap - wanted) : corner.y)
+    width: Math.min(Math.max(216, list.widestRow() + 12), parent.width - 8)
+    height: Math.min(wanted, parent.height - y - 8)
+    padding: 6
+    topPadding: heading.length > 0 ? 16 + Theme.type.captionMedium.lineHeight : 6
+    modal: true
+    onAboutToShow: {
+        const atPoint = root.over !== null;
+        root.before = atPoint ? root.parent.Window.activeFocusItem : root.anchor;
+        root.span = atPoint ? 0 : root.anchor.width - root.inset;
+        root.gap = atPoint ? 0 : root.anchor.height + 8;
+        root.corner = atPoint ? root.over.mapToItem(root.parent, root.place) : root.anchor.mapToItem(root.parent, root.inset, root.anchor.height + 4);
+        root.over = null;
+        root.shown = true;
+        root.block();
+    }
+    onVisibleChanged: if (visible) {
+        root.list.enter(root.firstRow);
+    }
+    onAboutToHide: {
+        root.shown = false;
+        // The press that closes it is still its own.
+        afterThat.start();
+        root.before?.forceActiveFocus(Qt.PopupFocusReason);
+    }
+    onClosed: root.block()
+
+    // Takes the pointer from what lies below.
+    T.Overlay.modal: MouseArea {
+        hoverEnabled: true
+    }
+    enter: Transition {
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.menuDuration
         }
-        return -1;
     }
-    function enter(row: int): void {
-        if (row >= 0) {
-            (rows.itemAt(row) as Item).forceActiveFocus(Qt.PopupFocusReason);
+    exit: Transition {
+        NumberAnimation {
+            property: "opacity"
+            to: 0
+            duration: Theme.menuDuration
         }
     }
-    function step(from: int, by: int): void {
-        enter(nextRow(from, by, () => true));
-    }
-    function enterFirst(): void {
-        const checked = nextRow(-1, 1, entry => entry.checked);
-        enter(checked >= 0 ? checked : nextRow(-1, 1, () => true));
-    }
-    // A single letter goes on to the next row, further ones make sure of this one.
-    function find(from: int): void {
-        enter(nextRow(search.typed.length > 1 ? from - 1 : from, 1, entry => search.begins(entry.text)));
-    }
-    function show(row: Item): void {
-        view.contentY = Math.max(Math.min(view.contentY, row.y), row.y + row.height - view.height);
-    }
-
-    contentHeight: column.implicitHeight
-    surfaceWidth: Math.min(Math.max(216, column.implicitWidth + 12), root.width - 8)
-
-    onOpenedChanged: {
-        search.forget();
-        if (opened) {
-            root.before = root.Window.activeFocusItem;
-            root.enterFirst();
-        } else if (root.before !== null) {
-            root.before.forceActiveFocus(Qt.PopupFocusReason);
+    background: RaisedSurface {
+        Label {
+            visible: text.length > 0
+            y: 12
+            anchors.left: parent.left
+            anchors.leftMargin: root.headingInset
+            textStyle: Theme.type.captionMedium
+            color: Theme.colors.text2
+            text: root.heading
         }
     }
+    contentItem: MenuList {
+        menu: root
+        model: root.model ?? root.contentModel
+        delegate: root.delegate
+        labels: root.labels
+    }
+    Timer {
+        id: afterThat
 
-    content: [
-        Flickable {
-            id: view
+        interval: 0
+        onTriggered: root.block()
+    }
+    // It would stand in the wrong place.
+    Connections {
+        target: root.parent
 
-            anchors.fill: parent
-            contentHeight: column.implicitHeight
-            clip: contentHeight > height
-            boundsBehavior: Flickable.StopAtBounds
-
-            ColumnLayout {
-                id: column
-
-                readonly property bool indented: root.nextRow(-1, 1, entry => entry.checkable || entry.icon.length > 0) >= 0
-
-                width: view.width
-                spacing: 0
-                Accessible.role: Accessible.PopupMenu
-                Accessible.name: root.name
-                Accessible.ignored: !root.opened
-
-                Label {
-                    visible: root.title.length > 0
-                    Layout.leftMargin: column.indented ? 12 + 16 * Theme.iconScale : 10
-                    Layout.rightMargin: 10
-                    Layout.topMargin: 6
-                    Layout.bottomMargin: 4
-                    textStyle: Theme.type.captionMedium
-                    color: Theme.colors.text2
-                    text: root.title
-                }
-                Repeater {
-                    id: rows
-
-                    model: root.entries
-
-                    MenuRow {
-                        id: row
-
-                        required property MenuEntry modelData
-                        required property int index
-
-                        Layout.fillWidth: true
-                        visible: modelData.offered
-                        indented: column.indented
-                        text: modelData.text
-                        icon: modelData.icon
-                        note: modelData.shortcut
-                        checkable: modelData.checkable
-                        checked: modelData.checked
-                        startsGroup: modelData.startsGroup
-                        current: activeFocus
-                        onPointed: forceActiveFocus(Qt.MouseFocusReason)
-                        onPicked: root.pick(modelData)
-                        onActiveFocusChanged: if (activeFocus) {
-                            root.show(row);
-                        }
-                        Keys.onReturnPressed: picked()
-                        Keys.onEnterPressed: picked()
-                        Keys.onDownPressed: root.step(index, 1)
-                        Keys.onUpPressed: root.step(index, -1)
-                        Keys.onPressed: event => {
-                            event.accepted = true;
-                            if (event.key === Qt.Key_Home) {
-                                root.step(-1, 1);
-                            } else if (event.key === Qt.Key_End) {
-                                root.step(root.entries.length, -1);
-                            } else if (search.takes(event.text)) {
-                                root.find(index);
-                            } else if (event.key === Qt.Key_Space) {
-                                picked();
-                            } else {
-                                event.accepted = false;
-                            }
-                        }
-                    }
-                }
-            }
-        },
-        TypeAhead {
-            id: search
+        function onWidthChanged(): void {
+            root.close();
         }
-    ]
+        function onHeightChanged(): void {
+            root.close();
+        }
+    }
 }

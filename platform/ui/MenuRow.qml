@@ -1,66 +1,70 @@
 import QtQuick
+import QtQuick.Templates as T
 import Vasker.Platform
 
-// One choice in a menu; the current one is filled, the checked one marked. A note stands dimmed at
-// its end.
-Item {
+// One choice in a menu; the current one is filled, the chosen one marked. A note stands dimmed at
+// its end. Picked, it closes the menu first.
+T.MenuItem {
     id: root
 
-    required property string text
-    property string icon
+    required property string label
+    // How the keyboard reaches the same; the menu does not listen for it.
     property string note
     property string spokenNote: note
-    property bool checkable: false
-    property bool checked: false
-    property bool current: false
-    // Whether the text leaves room for a mark or an icon before it.
-    property bool indented: true
+    // Whether it is one of several choices, and the one that is made.
+    property bool choice: false
+    property bool chosen: false
+    // Whether the label leaves room for a mark before it.
+    property bool indented: choice
+    // A line stands above it.
     property bool startsGroup: false
+    readonly property MenuList list: ListView.view as MenuList
 
-    readonly property real rowHeight: Math.max(34 * Theme.iconScale, label.implicitHeight + 12)
-
-    signal pointed
     signal picked
 
-    implicitWidth: label.anchors.leftMargin + label.implicitWidth + 10 + (note.length > 0 ? noteLabel.implicitWidth + 24 : 0)
-    implicitHeight: rowHeight + (startsGroup ? 9 : 0)
+    implicitWidth: title.anchors.leftMargin + title.implicitWidth + 10 + (note.length > 0 ? noteLabel.implicitWidth + 24 : 0)
+    implicitHeight: topInset + Math.max(34 * Theme.iconScale, title.implicitHeight + 12)
+    width: list?.width ?? 0
+    topInset: startsGroup ? 9 : 0
+    hoverEnabled: true
     Accessible.role: Accessible.MenuItem
-    Accessible.name: root.text
+    Accessible.name: root.label
     Accessible.description: root.spokenNote
     Accessible.ignored: !root.visible
     Accessible.focusable: true
-    Accessible.checkable: root.checkable
-    Accessible.checked: root.checked
-    Accessible.onPressAction: root.picked()
+    Accessible.checkable: root.choice
+    Accessible.checked: root.chosen
+    // Qt 6.4 sets both from the properties of the template, which would check itself when clicked.
+    Accessible.onCheckableChanged: Accessible.checkable = root.choice
+    Accessible.onCheckedChanged: Accessible.checked = root.chosen
+    onChosenChanged: Accessible.checked = root.chosen
+    Accessible.onPressAction: root.clicked()
+    Keys.forwardTo: [root.list, keys]
+    onClicked: {
+        root.list.menu.close();
+        root.picked();
+    }
 
-    Rectangle {
-        visible: root.startsGroup
-        y: 4
-        width: parent.width
-        height: 1
-        color: Theme.colors.line
+    background: Rectangle {
+        radius: Theme.menuRowRadius
+        color: root.down ? Theme.colors.pressed : Theme.colors.hover
+        visible: root.ListView.isCurrentItem
     }
     Item {
-        anchors.bottom: parent.bottom
-        width: parent.width
-        height: root.rowHeight
+        anchors.fill: parent
+        anchors.topMargin: root.topInset
 
-        Rectangle {
-            anchors.fill: parent
-            radius: Theme.menuRowRadius
-            color: tap.pressed ? Theme.colors.pressed : Theme.colors.hover
-            visible: root.current
-        }
         Icon {
-            visible: root.checked || root.icon.length > 0
-            x: 8
+            visible: root.chosen
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
-            name: root.checked ? "check" : root.icon
+            name: "check"
             size: 16 * Theme.iconScale
-            color: root.checked ? Theme.colors.accent : Theme.colors.text
+            color: Theme.colors.accent
         }
         Label {
-            id: label
+            id: title
 
             anchors.left: parent.left
             anchors.leftMargin: root.indented ? 12 + 16 * Theme.iconScale : 10
@@ -69,7 +73,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             wrapMode: Text.Wrap
             textStyle: Theme.type.subheadline
-            text: root.text
+            text: root.label
         }
         Label {
             id: noteLabel
@@ -81,16 +85,17 @@ Item {
             color: Theme.colors.text2
             text: root.note
         }
-        HoverHandler {
-            onHoveredChanged: if (hovered) {
-                root.pointed();
-            }
-        }
-        TapHandler {
-            id: tap
+    }
+    PressKeys {
+        id: keys
 
-            gesturePolicy: TapHandler.ReleaseWithinBounds
-            onTapped: root.picked()
-        }
+        button: root
+    }
+    Rectangle {
+        visible: root.startsGroup
+        y: 4
+        width: parent.width
+        height: 1
+        color: Theme.colors.line
     }
 }

@@ -32,7 +32,8 @@ Rectangle {
     Icon {
         id: magnifier
 
-        x: 10
+        anchors.left: parent.left
+        anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         name: "search"
         size: 16 * Theme.iconScale
@@ -78,30 +79,29 @@ Rectangle {
         elide: Text.ElideRight
         text: root.prompt
     }
-    Item {
+    Button {
         id: clear
 
         visible: input.length > 0
         anchors.right: parent.right
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
         width: height
-        Accessible.role: Accessible.Button
-        Accessible.name: qsTr("Clear search")
+        height: parent.height
+        focusPolicy: Qt.NoFocus
+        label: qsTr("Clear search")
         Accessible.ignored: !visible
-        Accessible.onPressAction: input.clear()
+        onClicked: input.clear()
 
-        Icon {
-            anchors.centerIn: parent
-            name: "xmark"
-            size: 16 * Theme.iconScale
-            color: Theme.colors.text2
-        }
-        HoverHandler {
-            cursorShape: Qt.ArrowCursor
-        }
-        TapHandler {
-            onTapped: input.clear()
+        background: Item {}
+        contentItem: Item {
+            Icon {
+                anchors.centerIn: parent
+                name: "xmark"
+                size: 16 * Theme.iconScale
+                color: Theme.colors.text2
+            }
+            HoverHandler {
+                cursorShape: Qt.ArrowCursor
+            }
         }
     }
     HoverHandler {

@@ -45,19 +45,12 @@ Item {
     Accessible.name: root.title
     Accessible.ignored: !root.visible
 
-    Shadow {
-        anchors.fill: ground
-        radius: Theme.sheetRadius
-        dark: Theme.dark
-        level: 3
-    }
-    Rectangle {
-        id: ground
-
+    RaisedSurface {
         width: parent.width
         // At the bottom its lower corners are below the edge of the window.
         height: parent.height + (root.atBottom ? radius : 0)
         radius: Theme.sheetRadius
+        level: 3
         color: Theme.colors.sheet
     }
     MouseArea {
@@ -96,7 +89,7 @@ Item {
             anchors.right: parent.right
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
-            text: qsTr("Done")
+            label: qsTr("Done")
             Accessible.ignored: !root.visible
             onClicked: root.dismissed()
         }

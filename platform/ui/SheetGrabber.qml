@@ -2,7 +2,7 @@ import QtQuick
 import Vasker.Platform
 
 // Takes a sheet from one height to the other: by dragging `handle`, by keys, or pressed.
-Item {
+Button {
     id: root
 
     required property Item handle
@@ -16,32 +16,18 @@ Item {
 
     signal moved(bool large)
 
-    width: 60
-    height: 18
-    activeFocusOnTab: true
-    Accessible.role: Accessible.Button
-    Accessible.name: root.large ? qsTr("Make the sheet smaller") : qsTr("Make the sheet larger")
-    Accessible.focusable: true
+    implicitWidth: 60
+    implicitHeight: 18
+    radius: 2
+    ringed: bar
+    label: root.large ? qsTr("Make the sheet smaller") : qsTr("Make the sheet larger")
     Accessible.ignored: !root.visible
-    Accessible.onPressAction: root.moved(!root.large)
     Accessible.onIncreaseAction: root.moved(true)
     Accessible.onDecreaseAction: root.moved(false)
-    Keys.onSpacePressed: root.moved(!root.large)
-    Keys.onReturnPressed: root.moved(!root.large)
-    Keys.onEnterPressed: root.moved(!root.large)
     Keys.onUpPressed: root.moved(true)
     Keys.onDownPressed: root.moved(false)
+    onClicked: root.moved(!root.large)
 
-    Shortcut {
-        sequence: "Ctrl+Up"
-        enabled: root.visible && root.enabled
-        onActivated: root.moved(true)
-    }
-    Shortcut {
-        sequence: "Ctrl+Down"
-        enabled: root.visible && root.enabled
-        onActivated: root.moved(false)
-    }
     Behavior on reach {
         enabled: !root.dragging
 
@@ -50,6 +36,7 @@ Item {
             easing.type: Easing.OutCubic
         }
     }
+    background: Item {}
     Rectangle {
         id: bar
 
@@ -59,15 +46,16 @@ Item {
         height: 4
         radius: 2
         color: Qt.alpha(Theme.colors.text3, 0.55)
-
-        FocusRing {
-            around: 2
-            shown: root.activeFocus && FocusVisibility.visible
-        }
     }
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: root.moved(!root.large)
+    Shortcut {
+        sequence: "Ctrl+Up"
+        enabled: root.visible && root.enabled
+        onActivated: root.moved(true)
+    }
+    Shortcut {
+        sequence: "Ctrl+Down"
+        enabled: root.visible && root.enabled
+        onActivated: root.moved(false)
     }
     DragHandler {
         property real startReach

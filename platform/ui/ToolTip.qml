@@ -1,51 +1,40 @@
 import QtQuick
-import QtQuick.Window
+import QtQuick.Templates as T
 import Vasker.Platform
 
-// What a control without a visible label is called, below it and within the window, once the pointer
-// rests there.
-Rectangle {
+// What its parent is called, below it or beside it and within the window, once the pointer rests
+// there. Where there is no room below it stands above.
+T.ToolTip {
     id: root
 
-    required property string text
-    property bool wanted: false
-    property real mostWidth: 480
-
-    visible: false
-    z: 10
-    y: parent.height + 4
-    width: label.width + 20
-    height: label.implicitHeight + 12
-    radius: Theme.menuRowRadius
-    color: Theme.colors.raised
-    border.width: 1
-    border.color: Theme.colors.controlLine
-
-    onWantedChanged: wanted ? delay.restart() : hide()
-
-    function show(): void {
-        const room = root.Window.width - 4 - parent.mapToItem(null, 0, 0).x - width;
-        x = Math.round(Math.min((parent.width - width) / 2, room));
-        visible = true;
-    }
-    function hide(): void {
-        delay.stop();
-        visible = false;
+    enum Place {
+        Below,
+        AtStart,
+        Beside
     }
 
-    Timer {
-        id: delay
+    property int place: ToolTip.Below
 
-        interval: 600
-        onTriggered: root.show()
-    }
-    Label {
-        id: label
+    x: place === ToolTip.Beside ? -width - 6 : place === ToolTip.AtStart ? 0 : Math.round((parent.width - width) / 2)
+    y: place === ToolTip.Beside ? Math.round((parent.height - height) / 2) : parent.height + 4
+    margins: place === ToolTip.AtStart ? 8 : 4
+    implicitWidth: Math.min(implicitContentWidth + 20, 480)
+    implicitHeight: implicitContentHeight + 12
+    horizontalPadding: 10
+    verticalPadding: 6
+    delay: 600
+    Component.onCompleted: visible = true
+    closePolicy: T.Popup.NoAutoClose
 
-        anchors.centerIn: parent
-        width: Math.min(implicitWidth, root.mostWidth - 20)
+    contentItem: Label {
         wrapMode: Text.Wrap
         textStyle: Theme.type.caption
         text: root.text
+    }
+    background: Rectangle {
+        radius: Theme.menuRowRadius
+        color: Theme.colors.raised
+        border.width: 1
+        border.color: Theme.colors.controlLine
     }
 }

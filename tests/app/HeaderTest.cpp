@@ -26,9 +26,10 @@ class Header : public OpenWindow {
     [[nodiscard]] std::vector<QQuickItem*> openMenu(const char* button) const {
         item(button)->forceActiveFocus();
         key(Qt::Key_Return);
+        m_window->grabWindow(); // a picture is drawn when all in it has its place
         std::vector<QQuickItem*> rows;
         for (QQuickItem* row : m_window->activeFocusItem()->parentItem()->childItems()) {
-            if (row->property("checkable").isValid()) {
+            if (row->property("choice").isValid()) {
                 rows.push_back(row);
             }
         }
@@ -37,7 +38,7 @@ class Header : public OpenWindow {
     static std::vector<std::string> texts(const std::vector<QQuickItem*>& rows) {
         std::vector<std::string> texts;
         for (const QQuickItem* row : rows) {
-            texts.push_back(row->property("text").toString().toStdString());
+            texts.push_back(row->property("label").toString().toStdString());
         }
         return texts;
     }
@@ -105,7 +106,7 @@ TEST_F(Header, AnUnknownBasemapMarksNoChoiceAndStaysAsItIsStored) {
     write("preferences", "open-map.basemap=terrain\n");
     openRecords();
     for (QQuickItem* row : openMenu("open-map-options")) {
-        EXPECT_FALSE(row->property("checked").toBool());
+        EXPECT_FALSE(row->property("chosen").toBool());
     }
     key(Qt::Key_Escape);
     EXPECT_EQ(workspace().basemap(), QStringLiteral("terrain"));

@@ -69,6 +69,7 @@ TEST_F(Sheets, NoSheetOpensBelowAnOpenMenu) {
     key(Qt::Key_R, Qt::ControlModifier);
     EXPECT_FALSE(workspace().showingRecords());
     key(Qt::Key_Escape);
+    QTest::qWait(0);
     key(Qt::Key_R, Qt::ControlModifier);
     EXPECT_TRUE(workspace().showingRecords());
 }

@@ -116,9 +116,9 @@ TestCase {
         const button = Walk.all(view, child => child.objectName === "open-map-share")[0];
         button.forceActiveFocus();
         keyClick(Qt.Key_Return);
-        const rows = () => Walk.all(view.Window.contentItem, child => child.picked !== undefined && child.checked !== undefined);
+        const rows = () => Walk.all(view.Window.contentItem, child => child.picked !== undefined && child.chosen !== undefined);
         tryVerify(() => rows().length === 4);
-        compare(rows().map(row => row.text), ["Save a copy…", "Show in file manager", "Copy file", "Open with…"]);
+        compare(rows().map(row => row.label), ["Save a copy…", "Show in file manager", "Copy file", "Open with…"]);
         rows().forEach(row => verify(row.mapToItem(null, 0, row.height).y <= view.Window.height));
         keyClick(Qt.Key_Escape);
         verify(button.activeFocus);

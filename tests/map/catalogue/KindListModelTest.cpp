@@ -75,10 +75,13 @@ TEST_F(KindList, EachEntryTellsHowManyRecordsItHoldsAndAllCategoriesTheirSum) {
               QStringLiteral("Records: 12"));
 }
 
-TEST_F(KindList, TypingFindsTheNextEntryThatBeginsSo) {
-    EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("un"), 0), 4);
-    EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("A"), 3), 0);
-    EXPECT_EQ(m_model.rowStartingWith(QStringLiteral("x"), 0), -1);
+TEST_F(KindList, TheLabelsForFirstLettersAreThoseOfTheEntries) {
+    EXPECT_EQ(m_model.labels(),
+              (QList<QString>{QStringLiteral("All categories"),
+                              QStringLiteral("Lng"),
+                              QStringLiteral("Gas plant"),
+                              QStringLiteral("In-situ oil sands"),
+                              QStringLiteral("Unclassified facility")}));
 }
 
 TEST_F(KindList, ThereIsNoValueOutsideTheList) {

@@ -13,11 +13,11 @@ Item {
 
         anchor: stage
 
-        MenuEntry {
-            text: "Map"
+        MenuRow {
+            label: "Map"
         }
-        MenuEntry {
-            text: "Satellite"
+        MenuRow {
+            label: "Satellite"
         }
     }
 
@@ -27,14 +27,16 @@ Item {
 
         function init(): void {
             menu.close();
+            tryVerify(() => !menu.visible);
         }
 
         function test_at_a_point_it_turns_where_there_is_no_room(): void {
             menu.openAt(stage, Qt.point(100, 100));
-            tryCompare(stage.Window.activeFocusItem, "text", "Map");
+            tryCompare(stage.Window.activeFocusItem, "label", "Map");
             const row = stage.Window.activeFocusItem;
             compare(row.mapToItem(stage, 0, 0).x, 106);
             menu.close();
+            tryVerify(() => !menu.visible);
             menu.openAt(stage, Qt.point(590, 390));
             const corner = row.mapToItem(stage, row.width + 6, 0);
             compare(corner.x, 590);
@@ -42,9 +44,9 @@ Item {
         }
         function test_a_changed_window_closes_it(): void {
             menu.openAt(stage, Qt.point(100, 100));
-            verify(menu.opened);
+            verify(menu.shown);
             stage.Window.window.width += 10;
-            tryVerify(() => !menu.opened);
+            tryVerify(() => !menu.shown);
         }
     }
 }
