@@ -1,13 +1,15 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vasker.App
 import Vasker.Platform
 
 // What the program is, and under which licences its code, its data and its libraries are.
-Sheet {
+WindowSheet {
     id: root
 
     required property string version
 
+    kind: SheetStack.About
     identifier: "open-map-about"
     title: qsTr("About Vasker Beta")
     preferredWidth: 560

@@ -1,4 +1,5 @@
 import QtQuick
+import Vasker.App
 import Vasker.Platform
 
 // The bar over the map: the title, the toolbar and, apart from it, the primary menu. When room runs
@@ -6,18 +7,14 @@ import Vasker.Platform
 Rectangle {
     id: root
 
-    required property WindowActions actions
-    property string basemap
+    required property OpenMapApp application
+    required property OpenMapWorkspace workspace
+    required property SheetStack sheets
 
     readonly property real endWidth: 12 + primary.width + 12
     readonly property real toolsWidth: options.fullWidth + reset.fullWidth + sources.fullWidth + 2 * tools.spacing
     readonly property bool labelsVisible: width >= 12 + toolsWidth + endWidth
     readonly property bool titleVisible: width >= 20 + title.implicitWidth + 20 + toolsWidth + endWidth
-
-    signal basemapPicked(string basemap)
-    signal cameraReset
-    signal sourcesWanted
-    signal recordsWanted
 
     implicitHeight: Theme.headerHeight
     color: Theme.colors.window
@@ -43,9 +40,8 @@ Rectangle {
         MapOptionsMenu {
             id: options
 
-            basemap: root.basemap
+            workspace: root.workspace
             labelVisible: root.labelsVisible
-            onBasemapPicked: basemap => root.basemapPicked(basemap)
         }
         HeaderButton {
             id: reset
@@ -54,7 +50,7 @@ Rectangle {
             symbol: "globe.americas"
             label: qsTr("Canada")
             labelVisible: root.labelsVisible
-            onClicked: root.cameraReset()
+            onClicked: root.workspace.resetCamera()
         }
         HeaderButton {
             id: sources
@@ -63,7 +59,7 @@ Rectangle {
             symbol: "info.circle"
             label: qsTr("Sources & coverage")
             labelVisible: root.labelsVisible
-            onClicked: root.sourcesWanted()
+            onClicked: root.sheets.request(SheetStack.Sources)
         }
     }
     PrimaryMenu {
@@ -72,8 +68,8 @@ Rectangle {
         anchors.right: parent.right
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
-        actions: root.actions
-        onRecordsWanted: root.recordsWanted()
+        application: root.application
+        sheets: root.sheets
     }
     Rectangle {
         anchors.bottom: parent.bottom

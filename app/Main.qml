@@ -21,31 +21,18 @@ Window {
     function showWorkspace(): void {
         if (root.screen === OpenMapRoot.Ready) {
             view.setSource("WorkspaceView.qml", {
+                "application": window.application,
                 "workspace": root.workspace,
-                "tiles": window.application.tiles,
-                "actions": actions
+                "sheets": root.sheets
             });
         }
     }
 
     Component.onCompleted: showWorkspace()
 
-    WindowActions {
-        id: actions
-
-        windowSheetOnScreen: about.onScreen || shortcuts.onScreen
-        onWindowWanted: window.application.openWindow()
-        onAboutWanted: if (actions.sheetsAllowed) {
-            about.wanted = true;
-        }
-        onShortcutsWanted: if (actions.sheetsAllowed) {
-            shortcuts.wanted = true;
-        }
-        onQuitWanted: window.application.closeAllWindows()
-    }
     Backdrop {
         anchors.fill: parent
-        covered: actions.windowSheetOnScreen
+        covered: about.onScreen || shortcuts.onScreen
 
         LoadingScreen {
             anchors.fill: parent
@@ -66,13 +53,13 @@ Window {
     AboutSheet {
         id: about
 
+        sheets: window.root.sheets
         version: window.application.version
-        onDismissed: wanted = false
     }
     ShortcutsSheet {
         id: shortcuts
 
-        onDismissed: wanted = false
+        sheets: window.root.sheets
     }
     Connections {
         target: window.root
@@ -83,11 +70,12 @@ Window {
     }
     Shortcut {
         sequence: "Ctrl+N"
-        onActivated: actions.windowWanted()
+        onActivated: window.application.openWindow()
     }
     Shortcut {
         sequence: "Ctrl+?"
-        onActivated: actions.shortcutsWanted()
+        enabled: window.root.sheets.current === SheetStack.NoSheet
+        onActivated: window.root.sheets.request(SheetStack.Shortcuts)
     }
     Shortcut {
         sequence: "Ctrl+W"
@@ -95,6 +83,6 @@ Window {
     }
     Shortcut {
         sequence: "Ctrl+Q"
-        onActivated: actions.quitWanted()
+        onActivated: window.application.closeAllWindows()
     }
 }

@@ -1,22 +1,21 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vasker.App
 import Vasker.Platform
 
 // The button of the map's options, with the choice of the basemap.
 HeaderButton {
     id: root
 
-    // The stored preference; a value that is not offered marks nothing.
-    required property string basemap
+    required property OpenMapWorkspace workspace
 
-    signal basemapPicked(string basemap)
-
+    // A stored basemap that is not offered marks nothing.
     component Choice: MenuRow {
         required property string value
 
         choice: true
-        chosen: root.basemap === value
-        onPicked: root.basemapPicked(value)
+        chosen: root.workspace.basemap === value
+        onPicked: root.workspace.basemap = value
     }
 
     objectName: "open-map-options"

@@ -80,6 +80,7 @@ void OpenMapRoot::finish(const LoadOutcome& outcome) {
     m_workspace =
         new OpenMapWorkspace(std::get<std::shared_ptr<const LoadedRelease>>(outcome),
                              m_preferences,
+                             m_sheets,
                              m_bundle.resource(resourceName, resourceExtension).value_or(QString()),
                              this);
     Q_EMIT screenChanged();

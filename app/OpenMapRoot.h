@@ -4,6 +4,7 @@
 
 #include "app/OpenMapWorkspace.h"
 #include "app/ReleaseLoading.h"
+#include "app/SheetStack.h"
 #include "platform/Bundle.h"
 
 #include <QObject>
@@ -22,6 +23,7 @@ class OpenMapRoot : public QObject {
     QML_UNCREATABLE("Made by the application for each window")
     Q_PROPERTY(Screen screen READ screen NOTIFY screenChanged)
     Q_PROPERTY(QString failureText READ failureText NOTIFY screenChanged)
+    Q_PROPERTY(vasker::SheetStack* sheets READ sheets CONSTANT)
     Q_PROPERTY(vasker::OpenMapWorkspace* workspace READ workspace NOTIFY screenChanged)
 
   public:
@@ -40,6 +42,8 @@ class OpenMapRoot : public QObject {
     [[nodiscard]] Screen screen() const noexcept;
     /// The description of the failure screen; empty on the others. Shown as it stands.
     [[nodiscard]] QString failureText() const;
+    /// Of the window, also while there is no workspace.
+    [[nodiscard]] SheetStack* sheets() noexcept { return &m_sheets; }
     /// Null until the release is there.
     [[nodiscard]] OpenMapWorkspace* workspace() const noexcept { return m_workspace; }
 
@@ -53,6 +57,7 @@ class OpenMapRoot : public QObject {
     Bundle m_bundle;
     TextLocale m_locale;
     Preferences& m_preferences;
+    SheetStack m_sheets;
     bool m_started = false;
     OpenMapWorkspace* m_workspace = nullptr;
     std::string m_error;

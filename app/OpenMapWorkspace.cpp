@@ -9,7 +9,6 @@ namespace vasker {
 
 namespace {
 
-const QString allKinds = QStringLiteral("all");
 const QString basemapKey = QStringLiteral("open-map.basemap");
 const QString defaultBasemap = QStringLiteral("standard");
 
@@ -17,33 +16,22 @@ const QString defaultBasemap = QStringLiteral("standard");
 
 OpenMapWorkspace::OpenMapWorkspace(std::shared_ptr<const LoadedRelease> loaded,
                                    Preferences& preferences,
+                                   SheetStack& sheets,
                                    QString packagedFile,
                                    QObject* parent)
-    : QObject(parent), m_loaded(std::move(loaded)), m_preferences(preferences),
-      m_packagedFile(std::move(packagedFile)), m_kind(allKinds) {
-    m_basemap = basemap();
+    : QObject(parent), m_loaded(std::move(loaded)), m_preferences(preferences), m_sheets(sheets),
+      m_packagedFile(std::move(packagedFile)), m_filter(m_loaded), m_basemap(basemap()) {
     connect(&m_preferences, &Preferences::changed, this, [this] {
         if (std::exchange(m_basemap, basemap()) != m_basemap) {
             Q_EMIT basemapChanged();
         }
     });
-    filter();
-}
-
-void OpenMapWorkspace::setQuery(const QString& query) {
-    if (m_query != query) {
-        m_query = query;
-        Q_EMIT queryChanged();
-        filter();
-    }
-}
-
-void OpenMapWorkspace::setKind(const QString& kind) {
-    if (m_kind != kind) {
-        m_kind = kind;
-        Q_EMIT kindChanged();
-        filter();
-    }
+    connect(&m_sheets, &SheetStack::requestedChanged, this, [this](Sheet sheet) {
+        if (sheet == Sheet::Inspector) {
+            Q_EMIT inspectorChanged();
+        }
+    });
+    connect(&m_sheets, &SheetStack::closed, this, &OpenMapWorkspace::afterClosing);
 }
 
 void OpenMapWorkspace::setSelection(const QString& selection) {
@@ -59,60 +47,37 @@ void OpenMapWorkspace::setSelection(const QString& selection) {
 
 void OpenMapWorkspace::open(AssetIndex record) {
     focus(release().assets[record]);
-    if (m_showingRecords) {
+    if (showingRecords()) {
         m_pendingInspector = record;
         setShowingRecords(false);
     } else {
-        setInspector(record);
+        inspect(record);
     }
 }
 
-void OpenMapWorkspace::setInspector(Picked record) {
-    if (m_inspector != record) {
-        m_inspector = record;
-        if (record) {
-            m_inspected = record;
-        }
+void OpenMapWorkspace::inspect(AssetIndex record) {
+    const bool isOther = std::exchange(m_inspected, record) != record;
+    if (!m_sheets.isRequested(Sheet::Inspector)) {
+        m_sheets.request(Sheet::Inspector);
+    } else if (isOther) {
         Q_EMIT inspectorChanged();
-        present();
     }
 }
 
-void OpenMapWorkspace::setShowingSources(bool showing) {
-    if (m_showingSources != showing) {
-        m_showingSources = showing;
-        Q_EMIT showingSourcesChanged();
-        present();
+void OpenMapWorkspace::show(Sheet sheet, bool showing) {
+    showing ? m_sheets.request(sheet) : m_sheets.dismiss(sheet);
+}
+
+void OpenMapWorkspace::afterClosing(Sheet sheet) {
+    if (sheet == Sheet::Records && m_pendingInspector) {
+        inspect(*std::exchange(m_pendingInspector, std::nullopt));
+    } else if (sheet == Sheet::Inspector) {
+        setSelection(QString());
     }
 }
 
-void OpenMapWorkspace::setShowingRecords(bool showing) {
-    if (m_showingRecords != showing) {
-        m_showingRecords = showing;
-        Q_EMIT showingRecordsChanged();
-        present();
-    }
-}
-
-void OpenMapWorkspace::present() {
-    if (m_sheet != Sheet::NoSheet) {
-        return;
-    }
-    m_sheet = m_showingSources   ? Sheet::Sources
-              : m_showingRecords ? Sheet::Records
-              : m_inspector      ? Sheet::Inspector
-                                 : Sheet::NoSheet;
-    if (m_sheet != Sheet::NoSheet) {
-        Q_EMIT sheetChanged();
-    }
-}
-
-void OpenMapWorkspace::yield(Sheet sheet) {
-    if (m_sheet == sheet) {
-        m_sheet = Sheet::NoSheet;
-        Q_EMIT sheetChanged();
-        present();
-    }
+QString OpenMapWorkspace::inspector() const {
+    return m_sheets.isRequested(Sheet::Inspector) ? idOf(m_inspected) : QString();
 }
 
 ReleaseRecord OpenMapWorkspace::inspected() const {
@@ -146,61 +111,12 @@ void OpenMapWorkspace::setCamera(const CameraPosition& camera) {
     }
 }
 
-QList<QString> OpenMapWorkspace::kinds() const {
-    QList<QString> kinds;
-    for (const std::string& kind : m_loaded->index.kinds()) {
-        kinds.append(QString::fromStdString(kind));
-    }
-    return kinds;
-}
-
-QList<int> OpenMapWorkspace::counts() const {
-    QList<int> counts;
-    for (const std::size_t count : m_loaded->index.counts(m_query.toStdString())) {
-        counts.append(static_cast<int>(count));
-    }
-    return counts;
-}
-
 void OpenMapWorkspace::focus(const OpenMapRelease::Asset& asset) {
     setCamera(framing(asset));
 }
 
 void OpenMapWorkspace::resetCamera() {
     setCamera(canadaOverview);
-}
-
-void OpenMapWorkspace::closeInspector() {
-    setInspector(std::nullopt);
-}
-
-void OpenMapWorkspace::dismissInspector() {
-    setInspector(std::nullopt);
-    setSelection(QString());
-    yield(Sheet::Inspector);
-}
-
-void OpenMapWorkspace::dismissRecords() {
-    setShowingRecords(false);
-    if (m_pendingInspector) {
-        setInspector(std::exchange(m_pendingInspector, std::nullopt));
-    }
-    yield(Sheet::Records);
-}
-
-void OpenMapWorkspace::dismissSources() {
-    setShowingSources(false);
-    yield(Sheet::Sources);
-}
-
-void OpenMapWorkspace::filter() {
-    std::vector<AssetIndex> filtered =
-        m_loaded->index.filtered(m_query.toStdString(), m_kind.toStdString());
-    if (m_filtered && *m_filtered == filtered) {
-        return;
-    }
-    m_filtered = std::make_shared<const std::vector<AssetIndex>>(std::move(filtered));
-    Q_EMIT recordsChanged();
 }
 
 QString OpenMapWorkspace::idOf(Picked record) const {

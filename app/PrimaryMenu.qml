@@ -1,13 +1,13 @@
 import QtQuick
+import Vasker.App
 import Vasker.Platform
 
 // The button of what concerns the whole program, as desktops have it at the end of the header bar.
 HeaderButton {
     id: root
 
-    required property WindowActions actions
-
-    signal recordsWanted
+    required property OpenMapApp application
+    required property SheetStack sheets
 
     objectName: "open-map-menu"
     symbol: "line.3.horizontal"
@@ -21,29 +21,29 @@ HeaderButton {
         MenuRow {
             label: qsTr("New window")
             note: "Ctrl+N"
-            onPicked: root.actions.windowWanted()
+            onPicked: root.application.openWindow()
         }
         MenuRow {
             label: qsTr("Records…")
             note: "Ctrl+R"
             startsGroup: true
-            onPicked: root.recordsWanted()
+            onPicked: root.sheets.request(SheetStack.Records)
         }
         MenuRow {
             label: qsTr("Keyboard shortcuts")
             note: "Ctrl+?"
             startsGroup: true
-            onPicked: root.actions.shortcutsWanted()
+            onPicked: root.sheets.request(SheetStack.Shortcuts)
         }
         MenuRow {
             label: qsTr("About Vasker Beta")
-            onPicked: root.actions.aboutWanted()
+            onPicked: root.sheets.request(SheetStack.About)
         }
         MenuRow {
             label: qsTr("Quit")
             note: "Ctrl+Q"
             startsGroup: true
-            onPicked: root.actions.quitWanted()
+            onPicked: root.application.closeAllWindows()
         }
     }
 }

@@ -5,21 +5,19 @@ import Vasker.Map
 import Vasker.Platform
 
 // The catalogue once more, in a sheet with a search field of its own.
-Sheet {
+WindowSheet {
     id: root
 
     required property OpenMapWorkspace workspace
 
     signal menuRequested(string id, Item over, point place)
 
+    kind: SheetStack.Records
     title: qsTr("Records")
     placement: Sheet.BottomEdge
-    wanted: root.workspace.showingRecords && root.workspace.sheet === OpenMapWorkspace.Records
     preferredWidth: Math.min(640, width - 48)
     preferredHeight: Math.round(height / 2)
     minimumHeight: 250 * Theme.textScale
-    onDismissed: root.workspace.showingRecords = false
-    onClosed: root.workspace.dismissRecords()
 
     content: Item {
         Component.onCompleted: search.focusText()
@@ -32,8 +30,8 @@ Sheet {
             z: 1
             width: parent.width - 24
             prompt: qsTr("Name or reporting company")
-            text: root.workspace.query
-            onEdited: text => root.workspace.query = text
+            text: root.workspace.filter.query
+            onEdited: text => root.workspace.filter.query = text
             onLeaveDown: catalogue.enterList()
         }
         Catalogue {
@@ -44,15 +42,10 @@ Sheet {
             width: parent.width
             headColor: Theme.colors.sheet
             countOpens: false
-            records: root.workspace.records
-            query: root.workspace.query
-            kind: root.workspace.kind
-            kinds: root.workspace.kinds
-            counts: root.workspace.counts
+            filter: root.workspace.filter
             selection: root.workspace.selection
-            onKindPicked: kind => root.workspace.kind = kind
             onRecordPicked: id => root.workspace.selection = id
-            onSelectionCleared: root.dismissed()
+            onEscaped: root.dismissed()
             onMenuRequested: (id, over, place) => root.menuRequested(id, over, place)
         }
         Shortcut {

@@ -1,11 +1,13 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vasker.App
 import Vasker.Platform
 
 // Every key that does something.
-Sheet {
+WindowSheet {
     id: root
 
+    kind: SheetStack.Shortcuts
     identifier: "open-map-shortcuts"
     title: qsTr("Keyboard shortcuts")
     preferredWidth: 560

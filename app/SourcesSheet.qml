@@ -2,22 +2,19 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vasker.App
 import Vasker.Detail
-import Vasker.Platform
 
 // What the release covers, and whose data it holds.
-Sheet {
+WindowSheet {
     id: root
 
     required property OpenMapWorkspace workspace
 
+    kind: SheetStack.Sources
     title: qsTr("Sources & coverage")
-    wanted: root.workspace.showingSources && root.workspace.sheet === OpenMapWorkspace.Sources
     preferredWidth: 640
     preferredHeight: Math.min(height - 80, 960)
     minimumWidth: 600
     minimumHeight: 600
-    onDismissed: root.workspace.showingSources = false
-    onClosed: root.workspace.dismissSources()
 
     content: OpenMapSources {
         record: root.workspace.whole

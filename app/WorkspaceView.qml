@@ -4,21 +4,18 @@ import Vasker.Map
 import Vasker.Platform
 
 // The workspace: search field and catalogue, a divider, and the map below its header. The sheets
-// stand over all of it, one at a time.
+// stand over all of it.
 FocusScope {
-    id: root
+    id: view
 
+    required property OpenMapApp application
     required property OpenMapWorkspace workspace
-    required property QtObject tiles
-    required property WindowActions actions
-    // From when a sheet is to be shown until it has left the screen completely.
-    readonly property bool sheetOnScreen: sources.onScreen || records.onScreen || inspector.onScreen
+    required property SheetStack sheets
+    readonly property bool sheetIsOpen: sheets.current !== SheetStack.NoSheet
 
     Backdrop {
-        id: behind
-
         anchors.fill: parent
-        covered: root.sheetOnScreen
+        covered: sources.onScreen || records.onScreen || inspector.onScreen
 
         Rectangle {
             id: column
@@ -36,8 +33,8 @@ FocusScope {
                 y: Math.round((Theme.headerHeight - height) / 2)
                 width: parent.width - 24
                 prompt: qsTr("Facility, pipeline or reporting company")
-                text: root.workspace.query
-                onEdited: text => root.workspace.query = text
+                text: view.workspace.filter.query
+                onEdited: text => view.workspace.filter.query = text
                 onLeaveDown: catalogue.enterList()
             }
             Catalogue {
@@ -47,17 +44,12 @@ FocusScope {
                 anchors.topMargin: Theme.headerHeight
                 anchors.bottom: parent.bottom
                 width: parent.width
-                records: root.workspace.records
-                query: root.workspace.query
-                kind: root.workspace.kind
-                kinds: root.workspace.kinds
-                counts: root.workspace.counts
-                selection: root.workspace.selection
+                filter: view.workspace.filter
+                selection: view.workspace.selection
                 hoveredOnMap: map.hover.recordId
-                onKindPicked: kind => root.workspace.kind = kind
-                onRecordPicked: id => root.workspace.selection = id
-                onSelectionCleared: root.workspace.selection = ""
-                onCountPressed: root.workspace.showingRecords = true
+                onRecordPicked: id => view.workspace.selection = id
+                onEscaped: view.workspace.selection = ""
+                onCountPressed: view.sheets.request(SheetStack.Records)
                 onMenuRequested: (id, over, place) => menu.offer(id, over, place)
             }
         }
@@ -74,14 +66,9 @@ FocusScope {
 
             anchors.left: divider.right
             anchors.right: parent.right
-            // Its tips hang over the map.
-            z: 1
-            actions: root.actions
-            basemap: root.workspace.basemap
-            onBasemapPicked: basemap => root.workspace.basemap = basemap
-            onCameraReset: root.workspace.resetCamera()
-            onSourcesWanted: root.workspace.showingSources = true
-            onRecordsWanted: root.workspace.showingRecords = true
+            application: view.application
+            workspace: view.workspace
+            sheets: view.sheets
         }
         MapCanvas {
             id: map
@@ -91,56 +78,54 @@ FocusScope {
             anchors.top: header.bottom
             anchors.bottom: parent.bottom
             objectName: "open-map-canvas"
-            records: root.workspace.records
-            selection: root.workspace.selection
-            camera: root.workspace.camera
-            basemap: root.workspace.basemap
-            tiles: root.tiles
+            records: view.workspace.filter.records
+            selection: view.workspace.selection
+            camera: view.workspace.camera
+            basemap: view.workspace.basemap
+            tiles: view.application.tiles
             coveredRight: inspector.covered
             hovered: map.hover.recordId.length > 0 ? map.hover.recordId : catalogue.hovered
-            onPicked: id => root.workspace.selection = id
-            onMoved: camera => root.workspace.camera = camera
-            onOverviewRequested: root.workspace.resetCamera()
+            onPicked: id => view.workspace.selection = id
+            onMoved: camera => view.workspace.camera = camera
+            onOverviewRequested: view.workspace.resetCamera()
             onMenuRequested: (id, place) => menu.offer(id, map, place)
-            Keys.onEscapePressed: root.workspace.selection = ""
+            Keys.onEscapePressed: view.workspace.selection = ""
         }
     }
     SourcesSheet {
         id: sources
 
-        workspace: root.workspace
+        sheets: view.sheets
+        workspace: view.workspace
     }
     RecordsSheet {
         id: records
 
-        workspace: root.workspace
+        sheets: view.sheets
+        workspace: view.workspace
         onMenuRequested: (id, over, place) => menu.offer(id, over, place)
     }
     InspectorSheet {
         id: inspector
 
-        workspace: root.workspace
-        onMenuWanted: (over, place) => menu.offer(root.workspace.inspector, over, place)
+        sheets: view.sheets
+        workspace: view.workspace
+        onMenuRequested: (over, place) => menu.offer(view.workspace.inspector, over, place)
     }
     RecordMenu {
         id: menu
 
-        workspace: root.workspace
-        anchor: root
-    }
-    Binding {
-        target: root.actions
-        property: "workspaceSheetOnScreen"
-        value: root.sheetOnScreen
+        workspace: view.workspace
+        anchor: view
     }
     Shortcut {
         sequence: "Ctrl+F"
-        enabled: root.actions.sheetsAllowed
+        enabled: !view.sheetIsOpen
         onActivated: search.focusText()
     }
     Shortcut {
         sequence: "Ctrl+R"
-        enabled: root.actions.sheetsAllowed
-        onActivated: root.workspace.showingRecords = true
+        enabled: !view.sheetIsOpen
+        onActivated: view.sheets.request(SheetStack.Records)
     }
 }

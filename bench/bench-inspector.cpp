@@ -25,7 +25,7 @@
 namespace vasker {
 namespace {
 
-using Sheet = OpenMapWorkspace::Sheet;
+using Sheet = SheetStack::Sheet;
 
 /// The first openings fill caches of tiles, fonts, glyphs and components.
 constexpr std::size_t openingsToWarmUp = 500;
@@ -54,7 +54,8 @@ void measure(std::size_t openings) {
                        user.filePath(QStringLiteral("cache")));
     QQuickWindow& window = *windows.openWindow();
     FrameClock clock(window);
-    const auto& root = *window.property("root").value<OpenMapRoot*>();
+    auto& root = *window.property("root").value<OpenMapRoot*>();
+    SheetStack& sheets = *root.sheets();
     expectPicture(clock.waitForPicture([&] { return root.workspace() != nullptr; }), "the release");
     OpenMapWorkspace& workspace = *root.workspace();
     const auto& assets = workspace.release().assets;
@@ -65,11 +66,11 @@ void measure(std::size_t openings) {
         const std::int64_t start = monotonicNow();
         workspace.setSelection(QString::fromStdString(assets[opening % assets.size()].id));
         const std::int64_t shown =
-            clock.waitForPicture([&] { return workspace.sheet() == Sheet::Inspector; });
+            clock.waitForPicture([&] { return sheets.current() == Sheet::Inspector; });
         expectPicture(shown, "the inspector");
         times.push_back(static_cast<double>(shown - start) / 1e6);
-        workspace.closeInspector();
-        expectPicture(clock.waitForPicture([&] { return workspace.sheet() == Sheet::NoSheet; }),
+        sheets.dismiss(Sheet::Inspector);
+        expectPicture(clock.waitForPicture([&] { return sheets.current() == Sheet::NoSheet; }),
                       "the map");
         if (opening == openingsToWarmUp) {
             warm = proportionalMemory();

@@ -6,12 +6,7 @@ import Vasker.Platform
 Item {
     id: root
 
-    required property recordSet records
-    required property string query
-    required property string kind
-    required property list<string> kinds
-    // How many records of the current search each of the kinds holds.
-    property list<int> counts
+    required property RecordFilter filter
     required property string selection
     property color headColor: Theme.colors.window
     // Whether the count line can be pressed.
@@ -20,10 +15,10 @@ Item {
     property string hoveredOnMap
     readonly property string hovered: (list.item as RecordList)?.hovered ?? ""
 
-    signal kindPicked(string kind)
     signal recordPicked(string id)
-    signal selectionCleared
     signal countPressed
+    // Escape was pressed in the list.
+    signal escaped
     // What can be done with a record is asked for, at a place of `over`.
     signal menuRequested(string id, Item over, point place)
 
@@ -34,16 +29,16 @@ Item {
     RecordListModel {
         id: recordModel
 
-        records: root.records
-        query: root.query
+        records: root.filter.records
+        query: root.filter.query
         selection: root.selection
     }
     KindListModel {
         id: kindModel
 
-        kinds: root.kinds
-        counts: root.counts
-        kind: root.kind
+        kinds: root.filter.kinds
+        counts: root.filter.counts
+        kind: root.filter.kind
     }
     Rectangle {
         id: head
@@ -59,7 +54,7 @@ Item {
             y: 8
             width: parent.width - 24
             kinds: kindModel
-            onPicked: kind => root.kindPicked(kind)
+            onPicked: kind => root.filter.kind = kind
         }
         CountLine {
             id: countLine
@@ -116,8 +111,8 @@ Item {
             function onPicked(id: string): void {
                 root.recordPicked(id);
             }
-            function onCleared(): void {
-                root.selectionCleared();
+            function onEscaped(): void {
+                root.escaped();
             }
             function onMenuRequested(id: string, over: Item, place: point): void {
                 root.menuRequested(id, over, place);

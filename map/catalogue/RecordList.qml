@@ -14,7 +14,8 @@ ListView {
     property string hovered
 
     signal picked(string id)
-    signal cleared
+    // Escape was pressed.
+    signal escaped
     // What can be done with a record is asked for, at a place of `over`.
     signal menuRequested(string id, Item over, point place)
 
@@ -55,7 +56,7 @@ ListView {
     onActiveFocusChanged: if (activeFocus && currentIndex < 0) {
         go(Math.max(0, root.records.selectedRow));
     }
-    Keys.onEscapePressed: root.cleared()
+    Keys.onEscapePressed: root.escaped()
     Keys.onMenuPressed: root.offerMenu()
     Keys.onPressed: event => {
         event.accepted = true;

@@ -49,9 +49,11 @@ class Workspace : public testing::Test {
 
     QTemporaryDir m_folder;
     Preferences m_preferences{m_folder.filePath(QStringLiteral("preferences"))};
-    OpenMapWorkspace m_workspace{loaded(), m_preferences};
+    SheetStack m_sheets;
+    OpenMapWorkspace m_workspace{loaded(), m_preferences, m_sheets};
 };
 
+using Sheet = SheetStack::Sheet;
 const CameraPosition overview = CoordinateRegion{{54, -112}, 20, 40};
 const QString none;
 
@@ -77,43 +79,6 @@ TEST_F(Workspace, OffersEachKindOnceInCodePointOrder) {
                               QStringLiteral("gas_plant"),
                               QStringLiteral("pipeline"),
                               QStringLiteral("refinery")}));
-}
-
-TEST_F(Workspace, TheKindAndTheQueryBothNarrowTheList) {
-    m_workspace.setKind(QStringLiteral("refinery"));
-    EXPECT_EQ(shown(), "ten twin-a");
-    m_workspace.setQuery(QStringLiteral("TWIN"));
-    EXPECT_EQ(shown(), "twin-a");
-    m_workspace.setKind(QStringLiteral("all"));
-    EXPECT_EQ(shown(), "twin-b twin-a");
-}
-
-TEST_F(Workspace, CountsWhatTheQueryFindsOfEachKindWhateverIsChosen) {
-    EXPECT_EQ(m_workspace.counts(), (QList<int>{1, 1, 1, 2}));
-    m_workspace.setKind(QStringLiteral("Zinc"));
-    m_workspace.setQuery(QStringLiteral("twin"));
-    EXPECT_EQ(m_workspace.counts(), (QList<int>{0, 1, 0, 1}));
-}
-
-TEST_F(Workspace, AKindThatNoRecordHasShowsNothing) {
-    m_workspace.setKind(QStringLiteral("zinc"));
-    EXPECT_EQ(shown(), "");
-}
-
-TEST_F(Workspace, TheQueryIsNotTrimmed) {
-    m_workspace.setQuery(QStringLiteral(" 2"));
-    EXPECT_EQ(shown(), "two");
-    m_workspace.setQuery(QStringLiteral(" 2 "));
-    EXPECT_EQ(shown(), "");
-}
-
-TEST_F(Workspace, TheRecordsForTheViewsChangeOnlyWhenTheListDoes) {
-    int changes = 0;
-    QObject::connect(&m_workspace, &OpenMapWorkspace::recordsChanged, [&] { ++changes; });
-    m_workspace.setQuery(QStringLiteral("twi"));
-    m_workspace.setQuery(QStringLiteral("twin"));
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(m_workspace.records().filtered->size(), 2);
 }
 
 TEST_F(Workspace, PickingARecordFramesItAndOpensTheInspector) {
@@ -148,7 +113,7 @@ TEST_F(Workspace, EmptyingTheSelectionLeavesTheInspectorToItsDismissal) {
 
 TEST_F(Workspace, DismissingTheInspectorEmptiesTheSelectionSoThatTheSameRecordReopensIt) {
     pick("ten");
-    m_workspace.dismissInspector();
+    m_sheets.setClosed(Sheet::Inspector);
     EXPECT_EQ(m_workspace.selection(), none);
     EXPECT_EQ(m_workspace.inspector(), none);
     m_workspace.resetCamera();
@@ -163,7 +128,7 @@ TEST_F(Workspace, ARecordPickedInTheRecordsSheetWaitsUntilTheSheetHasClosed) {
     EXPECT_FALSE(m_workspace.showingRecords());
     EXPECT_EQ(m_workspace.pendingInspector(), QStringLiteral("ten"));
     EXPECT_EQ(m_workspace.inspector(), none);
-    m_workspace.dismissRecords();
+    m_sheets.setClosed(Sheet::Records);
     EXPECT_EQ(m_workspace.pendingInspector(), none);
     EXPECT_EQ(m_workspace.inspector(), QStringLiteral("ten"));
 }
@@ -173,53 +138,54 @@ TEST_F(Workspace, TheMapFramesTheRecordBeforeTheRecordsSheetClosesOrTheInspector
     const auto note = [&](const char* what) {
         return [&order, what] { order.append(QString::fromLatin1(what)); };
     };
-    using W = OpenMapWorkspace;
     m_workspace.setShowingRecords(true);
-    QObject::connect(&m_workspace, &W::cameraChanged, note("camera"));
-    QObject::connect(&m_workspace, &W::showingRecordsChanged, note("sheet"));
-    QObject::connect(&m_workspace, &W::inspectorChanged, note("inspector"));
+    QObject::connect(&m_workspace, &OpenMapWorkspace::cameraChanged, note("camera"));
+    QObject::connect(&m_sheets, &SheetStack::requestedChanged, [&](Sheet sheet) {
+        if (sheet == Sheet::Records) {
+            order.append(QStringLiteral("sheet"));
+        }
+    });
+    QObject::connect(&m_workspace, &OpenMapWorkspace::inspectorChanged, note("inspector"));
     pick("ten");
-    m_workspace.dismissRecords();
+    m_sheets.setClosed(Sheet::Records);
     EXPECT_EQ(order.join(u' '), QStringLiteral("camera sheet inspector"));
 }
 
 TEST_F(Workspace, ClosingTheRecordsSheetWithoutAPickOpensNothing) {
     m_workspace.setShowingRecords(true);
-    m_workspace.dismissRecords();
+    m_sheets.setClosed(Sheet::Records);
     EXPECT_FALSE(m_workspace.showingRecords());
     EXPECT_EQ(m_workspace.inspector(), none);
 }
 
 TEST_F(Workspace, OneSheetIsGoneBeforeTheNextHasItsTurn) {
-    using Sheet = OpenMapWorkspace::Sheet;
-    EXPECT_EQ(m_workspace.sheet(), Sheet::NoSheet);
+    EXPECT_EQ(m_sheets.current(), Sheet::NoSheet);
     m_workspace.setShowingRecords(true);
-    EXPECT_EQ(m_workspace.sheet(), Sheet::Records);
+    EXPECT_EQ(m_sheets.current(), Sheet::Records);
     pick("two");
     m_workspace.setShowingSources(true);
-    EXPECT_EQ(m_workspace.sheet(), Sheet::Records);
-    m_workspace.dismissRecords();
-    EXPECT_EQ(m_workspace.sheet(), Sheet::Sources);
+    EXPECT_EQ(m_sheets.current(), Sheet::Records);
+    m_sheets.setClosed(Sheet::Records);
+    EXPECT_EQ(m_sheets.current(), Sheet::Sources);
     EXPECT_EQ(m_workspace.inspector(), QStringLiteral("two"));
     m_workspace.setShowingSources(false);
-    EXPECT_EQ(m_workspace.sheet(), Sheet::Sources);
-    m_workspace.dismissSources();
-    EXPECT_EQ(m_workspace.sheet(), Sheet::Inspector);
-    m_workspace.dismissInspector();
-    EXPECT_EQ(m_workspace.sheet(), Sheet::NoSheet);
+    EXPECT_EQ(m_sheets.current(), Sheet::Sources);
+    m_sheets.setClosed(Sheet::Sources);
+    EXPECT_EQ(m_sheets.current(), Sheet::Inspector);
+    m_sheets.setClosed(Sheet::Inspector);
+    EXPECT_EQ(m_sheets.current(), Sheet::NoSheet);
     EXPECT_EQ(m_workspace.selection(), none);
 }
 
 TEST_F(Workspace, TheRecordOfTheInspectorStaysWhileThatLeaves) {
-    EXPECT_EQ(m_workspace.inspected().record(), nullptr);
     EXPECT_EQ(m_workspace.inspected(), m_workspace.whole());
+    EXPECT_EQ(m_workspace.inspected().asset, std::nullopt);
     EXPECT_EQ(m_workspace.whole().release.get(), &m_workspace.release());
     pick("two");
-    m_workspace.closeInspector();
+    m_sheets.dismiss(Sheet::Inspector);
     EXPECT_EQ(m_workspace.inspector(), none);
     EXPECT_EQ(m_workspace.selection(), QStringLiteral("two"));
-    ASSERT_NE(m_workspace.inspected().record(), nullptr);
-    EXPECT_EQ(m_workspace.inspected().record()->id, "two");
+    EXPECT_EQ(m_workspace.inspected().inspector().name, QStringLiteral("plant 2"));
 }
 
 TEST_F(Workspace, SheetsLeaveTheQueryAndTheKindAlone) {
@@ -227,10 +193,10 @@ TEST_F(Workspace, SheetsLeaveTheQueryAndTheKindAlone) {
     m_workspace.setKind(QStringLiteral("refinery"));
     m_workspace.setShowingRecords(true);
     pick("twin-a");
-    m_workspace.dismissRecords();
+    m_sheets.setClosed(Sheet::Records);
     m_workspace.setShowingSources(true);
     m_workspace.setShowingSources(false);
-    m_workspace.dismissInspector();
+    m_sheets.setClosed(Sheet::Inspector);
     EXPECT_EQ(m_workspace.query(), QStringLiteral("twin"));
     EXPECT_EQ(m_workspace.kind(), QStringLiteral("refinery"));
     EXPECT_EQ(shown(), "twin-a");
@@ -255,7 +221,8 @@ TEST_F(Workspace, FramingChangesTheCameraOnly) {
 }
 
 TEST_F(Workspace, ABasemapChosenInOneWindowShowsInEveryOther) {
-    const OpenMapWorkspace other(loaded(), m_preferences);
+    SheetStack sheets;
+    const OpenMapWorkspace other(loaded(), m_preferences, sheets);
     int changes = 0;
     QObject::connect(&other, &OpenMapWorkspace::basemapChanged, [&] { ++changes; });
     m_workspace.setBasemap(QStringLiteral("satellite"));
@@ -266,13 +233,15 @@ TEST_F(Workspace, ABasemapChosenInOneWindowShowsInEveryOther) {
 
 TEST_F(Workspace, AnUnknownStoredBasemapStaysAsItIs) {
     m_preferences.setText(QStringLiteral("open-map.basemap"), QStringLiteral("Hybrid "));
-    const OpenMapWorkspace other(loaded(), m_preferences);
+    SheetStack sheets;
+    const OpenMapWorkspace other(loaded(), m_preferences, sheets);
     EXPECT_EQ(other.basemap(), QStringLiteral("Hybrid "));
     EXPECT_EQ(m_preferences.text(QStringLiteral("open-map.basemap")), QStringLiteral("Hybrid "));
 }
 
 TEST_F(Workspace, StateIsEachWindowsOwn) {
-    const OpenMapWorkspace other(loaded(), m_preferences);
+    SheetStack sheets;
+    const OpenMapWorkspace other(loaded(), m_preferences, sheets);
     m_workspace.setQuery(QStringLiteral("twin"));
     pick("ten");
     EXPECT_EQ(other.query(), none);

@@ -66,9 +66,6 @@ class OpenSheets : public OpenWindow {
     void waitForNone() const {
         ASSERT_TRUE(QTest::qWaitFor([&] { return sheetsOnScreen().isEmpty(); }));
     }
-    void waitForSheet(OpenMapWorkspace::Sheet kind) const {
-        ASSERT_TRUE(QTest::qWaitFor([&] { return workspace().sheet() == kind; }));
-    }
     void openInspector(const char* id) const {
         workspace().setSelection(QString::fromLatin1(id));
         waitFor("Record");

@@ -4,6 +4,7 @@ namespace vasker {
 namespace {
 
 using Sheets = OpenSheets;
+using Sheet = SheetStack::Sheet;
 
 class SheetsClosedBy : public Sheets, public testing::WithParamInterface<const char*> {
   protected:
@@ -39,7 +40,7 @@ TEST_P(SheetsClosedBy, TheRecordsSheetOpensNothing) {
     close();
     EXPECT_FALSE(workspace().showingRecords());
     waitForNone();
-    EXPECT_EQ(workspace().sheet(), OpenMapWorkspace::Sheet::NoSheet);
+    EXPECT_EQ(m_root->sheets()->current(), Sheet::NoSheet);
     EXPECT_EQ(workspace().inspector(), QString());
 }
 
@@ -112,8 +113,10 @@ TEST_F(Sheets, ARecordPickedInTheRecordsSheetIsFramedThenTheSheetClosesThenTheIn
     QObject::connect(&workspace(), &OpenMapWorkspace::cameraChanged, &context, [&] {
         story.append(QStringLiteral("framed"));
     });
-    QObject::connect(&workspace(), &OpenMapWorkspace::showingRecordsChanged, &context, [&] {
-        story.append(QStringLiteral("records close"));
+    QObject::connect(m_root->sheets(), &SheetStack::requestedChanged, &context, [&](Sheet sheet) {
+        if (sheet == Sheet::Records) {
+            story.append(QStringLiteral("records close"));
+        }
     });
     QObject::connect(&workspace(), &OpenMapWorkspace::inspectorChanged, &context, [&] {
         story.append(QStringLiteral("inspector of ") + workspace().inspector() +
