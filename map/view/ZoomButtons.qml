@@ -8,7 +8,6 @@ Item {
     property bool nearest: false
     property bool farthest: false
 
-
     signal zoomedIn
     signal zoomedOut
 
