@@ -25,7 +25,7 @@ MapView {
     MapTextColors {
         id: textColors
 
-        overImagery: root.status.showsImagery
+        status: root.status
     }
 
     // Photographs may be on their way: only after a while it is true to say that they are missing.

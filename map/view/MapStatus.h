@@ -3,6 +3,7 @@
 
 #include "map/frame/MapFrame.h"
 #include "map/style/BasemapTheme.h"
+#include "map/style/MapTheme.h"
 
 #include <QColor>
 #include <QObject>
@@ -20,6 +21,8 @@ class MapStatus : public QObject {
     /// Whether imagery is asked for and missing somewhere in view.
     Q_PROPERTY(bool lacksImagery READ lacksImagery NOTIFY changed)
     Q_PROPERTY(bool showsImagery READ showsImagery NOTIFY themeChanged)
+    /// Of texts over the map, as of its labels.
+    Q_PROPERTY(QColor halo READ halo NOTIFY themeChanged)
 
   public:
     using QObject::QObject;
@@ -27,6 +30,7 @@ class MapStatus : public QObject {
     [[nodiscard]] const QVariantList& attribution() const noexcept { return m_attribution; }
     [[nodiscard]] bool lacksImagery() const noexcept { return m_lacksImagery; }
     [[nodiscard]] bool showsImagery() const noexcept { return vasker::showsImagery(m_theme); }
+    [[nodiscard]] const QColor& halo() const noexcept { return mapTheme(m_theme).labelHalo; }
 
     void setTheme(BasemapTheme theme);
     void setFrame(const MapFrame& frame);

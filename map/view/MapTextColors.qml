@@ -1,11 +1,12 @@
 import QtQuick
+import Vasker.Map
 import Vasker.Platform
 
-// The colours of what is written straight on the map. Photographs are dark in either appearance.
+// The colours of texts over the map. Imagery is dark in either theme.
 QtObject {
-    property bool overImagery: false
+    required property MapStatus status
 
-    readonly property color text: overImagery ? "#ECEEF0" : Theme.colors.text
-    readonly property color text2: overImagery ? "#ECEEF0" : Theme.colors.text2
-    readonly property color halo: overImagery ? "#D10A0F14" : (Theme.dark ? "#EB1E2328" : "#EBFAF9F6")
+    readonly property color text: status.showsImagery ? Theme.darkColors.text : Theme.colors.text
+    readonly property color text2: status.showsImagery ? text : Theme.colors.text2
+    readonly property color halo: status.halo
 }

@@ -20,6 +20,8 @@ class Theme : public QObject {
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(vasker::ThemeColors colors READ colors NOTIFY changed)
+    /// Of the dark theme, for what lies on something dark in either theme.
+    Q_PROPERTY(vasker::ThemeColors darkColors READ darkColors CONSTANT)
     Q_PROPERTY(bool dark READ isDark NOTIFY changed)
 
     /// The desktop's text size, 1 to 2. All text and the controls around it follow; widths and gaps
@@ -67,6 +69,7 @@ class Theme : public QObject {
     static Theme* create(QQmlEngine*, QJSEngine*);
 
     [[nodiscard]] const ThemeColors& colors() const noexcept { return m_colors; }
+    [[nodiscard]] static const ThemeColors& darkColors() { return themeColors(ColorScheme::dark); }
     [[nodiscard]] bool isDark() const noexcept;
     [[nodiscard]] double textScale() const noexcept { return m_textScale; }
     [[nodiscard]] const TextStyles& type() const noexcept { return m_type; }
