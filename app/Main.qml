@@ -70,6 +70,7 @@ Window {
     }
     Shortcut {
         sequence: "Ctrl+N"
+        autoRepeat: false
         onActivated: window.application.openWindow()
     }
     Shortcut {
@@ -79,6 +80,7 @@ Window {
     }
     Shortcut {
         sequence: "Ctrl+W"
+        autoRepeat: false
         onActivated: window.close()
     }
     Shortcut {

@@ -7,6 +7,7 @@
 #include "platform/Locale.h"
 #include "platform/Memory.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/KeyRepeat.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -54,6 +55,7 @@ int run(int argc, char* argv[]) {
     vasker::installTranslation(application, vasker::messagesLocale());
 
     const vasker::AccessibleIds identifiers;
+    const vasker::KeyRepeat keyRepeat;
     vasker::OpenMapApp windows(vasker::Bundle::ofApplication(),
                                vasker::TextLocale::fromEnvironment(),
                                vasker::Preferences::userPath(),

@@ -273,6 +273,12 @@ class Program:
         found = self.wait(lambda: self._on_display()[window:], "there is no such window")
         ask_display("windowfocus", "--sync", found[0], "key", "--clearmodifiers", keys)
 
+    def hold(self, keys, seconds):
+        """Holds keys in its first window, so that the display repeats them."""
+        ask_display("windowfocus", "--sync", self._on_display()[0], "keydown", keys)
+        time.sleep(seconds)
+        ask_display("keyup", keys)
+
     def _on_display(self):
         found = ask_display("search", "--onlyvisible", "--pid", str(self.process.pid)).split()
         return sorted(found, key=int)

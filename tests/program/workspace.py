@@ -90,6 +90,26 @@ def canada_restores_the_overview_and_nothing_else(executable):
         program.see(name="1 of 2 records")
 
 
+def a_key_held_on_the_main_menu_opens_it_and_no_window(executable):
+    """The display repeats the key some 25 times a second."""
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        program.see(name="2 of 2 records")
+        for key in ("Return", "space"):
+            program.key("ctrl+f")
+            while "focused" not in program.see(id="open-map-menu").states:
+                program.key("Tab")
+            program.hold(key, 2)
+            program.see(role="popup menu")
+            if len(program.titles()) != 1:
+                raise Missed(f"{key} opened {len(program.titles()) - 1} windows")
+            program.key("Escape")
+            program.miss(role="popup menu")
+        program.hold("ctrl+n", 2)
+        program.wait(lambda: len(program.titles()) > 1, "there is no second window")
+        if len(program.titles()) != 2:
+            raise Missed(f"Ctrl+N opened {len(program.titles()) - 1} windows")
+
+
 def a_second_start_opens_a_window_of_the_first(executable):
     with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
         program.see(name="2 of 2 records")
