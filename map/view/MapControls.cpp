@@ -14,6 +14,19 @@ bool isSeen(const QQuickItem& item) {
 
 } // namespace
 
+void MapControls::watch(const QObject* receiver, const std::function<void()>& changed) const {
+    for (const QQuickItem* const item : items) {
+        for (const auto signal : {&QQuickItem::xChanged,
+                                  &QQuickItem::yChanged,
+                                  &QQuickItem::widthChanged,
+                                  &QQuickItem::heightChanged,
+                                  &QQuickItem::visibleChanged,
+                                  &QQuickItem::opacityChanged}) {
+            QObject::connect(item, signal, receiver, changed);
+        }
+    }
+}
+
 std::vector<ScreenRect> MapControls::rects(const QQuickItem& map) const {
     std::vector<ScreenRect> rects;
     for (const QQuickItem* const item : items) {

@@ -6,8 +6,10 @@
 #include <QList>
 #include <QPointF>
 
+#include <functional>
 #include <vector>
 
+class QObject;
 class QQuickItem;
 
 namespace vasker {
@@ -16,6 +18,8 @@ class MapControls {
   public:
     QList<QQuickItem*> items;
 
+    /// Calls `changed` whenever another part of the map is covered, as long as `receiver` lives.
+    void watch(const QObject* receiver, const std::function<void()>& changed) const;
     /// What the visible ones cover of `map`.
     [[nodiscard]] std::vector<ScreenRect> rects(const QQuickItem& map) const;
     /// Whether one of them covers that place of `map`.

@@ -127,6 +127,11 @@ Camera MapView::resolvedCamera() const {
     return {m_camera, {width(), height(), m_coveredBelow, m_coveredRight}};
 }
 
+void MapView::componentComplete() {
+    InputItem::componentComplete();
+    m_controls.watch(this, [this] { redraw(); }); // labels keep clear of them
+}
+
 void MapView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size()) {

@@ -115,6 +115,7 @@ class MapView : public vasker::InputItem {
     void overviewRequested();
 
   protected:
+    void componentComplete() override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void updatePolish() override;
