@@ -29,4 +29,4 @@ add_dependencies(VaskerOpenMap VaskerResources)
 file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/resources)
 
 install(TARGETS VaskerOpenMap RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES ${resources} DESTINATION ${CMAKE_INSTALL_DATADIR}/vasker-open-map)
+install(FILES ${resources} DESTINATION ${CMAKE_INSTALL_DATADIR}/vasker-open-map COMPONENT data)
