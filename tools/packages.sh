@@ -1,7 +1,7 @@
 # The Debian 12 packages that the project needs, and the step that installs those that are missing.
 # Sourced by ./run and ./test.
 
-# To configure and build everything.
+# To configure and build the programs.
 build_packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools
@@ -10,7 +10,6 @@ build_packages=(
     libgl-dev libvulkan-dev
     libsimdjson-dev libssl-dev libicu-dev libsqlite3-dev libprotozero-dev zlib1g-dev libcsv-dev liburiparser-dev
     libtomlplusplus-dev nlohmann-json3-dev
-    libbenchmark-dev
 )
 
 # To open the window: what is loaded when the program runs, which linking alone does not bring.
@@ -25,18 +24,23 @@ run_packages=(
     fonts-inter fonts-dejavu-core
 )
 
-# To test without a screen: test libraries, linters, a virtual display and the accessibility bus.
+# To open the window on a virtual display and to save a picture of it.
+picture_packages=(xvfb dbus-daemon netpbm)
+
+# To test without a screen: test libraries, benchmarks, linters, drivers and the accessibility bus.
 test_packages=(
-    libgtest-dev libgmock-dev qml6-module-qttest
-    clang-format clang-tidy desktop-file-utils appstream
-    xvfb xauth x11-utils x11-apps xdotool dbus-daemon at-spi2-core python3 python3-gi gir1.2-atspi-2.0
+    libgtest-dev libgmock-dev libbenchmark-dev qml6-module-qttest
+    clang-format clang-tidy desktop-file-utils appstream appstream-util
+    xauth x11-utils x11-apps xdotool at-spi2-core python3 python3-gi gir1.2-atspi-2.0
 )
 
-# Installs those of the packages given that are missing, and touches no other package.
+# Installs those of the packages given that are missing, and touches no other package. Where it cannot
+# tell whether a package is there, it says so and goes on: the build finds what it needs, or stops.
 install_missing() {
-    if ! command -v dpkg-query >/dev/null; then
-        echo "This is not a Debian system. Needed, by their Debian names: $*" >&2
-        return 1
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        echo "This is not a Debian system: these packages could not be checked. docs/installing.md has" \
+            "their names on other systems. By their Debian names: $*" >&2
+        return 0
     fi
     local package missing=()
     for package in "$@"; do
@@ -47,15 +51,29 @@ install_missing() {
     if [[ ${#missing[@]} -eq 0 ]]; then
         return 0
     fi
-    echo "Installing what is missing: ${missing[*]}" >&2
     local as_root=(env DEBIAN_FRONTEND=noninteractive)
     if [[ $EUID -ne 0 ]]; then
         if ! command -v sudo >/dev/null; then
-            echo "Neither root nor sudo: install these packages, then run this again." >&2
+            echo "Missing: ${missing[*]}. Neither root nor sudo: install these packages, then run this again." >&2
             return 1
         fi
         as_root=(sudo "${as_root[@]}")
     fi
     "${as_root[@]}" apt-get update
-    "${as_root[@]}" apt-get install -y --no-install-recommends --no-remove "${missing[@]}"
+    # A relative of Debian may lack a package, or have it by another name.
+    local known=() unknown=()
+    for package in "${missing[@]}"; do
+        if apt-cache show --no-all-versions "$package" >/dev/null 2>&1; then
+            known+=("$package")
+        else
+            unknown+=("$package")
+        fi
+    done
+    if [[ ${#unknown[@]} -gt 0 ]]; then
+        echo "This system has no packages of these names, so they could not be checked: ${unknown[*]}" >&2
+    fi
+    if [[ ${#known[@]} -gt 0 ]]; then
+        echo "Installing what is missing: ${known[*]}" >&2
+        "${as_root[@]}" apt-get install -y --no-install-recommends --no-remove "${known[@]}"
+    fi
 }
