@@ -2,8 +2,10 @@
 # bytes from the same sources wherever and whenever they are built.
 option(VASKER_RELEASE "Build what is installed: hardened and reproducible" OFF)
 
-# The day of the release in CHANGELOG.md, in seconds since 1970; the environment may set another.
-set(VASKER_RELEASE_TIME 1795305600) # 2026-11-22
+# The day of the release in CHANGELOG.md. In seconds since 1970 it is the time of all files in a package;
+# the environment may set another.
+set(VASKER_RELEASE_DAY 2026-11-22)
+set(VASKER_RELEASE_TIME 1795305600)
 if(DEFINED ENV{SOURCE_DATE_EPOCH})
     set(VASKER_RELEASE_TIME $ENV{SOURCE_DATE_EPOCH})
 endif()
