@@ -1,8 +1,9 @@
 #include "platform/Bundle.h"
 
+#include "platform/RegularFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -37,11 +38,9 @@ std::optional<QString> Bundle::resource(const QString& name, const QString& exte
 }
 
 QJsonValue Bundle::information(const QString& key) const {
-    QFile file(QDir(m_folder).filePath(QStringLiteral("BundleInformation.json")));
-    if (!file.open(QIODevice::ReadOnly) || file.size() > maximumInformationSize) {
-        return QJsonValue::Undefined;
-    }
-    return QJsonDocument::fromJson(file.read(maximumInformationSize)).object().value(key);
+    const auto bytes = readRegularFile(
+        QDir(m_folder).filePath(QStringLiteral("BundleInformation.json")), maximumInformationSize);
+    return bytes ? QJsonDocument::fromJson(*bytes).object().value(key) : QJsonValue::Undefined;
 }
 
 } // namespace vasker

@@ -3,12 +3,12 @@
 // One object serves all windows; a change, whoever makes it, reaches every window through
 // changed().
 //
-// The file has one "key=value" a line. A later line for the same key counts. Lines that are not
-// understood, and keys that nobody here knows, stay as they are when another value is written.
+// Lines that are not understood, and keys that nobody here knows, stay as they are when another
+// value is written; so do values that another program writes at the same time.
 
-#include <QByteArray>
+#include "platform/PreferenceFile.h"
+
 #include <QFileSystemWatcher>
-#include <QList>
 #include <QObject>
 #include <QString>
 
@@ -36,14 +36,11 @@ class Preferences : public QObject {
     void changed();
 
   private:
-    using Lines = QList<QByteArray>;
-    [[nodiscard]] Lines readLines() const;
-    [[nodiscard]] bool writeLines(const Lines& lines) const;
     void reload();
     void watch();
 
-    QString m_path;
-    Lines m_lines;
+    PreferenceFile m_file;
+    PreferenceFile::Lines m_lines;
     QFileSystemWatcher m_watcher;
 };
 

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace vasker {
 namespace {
@@ -54,6 +55,12 @@ TEST_F(BundleIn, InformationThatIsMissingOrMalformedHasNoValues) {
 
 TEST_F(BundleIn, AFolderInPlaceOfTheInformationHasNoValues) {
     QDir(m_folder.path()).mkdir(QStringLiteral("BundleInformation.json"));
+    EXPECT_TRUE(information("text").isUndefined());
+}
+
+TEST_F(BundleIn, AFifoInPlaceOfTheInformationHasNoValues) {
+    const QString path = m_folder.filePath(QStringLiteral("BundleInformation.json"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     EXPECT_TRUE(information("text").isUndefined());
 }
 

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <functional>
 
@@ -84,6 +85,24 @@ TEST_F(PreferencesIn, AFolderInPlaceOfTheFileIsNoValueAndTheChoiceStillCounts) {
     EXPECT_EQ(preferences.text(key), std::nullopt);
     preferences.setText(key, QStringLiteral("hybrid"));
     EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
+}
+
+TEST_F(PreferencesIn, AFifoInPlaceOfTheFileIsNoValueAndTheChoiceStillCounts) {
+    QDir(m_folder.path()).mkpath(QStringLiteral("vasker-open-map"));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    Preferences preferences(path());
+    EXPECT_EQ(preferences.text(key), std::nullopt);
+    preferences.setText(key, QStringLiteral("hybrid"));
+    EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
+}
+
+TEST_F(PreferencesIn, AValueThatAnotherProgramWroteJustNowStays) {
+    Preferences preferences(path());
+    Preferences other(path());
+    other.setText(QStringLiteral("other"), QStringLiteral("1"));
+    preferences.setText(key, QStringLiteral("hybrid")); // before it is told of the change
+    EXPECT_EQ(written(), "other=1\nopen-map.basemap=hybrid\n");
+    EXPECT_EQ(preferences.text(QStringLiteral("other")), QStringLiteral("1"));
 }
 
 TEST_F(PreferencesIn, AChangeIsToldOnceAndTheSameTextAgainIsNone) {
