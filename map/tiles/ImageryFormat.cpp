@@ -9,7 +9,7 @@ const char* imageryFormat(std::string_view bytes) noexcept {
     if (bytes.starts_with("\x89PNG\r\n\x1a\n")) {
         return "png";
     }
-    if (bytes.starts_with("RIFF") && bytes.substr(8, 4) == "WEBP") {
+    if (bytes.size() >= 12 && bytes.starts_with("RIFF") && bytes.substr(8, 4) == "WEBP") {
         return "webp";
     }
     return nullptr;

@@ -52,6 +52,10 @@ TEST_F(TileServiceFaultTest, GarbageInsteadOfAPhotographIsMissing) {
     expectMissing({.body = "<svg/>", .headers = {"Content-Type: image/jpeg"}}, photograph, 1);
 }
 
+TEST_F(TileServiceFaultTest, TheFirstBytesOfAPhotographAreMissing) {
+    expectMissing({.body = "RIFF\x10"}, photograph, 1);
+}
+
 TEST_F(TileServiceFaultTest, RedirectionsAreNotFollowed) {
     TileServer other;
     other.setOtherAnswer({.body = vectorBytes});
