@@ -2,7 +2,9 @@
 
 #include <sqlite3.h>
 
+#include <ctime>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 namespace vasker {
@@ -28,6 +30,34 @@ std::string addressOf(const std::filesystem::path& path) {
     }
     return address + "?immutable=1";
 }
+
+/// Between two looks at the budget.
+constexpr int stepsAtOnce = 100;
+
+std::chrono::nanoseconds processorTime() noexcept {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+/// Of an archive: reading is allowed, and of the functions max().
+int readingOnly(void* /*context*/,
+                int action,
+                const char* /*table*/,
+                const char* function,
+                const char* /*database*/,
+                const char* /*view*/) {
+    const bool isAllowed = action == SQLITE_SELECT || action == SQLITE_READ ||
+                           action == SQLITE_RECURSIVE ||
+                           (action == SQLITE_FUNCTION && std::string_view(function) == "max");
+    return isAllowed ? SQLITE_OK : SQLITE_DENY;
+}
+
+/// Generated columns are computed in places that no authorizer sees, virtual tables by code of
+/// their own.
+constexpr const char* computedTables =
+    "SELECT max(rowid) FROM sqlite_schema AS s WHERE type='table' AND"
+    " (rootpage=0 OR EXISTS (SELECT 1 FROM pragma_table_xinfo(s.name) WHERE hidden<>0))";
 
 } // namespace
 
@@ -82,7 +112,7 @@ bool SqliteStatement::isBytes(int column) const {
     return sqlite3_column_type(m_statement.get(), column) == SQLITE_BLOB;
 }
 
-bool SqliteDatabase::open(const std::string& path, Mode mode, int longestValue) {
+bool SqliteDatabase::open(const std::string& path, Mode mode, int longestValue, Budget budget) {
     close();
     std::error_code error;
     const auto file = std::filesystem::absolute(path, error);
@@ -100,15 +130,32 @@ bool SqliteDatabase::open(const std::string& path, Mode mode, int longestValue) 
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): SQLite has no other entry point for it
     sqlite3_db_config(m_database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_limit(m_database, SQLITE_LIMIT_LENGTH, longestValue);
+    begin(budget);
     sqlite3_progress_handler(
         m_database,
-        1'000,
+        stepsAtOnce,
         [](void* context) {
-            auto& database = *static_cast<SqliteDatabase*>(context);
-            return static_cast<int>(++database.m_used > database.m_budget);
+            return static_cast<int>(static_cast<SqliteDatabase*>(context)->isBudgetSpent());
         },
         this);
+    if (isImmutable) {
+        SqliteStatement computed = prepare(computedTables);
+        if (!computed.run() || computed.number(0) != 0) {
+            return false;
+        }
+        sqlite3_set_authorizer(m_database, readingOnly, nullptr);
+    }
     return true;
+}
+
+void SqliteDatabase::begin(Budget budget) noexcept {
+    m_stepsLeft = budget.steps;
+    m_end = processorTime() + budget.time;
+}
+
+bool SqliteDatabase::isBudgetSpent() noexcept {
+    m_stepsLeft -= stepsAtOnce;
+    return m_stepsLeft < 0 || processorTime() > m_end;
 }
 
 void SqliteDatabase::close() {
@@ -116,18 +163,12 @@ void SqliteDatabase::close() {
     m_database = nullptr;
 }
 
-bool SqliteDatabase::run(SqliteStatement& statement) {
-    m_used = 0;
-    return statement.run();
-}
-
 std::int64_t SqliteDatabase::number(const char* sql) {
     SqliteStatement statement = prepare(sql);
-    return run(statement) ? statement.number(0) : -1;
+    return statement.run() ? statement.number(0) : -1;
 }
 
 bool SqliteDatabase::execute(const char* sql) {
-    m_used = 0;
     return sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
@@ -141,9 +182,11 @@ SqliteDatabase::State SqliteDatabase::state() const noexcept {
     case SQLITE_ROW:
     case SQLITE_DONE:
         return State::fine;
+    case SQLITE_INTERRUPT:
+        return State::overBudget;
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
-    case SQLITE_INTERRUPT: // the budget was used up
+    case SQLITE_ERROR: // of another layout
     case SQLITE_TOOBIG:
         return State::damaged;
     default:

@@ -1,7 +1,8 @@
 #pragma once
-// An SQLite file. Foreign files are opened too: a schema is a program, so that every statement has
-// a budget of steps. One thread.
+// An SQLite file. Foreign files are opened too: a schema is a program, so that statements have a
+// budget. One thread.
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -46,11 +47,18 @@ class SqliteDatabase {
   public:
     enum class Mode : std::uint8_t {
         readOnly,  ///< of a file that nobody changes: without locks and journal, also in a folder
-                   ///< without write access
+                   ///< without write access. Its views may join and compare, but call no function
+                   ///< except max(): one call could take for ever
         readWrite, ///< made where it is missing; read only where it cannot be written to
     };
     /// How a call ended.
-    enum class State : std::uint8_t { fine, damaged, failed };
+    enum class State : std::uint8_t { fine, overBudget, damaged, failed };
+
+    /// What statements may take together.
+    struct Budget {
+        int steps;                      ///< of SQLite's machine; a lookup by an index takes dozens
+        std::chrono::milliseconds time; ///< of the processor: no disk and no busy machine counts
+    };
 
     SqliteDatabase() = default;
     ~SqliteDatabase() { close(); }
@@ -59,16 +67,14 @@ class SqliteDatabase {
 
     /// Whether the file at `path` is open now. Values longer than `longestValue` bytes count as
     /// damaged.
-    bool open(const std::string& path, Mode mode, int longestValue);
+    bool open(const std::string& path, Mode mode, int longestValue, Budget budget);
     void close();
 
-    /// Each statement ends after that many steps of SQLite's machine, in thousands. A lookup by an
-    /// index takes some hundreds of steps.
-    void setBudget(int thousandSteps) noexcept { m_budget = thousandSteps; }
+    /// What all statements may take from here to the next call; what goes beyond it ends. open()
+    /// begins one.
+    void begin(Budget budget) noexcept;
 
     [[nodiscard]] SqliteStatement prepare(const char* sql) { return {m_database, sql}; }
-    /// Runs a statement: whether there is a row. Begins its budget.
-    [[nodiscard]] bool run(SqliteStatement& statement);
     /// The first number that `sql` returns, or -1.
     std::int64_t number(const char* sql);
     /// Runs several statements; false where one failed.
@@ -79,9 +85,11 @@ class SqliteDatabase {
     [[nodiscard]] State state() const noexcept;
 
   private:
+    [[nodiscard]] bool isBudgetSpent() noexcept;
+
     sqlite3* m_database = nullptr;
-    int m_budget = 10'000;
-    int m_used = 0; ///< thousands of steps of the statement that runs
+    int m_stepsLeft = 0;
+    std::chrono::nanoseconds m_end{}; ///< of the thread's processor time
 };
 
 } // namespace vasker

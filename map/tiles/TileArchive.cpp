@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <system_error>
 #include <utility>
 
@@ -24,6 +25,9 @@ std::optional<int> zoomIn(const std::optional<std::string>& text) {
     const auto zoom = text ? numberIn<int>(*text) : std::nullopt;
     return zoom && *zoom >= 0 && *zoom <= maximumTileZoom ? zoom : std::nullopt;
 }
+
+/// Of opening, and of the way to a tile through all zooms.
+constexpr SqliteDatabase::Budget budget{.steps = 5'000'000, .time = std::chrono::milliseconds(100)};
 
 /// Of "west,south,east,north" in degrees.
 std::optional<MapRect> boundsIn(std::string_view text) {
@@ -51,8 +55,8 @@ std::optional<MapRect> boundsIn(std::string_view text) {
 
 std::unique_ptr<TileArchive> TileArchive::open(const std::string& path) {
     std::unique_ptr<TileArchive> archive(new TileArchive);
-    const bool isOpen =
-        archive->m_database.open(path, SqliteDatabase::Mode::readOnly, maximumStoredTileBytes);
+    const bool isOpen = archive->m_database.open(
+        path, SqliteDatabase::Mode::readOnly, maximumStoredTileBytes, budget);
     return isOpen && archive->readMetadata() ? std::move(archive) : nullptr;
 }
 
@@ -65,6 +69,9 @@ bool TileArchive::readMetadata() {
     auto zoom = zoomIn(metadata("maxzoom"));
     if (!zoom) {
         const std::int64_t deepest = m_database.number("SELECT max(zoom_level) FROM tiles");
+        if (m_database.state() == SqliteDatabase::State::overBudget) {
+            return false;
+        }
         zoom =
             deepest <= maximumTileZoom ? static_cast<int>(std::max<std::int64_t>(deepest, 0)) : 0;
     }
@@ -77,7 +84,7 @@ bool TileArchive::readMetadata() {
 std::optional<std::string> TileArchive::metadata(std::string_view name) {
     SqliteStatement query = m_database.prepare("SELECT value FROM metadata WHERE name = ?");
     query.bindText(1, name);
-    return m_database.run(query) ? std::optional(std::string(query.bytes(0))) : std::nullopt;
+    return query.run() ? std::optional(std::string(query.bytes(0))) : std::nullopt;
 }
 
 std::optional<TileArchive::Coverage> TileArchive::describedCoverage() {
@@ -89,6 +96,7 @@ std::optional<TileArchive::Coverage> TileArchive::describedCoverage() {
 
 std::optional<std::string> TileArchive::tile(TileKey key) {
     std::string bytes;
+    m_database.begin(budget);
     return read(key, bytes) == Stored::tile ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
@@ -96,16 +104,20 @@ TileArchive::Stored TileArchive::read(TileKey key, std::string& bytes) {
     if (!key.isValid()) {
         return Stored::nothing;
     }
+    if (m_isGivenUp) {
+        return Stored::damaged;
+    }
     // The conventions count rows from the south.
     m_query.bind(1, key.zoom).bind(2, key.column).bind(3, (1 << key.zoom) - 1 - key.row);
     Stored stored = Stored::nothing;
-    if (m_database.run(m_query)) {
+    if (m_query.run()) {
         if (m_query.isBytes(0) && !m_query.bytes(0).empty()) {
             bytes = m_query.bytes(0);
             stored = Stored::tile;
         }
     } else if (m_database.state() != SqliteDatabase::State::fine) {
         stored = Stored::damaged;
+        m_isGivenUp = m_database.state() == SqliteDatabase::State::overBudget;
     }
     m_query.reset();
     return stored;
@@ -120,6 +132,7 @@ std::optional<TileArchive::Found> TileArchive::nearestTile(TileKey key) {
     if (!key.isValid()) {
         return std::nullopt;
     }
+    m_database.begin(budget);
     Found found{key.zoom > m_maximumZoom ? key.ancestor(key.zoom - m_maximumZoom) : key, {}};
     for (;; found.key = found.key.ancestor(1)) {
         const Stored stored = read(found.key, found.bytes);

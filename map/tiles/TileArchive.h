@@ -22,7 +22,8 @@ class TileArchive {
     [[nodiscard]] static std::unique_ptr<TileArchive> open(const std::string& path);
 
     /// The bytes of a tile as they are stored; nothing where there is none, where the file is
-    /// damaged there, or where `key` is no tile's.
+    /// damaged there, or where `key` is no tile's. After a search without end nothing is found any
+    /// more.
     [[nodiscard]] std::optional<std::string> tile(TileKey key);
     /// The tile itself, or the nearest of its ancestors that the archive holds, with its key. Where
     /// the archive covers a place at the zoom in question and stores nothing, there is nothing to
@@ -60,6 +61,7 @@ class TileArchive {
     int m_maximumZoom = 0;
     std::string m_attribution;
     std::optional<Coverage> m_coverage;
+    bool m_isGivenUp = false;
 };
 
 } // namespace vasker

@@ -4,23 +4,26 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
 #include <string_view>
 
 namespace vasker {
 
 namespace {
 
-constexpr qint64 layoutVersion = 1;
+/// As SQLite keeps it: a file with anything else is another's.
 constexpr const char* layout = "CREATE TABLE tile(address BLOB PRIMARY KEY,"
                                " fresh_until INTEGER NOT NULL, looked_at INTEGER NOT NULL,"
                                " entity_tag BLOB, last_modified BLOB, bytes BLOB NOT NULL);"
-                               "CREATE INDEX tile_looked_at ON tile(looked_at);"
-                               "PRAGMA user_version=1;";
+                               "CREATE INDEX tile_looked_at ON tile(looked_at)";
+constexpr const char* hasLayout =
+    "SELECT count(*)=3 AND group_concat(sql, ';')=? FROM sqlite_schema";
 /// When a tile was in view last is not written more often than this: a look is no reason to write.
 constexpr qint64 secondsBetweenLooks = 86'400;
 constexpr int longestValue = 8'000'000;
-/// Lookups and writes of one row take some hundreds of steps.
-constexpr int thousandSteps = 500;
+/// Of opening and of each call. Lookups and writes of one row take some dozens of steps; our own
+/// layout is read in a hundred.
+constexpr SqliteDatabase::Budget budget{.steps = 20'000, .time = std::chrono::milliseconds(100)};
 /// Room for one tile is made of so many others at the most.
 constexpr int mostDropped = 16;
 
@@ -49,43 +52,64 @@ bool TileCache::open() {
     if (!QDir().mkpath(m_folder)) {
         return false;
     }
-    // Far above the bound it would take long to empty, tile by tile.
-    if (QFileInfo(path()).size() > 2 * m_mostBytes) {
-        QFile::remove(path());
+    if (!mayBeOurs()) {
+        removeFiles();
     }
     Opened opened = openFile();
-    if (opened == Opened::foreign && QFile::remove(path())) {
+    if (opened == Opened::foreign) {
+        removeFiles();
         opened = openFile();
     }
     m_isOpen = opened == Opened::ours;
     return m_isOpen;
 }
 
+// SQLite would wait for a FIFO, and takes in whatever a journal holds before the first statement.
+// Far above the bound it would take long to empty the file, tile by tile.
+bool TileCache::mayBeOurs() const {
+    const QFileInfo file(path());
+    const QFileInfo journal(path() + QLatin1String("-journal"));
+    const auto isRegular = [](const QFileInfo& one) { return !one.exists() || one.isFile(); };
+    return isRegular(file) && isRegular(journal) &&
+           !QFileInfo::exists(path() + QLatin1String("-wal")) &&
+           file.size() + journal.size() <= 2 * m_mostBytes;
+}
+
+void TileCache::removeFiles() const {
+    for (const char* const ending : {"", "-journal", "-wal", "-shm"}) {
+        QFile::remove(path() + QLatin1String(ending));
+    }
+}
+
 TileCache::Opened TileCache::openFile() {
-    if (!m_database.open(path().toStdString(), SqliteDatabase::Mode::readWrite, longestValue)) {
+    if (!m_database.open(
+            path().toStdString(), SqliteDatabase::Mode::readWrite, longestValue, budget)) {
+        m_database.close();
         return Opened::failed;
     }
-    m_database.setBudget(thousandSteps);
-    m_isWritable = m_database.isWritable();
+    const bool mayWrite = m_database.isWritable();
     // A lost tile is no loss: nothing waits for the disk. The journal keeps the file whole when the
     // program ends at any time.
     m_database.execute("PRAGMA synchronous=OFF; PRAGMA journal_mode=TRUNCATE;"
                        "PRAGMA cell_size_check=ON; PRAGMA busy_timeout=100;");
     const bool isEmpty = m_database.number("SELECT count(*) FROM sqlite_schema") == 0;
+    m_isWritable = m_database.isWritable();
     if (isEmpty && m_isWritable) {
         m_database.execute("BEGIN IMMEDIATE") && m_database.execute(layout) &&
             m_database.execute("COMMIT");
         m_database.execute("ROLLBACK"); // where that failed
     }
-    const bool isOurs =
-        m_database.number("PRAGMA user_version") == layoutVersion &&
-        m_database.number(
-            "SELECT count(*) FROM sqlite_schema WHERE name='tile' AND type='table'") == 1 &&
-        m_database.number("SELECT count(*) FROM sqlite_schema WHERE type IN ('view', 'trigger')") ==
-            0;
-    if (!isOurs) {
-        const bool isForeign = m_database.state() == SqliteDatabase::State::damaged ||
-                               (m_database.state() == SqliteDatabase::State::fine && !isEmpty);
+    SqliteStatement query = m_database.prepare(hasLayout);
+    query.bindText(1, layout);
+    const bool isOurs = query.run() && query.number(0) == 1;
+    const SqliteDatabase::State state = m_database.state();
+    query = {};
+    // A file of a newer version of SQLite may be read and not written.
+    const bool isForeign = isOurs ? mayWrite && !m_isWritable
+                                  : state == SqliteDatabase::State::damaged ||
+                                        state == SqliteDatabase::State::overBudget ||
+                                        (state == SqliteDatabase::State::fine && !isEmpty);
+    if (!isOurs || isForeign) {
         m_database.close();
         return isForeign ? Opened::foreign : Opened::failed;
     }
@@ -96,17 +120,26 @@ TileCache::Opened TileCache::openFile() {
     return m_pageBytes > 0 ? Opened::ours : Opened::failed;
 }
 
+bool TileCache::begin() {
+    if (!open()) {
+        return false;
+    }
+    m_database.begin(budget);
+    return true;
+}
+
 void TileCache::checkDamage() {
-    if (m_database.state() == SqliteDatabase::State::damaged) {
+    const SqliteDatabase::State state = m_database.state();
+    if (state == SqliteDatabase::State::damaged || state == SqliteDatabase::State::overBudget) {
         m_database.close();
-        QFile::remove(path());
+        removeFiles();
         m_isOpen = false;
         m_isTried = false;
     }
 }
 
 std::optional<TileCache::Entry> TileCache::find(const QString& address, const QDateTime& now) {
-    if (!open()) {
+    if (!begin()) {
         return std::nullopt;
     }
     const QByteArray key = address.toUtf8();
@@ -115,7 +148,7 @@ std::optional<TileCache::Entry> TileCache::find(const QString& address, const QD
         " WHERE address=?");
     query.bindBytes(1, viewOf(key));
     std::optional<Entry> found;
-    if (m_database.run(query)) {
+    if (query.run()) {
         found = {.bytes = bytesOf(query.bytes(0)),
                  .freshUntil = QDateTime::fromSecsSinceEpoch(query.number(1), Qt::UTC),
                  .entityTag = bytesOf(query.bytes(2)),
@@ -125,7 +158,7 @@ std::optional<TileCache::Entry> TileCache::find(const QString& address, const QD
             SqliteStatement update =
                 m_database.prepare("UPDATE tile SET looked_at=? WHERE address=?");
             update.bind(1, seconds).bindBytes(2, viewOf(key));
-            (void)m_database.run(update);
+            (void)update.run();
         }
     }
     query = {};
@@ -151,7 +184,7 @@ bool TileCache::makeRoom(qint64 bytes) {
 }
 
 void TileCache::keep(const QString& address, const Entry& entry, const QDateTime& now) {
-    if (!open() || !m_isWritable) {
+    if (!begin() || !m_isWritable) {
         return;
     }
     if (makeRoom(entry.bytes.size() + 2 * m_pageBytes)) {
@@ -165,29 +198,29 @@ void TileCache::keep(const QString& address, const Entry& entry, const QDateTime
             .bindBytes(4, viewOf(entry.entityTag))
             .bindBytes(5, viewOf(entry.lastModified))
             .bindBytes(6, viewOf(entry.bytes));
-        (void)m_database.run(insert);
+        (void)insert.run();
     }
     checkDamage();
 }
 
 void TileCache::refresh(const QString& address, const QDateTime& freshUntil) {
-    if (open()) {
+    if (begin()) {
         const QByteArray key = address.toUtf8();
         SqliteStatement update =
             m_database.prepare("UPDATE tile SET fresh_until=? WHERE address=?");
         update.bind(1, freshUntil.toSecsSinceEpoch()).bindBytes(2, viewOf(key));
-        (void)m_database.run(update);
+        (void)update.run();
         update = {};
         checkDamage();
     }
 }
 
 void TileCache::drop(const QString& address) {
-    if (open()) {
+    if (begin()) {
         const QByteArray key = address.toUtf8();
         SqliteStatement erase = m_database.prepare("DELETE FROM tile WHERE address=?");
         erase.bindBytes(1, viewOf(key));
-        (void)m_database.run(erase);
+        (void)erase.run();
         erase = {};
         checkDamage();
     }

@@ -1,7 +1,8 @@
 #pragma once
 // Tiles of services kept on disk, in one SQLite file that does not grow beyond its bound: what was
 // not in view longest goes first. A folder that cannot be made, read or written, a full disk or a
-// damaged file cost the cache, nothing else; a file of another layout is replaced. One thread.
+// damaged file cost the cache, nothing else; a file of another layout, or far above the bound, is
+// replaced at once. One thread.
 
 #include "map/tiles/SqliteDatabase.h"
 
@@ -36,15 +37,20 @@ class TileCache {
     void drop(const QString& address);
 
   private:
-    [[nodiscard]] QString path() const;
     enum class Opened : std::uint8_t { ours, foreign, failed };
 
+    [[nodiscard]] QString path() const;
     /// Whether the file is open and of our layout.
     bool open();
+    /// Opens the file and begins the budget of a call.
+    bool begin();
+    [[nodiscard]] bool mayBeOurs() const;
+    void removeFiles() const;
     /// A damaged file is foreign.
     Opened openFile();
     bool makeRoom(qint64 bytes);
-    /// After a damage the file is removed, so that the next use begins anew.
+    /// After a damage, or a search without end, the file is removed, so that the next use begins
+    /// anew.
     void checkDamage();
 
     QString m_folder;

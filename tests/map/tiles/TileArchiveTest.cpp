@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 
@@ -245,14 +246,69 @@ TEST_F(TileArchiveTest, DamagedPagesCostTheirTilesOnly) {
     EXPECT_LT(found, 64);
 }
 
-TEST_F(TileArchiveTest, AViewThatNeverEndsIsGivenUp) {
-    const auto archive = TileArchive::open(made(
-        "CREATE TABLE metadata (name TEXT, value TEXT);"
-        "INSERT INTO metadata VALUES ('maxzoom', '1');"
-        "CREATE VIEW tiles AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
-        "SELECT 0 AS zoom_level, -i AS tile_column, 0 AS tile_row, x'01' AS tile_data FROM n"));
+TEST_F(TileArchiveTest, ASearchWithoutEndIsGivenUpOnce) {
+    for (const char* endless : {
+             "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)"
+             "SELECT 0 AS zoom_level, -i AS tile_column, 0 AS tile_row, x'01' AS tile_data FROM n",
+             "SELECT 0 AS zoom_level, -1 - (a.name || b.name || c.name || d.name = '')"
+             " AS tile_column, 0 AS tile_row, x'01' AS tile_data"
+             " FROM metadata a, metadata b, metadata c, metadata d",
+         }) {
+        std::filesystem::remove(pathOf("made.mbtiles"));
+        const auto archive = TileArchive::open(
+            made("CREATE TABLE metadata (name TEXT, value TEXT);"
+                 "INSERT INTO metadata VALUES ('maxzoom', '20');"
+                 "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n LIMIT 200)"
+                 "INSERT INTO metadata SELECT hex(zeroblob(5000)), '' FROM n;"
+                 "CREATE VIEW tiles AS " +
+                 std::string(endless)));
+        ASSERT_NE(archive, nullptr) << endless;
+        const std::clock_t start = std::clock();
+        for (int column = 0; column < 1'000; ++column) {
+            EXPECT_EQ(archive->nearestTile({20, column, 0}), std::nullopt);
+        }
+        EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC) << endless;
+    }
+}
+
+TEST_F(TileArchiveTest, WhatTakesForEverToOpenIsNoArchive) {
+    const std::clock_t start = std::clock();
+    EXPECT_EQ(TileArchive::open(made(
+                  "CREATE TABLE metadata (name TEXT, value TEXT);"
+                  "CREATE VIEW tiles AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1"
+                  " FROM n) SELECT 0 AS zoom_level, -i AS tile_column, 0 AS tile_row,"
+                  " x'01' AS tile_data FROM n")),
+              nullptr);
+    EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
+}
+
+TEST_F(TileArchiveTest, AViewThatJoinsIsAnArchive) {
+    const auto archive =
+        TileArchive::open(made("CREATE TABLE metadata (name TEXT, value TEXT);"
+                               "CREATE TABLE map (zoom_level, tile_column, tile_row, id);"
+                               "CREATE TABLE images (id, tile_data);"
+                               "INSERT INTO map VALUES (0, 0, 0, 'a');"
+                               "INSERT INTO images VALUES ('a', x'01');"
+                               "CREATE VIEW tiles AS SELECT zoom_level, tile_column, tile_row,"
+                               " tile_data FROM map JOIN images ON images.id = map.id"));
     ASSERT_NE(archive, nullptr);
-    EXPECT_EQ(archive->tile({0, 0, 0}), std::nullopt);
+    EXPECT_EQ(archive->tile({0, 0, 0}), "\x01");
+}
+
+TEST_F(TileArchiveTest, WhatComputesIsNoArchive) {
+    const std::string metadata = "CREATE TABLE metadata (name TEXT, value TEXT);";
+    for (const char* tiles : {
+             "CREATE VIEW tiles AS SELECT 0 AS zoom_level, 0 AS tile_column, 0 AS tile_row,"
+             " randomblob(8) AS tile_data",
+             "CREATE VIEW tiles AS SELECT 0 AS zoom_level, name LIKE '%a%' AS tile_column,"
+             " 0 AS tile_row, x'01' AS tile_data FROM metadata",
+             "CREATE TABLE tiles (zoom_level, tile_column, tile_row,"
+             " tile_data AS (instr(zoom_level, tile_row)))",
+             "CREATE VIRTUAL TABLE tiles USING fts5(zoom_level, tile_column, tile_row, tile_data)",
+         }) {
+        std::filesystem::remove(pathOf("made.mbtiles"));
+        EXPECT_EQ(TileArchive::open(made(metadata + tiles)), nullptr) << tiles;
+    }
 }
 
 } // namespace

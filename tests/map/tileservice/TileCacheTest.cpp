@@ -1,15 +1,19 @@
 #include "map/tileservice/TileCache.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
+#include <string>
 
 namespace vasker {
 namespace {
@@ -104,6 +108,102 @@ TEST_F(TileCacheTest, BeginsAnewWhereTheFileIsDamagedMeanwhile) {
     EXPECT_FALSE(again.find(address(50), now).has_value());
     again.keep(address(1), entry("1"), now);
     EXPECT_EQ(again.find(address(1), now)->bytes, "1");
+}
+
+class ForeignTileCacheTest : public TileCacheTest {
+  protected:
+    /// Makes a database of these statements in the cache's place.
+    void make(const std::string& statements) const {
+        sqlite3* database = nullptr;
+        ASSERT_EQ(sqlite3_open(path().toStdString().c_str(), &database), SQLITE_OK);
+        const std::string all = "PRAGMA synchronous=OFF;" + statements;
+        EXPECT_EQ(sqlite3_exec(database, all.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(database);
+        sqlite3_close(database);
+    }
+    /// Whether a new cache in this place keeps a tile; at once, whatever was there.
+    [[nodiscard]] bool isReplaced(qint64 bound = 1'000'000) const {
+        QElapsedTimer time;
+        time.start();
+        TileCache cache(folder.path(), bound);
+        cache.keep(address(1), entry("1"), now);
+        const auto found = cache.find(address(1), now);
+        EXPECT_LT(time.elapsed(), 1'000);
+        EXPECT_LE(QFileInfo(path()).size(), bound);
+        return found && found->bytes == "1";
+    }
+};
+
+TEST_F(ForeignTileCacheTest, ADatabaseOfAnotherLayoutIsReplaced) {
+    const std::string columns =
+        "(address BLOB PRIMARY KEY, fresh_until INTEGER NOT NULL, looked_at INTEGER NOT NULL,"
+        " entity_tag BLOB, last_modified BLOB, bytes BLOB NOT NULL)";
+    for (const std::string& statements : {
+             std::string("CREATE TABLE history(url TEXT)"),
+             std::string("CREATE TABLE tile(address BLOB)"),
+             "CREATE TABLE tile" + columns,
+             "CREATE TABLE other" + columns + "; CREATE VIEW tile AS SELECT * FROM other",
+             std::string("CREATE VIEW tile AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL"
+                         " SELECT i + 1 FROM n) SELECT i AS address FROM n"),
+         }) {
+        QFile::remove(path());
+        make(statements);
+        EXPECT_TRUE(isReplaced()) << statements;
+    }
+}
+
+TEST_F(ForeignTileCacheTest, OurLayoutWithAnythingBesideItIsReplaced) {
+    for (const char* statement : {
+             "CREATE TRIGGER more AFTER INSERT ON tile BEGIN DELETE FROM tile; END",
+             "CREATE VIEW more AS SELECT 1",
+             "CREATE INDEX more ON tile(bytes)",
+             "ALTER TABLE tile ADD COLUMN more",
+         }) {
+        QFile::remove(path());
+        TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+        make(statement);
+        EXPECT_TRUE(isReplaced()) << statement;
+        EXPECT_FALSE(TileCache(folder.path(), 1'000'000).find(address(2), now).has_value())
+            << statement;
+    }
+}
+
+TEST_F(ForeignTileCacheTest, ADatabaseOfManyTablesIsNotReadToTheEnd) {
+    make("CREATE TABLE t(c); PRAGMA writable_schema=1;"
+         "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n LIMIT 100000)"
+         "INSERT INTO sqlite_schema SELECT 'table', 't' || i, 't' || i, 2,"
+         " 'CREATE TABLE t' || i || '(c)' FROM n");
+    EXPECT_TRUE(isReplaced(100'000'000));
+}
+
+TEST_F(ForeignTileCacheTest, AFileThatANewerSqliteAloneWritesIsReplaced) {
+    TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.seek(18); // the version that writing takes
+    file.write("\x03");
+    file.close();
+    EXPECT_TRUE(isReplaced());
+}
+
+TEST_F(ForeignTileCacheTest, AFifoInThePlaceOfAFileIsReplaced) {
+    for (const char* ending : {"", "-journal", "-wal"}) {
+        TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+        const QString place = path() + QLatin1String(ending);
+        QFile::remove(place);
+        ASSERT_EQ(mkfifo(QFile::encodeName(place).constData(), 0600), 0);
+        EXPECT_TRUE(isReplaced()) << ending;
+    }
+}
+
+TEST_F(ForeignTileCacheTest, AFileFarAboveTheBoundIsReplacedAndASmallerOneKept) {
+    TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+    ASSERT_TRUE(QFile::resize(path(), 2'000'000));
+    EXPECT_TRUE(TileCache(folder.path(), 1'000'000).find(address(2), now).has_value());
+    ASSERT_TRUE(QFile::resize(path(), 2'000'001));
+    EXPECT_FALSE(TileCache(folder.path(), 1'000'000).find(address(2), now).has_value());
+    ASSERT_TRUE(QFile::resize(path(), 1'500'000'000));
+    EXPECT_TRUE(isReplaced());
 }
 
 /// While this lives, files are opened in another user's name if this one may write everywhere.
