@@ -88,7 +88,21 @@ ListView {
     }
 
     HoverHandler {
+        id: pointer
+
+        readonly property point nowhere: Qt.point(-1, -1)
+        property point last: nowhere
+
+        onHoveredChanged: if (!hovered) {
+            last = nowhere;
+        }
+        // A window tells of a pointer that rests as well, which leaves the rows to the keyboard.
         onPointChanged: {
+            const place = point.scenePosition;
+            if (place.x === pointer.last.x && place.y === pointer.last.y) {
+                return;
+            }
+            pointer.last = place;
             const row = root.indexAt(point.position.x, point.position.y + root.contentY);
             if (row >= 0) {
                 root.currentIndex = row;

@@ -52,6 +52,19 @@ MenuStage {
             keyClick(Qt.Key_Up);
             compare(stage.current(), "Map");
         }
+        function test_a_pointer_that_rests_leaves_the_rows_to_the_keyboard(): void {
+            mouseClick(stage.button);
+            tryVerify(() => stage.menu.opened);
+            mouseMove(stage, 60, stage.button.height + 4 + 6 + 26 + 34 + 17);
+            tryCompare(stage.Window.activeFocusItem, "label", "Satellite");
+            keyClick(Qt.Key_Up);
+            // With the next picture the window tells of the pointer again.
+            for (let pictures = 0; pictures < 3; ++pictures) {
+                stage.behind.x += 1;
+                waitForRendering(stage);
+                compare(stage.current(), "Map");
+            }
+        }
         function test_what_lies_beside_it_is_not_pressed(): void {
             mouseClick(stage.button);
             tryVerify(() => stage.menu.opened);
