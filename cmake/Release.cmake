@@ -11,9 +11,10 @@ if(DEFINED ENV{SOURCE_DATE_EPOCH})
 endif()
 
 if(VASKER_RELEASE)
-    # Qt's resource compiler writes the times of its input files into the program unless this is set.
+    # Qt's resource compiler writes the times of its input files, its shader compiler tables in the order
+    # of their hashes, unless these are set.
     set_property(GLOBAL PROPERTY RULE_LAUNCH_CUSTOM
-        "\"${CMAKE_COMMAND}\" -E env SOURCE_DATE_EPOCH=${VASKER_RELEASE_TIME}")
+        "\"${CMAKE_COMMAND}\" -E env SOURCE_DATE_EPOCH=${VASKER_RELEASE_TIME} QT_HASH_SEED=0")
     add_compile_options(
         -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.
         -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
