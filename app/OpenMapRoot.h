@@ -4,7 +4,7 @@
 
 #include "app/OpenMapWorkspace.h"
 #include "app/ReleaseLoading.h"
-#include "app/SheetStack.h"
+#include "app/sheets/SheetStack.h"
 #include "platform/Bundle.h"
 
 #include <QObject>

@@ -3,7 +3,7 @@
 // that. Which records are shown is up to its RecordFilter, which sheet is to the window's
 // SheetStack. User-interface thread only.
 
-#include "app/SheetStack.h"
+#include "app/sheets/SheetStack.h"
 #include "detail/ReleaseRecord.h"
 #include "map/catalogue/RecordFilter.h"
 #include "map/geometry/Camera.h"

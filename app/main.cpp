@@ -6,8 +6,8 @@
 #include "platform/DesktopActivation.h"
 #include "platform/Locale.h"
 #include "platform/Memory.h"
-#include "platform/ui/Fonts.h"
 #include "platform/ui/KeyRepeat.h"
+#include "platform/ui/theme/Fonts.h"
 
 #include <QGuiApplication>
 #include <QIcon>

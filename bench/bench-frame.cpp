@@ -15,7 +15,7 @@
 #include "data/Digest.h"
 #include "map/view/MapView.h"
 #include "platform/Memory.h"
-#include "platform/ui/Fonts.h"
+#include "platform/ui/theme/Fonts.h"
 #include "presentation/Symbols.h"
 #include "tools/openmap-release/Synthesis.h"
 

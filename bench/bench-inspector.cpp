@@ -10,7 +10,7 @@
 #include "bench/Process.h"
 #include "platform/Appearance.h"
 #include "platform/Memory.h"
-#include "platform/ui/Fonts.h"
+#include "platform/ui/theme/Fonts.h"
 
 #include <QDBusVariant>
 #include <QGuiApplication>

@@ -3,7 +3,7 @@
 // desktop's settings portal and followed live; without a portal the system's palette and font
 // decide. One object serves all windows.
 
-#include "platform/ui/ThemeColors.h"
+#include "platform/ui/theme/ThemeColors.h"
 
 #include <QDBusConnection>
 #include <QDBusVariant>

@@ -1,7 +1,7 @@
 #pragma once
 // How a record of each category is marked in lists and on the map. Keys are compared exactly.
 
-#include "platform/ui/ThemeColors.h"
+#include "platform/ui/theme/ThemeColors.h"
 
 #include <string_view>
 

@@ -2,7 +2,7 @@
 
 #include "map/records/PinShape.h"
 #include "map/style/MapTheme.h"
-#include "platform/ui/IconPainter.h"
+#include "platform/ui/theme/IconPainter.h"
 #include "presentation/Symbols.h"
 
 #include <QPainter>

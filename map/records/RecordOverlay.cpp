@@ -1,6 +1,6 @@
 #include "map/records/RecordOverlay.h"
 
-#include "map/records/CoverageMask.h"
+#include "map/raster/CoverageMask.h"
 #include "map/records/RouteStyle.h"
 
 #include <QPainter>

@@ -3,7 +3,7 @@
 // without a graphics card that is quicker than drawing them in each frame. Immutable; any thread.
 
 #include "map/layers/Rgb.h"
-#include "map/records/LineCoverage.h"
+#include "map/raster/LineCoverage.h"
 #include "map/records/LoadedRelease.h"
 #include "map/records/MarkerLayout.h"
 #include "map/records/RouteLines.h"

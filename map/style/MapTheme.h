@@ -2,7 +2,7 @@
 // Every colour of the map, by role: one entry a theme.
 
 #include "map/style/BasemapTheme.h"
-#include "platform/ui/ThemeColors.h"
+#include "platform/ui/theme/ThemeColors.h"
 
 #include <QColor>
 

@@ -1,4 +1,4 @@
-#include "platform/ui/IconPainter.h"
+#include "platform/ui/theme/IconPainter.h"
 
 #include <QColor>
 #include <QImage>

@@ -26,8 +26,9 @@ ARROWS = {
         "map/labels/", "map/layers/", "map/style/", "map/tileservice/", "map/tiles/", "map/geometry/",
         "platform/",
     },
+    "map/raster/": {"map/geometry/"},
     "map/records/": {
-        "map/layers/", "map/style/", "map/geometry/", "presentation/", "data/", "platform/",
+        "map/layers/", "map/raster/", "map/style/", "map/geometry/", "presentation/", "data/", "platform/",
     },
     "map/frame/": {
         "map/basemap/", "map/records/", "map/labels/", "map/layers/", "map/style/", "map/geometry/",
@@ -66,8 +67,8 @@ PRIVATE_HEADERS = (
     ),
     (r"QSGNode$", ("map/scene/", "map/view/MapView", "platform/ui/"), "the scene graph"),
     # An icon is one picture in one tint: the stock node draws it.
-    (r"QSGImageNode$", ("map/scene/", "platform/ui/Icon"), "the scene graph"),
-    (r"QSGNinePatchNode$", ("platform/ui/Shadow",), "the scene graph"),
+    (r"QSGImageNode$", ("map/scene/", "platform/ui/theme/Icon"), "the scene graph"),
+    (r"QSGNinePatchNode$", ("platform/ui/theme/Shadow",), "the scene graph"),
     (
         r"QSG(?!(Image|NinePatch)?Node$)|QRhi|private/(qsg|qrhi)|rhi/|"
         r"Qt?OpenGL|GL/|GLES|EGL/|vulkan/",
@@ -87,7 +88,7 @@ QML_MODULE = re.compile(r"^\s*URI\s+([\w.]+)", re.MULTILINE)
 MOST_LINES = {".qml": 150, ".cpp": 400, ".h": 400, ".vert": 400, ".frag": 400}
 
 # Units of a folder of the product, after which it is split.
-MOST_UNITS = 36
+MOST_UNITS = 16
 
 # Sources whose header would say nothing: programs.
 WITHOUT_HEADER = {"main"}

@@ -158,7 +158,7 @@ class Qml(unittest.TestCase):
             ("app/Main.qml", "import Vasker.Map"),
             ("map/view/MapView.qml", "import Vasker.Platform as Platform"),
             ("map/catalogue/Catalogue.qml", "import Vasker.Map"),
-            ("platform/ui/Sheet.qml", "import QtQuick.Controls"),
+            ("platform/ui/sheets/Sheet.qml", "import QtQuick.Controls"),
         ):
             with self.subTest(path=path, line=line):
                 self.assertEqual(self.found(path, line), [])
@@ -167,7 +167,7 @@ class Qml(unittest.TestCase):
         for path, line in (
             ("map/view/MapView.qml", "import Vasker.Detail"),
             ("detail/Inspector.qml", "import Vasker.Map 1.0"),
-            ("platform/ui/Sheet.qml", "import Vasker.Map"),
+            ("platform/ui/sheets/Sheet.qml", "import Vasker.Map"),
             ("detail/Inspector.qml", 'import "../map"'),
             ("app/Main.qml", "import Vasker.Nowhere"),
         ):

@@ -1,7 +1,7 @@
 #include "map/frame/MapComposer.h"
 
-#include "platform/ui/Fonts.h"
-#include "platform/ui/ThemeColors.h"
+#include "platform/ui/theme/Fonts.h"
+#include "platform/ui/theme/ThemeColors.h"
 #include "tests/map/records/RecordSetBuilder.h"
 
 #include <gtest/gtest.h>

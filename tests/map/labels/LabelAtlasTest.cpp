@@ -1,6 +1,6 @@
 #include "map/labels/LabelAtlas.h"
 
-#include "platform/ui/Fonts.h"
+#include "platform/ui/theme/Fonts.h"
 
 #include <gtest/gtest.h>
 

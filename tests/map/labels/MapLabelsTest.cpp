@@ -1,7 +1,7 @@
 #include "map/labels/MapLabels.h"
 
 #include "map/records/PinShape.h"
-#include "platform/ui/Fonts.h"
+#include "platform/ui/theme/Fonts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/ui/ThemeColors.h"
+#include "platform/ui/theme/ThemeColors.h"
 
 namespace vasker {
 

@@ -1,4 +1,4 @@
-#include "platform/ui/Fonts.h"
+#include "platform/ui/theme/Fonts.h"
 
 #include <QFont>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "platform/ui/Backdrop.h"
+#include "platform/ui/sheets/Backdrop.h"
 
 #include <QAccessible>
 #include <QAccessibleObject>

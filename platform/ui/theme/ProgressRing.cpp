@@ -1,4 +1,4 @@
-#include "platform/ui/ProgressRing.h"
+#include "platform/ui/theme/ProgressRing.h"
 
 #include <QPainter>
 

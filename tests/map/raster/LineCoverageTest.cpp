@@ -1,4 +1,4 @@
-#include "map/records/LineCoverage.h"
+#include "map/raster/LineCoverage.h"
 
 #include <gtest/gtest.h>
 

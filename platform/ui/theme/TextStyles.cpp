@@ -1,4 +1,4 @@
-#include "platform/ui/TextStyles.h"
+#include "platform/ui/theme/TextStyles.h"
 
 #include <QFontMetricsF>
 

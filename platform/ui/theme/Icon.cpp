@@ -1,6 +1,6 @@
-#include "platform/ui/Icon.h"
+#include "platform/ui/theme/Icon.h"
 
-#include "platform/ui/IconPainter.h"
+#include "platform/ui/theme/IconPainter.h"
 
 #include <QHash>
 #include <QImage>

@@ -1,6 +1,6 @@
-#include "platform/ui/Shadow.h"
+#include "platform/ui/theme/Shadow.h"
 
-#include "platform/ui/ThemeColors.h"
+#include "platform/ui/theme/ThemeColors.h"
 
 #include <QHash>
 #include <QImage>

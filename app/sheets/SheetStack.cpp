@@ -1,4 +1,4 @@
-#include "app/SheetStack.h"
+#include "app/sheets/SheetStack.h"
 
 namespace vasker {
 

@@ -2,7 +2,7 @@
 // Covers pixels by lines of a constant width with round joins and caps: by how far the centre of a
 // pixel lies from the line. Each line has a core and a wider casing, which are covered in one pass.
 
-#include "map/records/CoverageMask.h"
+#include "map/raster/CoverageMask.h"
 
 #include <cstdint>
 #include <span>

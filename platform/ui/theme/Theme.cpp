@@ -1,4 +1,4 @@
-#include "platform/ui/Theme.h"
+#include "platform/ui/theme/Theme.h"
 
 #include "platform/Appearance.h"
 

@@ -2,8 +2,8 @@
 // The theme of the desktop for views: colours by role, text styles, measures and durations. Follows
 // the desktop live.
 
-#include "platform/ui/TextStyles.h"
-#include "platform/ui/ThemeColors.h"
+#include "platform/ui/theme/TextStyles.h"
+#include "platform/ui/theme/ThemeColors.h"
 
 #include <QObject>
 #include <QtQmlIntegration>

@@ -1,4 +1,4 @@
-#include "map/records/CoverageMask.h"
+#include "map/raster/CoverageMask.h"
 
 #include <algorithm>
 
