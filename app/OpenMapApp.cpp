@@ -39,7 +39,7 @@ OpenMapApp::OpenMapApp(Bundle bundle,
               TileSources::fromInformation(
                   m_bundle.information(QStringLiteral("VaskerTileServices")).toObject()),
               serviceOptions(cachePath)),
-      m_component(&m_engine) {
+      m_component(&m_engine), m_memory(m_engine) {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
 }
 
@@ -77,6 +77,8 @@ QQuickWindow* OpenMapApp::openWindow() {
     QQmlEngine::setObjectOwnership(window, QQmlEngine::CppOwnership);
     // By name: the event's type is not public.
     connect(window, SIGNAL(closing(QQuickCloseEvent*)), window, SLOT(deleteLater()));
+    // What hung on the window goes with it, or just after.
+    connect(window, &QObject::destroyed, &m_memory, &MemoryReturn::giveBack, Qt::QueuedConnection);
     m_windows.removeIf([](const QPointer<QQuickWindow>& each) { return each.isNull(); });
     m_windows.append(window);
     return window;

@@ -1,6 +1,7 @@
 #pragma once
 // The application: a group of windows that share the user's settings and nothing else.
 
+#include "app/MemoryReturn.h"
 #include "data/text/TextLocale.h"
 #include "map/basemap/TileLibrary.h"
 #include "platform/Bundle.h"
@@ -57,6 +58,7 @@ class OpenMapApp : public QObject {
     TileLibrary m_tiles;
     QQmlEngine m_engine;
     QQmlComponent m_component;
+    MemoryReturn m_memory;
     QList<QPointer<QQuickWindow>> m_windows;
 };
 

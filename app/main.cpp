@@ -84,7 +84,7 @@ int run(int argc, char* argv[]) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    vasker::returnFreedPictures();
+    vasker::returnFreedImages();
     const int status = run(argc, argv);
     // A read from a disk that is gone never returns; its thread must not keep the program.
     if (!vasker::finishBackgroundWork()) {

@@ -324,7 +324,7 @@ int main(int argc, char* argv[]) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     if (arguments.size() == 4 && arguments[0] == QStringLiteral("--measure")) {
-        vasker::returnFreedPictures();
+        vasker::returnFreedImages();
         const QGuiApplication application(argc, argv);
         return vasker::measure(arguments[1], arguments[2], arguments[3].toLongLong());
     }

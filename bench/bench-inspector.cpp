@@ -95,7 +95,7 @@ void measure(std::size_t openings) {
 } // namespace vasker
 
 int main(int argc, char* argv[]) {
-    vasker::returnFreedPictures();
+    vasker::returnFreedImages();
     const QGuiApplication application(argc, argv);
     vasker::installInterfaceFont();
     try {

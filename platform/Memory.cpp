@@ -4,10 +4,18 @@
 
 namespace vasker {
 
-void returnFreedPictures() {
-    constexpr int smallestPicture = 256 * 1024;
-    ::mallopt(M_MMAP_THRESHOLD, smallestPicture); // a threshold that is set stays where it is
-    ::mallopt(M_TRIM_THRESHOLD, smallestPicture);
+void returnFreedImages() {
+    constexpr int smallestImage = 256 * 1024;
+    ::mallopt(M_MMAP_THRESHOLD, smallestImage); // a threshold that is set stays where it is
+    ::mallopt(M_TRIM_THRESHOLD, smallestImage);
+}
+
+std::size_t freedBytesKept() noexcept {
+    return ::mallinfo2().fordblks;
+}
+
+void returnFreedMemory() noexcept {
+    ::malloc_trim(0);
 }
 
 } // namespace vasker
