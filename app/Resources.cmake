@@ -1,6 +1,8 @@
 # The translations, compiled into the program.
 qt_add_lrelease(VaskerApp
-    TS_FILES ${PROJECT_SOURCE_DIR}/resources/translations/vasker_fr.ts
+    TS_FILES
+        ${PROJECT_SOURCE_DIR}/resources/translations/vasker_en.ts
+        ${PROJECT_SOURCE_DIR}/resources/translations/vasker_fr.ts
     QM_FILES_OUTPUT_VARIABLE translations)
 qt_add_resources(VaskerApp app_translations
     PREFIX /translations

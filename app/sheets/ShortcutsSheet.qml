@@ -97,11 +97,11 @@ WindowSheet {
                 value: "+, −"
             }
             LabelledRow {
-                label: qsTr("Turn")
+                label: qsTr("Rotate")
                 value: qsTr("Shift+Left, Shift+Right")
             }
             LabelledRow {
-                label: qsTr("Lean")
+                label: qsTr("Tilt")
                 value: qsTr("Shift+Up, Shift+Down")
             }
             LabelledRow {

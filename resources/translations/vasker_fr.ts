@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>“Sources &amp; coverage” tells the sources of this release one by one. None of these publishers endorses this program.</source>
-        <translation>« Sources et couverture » donne les sources de cette édition une à une. Aucun de ces organismes ne cautionne ce programme.</translation>
+        <translation>« Sources et couverture » donne les sources de cette édition une à une. Aucun de ces éditeurs ne cautionne ce programme.</translation>
     </message>
     <message>
         <source>Libraries</source>
@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Gas plant</source>
-        <translation>Usine à gaz</translation>
+        <translation>Usine de traitement du gaz</translation>
     </message>
     <message>
         <source>Straddle plant</source>
@@ -87,7 +87,7 @@
     </message>
     <message>
         <source>Oil sands plant</source>
-        <translation>Usine de sables bitumineux</translation>
+        <translation>Usine de traitement de sables bitumineux</translation>
     </message>
     <message>
         <source>In-situ oil sands</source>
@@ -226,7 +226,7 @@
     <name>LabelledRow</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -354,7 +354,7 @@
     <name>OpenMapSources</name>
     <message>
         <source>This release</source>
-        <translation>Cette version</translation>
+        <translation>Cette édition</translation>
     </message>
     <message>
         <source>Coverage &amp; limitations</source>
@@ -421,26 +421,26 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Source data: %1</source>
-        <translation>Données source : %1</translation>
+        <translation>Données source : %1</translation>
     </message>
     <message>
         <source>Licence: %1</source>
-        <translation>Licence : %1</translation>
+        <translation>Licence : %1</translation>
     </message>
 </context>
 <context>
     <name>vasker::OpenMapInspector</name>
     <message>
         <source>Company and status describe the cited release. They do not establish the current operator or current operation.</source>
-        <translation>L’entreprise et l’état décrivent la version citée. Ils n’établissent ni l’exploitant actuel ni l’exploitation actuelle.</translation>
+        <translation>L’entreprise et l’état décrivent l’édition citée. Ils n’établissent ni l’exploitant actuel ni l’exploitation actuelle.</translation>
     </message>
     <message>
         <source>Route vertices from the cited GEM release. No inferred connections are drawn.</source>
-        <translation>Sommets du tracé tirés de la version citée de GEM. Aucun raccordement déduit n’est dessiné.</translation>
+        <translation>Sommets du tracé tirés de l’édition citée de GEM. Aucun raccordement déduit n’est dessiné.</translation>
     </message>
     <message>
         <source>Publisher-reported location. Equipment position, physical-site boundary and survey precision are not established.</source>
@@ -467,7 +467,7 @@
     </message>
     <message>
         <source>This beta has no account, advertising, analytics or location tracking. Search and filters run on your device. Apple Maps downloads its basemap from Apple; source links open the publisher's website. Those services receive the requests you make to them.</source>
-        <translation>Cette version bêta n’a ni compte, ni publicité, ni mesure d’audience, ni suivi de position. La recherche et les filtres s’exécutent sur votre appareil. Apple Maps télécharge son fond de carte auprès d’Apple; les liens vers les sources ouvrent le site de l’éditeur. Ces services reçoivent les requêtes que vous leur adressez.</translation>
+        <translation>Cette version bêta n’a ni compte, ni publicité, ni mesure d’audience, ni suivi de position. La recherche et les filtres s’exécutent sur votre appareil. Près du sol, les tuiles de la carte viennent d’OpenStreetMap, et l’imagerie, de la NASA; les liens vers les sources ouvrent le site de l’éditeur. Ces services reçoivent les requêtes que vous leur adressez.</translation>
     </message>
     <message>
         <source>No private Vasker library or raw source documents are included. Data updates arrive in a new app release.</source>
@@ -589,15 +589,15 @@
         <translation>Zoom avant, arrière</translation>
     </message>
     <message>
-        <source>Turn</source>
-        <translation>Tourner</translation>
+        <source>Rotate</source>
+        <translation>Pivoter</translation>
     </message>
     <message>
         <source>Shift+Left, Shift+Right</source>
         <translation>Maj+Gauche, Maj+Droite</translation>
     </message>
     <message>
-        <source>Lean</source>
+        <source>Tilt</source>
         <translation>Incliner</translation>
     </message>
     <message>
@@ -664,21 +664,21 @@
     </message>
     <message>
         <source>Records: %1</source>
-        <translation>Fiches : %1</translation>
+        <translation>Fiches : %1</translation>
     </message>
 </context>
 <context>
     <name>vasker::RecordListModel</name>
     <message>
         <source>%1, %2, source period %3</source>
-        <translation>%1, %2, période de la source : %3</translation>
+        <translation>%1, %2, période de la source : %3</translation>
     </message>
     <message numerus="yes">
         <source>%n of %1 records</source>
         <extracomment>%n: how many records are shown, %1: how many there are</extracomment>
         <translation>
-            <numerusform>%n fiche sur %1</numerusform>
-            <numerusform>%n fiches sur %1</numerusform>
+            <numerusform>%Ln fiche sur %L1</numerusform>
+            <numerusform>%Ln fiches sur %L1</numerusform>
         </translation>
     </message>
     <message>
@@ -687,7 +687,7 @@
     </message>
     <message>
         <source>No results for “%1”</source>
-        <translation>Aucun résultat pour « %1 »</translation>
+        <translation>Aucun résultat pour « %1 »</translation>
     </message>
 </context>
 <context>
@@ -736,18 +736,18 @@
     <name>SheetGrabber</name>
     <message>
         <source>Make the sheet larger</source>
-        <translation>Agrandir la feuille</translation>
+        <translation>Agrandir le volet</translation>
     </message>
     <message>
         <source>Make the sheet smaller</source>
-        <translation>Réduire la feuille</translation>
+        <translation>Réduire le volet</translation>
     </message>
 </context>
 <context>
     <name>ScaleBar</name>
     <message>
         <source>Scale: %1</source>
-        <translation>Échelle : %1</translation>
+        <translation>Échelle : %1</translation>
     </message>
 </context>
 <context>
@@ -784,7 +784,7 @@
     </message>
     <message>
         <source>There is a file of this name already. Replace it?</source>
-        <translation>Il y a déjà un fichier de ce nom. Le remplacer ?</translation>
+        <translation>Il y a déjà un fichier de ce nom. Le remplacer?</translation>
     </message>
 </context>
 <context>
@@ -795,11 +795,11 @@
     </message>
     <message>
         <source>The copy could not be saved: this desktop has no dialog to ask where.</source>
-        <translation>La copie n’a pas pu être enregistrée : ce bureau n’a pas de dialogue pour demander où.</translation>
+        <translation>La copie n’a pas pu être enregistrée : ce bureau n’a pas de dialogue pour demander où.</translation>
     </message>
     <message>
         <source>The copy could not be saved: that place is not on this computer.</source>
-        <translation>La copie n’a pas pu être enregistrée : cet emplacement n’est pas sur cet ordinateur.</translation>
+        <translation>La copie n’a pas pu être enregistrée : cet emplacement n’est pas sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Saved to %1</source>
@@ -807,11 +807,11 @@
     </message>
     <message>
         <source>The copy could not be saved: %1</source>
-        <translation>La copie n’a pas pu être enregistrée : %1</translation>
+        <translation>La copie n’a pas pu être enregistrée : %1</translation>
     </message>
     <message>
         <source>The folder could not be opened: %1</source>
-        <translation>Le dossier n’a pas pu être ouvert : %1</translation>
+        <translation>Le dossier n’a pas pu être ouvert : %1</translation>
     </message>
     <message>
         <source>The file is on the clipboard.</source>
@@ -819,7 +819,7 @@
     </message>
     <message>
         <source>The file could not be opened: %1</source>
-        <translation>Le fichier n’a pas pu être ouvert : %1</translation>
+        <translation>Le fichier n’a pas pu être ouvert : %1</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,18 @@ OpenMapRelease packagedRelease() {
     return decoded(file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string());
 }
 
+TEST(Translation, TheFirstPreferredLanguageThatThereIsGoesBeforeTheLocale) {
+    qputenv("LC_ALL", "en_CA.UTF-8");
+    qputenv("LANGUAGE", "xx:fr_CA:en");
+    EXPECT_EQ(messagesLocale(), QStringLiteral("fr_CA"));
+    qputenv("LANGUAGE", "xx");
+    EXPECT_EQ(messagesLocale(), QStringLiteral("en_CA"));
+    qputenv("LANGUAGE", "fr");
+    qputenv("LC_ALL", "C.UTF-8");
+    EXPECT_EQ(messagesLocale(), QStringLiteral("en"));
+    qunsetenv("LANGUAGE");
+}
+
 // One test: a translation stays for the life of the program.
 TEST(Translation, AFrenchDesktopReadsFrench) {
     EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
@@ -32,7 +44,7 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
     EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
     installTranslation(*QCoreApplication::instance(), QStringLiteral("fr_CA"));
 
-    EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Usine à gaz"));
+    EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Usine de traitement du gaz"));
     EXPECT_EQ(categoryText("refinery"), QStringLiteral("Raffinerie"));
     EXPECT_EQ(categoryText("compressor_station"), QStringLiteral("Station de compression"));
     EXPECT_EQ(categoryText("drilling_rig"), QStringLiteral("Drilling_rig"));
@@ -50,8 +62,9 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
     RecordListModel model;
     model.setRecords(records({0, 1}));
     EXPECT_EQ(model.countText(), QStringLiteral("2 fiches sur 2"));
-    EXPECT_EQ(model.data(model.index(0), RecordListModel::AccessibleRole).toString(),
-              QStringLiteral("Plant 0, Usine à gaz, période de la source : 2016"));
+    EXPECT_EQ(
+        model.data(model.index(0), RecordListModel::AccessibleRole).toString(),
+        QStringLiteral("Plant 0, Usine de traitement du gaz, période de la source\u00a0: 2016"));
     model.setRecords(records({1}));
     EXPECT_EQ(model.countText(), QStringLiteral("1 fiche sur 2"));
 }

@@ -114,8 +114,9 @@ def the_sources_sheet_tells_of_the_release(executable):
             "Share the open-data file",
             "Privacy",
             "This beta has no account, advertising, analytics or location tracking. Search and"
-            " filters run on your device. Apple Maps downloads its basemap from Apple; source links"
-            " open the publisher's website. Those services receive the requests you make to them.",
+            " filters run on your device. Map tiles come from OpenStreetMap, and imagery from NASA;"
+            " source links open the publisher's website. Those services receive the requests you"
+            " make to them.",
             "No private Vasker library or raw source documents are included."
             " Data updates arrive in a new app release.",
         ]
