@@ -30,9 +30,11 @@ TileJob::Result TileJob::run(const std::stop_token& stop) && {
             }
             tile.basemap = paintTile(found.data, request);
         }
-        tile.labels = placeLabels(found.data, request, language);
-        tile.attributions = std::move(found.attributions);
         tile.lacksImagery = showsImagery(request.theme) && !found.data.hasFullImagery(request.key);
+        if (request.theme != BasemapTheme::satellite || tile.lacksImagery) {
+            tile.labels = placeLabels(found.data, request, language);
+        }
+        tile.attributions = std::move(found.attributions);
         result.undecodable = std::move(found.undecodable);
     }
     if (!overlay) {

@@ -87,7 +87,8 @@ ProvidedTile TileProvider::read(TileKey key, BasemapTheme theme) {
     if (showsImagery(theme)) {
         readImagery(key, found);
     }
-    if (theme != BasemapTheme::satellite || !found.data.hasFullImagery(key)) {
+    if (theme != BasemapTheme::satellite || !found.data.hasFullImagery(key) ||
+        found.data.needsWaters(key)) {
         readVector(key, found);
     }
     return found;

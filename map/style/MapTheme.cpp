@@ -73,8 +73,12 @@ MapTheme darkTheme() {
 }
 
 /// Mid-tones of imagery lie between a marker and its casing: a white outline carries the contrast.
+/// Waters have the tint that the built-in imagery gives to shallow seas.
 MapTheme satelliteTheme() {
     MapTheme theme = darkTheme();
+    theme.water = rgb(0x2F5A88, 0.6);
+    theme.coast = rgb(0x6E9CC6, 0.9);
+    theme.river = rgb(0x4A7DB0, 0.9);
     theme.placeLabel = rgb(0xFFFFFF);
     theme.regionLabel = rgb(0xFFFFFF, 0.86);
     theme.waterLabel = rgb(0xCFE6F5);

@@ -44,8 +44,9 @@ struct MapTheme {
     QColor pinSymbol;
 };
 
-/// The theme's colours. Of hybrid, the basemap's are those drawn over imagery; of satellite, those
-/// of the drawn map that stands in where imagery is missing, which is the dark one.
+/// The theme's colours. Of hybrid, the basemap's are those drawn over imagery; of satellite, waters
+/// are those drawn over enlarged imagery of either theme, and all else is the dark theme's, which
+/// stands in where imagery is missing.
 [[nodiscard]] const MapTheme& mapTheme(BasemapTheme theme) noexcept;
 
 } // namespace vasker

@@ -39,11 +39,11 @@ constexpr std::array<StyleLayer, 35> layers{{
     {"ice", ice, fill, 0, open, &Theme::ice},
     {"ocean", ocean, fill, 0, open, &Theme::water},
     {"coast", ocean, outline, 0, open, &Theme::coast, coastWidths},
-
     {"river", river, line, 2, open, &Theme::river, {{{3, 0.5}, {7, 0.9}, {10, 1.6}, {13, 2}, {16, 3}}}},
     {"stream", stream, line, 11, open, &Theme::river, {{{11, 0.6}, {13, 0.8}, {14, 1}, {16, 1.6}, {18, 2}}}},
     {"lake", lake, fill, 1, open, &Theme::water},
     {"lake-shore", lake, outline, 1, open, &Theme::coast, times(0.9, coastWidths)},
+
     {"building", building, fill, 14, open, &Theme::building},
     {"building-outline", building, outline, 14, open, &Theme::roadCasing, times(0.6, coastWidths)},
 
@@ -76,6 +76,10 @@ constexpr std::array<StyleLayer, 35> layers{{
     {"country-border", country, line, 0, open, &Theme::countryBorder, {{{2, 0.8}, {4, 1.3}, {10, 1.5}, {13, 1.7}, {16, 2}}}, 0, {}, true},
 }};
 // clang-format on
+constexpr std::size_t firstWater = 3;
+constexpr std::size_t waters = 6;
+static_assert(layers[firstWater].id == "ocean");
+static_assert(layers[firstWater + waters - 1].id == "lake-shore");
 
 } // namespace
 
@@ -93,6 +97,10 @@ double widthAt(const WidthStops& stops, double zoom) noexcept {
 
 std::span<const StyleLayer> styleLayers() noexcept {
     return layers;
+}
+
+std::span<const StyleLayer> waterLayers() noexcept {
+    return std::span(layers).subspan(firstWater, waters);
 }
 
 } // namespace vasker

@@ -61,4 +61,7 @@ inline constexpr DashPattern disputedDashes{2, 2};
 /// In drawing order, the lowest first.
 [[nodiscard]] std::span<const StyleLayer> styleLayers() noexcept;
 
+/// Those of seas, lakes and rivers: what is drawn over enlarged imagery.
+[[nodiscard]] std::span<const StyleLayer> waterLayers() noexcept;
+
 } // namespace vasker

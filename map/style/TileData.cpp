@@ -10,4 +10,9 @@ bool TileData::hasFullImagery(TileKey key) const noexcept {
     return std::ranges::any_of(imagery, covers) || std::ranges::count_if(imagery, isQuarter) == 4;
 }
 
+bool TileData::needsWaters(TileKey key) const noexcept {
+    return std::ranges::any_of(imagery,
+                               [key](const ImageryTile& tile) { return tile.needsWaters(key); });
+}
+
 } // namespace vasker

@@ -17,6 +17,16 @@ namespace vasker {
 struct ImageryTile {
     TileKey key;
     QImage image;
+
+    /// By how many zooms the imagery is enlarged where it shows `shown`: 0 or less is sharp.
+    [[nodiscard]] int enlargement(TileKey shown) const noexcept {
+        return shown.zoom + 1 - key.zoom;
+    }
+    /// Whether `shown` needs waters drawn over this: it is enlarged, and coarser than the built-in
+    /// vector tiles are.
+    [[nodiscard]] bool needsWaters(TileKey shown) const noexcept {
+        return key.zoom <= 7 && enlargement(shown) >= 2;
+    }
 };
 
 struct TileData {
@@ -27,6 +37,8 @@ struct TileData {
     /// Whether imagery covers `key` whole: that of itself or of an ancestor, or of all four
     /// quarters.
     [[nodiscard]] bool hasFullImagery(TileKey key) const noexcept;
+    /// Whether `key` shows imagery over which waters are drawn.
+    [[nodiscard]] bool needsWaters(TileKey key) const noexcept;
 };
 
 } // namespace vasker

@@ -69,15 +69,19 @@ QImage paintTile(const TileData& data, const TileRequest& requested) {
     painter.setRenderHint(QPainter::Antialiasing);
     PaintBudget budget(outlineBudget * std::max(pixels.width, pixels.height));
     if (!hasImagery || !data.hasFullImagery(request.key)) {
-        paintVectorTile(painter, data, request, drawn, budget);
+        paintVectorTile(painter, data, request, drawn, styleLayers(), budget);
     }
     if (hasImagery && !data.imagery.empty()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         for (const ImageryTile& tile : data.imagery) {
             paintImagery(painter, tile, request);
+            if (tile.needsWaters(request.key)) {
+                paintVectorTile(
+                    painter, data, request, BasemapTheme::satellite, waterLayers(), budget);
+            }
         }
         if (request.theme == BasemapTheme::hybrid) {
-            paintVectorTile(painter, data, request, BasemapTheme::hybrid, budget);
+            paintVectorTile(painter, data, request, BasemapTheme::hybrid, styleLayers(), budget);
         }
     }
     return budget.isSpent() ? QImage() : image;

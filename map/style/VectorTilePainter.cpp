@@ -1,7 +1,6 @@
 #include "map/style/VectorTilePainter.h"
 
 #include "map/style/Dashes.h"
-#include "map/style/StyleLayer.h"
 #include "map/style/TileClip.h"
 
 #include <QLineF>
@@ -244,12 +243,13 @@ void paintVectorTile(QPainter& painter,
                      const TileData& data,
                      const TileRequest& request,
                      BasemapTheme theme,
+                     std::span<const StyleLayer> layers,
                      PaintBudget& budget) {
     if (!data.vector) {
         return;
     }
     VectorTilePainter tile(painter, data, request, mapTheme(theme), budget);
-    for (const StyleLayer& layer : styleLayers()) {
+    for (const StyleLayer& layer : layers) {
         if (!budget.isSpent()) {
             tile.paint(layer);
         }

@@ -41,8 +41,8 @@ class TileProviderTest : public testing::Test {
     [[nodiscard]] std::string path(const char* name) const {
         return m_folder.filePath(QString::fromLatin1(name)).toStdString();
     }
-    void archive(const ArchivedTiles& tiles) {
-        writeArchive(path("vector"), tiles);
+    void archive(const ArchivedTiles& tiles, const std::string& attribution = "The archive") {
+        writeArchive(path("vector"), tiles, attribution);
         m_archives.vector = path("vector");
     }
     void imageryArchive(const ArchivedTiles& tiles) {
@@ -187,8 +187,25 @@ TEST_F(TileProviderTest, TheImageryOfAnAncestorLiesBelowThatOfTheQuarters) {
     const ProvidedTile found = read(BasemapTheme::satellite);
     EXPECT_EQ(keysOf(found.data.imagery), (std::vector{place.ancestor(4), quarter(place, 3)}));
     EXPECT_TRUE(found.data.hasFullImagery(place));
-    EXPECT_EQ(found.data.vector, nullptr); // it would not be seen
     EXPECT_EQ(found.attributions, (std::vector{archiveAttribution, imageryAttribution}));
+}
+
+TEST_F(TileProviderTest, SharpImageryNeedsNoMapBelowIt) {
+    archive({{place.ancestor(3), seaTile()}});
+    sendImagery(imageryOf(place), QColor(Qt::blue));
+    const ProvidedTile found = read(BasemapTheme::satellite);
+    EXPECT_EQ(found.data.vector, nullptr);
+    EXPECT_EQ(found.attributions, std::vector{imageryAttribution});
+}
+
+TEST_F(TileProviderTest, EnlargedImageryComesWithTheMapThatHasItsWatersAndBothAreCredited) {
+    archive({{place.ancestor(3), seaTile()}}, "Waters");
+    imageryArchive({{place.ancestor(5), imageryImage(Qt::red).toStdString()}});
+    const ProvidedTile found = read(BasemapTheme::satellite);
+    EXPECT_TRUE(found.data.needsWaters(place));
+    EXPECT_TRUE(isSea(found.data));
+    EXPECT_EQ(found.attributions,
+              (std::vector{archiveAttribution, Attribution{QStringLiteral("Waters"), {}}}));
 }
 
 TEST_F(TileProviderTest, FourQuartersNeedNothingBelowThem) {

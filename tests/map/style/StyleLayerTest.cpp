@@ -80,6 +80,16 @@ TEST(StyleLayer, OverImageryNoAreaIsFilled) {
     }
 }
 
+TEST(StyleLayer, OverEnlargedImageryOnlyWatersAreDrawnAndAllOfThem) {
+    const auto isWater = [](FeatureClass features) {
+        return features == FeatureClass::ocean || features == FeatureClass::lake ||
+               features == FeatureClass::river || features == FeatureClass::stream;
+    };
+    EXPECT_TRUE(std::ranges::all_of(waterLayers(), isWater, &StyleLayer::features));
+    EXPECT_EQ(std::ranges::count_if(styleLayers(), isWater, &StyleLayer::features),
+              std::ssize(waterLayers()));
+}
+
 TEST(StyleLayer, AWidthGrowsLinearlyBetweenItsStopsAndIsConstantOutside) {
     const WidthStops stops{{{4, 1}, {6, 2}, {8, 4}, {10, 4}, {12, 4}}};
     EXPECT_DOUBLE_EQ(widthAt(stops, 0), 1);

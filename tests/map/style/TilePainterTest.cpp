@@ -212,6 +212,59 @@ TEST(TilePainter, OnlyHybridDrawsBordersUponImagery) {
     EXPECT_EQ(at(hybrid, 0.3, 0.2), QColor(Qt::red));
 }
 
+/// A tile with a sea in its west, a river through its middle and a road, over imagery of `imagery`.
+TileData watersOver(TileKey imagery) {
+    TileData data = dataOf(
+        {{"ocean", {area("", {{{-0.1F, -0.1F}, {0.25F, -0.1F}, {0.25F, 1.1F}, {-0.1F, 1.1F}}})}},
+         {"water_lines", {line("river", {{0.5F, -0.1F}, {0.5F, 1.1F}})}},
+         {"streets", {line("motorway", {{0.75F, -0.1F}, {0.75F, 1.1F}})}}});
+    QImage red(256, 256, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    data.imagery = {{imagery, red}};
+    return data;
+}
+
+TEST(TilePainter, OverEnlargedImageryWatersAreDrawnInBothThemes) {
+    const TileData data = watersOver(tile.ancestor(1)); // four times as wide
+    for (const BasemapTheme theme : {BasemapTheme::satellite, BasemapTheme::hybrid}) {
+        const QImage picture = paintTile(data, requestFor(tile, theme));
+        EXPECT_GT(at(picture, 0.1, 0.3).blue(), 60);
+        EXPECT_GT(at(picture, 0.25, 0.3).blue(), 40); // the coast
+        EXPECT_GT(at(picture, 0.5, 0.3).blue(), 40);
+        EXPECT_EQ(at(picture, 0.4, 0.3), QColor(Qt::red));
+    }
+    EXPECT_EQ(at(paintTile(data, requestFor(tile, BasemapTheme::satellite)), 0.75, 0.3),
+              QColor(Qt::red));
+    EXPECT_NE(at(paintTile(data, requestFor(tile, BasemapTheme::hybrid)), 0.75, 0.3),
+              QColor(Qt::red));
+}
+
+TEST(TilePainter, OverSharpImageryNoWaterIsDrawn) {
+    const QImage picture = paintTile(watersOver(tile), requestFor(tile, BasemapTheme::satellite));
+    EXPECT_EQ(at(picture, 0.1, 0.3), QColor(Qt::red));
+    EXPECT_EQ(at(picture, 0.5, 0.3), QColor(Qt::red));
+}
+
+TEST(TilePainter, OverImageryThatIsFinerThanTheBuiltInWatersNoneAreDrawn) {
+    TileData data = watersOver({8, 48, 80});
+    const TileKey near{12, 48 << 4, 80 << 4};
+    EXPECT_EQ(at(paintTile(data, requestFor(near, BasemapTheme::satellite)), 0.5, 0.5),
+              QColor(Qt::red));
+    data.imagery.front().key = data.imagery.front().key.ancestor(1);
+    EXPECT_NE(at(paintTile(data, requestFor(near, BasemapTheme::satellite)), 0.5, 0.5),
+              QColor(Qt::red));
+}
+
+TEST(TilePainter, SharpImageryLiesUponTheWatersOfEnlargedImagery) {
+    TileData data = watersOver(tile.ancestor(2));
+    QImage green(256, 256, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    data.imagery.push_back({itsFirstChild, green});
+    const QImage picture = paintTile(data, requestFor(tile, BasemapTheme::satellite));
+    EXPECT_EQ(at(picture, 0.1, 0.3), QColor(Qt::green));
+    EXPECT_GT(at(picture, 0.1, 0.7).blue(), 60);
+}
+
 TEST(TilePainter, WithoutImageryTheMapIsDrawnInItsDarkTheme) {
     const TileData data = dataOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}}});
     for (const BasemapTheme theme : {BasemapTheme::satellite, BasemapTheme::hybrid}) {
@@ -342,7 +395,8 @@ TEST(TilePainter, NoTileOfTheBuiltInBasemapTakesAQuarterOfTheBudget) {
             QPainter painter(&image);
             painter.setRenderHint(QPainter::Antialiasing);
             PaintBudget budget(outlineBudget * 512 / 4);
-            paintVectorTile(painter, data, requestFor(each.key), BasemapTheme::light, budget);
+            paintVectorTile(
+                painter, data, requestFor(each.key), BasemapTheme::light, styleLayers(), budget);
             EXPECT_FALSE(budget.isSpent()) << zoom << ' ' << each.key.column << ' ' << each.key.row;
             ++painted;
         }
