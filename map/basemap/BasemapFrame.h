@@ -16,6 +16,7 @@ struct BasemapFrame {
     std::vector<PlaceLabel> labels;             ///< of the places in view
     std::vector<Attribution> attributions;      ///< of what is in view, each once
     bool lacksImagery = false;                  ///< somewhere in view, though the theme asks for it
+    bool lacksSharperImagery = false;           ///< somewhere in view, for want of a network
     std::shared_ptr<const TileOverlay> overlay; ///< that of the tiles in view
     double scale = 0;        ///< that the tiles in view were painted for; 0: there are none yet
     bool isComplete = false; ///< all that the view asks for is shown, as it asks for it

@@ -106,7 +106,8 @@ void BasemapFrameBuilder::prepare(TileGeneration& generation) {
 void BasemapFrameBuilder::describe(const TileGeneration& generation) {
     for (const RasterTile* const tile : m_last) {
         m_frame.labels.insert(m_frame.labels.end(), tile->labels.begin(), tile->labels.end());
-        m_frame.lacksImagery = m_frame.lacksImagery || tile->lacksImagery;
+        m_frame.lacksImagery |= tile->lacksImagery;
+        m_frame.lacksSharperImagery |= tile->lacksSharperImagery;
     }
     m_frame.overlay = generation.overlay;
     m_frame.scale = generation.scale;

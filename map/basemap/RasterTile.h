@@ -22,7 +22,8 @@ struct RasterTile {
     QImage image;   ///< to be shown; null once it was handed over
     std::vector<PlaceLabel> labels;
     std::vector<Attribution> attributions;
-    bool lacksImagery = false; ///< though the theme asks for it
+    bool lacksImagery = false;        ///< though the theme asks for it
+    bool lacksSharperImagery = false; ///< it is no more than colour, and a service has sharper
     bool isHandedOver = false;
 };
 

@@ -31,6 +31,7 @@ TileJob::Result TileJob::run(const std::stop_token& stop) && {
             tile.basemap = paintTile(found.data, request);
         }
         tile.lacksImagery = showsImagery(request.theme) && !found.data.hasFullImagery(request.key);
+        tile.lacksSharperImagery = found.lacksSharperImagery;
         if (request.theme != BasemapTheme::satellite || tile.lacksImagery) {
             tile.labels = placeLabels(found.data, request, language);
         }

@@ -46,7 +46,16 @@ void TileLibrary::startService() {
     // Not before: where the network works nobody needs to be told.
     connect(m_service, &TileService::unreachable, &m_networkReturn, &NetworkReturn::watch);
     connect(&m_networkReturn, &NetworkReturn::returned, m_service, &TileService::networkReturned);
+    connect(m_service, &TileService::unreachable, this, [this] { setOffline(true); });
+    connect(m_service, &TileService::reached, this, [this] { setOffline(false); });
     m_serviceThread->start();
+}
+
+void TileLibrary::setOffline(bool isOffline) {
+    if (isOffline != m_isOffline) {
+        m_isOffline = isOffline;
+        Q_EMIT offlineChanged();
+    }
 }
 
 void TileLibrary::discard(const std::vector<ServiceTile>& tiles) {

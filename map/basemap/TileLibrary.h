@@ -39,12 +39,17 @@ class TileLibrary : public QObject {
     /// What a service sent for these could not be decoded.
     void discard(const std::vector<ServiceTile>& tiles);
 
+    /// Whether the last request to a service had no answer at all. False before the first.
+    [[nodiscard]] bool isOffline() const noexcept { return m_isOffline; }
+
   Q_SIGNALS:
+    void offlineChanged();
     /// The provider has something new of this tile.
     void tileArrived(const vasker::ServiceTile& tile);
 
   private:
     void startService();
+    void setOffline(bool isOffline);
 
     TileSources m_sources;
     TileService::Options m_serviceOptions;
@@ -53,6 +58,7 @@ class TileLibrary : public QObject {
     std::unique_ptr<QThread> m_serviceThread;
     TileService* m_service = nullptr; ///< lives in its thread, whose end deletes it
     NetworkReturn m_networkReturn;
+    bool m_isOffline = false;
     TileWorkers m_workers;
 };
 

@@ -14,6 +14,9 @@ namespace {
 /// What an entry of the decoded tiles takes beside the tile, in bytes.
 constexpr qsizetype leastCost = 100;
 
+/// Imagery that is enlarged by so many zooms, its pixels eight times as wide, shows no shapes.
+constexpr int onlyColorFrom = 3;
+
 std::string_view viewOf(const QByteArray& bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
@@ -209,7 +212,10 @@ void TileProvider::readImagery(TileKey key, ProvidedTile& found) {
         }
     }
     m_imageryArchives.giveBack(std::move(archive));
+    const int sharpest = m_sources.lastZoom(TileContent::imagery);
     for (CreditedImagery& each : tiles) {
+        const bool isOnlyColor = each.tile.enlargement(key) >= onlyColorFrom;
+        found.lacksSharperImagery |= isOnlyColor && each.tile.key.zoom < sharpest;
         found.data.imagery.push_back(std::move(each.tile));
         add(found.attributions, std::move(each.attribution));
     }

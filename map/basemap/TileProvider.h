@@ -23,6 +23,8 @@ struct ProvidedTile {
     std::vector<Attribution> attributions;
     std::uint64_t vectorRevision = 0;     ///< which of the tiles of its key data.vector is
     std::vector<ServiceTile> undecodable; ///< what services sent and could not be decoded
+    /// Imagery is no more than colour somewhere in the tile, and a service has sharper.
+    bool lacksSharperImagery = false;
 };
 
 /// Paths; where there is no archive, there is nothing of it.

@@ -38,6 +38,7 @@ constexpr std::chrono::milliseconds overlayPatience{25};
 TilePyramid::TilePyramid(TileLibrary& library, QObject* parent)
     : QObject(parent), m_library(library) {
     connect(&m_library, &TileLibrary::tileArrived, this, &TilePyramid::markOutdated);
+    connect(&m_library, &TileLibrary::offlineChanged, this, &TilePyramid::changed);
 }
 
 TilePyramid::~TilePyramid() {
@@ -57,6 +58,7 @@ BasemapFrame TilePyramid::compose(const BasemapView& view, std::chrono::nanoseco
         promote();
     }
     BasemapFrame frame = show(now);
+    frame.lacksSharperImagery &= m_library.isOffline();
     frame.isComplete =
         m_current && !m_pending && !m_fade && suits(*m_current) && covers(*m_current);
     frame.isChanging = m_fade || (m_pending && covers(*m_pending));

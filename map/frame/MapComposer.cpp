@@ -80,6 +80,7 @@ MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::n
     frame.devicePixels = state.devicePixels;
     frame.attributions = std::move(basemap.attributions);
     frame.lacksImagery = basemap.lacksImagery;
+    frame.lacksSharperImagery = basemap.lacksSharperImagery;
     frame.isComplete = basemap.isComplete;
     frame.isUnfinished = basemap.isChanging || m_labels.isUnfinished();
 

@@ -18,6 +18,8 @@ struct MapFrame {
     // What is said about it.
     std::vector<Attribution> attributions;
     bool lacksImagery = false; ///< imagery is asked for and missing somewhere in view
+    bool lacksSharperImagery =
+        false;                 ///< it is only colour somewhere in view, for want of a network
     bool isComplete = false;   ///< all that is asked for is shown
     bool isUnfinished = false; ///< another frame is needed, though nothing changes
 

@@ -187,6 +187,11 @@ void TileService::settle(const ServiceTile& tile, Request& request) {
     const TileVerdict found = verdict(tile.content, response);
     const QDateTime now = QDateTime::currentDateTimeUtc();
     const QString address = request.address.toString();
+    if (found == TileVerdict::unreachable) {
+        Q_EMIT unreachable();
+    } else {
+        Q_EMIT reached();
+    }
     switch (found) {
     case TileVerdict::tile:
         m_hosts.succeeded(request.address);
@@ -217,7 +222,6 @@ void TileService::settle(const ServiceTile& tile, Request& request) {
         break;
     case TileVerdict::unreachable:
         m_hosts.unreachable(request.address, request.started, Clock::now());
-        Q_EMIT unreachable();
         settleFailure(tile, request, found);
         break;
     }

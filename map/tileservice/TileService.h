@@ -60,8 +60,10 @@ class TileService : public QObject {
     /// No source covers it, the service has no such tile, or its responses were no tile. Not sent
     /// while there is only no network: that may come back.
     void missing(const vasker::ServiceTile& tile);
-    /// A service could not be reached.
+    /// A request to a service had no answer at all.
     void unreachable();
+    /// A request to a service was answered, in whatever way.
+    void reached();
 
   private:
     using Clock = TileServiceHosts::Clock;

@@ -28,11 +28,11 @@ MapView {
         status: root.status
     }
 
-    // Photographs may be on their way: only after a while it is true to say that they are missing.
+    // Imagery may be on its way: only after a while it is true to say that it is missing.
     Timer {
         id: imageryWait
 
-        readonly property bool missing: root.status.lacksImagery
+        readonly property bool missing: root.status.lacksImagery || root.status.lacksSharperImagery
         property bool over: false
 
         interval: 2000
@@ -76,7 +76,7 @@ MapView {
         anchors.bottom: caption.top
         anchors.bottomMargin: 10
         maximumWidth: parent.width - anchors.rightMargin - bar.x - bar.width - 24
-        note: imageryWait.over ? qsTr("Satellite imagery needs a network connection") : ""
+        note: !imageryWait.over ? "" : root.status.lacksImagery ? qsTr("Satellite imagery needs a network connection") : qsTr("Sharper imagery needs a network connection")
         links: root.status.attribution
         colors: textColors
     }

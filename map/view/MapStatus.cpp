@@ -19,9 +19,11 @@ void MapStatus::setFrame(const MapFrame& frame) {
         attribution.append(QVariantMap{{QStringLiteral("text"), each.text},
                                        {QStringLiteral("address"), each.address}});
     }
-    if (attribution != m_attribution || frame.lacksImagery != m_lacksImagery) {
+    if (attribution != m_attribution || frame.lacksImagery != m_lacksImagery ||
+        frame.lacksSharperImagery != m_lacksSharperImagery) {
         m_attribution = std::move(attribution);
         m_lacksImagery = frame.lacksImagery;
+        m_lacksSharperImagery = frame.lacksSharperImagery;
         Q_EMIT changed();
     }
 }

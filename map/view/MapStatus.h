@@ -20,6 +20,8 @@ class MapStatus : public QObject {
     Q_PROPERTY(QVariantList attribution READ attribution NOTIFY changed)
     /// Whether imagery is asked for and missing somewhere in view.
     Q_PROPERTY(bool lacksImagery READ lacksImagery NOTIFY changed)
+    /// Whether imagery is only colour somewhere in view, for want of a network.
+    Q_PROPERTY(bool lacksSharperImagery READ lacksSharperImagery NOTIFY changed)
     Q_PROPERTY(bool showsImagery READ showsImagery NOTIFY themeChanged)
     /// Of texts over the map, as of its labels.
     Q_PROPERTY(QColor halo READ halo NOTIFY themeChanged)
@@ -29,6 +31,7 @@ class MapStatus : public QObject {
 
     [[nodiscard]] const QVariantList& attribution() const noexcept { return m_attribution; }
     [[nodiscard]] bool lacksImagery() const noexcept { return m_lacksImagery; }
+    [[nodiscard]] bool lacksSharperImagery() const noexcept { return m_lacksSharperImagery; }
     [[nodiscard]] bool showsImagery() const noexcept { return vasker::showsImagery(m_theme); }
     [[nodiscard]] const QColor& halo() const noexcept { return mapTheme(m_theme).labelHalo; }
 
@@ -43,6 +46,7 @@ class MapStatus : public QObject {
     BasemapTheme m_theme = BasemapTheme::light;
     QVariantList m_attribution;
     bool m_lacksImagery = false;
+    bool m_lacksSharperImagery = false;
 };
 
 } // namespace vasker

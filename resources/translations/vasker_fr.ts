@@ -714,6 +714,10 @@
         <source>Satellite imagery needs a network connection</source>
         <translation>L’imagerie satellite nécessite une connexion réseau</translation>
     </message>
+    <message>
+        <source>Sharper imagery needs a network connection</source>
+        <translation>Une imagerie plus nette nécessite une connexion réseau</translation>
+    </message>
 </context>
 <context>
     <name>PickList</name>

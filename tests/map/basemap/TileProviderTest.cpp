@@ -208,6 +208,22 @@ TEST_F(TileProviderTest, EnlargedImageryComesWithTheMapThatHasItsWatersAndBothAr
               (std::vector{archiveAttribution, Attribution{QStringLiteral("Waters"), {}}}));
 }
 
+TEST_F(TileProviderTest, ImageryThatIsOnlyColourCouldBeSharperWhereAServiceHasItSo) {
+    imageryArchive({{place.ancestor(2), imageryImage(Qt::red).toStdString()}});
+    EXPECT_TRUE(read(BasemapTheme::satellite).lacksSharperImagery);
+    EXPECT_TRUE(read(BasemapTheme::hybrid).lacksSharperImagery);
+    EXPECT_FALSE(read(BasemapTheme::light).lacksSharperImagery);
+    EXPECT_FALSE(provider().read(place.ancestor(1), BasemapTheme::satellite).lacksSharperImagery);
+    sendImagery(imageryOf(place.ancestor(1)), QColor(Qt::blue));
+    EXPECT_FALSE(read(BasemapTheme::satellite).lacksSharperImagery);
+}
+
+TEST_F(TileProviderTest, ImageryThatNoServiceHasSharperLacksNothing) {
+    m_sources.imagery.front().lastZoom = 7;
+    imageryArchive({{place.ancestor(2), imageryImage(Qt::red).toStdString()}});
+    EXPECT_FALSE(read(BasemapTheme::satellite).lacksSharperImagery);
+}
+
 TEST_F(TileProviderTest, FourQuartersNeedNothingBelowThem) {
     imageryArchive({{place.ancestor(4), imageryImage(Qt::red).toStdString()}});
     for (const int number : {0, 1, 2, 3}) {

@@ -179,6 +179,42 @@ TEST_F(TilePyramidFaultTest, WhereOneImageIsMissingThatIsSaidAndTheMapIsDrawn) {
     EXPECT_EQ(credits(), (std::vector{imageryCredit, archiveCredit}));
 }
 
+TEST_F(TilePyramidFaultTest, WithoutANetworkImageryThatIsOnlyColourIsSaidToBeSo) {
+    writeImagery(homeTile.ancestor(4));
+    server.close();
+    openWithServices();
+    view.theme = BasemapTheme::satellite;
+    EXPECT_TRUE(lookUntil([&] { return frame.isComplete && frame.lacksSharperImagery; }));
+    EXPECT_FALSE(frame.lacksImagery);
+    EXPECT_TRUE(frame.labels.empty());
+    EXPECT_EQ(credits(), (std::vector{imageryCredit, archiveCredit}));
+    view.theme = BasemapTheme::light;
+    EXPECT_TRUE(lookUntil([&] { return frame.isComplete && !frame.lacksSharperImagery; }));
+}
+
+TEST_F(TilePyramidFaultTest, WithANetworkImageryThatIsOnlyColourIsNotSaidToNeedOne) {
+    writeImagery(homeTile.ancestor(4));
+    server.setOtherAnswer({.status = 404});
+    openWithServices();
+    view.theme = BasemapTheme::satellite;
+    ASSERT_TRUE(lookUntil([&] { return server.requests().size() >= 2 && server.open() == 0; }));
+    ASSERT_TRUE(lookUntilComplete());
+    EXPECT_FALSE(frame.lacksSharperImagery);
+}
+
+TEST_F(TilePyramidFaultTest, WhenTheNetworkIsBackNothingIsSaidOfIt) {
+    writeImagery(homeTile.ancestor(4));
+    const quint16 port = server.port();
+    server.close();
+    openWithServices();
+    view.theme = BasemapTheme::satellite;
+    ASSERT_TRUE(lookUntil([&] { return frame.isComplete && frame.lacksSharperImagery; }));
+    TileServer again(port);
+    ASSERT_EQ(again.port(), port);
+    again.setOtherAnswer({.status = 404});
+    EXPECT_TRUE(lookUntil([&] { return frame.isComplete && !frame.lacksSharperImagery; }));
+}
+
 /// A real photograph where this machine has one, else colours that run into each other as there.
 QImage realImagery() {
     const QDir photographs(QStringLiteral(VASKER_IMAGERY));

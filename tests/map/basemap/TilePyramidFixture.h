@@ -44,6 +44,13 @@ class TilePyramidFixture : public ServiceFixture {
         archives.vector = folder.filePath(QStringLiteral("basemap.mbtiles")).toStdString();
         writeArchive(archives.vector, tiles, archiveCredit.toStdString());
     }
+    /// The archive of imagery: one red tile.
+    void writeImagery(TileKey key) {
+        archives.imagery = folder.filePath(QStringLiteral("imagery.mbtiles")).toStdString();
+        writeArchive(archives.imagery,
+                     {{key, imageryImage(Qt::red).toStdString()}},
+                     imageryCredit.toStdString());
+    }
     void open(const TileSources& services) {
         library = std::make_unique<TileLibrary>(archives, services, options);
         pyramid = std::make_unique<TilePyramid>(*library);
