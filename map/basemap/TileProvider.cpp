@@ -1,5 +1,6 @@
 #include "map/basemap/TileProvider.h"
 
+#include "map/basemap/ImageryMargin.h"
 #include "map/style/ImageryDecoding.h"
 #include "map/tiles/TileInflation.h"
 #include "map/tiles/VectorTileDecoding.h"
@@ -207,6 +208,12 @@ void TileProvider::readImagery(TileKey key, ProvidedTile& found) {
     const bool isWhole = tiles.size() == 4;
     for (int levels = 0; levels <= key.zoom && !isWhole; ++levels) {
         if (auto ancestor = imagery(key.ancestor(levels), archive.get(), found)) {
+            if (ancestor->tile.needsWaters(key)) {
+                addMargin(ancestor->tile, key, [&](TileKey beside) {
+                    const auto neighbour = imagery(beside, archive.get(), found);
+                    return neighbour ? neighbour->tile.image : QImage();
+                });
+            }
             tiles.insert(tiles.begin(), std::move(*ancestor));
             break;
         }

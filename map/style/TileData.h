@@ -17,6 +17,7 @@ namespace vasker {
 struct ImageryTile {
     TileKey key;
     QImage image;
+    int margin = 0; ///< of `image`: pixels of the neighbours around the tile's own
 
     /// By how many zooms the imagery is enlarged where it shows `shown`: 0 or less is sharp.
     [[nodiscard]] int enlargement(TileKey shown) const noexcept {

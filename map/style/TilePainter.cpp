@@ -23,22 +23,22 @@ void paintImagery(QPainter& painter, const ImageryTile& tile, const TileRequest&
     const PixelRect pixels = request.pixels();
     const MapRect bounds = tile.key.bounds();
     const double scale = request.devicePixelsPerMapPoint;
-    const QPointF corner(bounds.x * scale - static_cast<double>(pixels.x),
-                         bounds.y * scale - static_cast<double>(pixels.y));
     // Device pixels per pixel of the imagery.
-    const double across = bounds.width * scale / tile.image.width();
-    const double down = bounds.height * scale / tile.image.height();
+    const double across = bounds.width * scale / (tile.image.width() - 2 * tile.margin);
+    const double down = bounds.height * scale / (tile.image.height() - 2 * tile.margin);
+    const QPointF corner(bounds.x * scale - static_cast<double>(pixels.x) - tile.margin * across,
+                         bounds.y * scale - static_cast<double>(pixels.y) - tile.margin * down);
     const QRectF shown(
         -corner.x() / across, -corner.y() / down, pixels.width / across, pixels.height / down);
     const QRectF source =
         shown.adjusted(-2, -2, 2, 2).intersected(QRectF(QPointF(0, 0), tile.image.size()));
     if (!source.isEmpty()) {
-        painter.drawImage(QRectF(corner.x() + source.x() * across,
-                                 corner.y() + source.y() * down,
-                                 source.width() * across,
-                                 source.height() * down),
-                          tile.image,
-                          source);
+        // Whole pixels: one that is covered in part would show what lies below, as a seam.
+        const QRectF target(corner.x() + source.x() * across,
+                            corner.y() + source.y() * down,
+                            source.width() * across,
+                            source.height() * down);
+        painter.drawImage(QRectF(target.toAlignedRect()), tile.image, source);
     }
 }
 

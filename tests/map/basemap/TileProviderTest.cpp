@@ -1,5 +1,6 @@
 #include "map/basemap/TileProvider.h"
 
+#include "map/style/TilePainter.h"
 #include "tests/map/style/TileDataBuilder.h"
 
 #include <QTemporaryDir>
@@ -206,6 +207,22 @@ TEST_F(TileProviderTest, EnlargedImageryComesWithTheMapThatHasItsWatersAndBothAr
     EXPECT_TRUE(isSea(found.data));
     EXPECT_EQ(found.attributions,
               (std::vector{archiveAttribution, Attribution{QStringLiteral("Waters"), {}}}));
+}
+
+TEST_F(TileProviderTest, EnlargedImageryRunsFromOneTileIntoTheNext) {
+    imageryArchive({{{7, 25, 42}, imageryImage(Qt::red).toStdString()},
+                    {{7, 26, 42}, imageryImage(Qt::blue).toStdString()}});
+    const auto painted = [this](TileKey key) {
+        return paintTile(provider().read(key, BasemapTheme::satellite).data,
+                         {.key = key,
+                          .devicePixelsPerMapPoint = tilePixels / key.side(),
+                          .theme = BasemapTheme::satellite});
+    };
+    const QColor west = painted({9, 103, 170}).pixelColor(511, 300);
+    const QColor east = painted({9, 104, 170}).pixelColor(0, 300);
+    EXPECT_NEAR(west.red(), east.red(), 40);
+    EXPECT_NEAR(west.blue(), east.blue(), 40);
+    EXPECT_GT(west.blue(), 60);
 }
 
 TEST_F(TileProviderTest, ImageryThatIsOnlyColourCouldBeSharperWhereAServiceHasItSo) {

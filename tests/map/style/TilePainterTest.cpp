@@ -199,6 +199,32 @@ TEST(TilePainter, ImageryIsDrawnInItsPlace) {
     EXPECT_EQ(at(picture, 0.75, 0.75), QColor(Qt::blue));
 }
 
+TEST(TilePainter, ImageryCoversEveryPixelOfItsTile) {
+    TileData data;
+    QImage red(256, 256, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    for (const TileKey imagery : {tile, tile.ancestor(4)}) {
+        data.imagery = {{imagery, red}};
+        const QImage picture = paintTile(data, requestFor(tile, BasemapTheme::satellite, 724.08));
+        QImage expected(picture.size(), picture.format());
+        expected.fill(Qt::red);
+        EXPECT_EQ(picture, expected) << imagery.zoom;
+    }
+}
+
+TEST(TilePainter, TheMarginOfImageryLiesOutsideOfItsTile) {
+    QImage green(258, 258, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    QImage red(256, 256, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QPainter(&green).drawImage(1, 1, red);
+    TileData data;
+    data.imagery = {{itsFirstChild, green, 1}};
+    const QImage picture = paintTile(data, requestFor(tile, BasemapTheme::satellite));
+    EXPECT_EQ(at(picture, 0.495, 0.495), QColor(Qt::red));
+    EXPECT_EQ(at(picture, 0.501, 0.25), QColor(Qt::green));
+}
+
 TEST(TilePainter, OnlyHybridDrawsBordersUponImagery) {
     TileData data = dataOf({{"ocean", {area("", {square(-0.1F, 1.1F)})}},
                             {"boundaries", {border(2, {{-0.1F, 0.5F}, {1.1F, 0.5F}})}}});
