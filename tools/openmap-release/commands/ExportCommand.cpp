@@ -1,11 +1,11 @@
 #include "tools/openmap-release/commands/ExportCommand.h"
 
 #include "data/Classification.h"
+#include "data/export/CsvExport.h"
+#include "data/export/GeoJsonExport.h"
 #include "tools/openmap-release/FileAccess.h"
 #include "tools/openmap-release/Suggestion.h"
 #include "tools/openmap-release/commands/PackagedRelease.h"
-#include "tools/openmap-release/export/CsvExport.h"
-#include "tools/openmap-release/export/GeoJsonExport.h"
 
 #include <array>
 

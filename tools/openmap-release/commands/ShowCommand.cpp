@@ -1,10 +1,10 @@
 #include "tools/openmap-release/commands/ShowCommand.h"
 
 #include "data/ReleaseWriter.h"
+#include "data/export/NumberText.h"
 #include "tools/openmap-release/PrintedText.h"
 #include "tools/openmap-release/Suggestion.h"
 #include "tools/openmap-release/commands/PackagedRelease.h"
-#include "tools/openmap-release/export/NumberText.h"
 #include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <algorithm>

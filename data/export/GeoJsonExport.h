@@ -8,8 +8,8 @@
 
 #include "data/OpenMapRelease.h"
 #include "data/ReleaseIndex.h"
-#include "tools/openmap-release/export/ExportBuffer.h"
-#include "tools/openmap-release/export/ExportHeader.h"
+#include "data/export/ExportBuffer.h"
+#include "data/export/ExportHeader.h"
 
 #include <span>
 

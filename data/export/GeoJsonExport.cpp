@@ -1,6 +1,6 @@
-#include "tools/openmap-release/export/GeoJsonExport.h"
+#include "data/export/GeoJsonExport.h"
 
-#include "tools/openmap-release/export/NumberText.h"
+#include "data/export/NumberText.h"
 
 #include <set>
 #include <string>

@@ -1,4 +1,4 @@
-#include "tools/openmap-release/export/CsvExport.h"
+#include "data/export/CsvExport.h"
 
 #include "tests/support/ReleaseBuilder.h"
 

@@ -1,6 +1,6 @@
-#include "tools/openmap-release/export/CsvExport.h"
+#include "data/export/CsvExport.h"
 
-#include "tools/openmap-release/export/NumberText.h"
+#include "data/export/NumberText.h"
 
 #include <algorithm>
 #include <initializer_list>

@@ -1,4 +1,4 @@
-#include "tools/openmap-release/export/GeoJsonExport.h"
+#include "data/export/GeoJsonExport.h"
 
 #include "tests/support/ReleaseBuilder.h"
 
