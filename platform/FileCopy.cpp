@@ -1,7 +1,8 @@
 #include "platform/FileCopy.h"
 
+#include "platform/WholeFile.h"
+
 #include <QFile>
-#include <QSaveFile>
 
 #include <array>
 #include <filesystem>
@@ -26,23 +27,21 @@ QString copyWhole(const QString& source, const QString& target) {
     if (areOneFile(source, target)) {
         return {};
     }
-    QSaveFile to(target);
-    if (!to.open(QIODevice::WriteOnly)) {
-        return to.errorString();
-    }
-    std::array<char, 1 << 16> step{};
-    for (;;) {
-        const qint64 count = from.read(step.data(), step.size());
-        if (count < 0) {
-            return from.errorString();
+    return writeWhole(target, [&](QIODevice& to) -> QString {
+        std::array<char, 1 << 16> step{};
+        for (;;) {
+            const qint64 count = from.read(step.data(), step.size());
+            if (count < 0) {
+                return from.errorString();
+            }
+            if (count == 0) {
+                return {};
+            }
+            if (to.write(step.data(), count) != count) {
+                return to.errorString();
+            }
         }
-        if (count == 0) {
-            return to.commit() ? QString() : to.errorString();
-        }
-        if (to.write(step.data(), count) != count) {
-            return to.errorString();
-        }
-    }
+    });
 }
 
 } // namespace vasker

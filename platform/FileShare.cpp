@@ -1,7 +1,6 @@
 #include "platform/FileShare.h"
 
 #include "platform/Appearance.h"
-#include "platform/Background.h"
 #include "platform/FileCopy.h"
 #include "platform/Portal.h"
 
@@ -11,24 +10,18 @@
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QDesktopServices>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QJSEngine>
 #include <QMimeData>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QStandardPaths>
 
 #include <memory>
-#include <system_error>
 
 namespace vasker {
 
 namespace {
 
-const QString fileChooser = QStringLiteral("org.freedesktop.portal.FileChooser");
 const QString openURI = QStringLiteral("org.freedesktop.portal.OpenURI");
 
 // The file itself, as the portal wants it: it need not find it by name. Not valid where it cannot
@@ -41,83 +34,30 @@ QDBusUnixFileDescriptor opened(const QString& path) {
 
 } // namespace
 
-FileShare::FileShare(const QDBusConnection& bus, QQmlEngine* engine, QObject* parent)
-    : QObject(parent), m_bus(bus), m_engine(engine) {}
+FileShare::FileShare(const QDBusConnection& bus, QObject* parent)
+    : QObject(parent), m_bus(bus), m_saving(bus) {
+    connect(&m_saving, &FileSaving::ended, this, [this](bool, const QString& message) {
+        setMessage(message);
+    });
+}
 
-FileShare* FileShare::create(QQmlEngine* engine, QJSEngine*) {
-    static auto* const shared = new FileShare(Appearance::sessionBus(), engine, qGuiApp);
+FileShare* FileShare::create(QQmlEngine*, QJSEngine*) {
+    static auto* const shared = new FileShare(Appearance::sessionBus(), qGuiApp);
     QJSEngine::setObjectOwnership(shared, QJSEngine::CppOwnership);
     return shared;
 }
 
 void FileShare::saveCopy(const QString& path, QQuickWindow* window) {
     setMessage({});
-    const PortalCall call{.interface = fileChooser,
-                          .method = QStringLiteral("SaveFile"),
-                          .arguments = {PortalRequest::parentName(window), tr("Save a copy")},
-                          .options = {{QStringLiteral("current_name"), QFileInfo(path).fileName()},
-                                      {QStringLiteral("modal"), true}}};
-    const QPointer<QQuickWindow> above(window);
-    PortalRequest::send(
-        m_bus,
-        call,
-        this,
-        [this, path, above](PortalRequest::Outcome outcome, const QVariantMap& results) {
-            if (outcome == PortalRequest::Outcome::unavailable) {
-                askByDialog(path, above);
-            } else if (outcome == PortalRequest::Outcome::done) {
-                const QStringList chosen = results.value(QStringLiteral("uris")).toStringList();
-                copyTo(path, QUrl(chosen.value(0)));
-            }
-        });
-}
-
-void FileShare::askByDialog(const QString& path, QQuickWindow* window) {
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    const QDir folder = documents.exists() ? documents : QDir::home();
-    const QString place = folder.filePath(QFileInfo(path).fileName());
-    std::unique_ptr<QObject> dialog;
-    if (m_engine != nullptr) {
-        QQmlComponent component(m_engine,
-                                QUrl(QStringLiteral("qrc:/qt/qml/Vasker/Platform/SaveDialog.qml")));
-        dialog.reset(component.createWithInitialProperties(
-            {{QStringLiteral("path"), path},
-             {QStringLiteral("place"), QUrl::fromLocalFile(place)},
-             {QStringLiteral("parentWindow"), QVariant::fromValue(window)}}));
-    }
-    if (dialog == nullptr || !dialog->property("visible").toBool()) {
-        setMessage(tr("The copy could not be saved: this desktop has no dialog to ask where."));
-        return;
-    }
-    // By name: the dialog's type is not public.
-    connect(dialog.get(), SIGNAL(finished()), dialog.get(), SLOT(deleteLater()));
-    dialog.release()->setParent(this);
-}
-
-bool FileShare::exists(const QUrl& place) const {
-    return place.isLocalFile() && QFileInfo::exists(place.toLocalFile());
+    m_saving.save(tr("Save a copy"),
+                  QFileInfo(path).fileName(),
+                  window,
+                  [path](const QString& target) { return copyWhole(path, target); });
 }
 
 void FileShare::copyTo(const QString& path, const QUrl& place) {
     setMessage({});
-    if (!place.isLocalFile()) {
-        setMessage(tr("The copy could not be saved: that place is not on this computer."));
-        return;
-    }
-    const QString target = place.toLocalFile();
-    const auto tellOf = [this, target](const QString& fault) {
-        setMessage(fault.isEmpty() ? tr("Saved to %1").arg(target)
-                                   : tr("The copy could not be saved: %1").arg(fault));
-    };
-    try {
-        runInBackground(
-            this,
-            [path, target](const std::stop_token&) { return copyWhole(path, target); },
-            tellOf,
-            AtExit::finish);
-    } catch (const std::system_error& error) {
-        tellOf(QString::fromStdString(error.code().message()));
-    }
+    m_saving.saveAt(place, [path](const QString& target) { return copyWhole(path, target); });
 }
 
 void FileShare::showInFolder(const QString& path) {

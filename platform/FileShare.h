@@ -3,9 +3,10 @@
 // to the clipboard, open it with another program. The desktop's portal does it where there is one.
 // The file itself is never changed, and nothing here waits: not for the desktop, not for a disk.
 
+#include "platform/FileSaving.h"
+
 #include <QDBusConnection>
 #include <QObject>
-#include <QPointer>
 #include <QQuickWindow>
 #include <QUrl>
 #include <QtQmlIntegration>
@@ -22,13 +23,10 @@ class FileShare : public QObject {
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
 
   public:
-    /// Asks portal and file manager on `bus`; one that is not connected is fine. Without a portal
-    /// `engine` shows a dialog of its own; it may be null: then there is none.
-    explicit FileShare(const QDBusConnection& bus,
-                       QQmlEngine* engine = nullptr,
-                       QObject* parent = nullptr);
+    /// Asks portal and file manager on `bus`; one that is not connected is fine.
+    explicit FileShare(const QDBusConnection& bus, QObject* parent = nullptr);
     /// The one object of the process, made on first use.
-    static FileShare* create(QQmlEngine* engine, QJSEngine*);
+    static FileShare* create(QQmlEngine*, QJSEngine*);
 
     /// How the last action ended, in one sentence for the user; empty before the first, while one
     /// is under way, and where there is nothing to say.
@@ -38,9 +36,7 @@ class FileShare : public QObject {
     Q_INVOKABLE void saveCopy(const QString& path, QQuickWindow* window);
     /// Saves a copy of the file at `path` at `place`, byte for byte. Other programs see what was
     /// there before or the whole copy, never a part; after a failure, what was there before.
-    Q_INVOKABLE void copyTo(const QString& path, const QUrl& place);
-    /// Whether a copy at `place` would take the place of another file.
-    [[nodiscard]] Q_INVOKABLE bool exists(const QUrl& place) const;
+    void copyTo(const QString& path, const QUrl& place);
     /// Shows the file at `path` in the file manager, else opens its folder.
     Q_INVOKABLE void showInFolder(const QString& path);
     /// Puts the file at `path` on the clipboard, for file managers to paste; texts get its path.
@@ -53,11 +49,10 @@ class FileShare : public QObject {
 
   private:
     void setMessage(const QString& message);
-    void askByDialog(const QString& path, QQuickWindow* window);
     void openFolder(const QString& path);
 
     QDBusConnection m_bus;
-    QPointer<QQmlEngine> m_engine;
+    FileSaving m_saving;
     QString m_message;
 };
 

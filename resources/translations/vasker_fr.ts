@@ -779,10 +779,6 @@
 <context>
     <name>SaveDialog</name>
     <message>
-        <source>Save a copy</source>
-        <translation>Enregistrer une copie</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
@@ -792,26 +788,29 @@
     </message>
 </context>
 <context>
-    <name>vasker::FileShare</name>
+    <name>vasker::FileSaving</name>
     <message>
-        <source>Save a copy</source>
-        <translation>Enregistrer une copie</translation>
+        <source>this desktop has no dialog to ask where.</source>
+        <translation>ce bureau n’a pas de dialogue pour demander où.</translation>
     </message>
     <message>
-        <source>The copy could not be saved: this desktop has no dialog to ask where.</source>
-        <translation>La copie n’a pas pu être enregistrée : ce bureau n’a pas de dialogue pour demander où.</translation>
-    </message>
-    <message>
-        <source>The copy could not be saved: that place is not on this computer.</source>
-        <translation>La copie n’a pas pu être enregistrée : cet emplacement n’est pas sur cet ordinateur.</translation>
+        <source>that place is not on this computer.</source>
+        <translation>cet emplacement n’est pas sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Saved to %1</source>
         <translation>Enregistré sous %1</translation>
     </message>
     <message>
-        <source>The copy could not be saved: %1</source>
-        <translation>La copie n’a pas pu être enregistrée : %1</translation>
+        <source>The file could not be saved: %1</source>
+        <translation>Le fichier n’a pas pu être enregistré : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::FileShare</name>
+    <message>
+        <source>Save a copy</source>
+        <translation>Enregistrer une copie</translation>
     </message>
     <message>
         <source>The folder could not be opened: %1</source>

@@ -69,7 +69,7 @@ TEST(FileShare, WithoutPortalAndDialogACopyCannotBeSaved) {
     FileShare share(noBus());
     share.saveCopy(file.path(), nullptr);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
-    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The copy could not be saved: ")));
+    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The file could not be saved: ")));
 }
 
 TEST(FileShare, ACopyTakesThePlaceOfAnotherFile) {
@@ -104,7 +104,7 @@ TEST(FileShare, WhatIsThereStaysWhereACopyFails) {
     FileShare share(noBus());
     share.copyTo(file.beside(QStringLiteral("absent")), QUrl::fromLocalFile(place));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
-    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The copy could not be saved: ")));
+    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The file could not be saved: ")));
     EXPECT_EQ(contentOf(place), QByteArray("there"));
 }
 
@@ -117,7 +117,7 @@ TEST(FileShare, APlaceThatCannotBeWrittenIsToldOf) {
                               QUrl()}) {
         share.copyTo(file.path(), place);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
-        EXPECT_TRUE(share.message().startsWith(QStringLiteral("The copy could not be saved: ")));
+        EXPECT_TRUE(share.message().startsWith(QStringLiteral("The file could not be saved: ")));
     }
     EXPECT_EQ(QDir(file.folder.path()).count(), 3U);
 }

@@ -2,32 +2,23 @@ import QtQuick
 import QtQuick.Dialogs
 import Vasker.Platform
 
-// Asks where a copy of a file is to be saved, where no portal does.
+// Asks where a file is to be saved, where no portal does.
 FileDialog {
     id: root
 
-    // The file that is copied, and where its copy is offered to go.
-    required property string path
-    required property url place
+    required property SaveQuestion asked
 
-    // Nothing is left to ask.
-    signal finished
-
-    function save(): void {
-        FileShare.copyTo(root.path, root.selectedFile);
-        root.finished();
-    }
-
-    title: qsTr("Save a copy")
+    title: root.asked.title
     acceptLabel: qsTr("Save")
+    parentWindow: root.asked.window
     fileMode: FileDialog.SaveFile
-    selectedFile: root.place
+    selectedFile: root.asked.offered
     // Qt's own dialog does not ask: the question below serves all. The linter knows neither the
     // names of its options nor of its buttons.
     options: FileDialog.DontConfirmOverwrite // qmllint disable
     Component.onCompleted: root.open()
-    onAccepted: FileShare.exists(root.selectedFile) ? question.open() : root.save()
-    onRejected: root.finished()
+    onAccepted: root.asked.isTaken(root.selectedFile) ? question.open() : root.asked.choose(root.selectedFile)
+    onRejected: root.asked.cancel()
 
     MessageDialog {
         id: question
@@ -36,7 +27,7 @@ FileDialog {
         title: root.title
         text: qsTr("There is a file of this name already. Replace it?")
         buttons: MessageDialog.Yes | MessageDialog.No // qmllint disable
-        onButtonClicked: button => button === MessageDialog.Yes ? root.save() : root.finished() // qmllint disable
-        onRejected: root.finished()
+        onButtonClicked: button => button === MessageDialog.Yes ? root.asked.choose(root.selectedFile) : root.asked.cancel() // qmllint disable
+        onRejected: root.asked.cancel()
     }
 }
