@@ -10,6 +10,7 @@ Rectangle {
     required property OpenMapApp application
     required property OpenMapWorkspace workspace
     required property SheetStack sheets
+    required property SaveCommands saves
 
     readonly property real endWidth: 12 + primary.width + 12
     readonly property real toolsWidth: options.fullWidth + reset.fullWidth + sources.fullWidth + 2 * tools.spacing
@@ -70,6 +71,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         application: root.application
         sheets: root.sheets
+        saves: root.saves
     }
     Rectangle {
         anchors.bottom: parent.bottom

@@ -82,6 +82,7 @@ void OpenMapRoot::finish(const LoadOutcome& outcome) {
                              m_preferences,
                              m_sheets,
                              m_bundle.resource(resourceName, resourceExtension).value_or(QString()),
+                             m_bundle.information(digestKey).toString(),
                              this);
     Q_EMIT screenChanged();
 }

@@ -18,9 +18,11 @@ OpenMapWorkspace::OpenMapWorkspace(std::shared_ptr<const LoadedRelease> loaded,
                                    Preferences& preferences,
                                    SheetStack& sheets,
                                    QString packagedFile,
+                                   QString digest,
                                    QObject* parent)
     : QObject(parent), m_loaded(std::move(loaded)), m_preferences(preferences), m_sheets(sheets),
-      m_packagedFile(std::move(packagedFile)), m_filter(m_loaded), m_basemap(basemap()) {
+      m_packagedFile(std::move(packagedFile)), m_digest(std::move(digest)), m_filter(m_loaded),
+      m_basemap(basemap()) {
     connect(&m_preferences, &Preferences::changed, this, [this] {
         if (std::exchange(m_basemap, basemap()) != m_basemap) {
             Q_EMIT basemapChanged();

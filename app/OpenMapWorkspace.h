@@ -38,11 +38,13 @@ class OpenMapWorkspace : public QObject {
     using Sheet = SheetStack::Sheet;
 
     /// `loaded` is not null; `preferences` and `sheets` outlive the workspace. `packagedFile` is
-    /// the path of the file that the release was read from; empty: there is none to hand out.
+    /// the path of the file that the release was read from, `digest` its SHA-256; empty: there is
+    /// none to hand out.
     OpenMapWorkspace(std::shared_ptr<const LoadedRelease> loaded,
                      Preferences& preferences,
                      SheetStack& sheets,
                      QString packagedFile = {},
+                     QString digest = {},
                      QObject* parent = nullptr);
 
     [[nodiscard]] const OpenMapRelease& release() const noexcept {
@@ -80,6 +82,7 @@ class OpenMapWorkspace : public QObject {
     /// The release and its record with this id; no record where none has it.
     Q_INVOKABLE vasker::ReleaseRecord recordOf(const QString& id) const;
     [[nodiscard]] const QString& packagedFile() const noexcept { return m_packagedFile; }
+    [[nodiscard]] const QString& digest() const noexcept { return m_digest; }
 
     /// The stored preference as it stands, known or not; "standard" where nothing is stored.
     [[nodiscard]] QString basemap() const;
@@ -110,6 +113,7 @@ class OpenMapWorkspace : public QObject {
     Preferences& m_preferences;
     SheetStack& m_sheets;
     QString m_packagedFile;
+    QString m_digest;
     RecordFilter m_filter;
     QString m_selection;
     Picked m_inspected; ///< what the inspector shows, or showed last

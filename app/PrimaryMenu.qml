@@ -8,6 +8,7 @@ HeaderButton {
 
     required property OpenMapApp application
     required property SheetStack sheets
+    required property SaveCommands saves
 
     objectName: "open-map-menu"
     symbol: "line.3.horizontal"
@@ -45,5 +46,16 @@ HeaderButton {
             startsGroup: true
             onPicked: root.application.closeAllWindows()
         }
+        MenuRow {
+            label: qsTr("Save the records shown…")
+            note: "Ctrl+S"
+            startsGroup: true
+            onPicked: root.saves.saveRecords(root.Window.window)
+        }
+    }
+    Shortcut {
+        sequence: "Ctrl+S"
+        autoRepeat: false
+        onActivated: root.saves.saveRecords(root.Window.window)
     }
 }

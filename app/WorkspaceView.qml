@@ -69,6 +69,7 @@ FocusScope {
             application: view.application
             workspace: view.workspace
             sheets: view.sheets
+            saves: saveCommands
         }
         MapCanvas {
             id: map
@@ -91,6 +92,18 @@ FocusScope {
             onMenuRequested: (id, place) => menu.offer(id, map, place)
             Keys.onEscapePressed: view.workspace.selection = ""
         }
+        SaveNotice {
+            anchors.horizontalCenter: map.horizontalCenter
+            anchors.bottom: map.bottom
+            anchors.bottomMargin: map.coveredBelow + 12
+            maximumWidth: map.width - 24
+            saves: saveCommands
+        }
+    }
+    SaveCommands {
+        id: saveCommands
+
+        workspace: view.workspace
     }
     SourcesSheet {
         id: sources

@@ -84,6 +84,10 @@ WindowSheet {
                 label: qsTr("Records in a sheet")
                 value: "Ctrl+R"
             }
+            LabelledRow {
+                label: qsTr("Save the records shown")
+                value: "Ctrl+S"
+            }
         }
         Section {
             title: qsTr("Map")

@@ -288,6 +288,10 @@
 <context>
     <name>PrimaryMenu</name>
     <message>
+        <source>Save the records shown…</source>
+        <translation>Enregistrer les fiches affichées…</translation>
+    </message>
+    <message>
         <source>Main menu</source>
         <translation>Menu principal</translation>
     </message>
@@ -476,6 +480,10 @@
 </context>
 <context>
     <name>ShortcutsSheet</name>
+    <message>
+        <source>Save the records shown</source>
+        <translation>Enregistrer les fiches affichées</translation>
+    </message>
     <message>
         <source>Keyboard shortcuts</source>
         <translation>Raccourcis clavier</translation>
@@ -785,6 +793,28 @@
     <message>
         <source>There is a file of this name already. Replace it?</source>
         <translation>Il y a déjà un fichier de ce nom. Le remplacer?</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::RecordFile</name>
+    <message>
+        <source>its name has to end in .csv or .geojson.</source>
+        <translation>son nom doit se terminer par .csv ou .geojson.</translation>
+    </message>
+    <message>
+        <source>it would be larger than %1 MiB.</source>
+        <translation>il dépasserait %1 Mio.</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::SaveCommands</name>
+    <message>
+        <source>Saving %1…</source>
+        <translation>Enregistrement de %1…</translation>
+    </message>
+    <message>
+        <source>Save the records shown, as .csv or .geojson</source>
+        <translation>Enregistrer les fiches affichées, en .csv ou .geojson</translation>
     </message>
 </context>
 <context>

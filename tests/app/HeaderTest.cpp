@@ -117,8 +117,12 @@ TEST_F(Header, TheMainMenuConcernsTheProgram) {
     openRecords();
     std::vector<QQuickItem*> rows = openMenu("open-map-menu");
     ASSERT_EQ(texts(rows),
-              (std::vector<std::string>{
-                  "New window", "Records…", "Keyboard shortcuts", "About Vasker Beta", "Quit"}));
+              (std::vector<std::string>{"New window",
+                                        "Records…",
+                                        "Keyboard shortcuts",
+                                        "About Vasker Beta",
+                                        "Quit",
+                                        "Save the records shown…"}));
     key(Qt::Key_R);
     key(Qt::Key_Return);
     EXPECT_TRUE(workspace().showingRecords());

@@ -142,6 +142,25 @@ def a_copy_of_the_release_is_saved(executable):
                 raise Missed("the copy is not the file")
 
 
+def the_records_shown_are_saved(executable):
+    with program_with_release(executable, RELEASE) as copy:
+        place = copy.parent / "shown.csv"
+        with Portal(save_to=place) as portal, Program(copy) as program:
+            program.see(name=PROMPT).set_text("plant 1")
+            program.see(name="1 of 2 records")
+            program.key("ctrl+s")
+            program.see(name=f"Saved to {place}")
+            offered = portal.asked("SaveFile")[2]["current_name"]
+            if not offered.endswith("-plant-1.csv"):
+                raise Missed(f"offered: {offered}")
+            heading, *rows = place.read_text(encoding="utf-8").splitlines()
+            if "query=plant 1,filter=all" not in heading:
+                raise Missed(f"the heading: {heading}")
+            if not rows or not all(row.startswith("A-10,") for row in rows):
+                raise Missed(f"the rows: {rows}")
+            program.miss(name=f"Saved to {place}")
+
+
 def the_records_sheet_comes_before_the_inspector(executable):
     with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
         program.see(name="2 of 2 records")

@@ -1,0 +1,42 @@
+import QtQuick
+import Vasker.App
+import Vasker.Platform
+
+// How saving ended. Good news goes by itself, bad news when it is pressed.
+Button {
+    id: root
+
+    required property SaveCommands saves
+    property real maximumWidth: 480
+
+    objectName: "open-map-save-notice"
+    label: root.saves.message
+    visible: label.length > 0
+    radius: 16
+    implicitWidth: Math.min(text.implicitWidth + 24, maximumWidth)
+    implicitHeight: text.implicitHeight + 14
+    Accessible.role: Accessible.AlertMessage
+    Accessible.ignored: !visible
+    onClicked: root.saves.forget()
+
+    background: RaisedSurface {
+        radius: root.radius
+    }
+    contentItem: Item {
+        Label {
+            id: text
+
+            x: 12
+            y: 7
+            width: root.width - 24
+            wrapMode: Text.Wrap
+            textStyle: Theme.type.footnote
+            text: root.label
+        }
+    }
+    Timer {
+        running: root.visible && !root.saves.failed
+        interval: 4000
+        onTriggered: root.saves.forget()
+    }
+}
