@@ -52,10 +52,34 @@ HeaderButton {
             startsGroup: true
             onPicked: root.saves.saveRecords(root.Window.window)
         }
+        MenuRow {
+            label: qsTr("Save a picture of the map…")
+            note: "Ctrl+Shift+S"
+            onPicked: root.saves.savePicture(root.Window.window)
+        }
+        MenuRow {
+            label: qsTr("Save a picture at twice the size…")
+            onPicked: root.saves.savePicture(root.Window.window, 2)
+        }
+        MenuRow {
+            label: qsTr("Copy picture of the map")
+            note: "Ctrl+Shift+C"
+            onPicked: root.saves.copyPicture()
+        }
     }
     Shortcut {
         sequence: "Ctrl+S"
         autoRepeat: false
         onActivated: root.saves.saveRecords(root.Window.window)
+    }
+    Shortcut {
+        sequence: "Ctrl+Shift+S"
+        autoRepeat: false
+        onActivated: root.saves.savePicture(root.Window.window)
+    }
+    Shortcut {
+        sequence: "Ctrl+Shift+C"
+        autoRepeat: false
+        onActivated: root.saves.copyPicture()
     }
 }

@@ -1,7 +1,9 @@
 #pragma once
 // What a window lets the user save of what it shows, and how the last such action ended.
 
+#include "app/MapPicture.h"
 #include "app/OpenMapWorkspace.h"
+#include "map/view/MapView.h"
 #include "platform/FileSaving.h"
 
 #include <QObject>
@@ -9,12 +11,16 @@
 #include <QString>
 #include <QtQmlIntegration>
 
+#include <functional>
+
 namespace vasker {
 
 class SaveCommands : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(vasker::OpenMapWorkspace* workspace MEMBER m_workspace REQUIRED)
+    /// A picture is taken of it; its property "pictured" is true meanwhile.
+    Q_PROPERTY(vasker::MapView* map MEMBER m_map REQUIRED)
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
     Q_PROPERTY(bool failed READ failed NOTIFY messageChanged)
 
@@ -33,13 +39,26 @@ class SaveCommands : public QObject {
     /// its order.
     Q_INVOKABLE void saveRecords(QQuickWindow* window);
 
+    /// The same for a picture of the map as it is seen now, `scale` times as large as on the
+    /// screen.
+    Q_INVOKABLE void savePicture(QQuickWindow* window, double scale = 1);
+    /// Puts a picture of the map as it is seen now on the clipboard.
+    Q_INVOKABLE void copyPicture();
+
   Q_SIGNALS:
     void messageChanged();
 
   private:
+    using Use = std::function<void(const MapPicture& picture)>;
+    void takePicture(double scale, const Use& use);
+    [[nodiscard]] MapPicture pictureOf(const QImage& grabbed) const;
+    /// Which records are shown; empty where all are.
+    [[nodiscard]] QString shownText() const;
+    [[nodiscard]] QString releaseID() const;
     void tell(const QString& message, bool failed = false);
 
     OpenMapWorkspace* m_workspace = nullptr;
+    MapView* m_map = nullptr;
     FileSaving m_saving;
     QString m_message;
     bool m_failed = false;

@@ -22,17 +22,15 @@ Button {
     background: RaisedSurface {
         radius: root.radius
     }
-    contentItem: Item {
-        Label {
-            id: text
+    Label {
+        id: text
 
-            x: 12
-            y: 7
-            width: root.width - 24
-            wrapMode: Text.Wrap
-            textStyle: Theme.type.footnote
-            text: root.label
-        }
+        x: 12
+        y: 7
+        width: root.width - 24
+        wrapMode: Text.Wrap
+        textStyle: Theme.type.footnote
+        text: root.label
     }
     Timer {
         running: root.visible && !root.saves.failed

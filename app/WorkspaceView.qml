@@ -46,7 +46,7 @@ FocusScope {
                 width: parent.width
                 filter: view.workspace.filter
                 selection: view.workspace.selection
-                hoveredOnMap: map.hover.recordId
+                hoveredOnMap: canvas.hover.recordId
                 onRecordPicked: id => view.workspace.selection = id
                 onEscaped: view.workspace.selection = ""
                 onCountPressed: view.sheets.request(SheetStack.Records)
@@ -72,7 +72,7 @@ FocusScope {
             saves: saveCommands
         }
         MapCanvas {
-            id: map
+            id: canvas
 
             anchors.left: divider.right
             anchors.right: parent.right
@@ -85,18 +85,18 @@ FocusScope {
             basemap: view.workspace.basemap
             tiles: view.application.tiles
             coveredRight: inspector.covered
-            hovered: map.hover.recordId.length > 0 ? map.hover.recordId : catalogue.hovered
+            hovered: canvas.hover.recordId.length > 0 ? canvas.hover.recordId : catalogue.hovered
             onPicked: id => view.workspace.selection = id
             onMoved: camera => view.workspace.camera = camera
             onOverviewRequested: view.workspace.resetCamera()
-            onMenuRequested: (id, place) => menu.offer(id, map, place)
+            onMenuRequested: (id, place) => menu.offer(id, canvas, place)
             Keys.onEscapePressed: view.workspace.selection = ""
         }
         SaveNotice {
-            anchors.horizontalCenter: map.horizontalCenter
-            anchors.bottom: map.bottom
-            anchors.bottomMargin: map.coveredBelow + 12
-            maximumWidth: map.width - 24
+            anchors.horizontalCenter: canvas.horizontalCenter
+            anchors.bottom: canvas.bottom
+            anchors.bottomMargin: canvas.coveredBelow + 12
+            maximumWidth: canvas.width - 24
             saves: saveCommands
         }
     }
@@ -104,6 +104,7 @@ FocusScope {
         id: saveCommands
 
         workspace: view.workspace
+        map: canvas
     }
     SourcesSheet {
         id: sources

@@ -89,42 +89,7 @@ WindowSheet {
                 value: "Ctrl+S"
             }
         }
-        Section {
-            title: qsTr("Map")
-
-            LabelledRow {
-                label: qsTr("Move")
-                value: qsTr("Arrow keys")
-            }
-            LabelledRow {
-                label: qsTr("Zoom in, out")
-                value: "+, −"
-            }
-            LabelledRow {
-                label: qsTr("Rotate")
-                value: qsTr("Shift+Left, Shift+Right")
-            }
-            LabelledRow {
-                label: qsTr("Tilt")
-                value: qsTr("Shift+Up, Shift+Down")
-            }
-            LabelledRow {
-                label: qsTr("North up, from above")
-                value: "N"
-            }
-            LabelledRow {
-                label: qsTr("Overview of Canada")
-                value: qsTr("Home")
-            }
-            LabelledRow {
-                label: qsTr("Pick what is in the middle")
-                value: qsTr("Enter or Space")
-            }
-            LabelledRow {
-                label: qsTr("Pick none")
-                value: qsTr("Esc")
-            }
-        }
+        MapShortcuts {}
         Section {
             title: qsTr("Sheets and menus")
 

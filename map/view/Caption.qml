@@ -5,11 +5,13 @@ import Vasker.Platform
 Rectangle {
     id: root
 
+    readonly property alias text: label.text
+
     objectName: "open-map-caption"
-    implicitHeight: Math.max(glyph.height, text.implicitHeight) + 20
+    implicitHeight: Math.max(glyph.height, label.implicitHeight) + 20
     color: Theme.colors.strip
     Accessible.role: Accessible.StaticText
-    Accessible.name: text.text
+    Accessible.name: root.text
 
     Rectangle {
         width: parent.width
@@ -26,7 +28,7 @@ Rectangle {
         color: Theme.colors.text
     }
     Label {
-        id: text
+        id: label
 
         x: glyph.x + glyph.width + 8
         y: 10

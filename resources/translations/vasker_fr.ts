@@ -288,6 +288,18 @@
 <context>
     <name>PrimaryMenu</name>
     <message>
+        <source>Save a picture of the map…</source>
+        <translation>Enregistrer une image de la carte…</translation>
+    </message>
+    <message>
+        <source>Save a picture at twice the size…</source>
+        <translation>Enregistrer une image deux fois plus grande…</translation>
+    </message>
+    <message>
+        <source>Copy picture of the map</source>
+        <translation>Copier l’image de la carte</translation>
+    </message>
+    <message>
         <source>Save the records shown…</source>
         <translation>Enregistrer les fiches affichées…</translation>
     </message>
@@ -479,6 +491,77 @@
     </message>
 </context>
 <context>
+    <name>MapShortcuts</name>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Flèches</translation>
+    </message>
+    <message>
+        <source>Zoom in, out</source>
+        <translation>Zoom avant, arrière</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Pivoter</translation>
+    </message>
+    <message>
+        <source>Shift+Left, Shift+Right</source>
+        <translation>Maj+Gauche, Maj+Droite</translation>
+    </message>
+    <message>
+        <source>Tilt</source>
+        <translation>Incliner</translation>
+    </message>
+    <message>
+        <source>Shift+Up, Shift+Down</source>
+        <translation>Maj+Haut, Maj+Bas</translation>
+    </message>
+    <message>
+        <source>North up, from above</source>
+        <translation>Nord en haut, vue d’en haut</translation>
+    </message>
+    <message>
+        <source>Overview of Canada</source>
+        <translation>Vue d’ensemble du Canada</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Save a picture of the map</source>
+        <translation>Enregistrer une image de la carte</translation>
+    </message>
+    <message>
+        <source>Copy picture of the map</source>
+        <translation>Copier l’image de la carte</translation>
+    </message>
+    <message>
+        <source>Pick what is in the middle</source>
+        <translation>Choisir ce qui est au milieu</translation>
+    </message>
+    <message>
+        <source>Enter or Space</source>
+        <translation>Entrée ou Espace</translation>
+    </message>
+    <message>
+        <source>Pick none</source>
+        <translation>N’en choisir aucune</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+</context>
+<context>
     <name>ShortcutsSheet</name>
     <message>
         <source>Save the records shown</source>
@@ -581,52 +664,8 @@
         <translation>Fiches dans un volet</translation>
     </message>
     <message>
-        <source>Map</source>
-        <translation>Carte</translation>
-    </message>
-    <message>
-        <source>Move</source>
-        <translation>Déplacer</translation>
-    </message>
-    <message>
         <source>Arrow keys</source>
         <translation>Flèches</translation>
-    </message>
-    <message>
-        <source>Zoom in, out</source>
-        <translation>Zoom avant, arrière</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Pivoter</translation>
-    </message>
-    <message>
-        <source>Shift+Left, Shift+Right</source>
-        <translation>Maj+Gauche, Maj+Droite</translation>
-    </message>
-    <message>
-        <source>Tilt</source>
-        <translation>Incliner</translation>
-    </message>
-    <message>
-        <source>Shift+Up, Shift+Down</source>
-        <translation>Maj+Haut, Maj+Bas</translation>
-    </message>
-    <message>
-        <source>North up, from above</source>
-        <translation>Nord en haut, vue d’en haut</translation>
-    </message>
-    <message>
-        <source>Overview of Canada</source>
-        <translation>Vue d’ensemble du Canada</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Début</translation>
-    </message>
-    <message>
-        <source>Pick what is in the middle</source>
-        <translation>Choisir ce qui est au milieu</translation>
     </message>
     <message>
         <source>Sheets and menus</source>
@@ -796,6 +835,13 @@
     </message>
 </context>
 <context>
+    <name>vasker::MapPicture</name>
+    <message>
+        <source>its name has to end in .png.</source>
+        <translation>son nom doit se terminer par .png.</translation>
+    </message>
+</context>
+<context>
     <name>vasker::RecordFile</name>
     <message>
         <source>its name has to end in .csv or .geojson.</source>
@@ -808,6 +854,34 @@
 </context>
 <context>
     <name>vasker::SaveCommands</name>
+    <message>
+        <source>Save a picture of the map, as .png</source>
+        <translation>Enregistrer une image de la carte, en .png</translation>
+    </message>
+    <message>
+        <source>The picture of the map is on the clipboard.</source>
+        <translation>L’image de la carte est dans le presse-papiers.</translation>
+    </message>
+    <message>
+        <source>The picture could not be taken.</source>
+        <translation>L’image n’a pas pu être prise.</translation>
+    </message>
+    <message>
+        <source>Search: %1</source>
+        <translation>Recherche : %1</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Catégorie : %1</translation>
+    </message>
+    <message>
+        <source>Basemap: %1</source>
+        <translation>Fond de carte : %1</translation>
+    </message>
+    <message>
+        <source>Release: %1</source>
+        <translation>Publication : %1</translation>
+    </message>
     <message>
         <source>Saving %1…</source>
         <translation>Enregistrement de %1…</translation>

@@ -122,7 +122,10 @@ TEST_F(Header, TheMainMenuConcernsTheProgram) {
                                         "Keyboard shortcuts",
                                         "About Vasker Beta",
                                         "Quit",
-                                        "Save the records shown…"}));
+                                        "Save the records shown…",
+                                        "Save a picture of the map…",
+                                        "Save a picture at twice the size…",
+                                        "Copy picture of the map"}));
     key(Qt::Key_R);
     key(Qt::Key_Return);
     EXPECT_TRUE(workspace().showingRecords());

@@ -1,6 +1,10 @@
 #include "app/QmlModules.h"
 #include "tests/app/OpenWindow.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+
 namespace vasker {
 namespace {
 
@@ -221,6 +225,23 @@ TEST_F(Window, TheKeyboardReachesTheMapAndItsControls) {
     EXPECT_NE(workspace().camera(), CameraPosition(canadaOverview));
     key(Qt::Key_Home);
     EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
+}
+
+TEST_F(Window, APictureOfTheMapIsCopiedWithoutWhatOnlyServesToUseIt) {
+    openRecords();
+    QQuickItem* const map = item("open-map-canvas");
+    QGuiApplication::clipboard()->clear();
+    key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(item("open-map-zoom-in")->parentItem()->opacity(), 0);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-save-notice") != nullptr; }));
+    EXPECT_EQ(item("open-map-save-notice")->property("label").toString(),
+              QStringLiteral("The picture of the map is on the clipboard."));
+    const QImage picture = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(picture.width(), map->width());
+    EXPECT_GT(picture.height(), map->height());
+    EXPECT_EQ(item("open-map-zoom-in")->parentItem()->opacity(), 1);
+    click(item("open-map-save-notice"));
+    EXPECT_EQ(item("open-map-save-notice"), nullptr);
 }
 
 TEST_F(Window, ASecondWindowHasItsOwnStateAndClosesByItself) {

@@ -161,6 +161,25 @@ def the_records_shown_are_saved(executable):
             program.miss(name=f"Saved to {place}")
 
 
+def a_picture_of_the_map_is_saved(executable):
+    with program_with_release(executable, RELEASE) as copy:
+        sizes = []
+        for row in ("Save a picture of the map…", "Save a picture at twice the size…"):
+            place = copy.parent / f"map {len(sizes)}.png"
+            with Portal(save_to=place) as portal, Program(copy) as program:
+                map_width = program.see(id="open-map-canvas").box()[2]
+                program.press(id="open-map-menu")
+                program.press(role="menu item", name=row)
+                program.see(name=f"Saved to {place}")
+                if portal.asked("SaveFile")[2]["current_name"] != "test-1-map.png":
+                    raise Missed(f"asked: {portal.calls}")
+            head = place.read_bytes()[:24]
+            sizes.append((int.from_bytes(head[16:20], "big"), int.from_bytes(head[20:24], "big")))
+        (width, height), doubled = sizes
+        if width != map_width or doubled != (2 * width, 2 * height):
+            raise Missed(f"a map {map_width} wide gives {sizes}")
+
+
 def the_records_sheet_comes_before_the_inspector(executable):
     with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
         program.see(name="2 of 2 records")
