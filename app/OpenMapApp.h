@@ -6,7 +6,7 @@
 #include "map/basemap/TileLibrary.h"
 #include "platform/Bundle.h"
 #include "platform/DesktopActivation.h"
-#include "platform/Preferences.h"
+#include "platform/files/Preferences.h"
 
 #include <QList>
 #include <QObject>

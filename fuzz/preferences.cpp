@@ -3,7 +3,7 @@
 
 #include "fuzz/support/Require.h"
 #include "fuzz/support/ScratchFolder.h"
-#include "platform/PreferenceFile.h"
+#include "platform/files/PreferenceFile.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "platform/Bundle.h"
 
-#include "platform/RegularFile.h"
+#include "platform/files/RegularFile.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -29,6 +29,12 @@ bool TileGeneration::covers(const std::vector<CoverTile>& cover) const {
                                [this](const CoverTile& tile) { return tiles.contains(tile.key); });
 }
 
+bool TileGeneration::coversBare(const std::vector<CoverTile>& cover) const {
+    return std::ranges::all_of(cover, [this](const CoverTile& tile) {
+        return tiles.contains(tile.key) || bare.contains(tile.key);
+    });
+}
+
 TileRequest TileGeneration::requestFor(TileKey key) const noexcept {
     return {.key = key,
             .devicePixelsPerMapPoint = std::ldexp(scale * devicePixelsPerPixel, key.zoom - zoom),

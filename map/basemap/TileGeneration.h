@@ -37,6 +37,8 @@ struct TileGeneration {
     [[nodiscard]] bool looksLike(const BasemapView& view) const noexcept;
     /// Whether it has all tiles of `cover`.
     [[nodiscard]] bool covers(const std::vector<CoverTile>& cover) const;
+    /// The same, apart from the overlay.
+    [[nodiscard]] bool coversBare(const std::vector<CoverTile>& cover) const;
     [[nodiscard]] TileRequest requestFor(TileKey key) const noexcept;
     /// The work of one of its tiles.
     [[nodiscard]] TileJob jobFor(TileKey key, std::shared_ptr<TileProvider> provider) const;

@@ -117,12 +117,7 @@ bool TilePyramid::covers(const TileGeneration& generation) {
 /// Whether all that is missing of the view is the overlay.
 bool TilePyramid::lacksOnlyOverlay(const TileGeneration& generation) {
     return m_view.camera.scale() >= generation.scale / 4 &&
-           std::ranges::all_of(cover(generation, 0),
-                               [&generation](const CoverTile& tile) {
-                                   return generation.tiles.contains(tile.key) ||
-                                          generation.bare.contains(tile.key);
-                               }) &&
-           !covers(generation);
+           generation.coversBare(cover(generation, 0)) && !covers(generation);
 }
 
 /// The images of a generation become textures a few a frame, before it is shown; those of the first

@@ -1,6 +1,6 @@
 // The header bar, its menus, and what the windows of the program have in common.
 
-#include "platform/Preferences.h"
+#include "platform/files/Preferences.h"
 #include "tests/app/OpenWindow.h"
 
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "app/MapPicture.h"
+#include "app/saving/MapPicture.h"
 
 #include <QDir>
 #include <QTemporaryDir>

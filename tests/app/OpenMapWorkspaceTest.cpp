@@ -1,7 +1,7 @@
 #include "app/OpenMapWorkspace.h"
 
 #include "map/records/Framing.h"
-#include "platform/Preferences.h"
+#include "platform/files/Preferences.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <QTemporaryDir>

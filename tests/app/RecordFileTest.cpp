@@ -1,4 +1,4 @@
-#include "app/RecordFile.h"
+#include "app/saving/RecordFile.h"
 
 #include "tests/support/ReleaseBuilder.h"
 

@@ -1,7 +1,7 @@
 #include "app/OpenMapRoot.h"
 #include "data/Digest.h"
 #include "data/ReleaseWriter.h"
-#include "platform/Preferences.h"
+#include "platform/files/Preferences.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
-#include "platform/FileSaving.h"
+#include "platform/files/FileSaving.h"
 
-#include "platform/WholeFile.h"
+#include "platform/files/WholeFile.h"
 #include "tests/platform/PlayedDesktop.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "platform/FileShare.h"
+#include "platform/files/FileShare.h"
 
 #include "tests/platform/PlayedDesktop.h"
 

@@ -1,4 +1,4 @@
-#include "platform/PreferenceFile.h"
+#include "platform/files/PreferenceFile.h"
 
 #include <QDir>
 #include <QElapsedTimer>

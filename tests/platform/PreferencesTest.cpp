@@ -1,4 +1,4 @@
-#include "platform/Preferences.h"
+#include "platform/files/Preferences.h"
 
 #include <QDir>
 #include <QElapsedTimer>

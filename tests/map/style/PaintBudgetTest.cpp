@@ -1,5 +1,14 @@
 #include "map/style/PaintBudget.h"
 
+#include "map/geometry/TileCover.h"
+#include "map/style/TilePainter.h"
+#include "map/style/VectorTilePainter.h"
+#include "map/tiles/TileArchive.h"
+#include "map/tiles/TileInflation.h"
+#include "map/tiles/VectorTileDecoding.h"
+
+#include <QPainter>
+
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -46,6 +55,32 @@ TEST(PaintBudget, WhatIsSpentStaysSpent) {
     EXPECT_FALSE(budget.spend(60));
     EXPECT_TRUE(budget.isSpent());
     EXPECT_FALSE(budget.spend(0));
+}
+
+TEST(PaintBudget, NoTileOfTheBuiltInBasemapTakesAQuarterOfTheBudget) {
+    const auto archive = TileArchive::open(VASKER_RESOURCES "/basemap.mbtiles");
+    ASSERT_NE(archive, nullptr);
+    const Camera canada(canadaOverview, {1280, 800});
+    int painted = 0;
+    for (int zoom = 1; zoom <= 6; ++zoom) {
+        for (const CoverTile& each : tileCover(canada, zoom, 0)) {
+            const auto stored = archive->nearestTile(each.key);
+            ASSERT_TRUE(stored);
+            TileData data;
+            data.vector = std::make_shared<const VectorTile>(
+                decodeVectorTile(inflatedTile(stored->bytes).value()).value());
+            data.vectorKey = stored->key;
+            QImage image(512, 512, QImage::Format_RGB32);
+            QPainter painter(&image);
+            painter.setRenderHint(QPainter::Antialiasing);
+            PaintBudget budget(outlineBudget * 512 / 4);
+            paintVectorTile(
+                painter, data, requestFor(each.key), BasemapTheme::light, styleLayers(), budget);
+            EXPECT_FALSE(budget.isSpent()) << zoom << ' ' << each.key.column << ' ' << each.key.row;
+            ++painted;
+        }
+    }
+    EXPECT_GT(painted, 50);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "platform/SaveQuestion.h"
+#include "platform/files/SaveQuestion.h"
 
 #include "platform/Portal.h"
 

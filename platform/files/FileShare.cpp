@@ -1,8 +1,8 @@
-#include "platform/FileShare.h"
+#include "platform/files/FileShare.h"
 
 #include "platform/Appearance.h"
-#include "platform/FileCopy.h"
 #include "platform/Portal.h"
+#include "platform/files/FileCopy.h"
 
 #include <QClipboard>
 #include <QDBusMessage>

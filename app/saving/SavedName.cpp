@@ -1,4 +1,4 @@
-#include "app/SavedName.h"
+#include "app/saving/SavedName.h"
 
 namespace vasker {
 

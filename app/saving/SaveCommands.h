@@ -1,10 +1,10 @@
 #pragma once
 // What a window lets the user save of what it shows, and how the last such action ended.
 
-#include "app/MapPicture.h"
 #include "app/OpenMapWorkspace.h"
+#include "app/saving/MapPicture.h"
 #include "map/view/MapView.h"
-#include "platform/FileSaving.h"
+#include "platform/files/FileSaving.h"
 
 #include <QObject>
 #include <QQuickWindow>

@@ -1,6 +1,6 @@
-#include "platform/FileCopy.h"
+#include "platform/files/FileCopy.h"
 
-#include "platform/WholeFile.h"
+#include "platform/files/WholeFile.h"
 
 #include <QFile>
 

@@ -6,7 +6,7 @@
 // Lines that are not understood, and keys that nobody here knows, stay as they are when another
 // value is written; so do values that another program writes at the same time.
 
-#include "platform/PreferenceFile.h"
+#include "platform/files/PreferenceFile.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>

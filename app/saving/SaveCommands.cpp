@@ -1,9 +1,9 @@
-#include "app/SaveCommands.h"
+#include "app/saving/SaveCommands.h"
 
-#include "app/RecordFile.h"
-#include "app/SavedName.h"
+#include "app/saving/RecordFile.h"
+#include "app/saving/SavedName.h"
 #include "platform/Appearance.h"
-#include "platform/ui/Theme.h"
+#include "platform/ui/theme/Theme.h"
 #include "presentation/RecordText.h"
 
 #include <QClipboard>

@@ -1,4 +1,4 @@
-#include "platform/WholeFile.h"
+#include "platform/files/WholeFile.h"
 
 #include <QSaveFile>
 

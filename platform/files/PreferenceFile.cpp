@@ -1,6 +1,6 @@
-#include "platform/PreferenceFile.h"
+#include "platform/files/PreferenceFile.h"
 
-#include "platform/RegularFile.h"
+#include "platform/files/RegularFile.h"
 
 #include <QDeadlineTimer>
 #include <QDir>

@@ -1,7 +1,7 @@
-#include "platform/FileSaving.h"
+#include "platform/files/FileSaving.h"
 
 #include "platform/Background.h"
-#include "platform/SaveQuestion.h"
+#include "platform/files/SaveQuestion.h"
 
 #include <system_error>
 

@@ -1,7 +1,7 @@
-#include "app/MapPicture.h"
+#include "app/saving/MapPicture.h"
 
-#include "platform/WholeFile.h"
-#include "platform/ui/TextStyles.h"
+#include "platform/files/WholeFile.h"
+#include "platform/ui/theme/TextStyles.h"
 
 #include <QCoreApplication>
 #include <QImageWriter>

@@ -3,7 +3,7 @@
 // to the clipboard, open it with another program. The desktop's portal does it where there is one.
 // The file itself is never changed, and nothing here waits: not for the desktop, not for a disk.
 
-#include "platform/FileSaving.h"
+#include "platform/files/FileSaving.h"
 
 #include <QDBusConnection>
 #include <QObject>

@@ -1,8 +1,8 @@
-#include "app/RecordFile.h"
+#include "app/saving/RecordFile.h"
 
 #include "data/export/CsvExport.h"
 #include "data/export/GeoJsonExport.h"
-#include "platform/WholeFile.h"
+#include "platform/files/WholeFile.h"
 
 #include <QIODevice>
 
