@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace vasker {
 namespace {
 
@@ -37,8 +39,8 @@ class WindowBasemap : public testing::Test {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
-    [[nodiscard]] static QByteArray archive() {
-        QFile file(QStringLiteral(VASKER_RESOURCES "/basemap.mbtiles"));
+    [[nodiscard]] static QByteArray archive(const char* name = "basemap.mbtiles") {
+        QFile file(QStringLiteral(VASKER_RESOURCES "/") + QString::fromLatin1(name));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
     }
@@ -81,6 +83,12 @@ class WindowBasemap : public testing::Test {
             texts.append(credit.toMap().value(QStringLiteral("text")).toString());
         }
         return texts;
+    }
+    [[nodiscard]] bool says(const QString& text) const {
+        const auto items = m_map->findChildren<QQuickItem*>();
+        return std::ranges::any_of(items, [&text](const QQuickItem* item) {
+            return item->isVisible() && item->property("text").toString() == text;
+        });
     }
     /// Nothing of the basemap is seen, and so nobody is credited.
     void expectRecordsAlone() {
@@ -140,6 +148,24 @@ TEST_F(WindowBasemap, WithGarbageInPlaceOfAnArchiveShowsTheRecordsAlone) {
 TEST_F(WindowBasemap, WithAFolderInPlaceOfAnArchiveShowsTheRecordsAlone) {
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("basemap.mbtiles")));
     expectRecordsAlone();
+}
+
+TEST_F(WindowBasemap, WithoutANetworkShowsTheBuiltInImageryAndSaysWhereItIsOnlyColour) {
+    const QString note = QStringLiteral("Sharper imagery needs a network connection");
+    const QString imagery = QStringLiteral("NASA Blue Marble");
+    write("basemap.mbtiles", archive());
+    write("imagery.mbtiles", archive("imagery.mbtiles"));
+    open(path("cache"));
+    ASSERT_NE(m_map, nullptr);
+    m_workspace->setBasemap(QStringLiteral("satellite"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attribution() == QStringList(imagery); }, 20'000));
+    EXPECT_FALSE(m_map->status()->lacksImagery());
+    EXPECT_FALSE(m_map->status()->lacksSharperImagery());
+    m_workspace->setSelection(QStringLiteral("A-0")); // the map comes near
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_map->status()->lacksSharperImagery(); }, 20'000));
+    EXPECT_EQ(attribution(), QStringList({imagery, QStringLiteral("Made with Natural Earth")}));
+    EXPECT_FALSE(m_map->status()->lacksImagery());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return says(note); }, 10'000));
 }
 
 TEST_F(WindowBasemap, NeedsNoCacheThatCanBeWritten) {
