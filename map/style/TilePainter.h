@@ -12,8 +12,8 @@ inline constexpr double outlineBudget = 1'600;
 
 /// The raster tile, opaque, of the size of request.pixels(). Where the theme asks for imagery and
 /// there is none, also in a part of the tile, the drawn map in its dark theme; over imagery that is
-/// enlarged, waters. Scales that make no
-/// sense are brought into range. Null where the vector tile asks for more than outlineBudget.
+/// enlarged, waters. Scales that make no sense are brought into range. Null where the vector tile
+/// asks for more than outlineBudget.
 [[nodiscard]] QImage paintTile(const TileData& data, const TileRequest& request);
 
 } // namespace vasker
