@@ -233,7 +233,8 @@ TileProvider::imagery(TileKey key, TileArchive* archive, ProvidedTile& found) {
     const ServiceTile sent{TileContent::imagery, key};
     if (const auto held = received(sent)) {
         if (QImage image = decodedImagery(held->bytes); !image.isNull()) {
-            return CreditedImagery{{key, std::move(image)}, attributionOf(sent)};
+            Attribution attribution = attributionOf(sent);
+            return CreditedImagery{{key, std::move(image)}, std::move(attribution)};
         }
         forget(sent, held->revision, found);
     }
@@ -246,8 +247,8 @@ TileProvider::imagery(TileKey key, TileArchive* archive, ProvidedTile& found) {
     if (image.isNull()) {
         return std::nullopt;
     }
-    return CreditedImagery{{key, std::move(image)},
-                           {QString::fromStdString(archive->attribution()), {}}};
+    Attribution attribution{QString::fromStdString(archive->attribution()), {}};
+    return CreditedImagery{{key, std::move(image)}, std::move(attribution)};
 }
 
 /// What was received has a source.
