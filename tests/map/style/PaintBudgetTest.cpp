@@ -74,8 +74,10 @@ TEST(PaintBudget, NoTileOfTheBuiltInBasemapTakesAQuarterOfTheBudget) {
             QPainter painter(&image);
             painter.setRenderHint(QPainter::Antialiasing);
             PaintBudget budget(outlineBudget * 512 / 4);
-            paintVectorTile(
-                painter, data, requestFor(each.key), BasemapTheme::light, styleLayers(), budget);
+            TileRequest request;
+            request.key = each.key;
+            request.devicePixelsPerMapPoint = 512 / each.key.side();
+            paintVectorTile(painter, data, request, BasemapTheme::light, styleLayers(), budget);
             EXPECT_FALSE(budget.isSpent()) << zoom << ' ' << each.key.column << ' ' << each.key.row;
             ++painted;
         }
