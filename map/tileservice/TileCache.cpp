@@ -35,6 +35,11 @@ QByteArray bytesOf(std::string_view bytes) {
     return {bytes.data(), static_cast<qsizetype>(bytes.size())};
 }
 
+/// Whether a file of which this is known is to be replaced.
+bool isUnusable(SqliteDatabase::State state) {
+    return state == SqliteDatabase::State::damaged || state == SqliteDatabase::State::overBudget;
+}
+
 } // namespace
 
 TileCache::TileCache(QString folder, qint64 mostBytes)
@@ -94,9 +99,12 @@ TileCache::Opened TileCache::openFile() {
                        "PRAGMA cell_size_check=ON; PRAGMA busy_timeout=100;");
     const bool isEmpty = m_database.number("SELECT count(*) FROM sqlite_schema") == 0;
     m_isWritable = m_database.isWritable();
+    // What looks empty may be damaged where the layout is to stand.
+    bool takesLayout = true;
     if (isEmpty && m_isWritable) {
-        m_database.execute("BEGIN IMMEDIATE") && m_database.execute(layout) &&
-            m_database.execute("COMMIT");
+        const bool isMade = m_database.execute("BEGIN IMMEDIATE") && m_database.execute(layout) &&
+                            m_database.execute("COMMIT");
+        takesLayout = isMade || !isUnusable(m_database.state());
         m_database.execute("ROLLBACK"); // where that failed
     }
     SqliteStatement query = m_database.prepare(hasLayout);
@@ -106,8 +114,7 @@ TileCache::Opened TileCache::openFile() {
     query = {};
     // A file of a newer version of SQLite may be read and not written.
     const bool isForeign = isOurs ? mayWrite && !m_isWritable
-                                  : state == SqliteDatabase::State::damaged ||
-                                        state == SqliteDatabase::State::overBudget ||
+                                  : !takesLayout || isUnusable(state) ||
                                         (state == SqliteDatabase::State::fine && !isEmpty);
     if (!isOurs || isForeign) {
         m_database.close();
@@ -129,8 +136,7 @@ bool TileCache::begin() {
 }
 
 void TileCache::checkDamage() {
-    const SqliteDatabase::State state = m_database.state();
-    if (state == SqliteDatabase::State::damaged || state == SqliteDatabase::State::overBudget) {
+    if (isUnusable(m_database.state())) {
         m_database.close();
         removeFiles();
         m_isOpen = false;

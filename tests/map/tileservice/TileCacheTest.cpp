@@ -186,6 +186,16 @@ TEST_F(ForeignTileCacheTest, AFileThatANewerSqliteAloneWritesIsReplaced) {
     EXPECT_TRUE(isReplaced());
 }
 
+TEST_F(ForeignTileCacheTest, ADatabaseThatLooksEmptyAndIsDamagedIsReplaced) {
+    make("CREATE TABLE t(c); DROP TABLE t");
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.seek(101); // where the first free block of the first page is said to be
+    file.write("\x0f\xf8");
+    file.close();
+    EXPECT_TRUE(isReplaced());
+}
+
 TEST_F(ForeignTileCacheTest, AFifoInThePlaceOfAFileIsReplaced) {
     for (const char* ending : {"", "-journal", "-wal"}) {
         TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
