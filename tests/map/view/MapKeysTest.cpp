@@ -61,9 +61,9 @@ TEST_F(MapKeys, NSetsTheMapUpright) {
 }
 
 TEST_F(MapKeys, HomeAsksForTheOverview) {
-    const QSignalSpy wishes(m_map, &MapView::overviewRequested);
+    const QSignalSpy requests(m_map, &MapView::overviewRequested);
     key(Qt::Key_Home);
-    EXPECT_EQ(wishes.size(), 1);
+    EXPECT_EQ(requests.size(), 1);
 }
 
 TEST_F(MapKeys, EnterAndSpacePickWhatIsInTheMiddle) {
