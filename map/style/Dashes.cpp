@@ -41,14 +41,6 @@ std::vector<QPolygonF> cutAtEdges(const QPolygonF& line, const QRectF& tile) {
     return pieces;
 }
 
-double lengthOf(const QPolygonF& line) {
-    double length = 0;
-    for (qsizetype i = 1; i < line.size(); ++i) {
-        length += distance(line[i - 1], line[i]);
-    }
-    return length;
-}
-
 /// Walks along a line and draws what lies under a dash; begins in the middle of one.
 class DashWalk {
   public:
@@ -117,6 +109,14 @@ bool drawBetweenEnds(const QPolygonF& line, double dash, double gap, const DrawD
 }
 
 } // namespace
+
+double lengthOf(const QPolygonF& line) {
+    double length = 0;
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        length += distance(line[i - 1], line[i]);
+    }
+    return length;
+}
 
 void dashes(
     const QPolygonF& line, double dash, double gap, const QRectF& tile, const DrawDash& draw) {

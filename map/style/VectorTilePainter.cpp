@@ -35,14 +35,6 @@ QPen penOf(const QColor& color, double width, Qt::PenCapStyle cap) {
 /// long lines are drawn in pieces, in sides of the raster tile.
 constexpr double longestPiece = 4;
 
-double lengthOf(const QPolygonF& line) {
-    double length = 0;
-    for (qsizetype i = 1; i < line.size(); ++i) {
-        length += QLineF(line[i - 1], line[i]).length();
-    }
-    return length;
-}
-
 QColor faded(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(static_cast<double>(color.alphaF()) * opacity));
     return color;
