@@ -11,22 +11,8 @@
 namespace vasker {
 namespace {
 
-OpenMapRelease::Asset record(std::string id, std::string name, std::string kind) {
-    OpenMapRelease::Asset asset = makeAsset();
-    asset.id = std::move(id);
-    asset.name = std::move(name);
-    asset.kind = std::move(kind);
-    return asset;
-}
-
-// In file order: two namesakes, numbered names out of order, a route.
 std::shared_ptr<const LoadedRelease> loaded() {
-    OpenMapRelease release = makeRelease();
-    release.assets = {record("ten", "Plant 10", "refinery"),
-                      record("two", "plant 2", "Zinc"),
-                      record("twin-b", "Twin", "gas_plant"),
-                      record("twin-a", "Twin", "refinery"),
-                      record("line", "Alder Line", "pipeline")};
+    OpenMapRelease release = makeReleaseOfNamesakes();
     release.assets[0].longitude = -100;
     release.assets[4].routes = {makeRoute()};
     return std::make_shared<const LoadedRelease>(

@@ -67,6 +67,23 @@ OpenMapRelease makeRelease() {
     return release;
 }
 
+OpenMapRelease makeReleaseOfNamesakes() {
+    const auto record = [](std::string id, std::string name, std::string kind) {
+        OpenMapRelease::Asset asset = makeAsset();
+        asset.id = std::move(id);
+        asset.name = std::move(name);
+        asset.kind = std::move(kind);
+        return asset;
+    };
+    OpenMapRelease release = makeRelease();
+    release.assets = {record("ten", "Plant 10", "refinery"),
+                      record("two", "plant 2", "Zinc"),
+                      record("twin-b", "Twin", "gas_plant"),
+                      record("twin-a", "Twin", "refinery"),
+                      record("line", "Alder Line", "pipeline")};
+    return release;
+}
+
 std::string replaced(std::string text, std::string_view from, std::string_view to) {
     const std::size_t at = text.find(from);
     if (at == std::string::npos || text.find(from, at + 1) != std::string::npos) {

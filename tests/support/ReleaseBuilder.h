@@ -22,6 +22,9 @@ namespace vasker {
 [[nodiscard]] OpenMapRelease::Route makeRoute(std::size_t points = 2);
 /// A valid release: one source, a facility with one fact and a pipeline with one route.
 [[nodiscard]] OpenMapRelease makeRelease();
+/// Five records in file order: two namesakes, numbered names out of order, a pipeline without a
+/// route.
+[[nodiscard]] OpenMapRelease makeReleaseOfNamesakes();
 
 /// `text` with its only occurrence of `from` replaced; throws if that is not the case.
 [[nodiscard]] std::string replaced(std::string text, std::string_view from, std::string_view to);

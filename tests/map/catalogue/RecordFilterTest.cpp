@@ -7,24 +7,9 @@
 namespace vasker {
 namespace {
 
-OpenMapRelease::Asset record(std::string id, std::string name, std::string kind) {
-    OpenMapRelease::Asset asset = makeAsset();
-    asset.id = std::move(id);
-    asset.name = std::move(name);
-    asset.kind = std::move(kind);
-    return asset;
-}
-
-// In file order: two namesakes, numbered names out of order.
 std::shared_ptr<const LoadedRelease> loaded() {
-    OpenMapRelease release = makeRelease();
-    release.assets = {record("ten", "Plant 10", "refinery"),
-                      record("two", "plant 2", "Zinc"),
-                      record("twin-b", "Twin", "gas_plant"),
-                      record("twin-a", "Twin", "refinery"),
-                      record("line", "Alder Line", "pipeline")};
     return std::make_shared<const LoadedRelease>(
-        std::make_shared<const OpenMapRelease>(std::move(release)), TextLocale("en_CA"));
+        std::make_shared<const OpenMapRelease>(makeReleaseOfNamesakes()), TextLocale("en_CA"));
 }
 
 class RecordFilterTest : public testing::Test {
