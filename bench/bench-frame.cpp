@@ -88,7 +88,8 @@ void requireRecordsInPicture(QQuickWindow& window,
     std::set<QRgb> tints;
     for (const auto& asset : release.assets) {
         tints.insert(
-            colorValue(color(asset.kind), map.dark() ? ColorScheme::dark : ColorScheme::light)
+            colorValue(color(asset.kind),
+                       map.property("dark").toBool() ? ColorScheme::dark : ColorScheme::light)
                 .rgb());
     }
     const QImage picture = window.grabWindow().convertToFormat(QImage::Format_RGB32);

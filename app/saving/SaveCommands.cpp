@@ -88,7 +88,7 @@ MapPicture SaveCommands::pictureOf(const QImage& grabbed) const {
     }
     publishers.removeDuplicates();
     // The caption covers the end of the map; its text goes below.
-    const double height = m_map->height() - m_map->coveredBelow();
+    const double height = m_map->height() - m_map->resolvedCamera().viewport().coveredBelow;
     return {.map = grabbed.copy(0, 0, grabbed.width(), static_cast<int>(height * scale)),
             .scale = scale,
             .title = QString::fromStdString(release.coverageName),

@@ -2,7 +2,7 @@
 // What of the basemap a map looks at, and how.
 
 #include "map/geometry/Camera.h"
-#include "map/labels/PlaceLabel.h"
+#include "map/labels/MapLanguage.h"
 #include "map/style/BasemapTheme.h"
 #include "map/style/TileOverlay.h"
 

@@ -6,6 +6,7 @@
 #include "map/basemap/RasterTile.h"
 #include "map/basemap/TileJob.h"
 #include "map/geometry/TileCover.h"
+#include "map/labels/MapLanguage.h"
 #include "map/style/TileRequest.h"
 #include "map/tileservice/ServiceTile.h"
 

@@ -3,6 +3,7 @@
 
 #include "map/basemap/RasterTile.h"
 #include "map/basemap/TileProvider.h"
+#include "map/labels/MapLanguage.h"
 #include "map/style/TileOverlay.h"
 #include "map/style/TileRequest.h"
 

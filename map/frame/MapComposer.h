@@ -6,6 +6,7 @@
 #include "map/frame/MapFrame.h"
 #include "map/frame/MapState.h"
 #include "map/labels/MapLabels.h"
+#include "map/labels/MapLanguage.h"
 #include "map/records/MapRecords.h"
 
 #include <QObject>

@@ -3,11 +3,17 @@
 #include <QGuiApplication>
 #include <QStyleHints>
 
+#include <chrono>
+#include <utility>
+
 namespace vasker {
 
 namespace {
 
 constexpr double buttonZoomSeconds = 0.3;
+
+/// A camera that has not moved for so long is at rest.
+constexpr std::chrono::milliseconds restTime{90};
 
 DoubleTap doubleTapOfDesktop() {
     const QStyleHints& hints = *QGuiApplication::styleHints();
@@ -24,7 +30,10 @@ struct Overloaded : Handlers... {
 
 MapNavigator::MapNavigator(std::function<Camera()> camera)
     : m_camera(std::move(camera)), m_input(doubleTapOfDesktop()) {
-    connect(&m_motion, &MapMotion::advanced, this, &MapNavigator::moved);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(restTime);
+    connect(&m_rest, &QTimer::timeout, this, &MapNavigator::rested);
+    connect(&m_motion, &MapMotion::advanced, this, &MapNavigator::move);
 }
 
 bool MapNavigator::handle(const MapEvent& event) {
@@ -41,7 +50,7 @@ bool MapNavigator::handle(const MapEvent& event) {
 void MapNavigator::carryOut(const MapCommand& command) {
     std::visit(Overloaded{
                    [this](const StopMotion&) { m_motion.cancel(); },
-                   [this](const SetCamera& set) { Q_EMIT moved(set.camera); },
+                   [this](const SetCamera& set) { move(set.camera); },
                    [this](const StartInertia& start) {
                        m_motion.startInertia(m_camera(), start.velocity);
                    },
@@ -67,6 +76,20 @@ void MapNavigator::carryOut(const MapCommand& command) {
                    [this](const TakeFocus&) { Q_EMIT focusRequested(); },
                },
                command);
+}
+
+void MapNavigator::move(const Camera& camera) {
+    m_movedTo = camera.pose();
+    Q_EMIT moved(camera.pose());
+}
+
+void MapNavigator::follow(const CameraPosition& position) {
+    if (m_movedTo && position == CameraPosition(*m_movedTo)) {
+        m_rest.start();
+    } else {
+        m_rest.stop();
+        stop();
+    }
 }
 
 void MapNavigator::zoomBy(double factor) {

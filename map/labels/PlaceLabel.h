@@ -9,9 +9,6 @@
 
 namespace vasker {
 
-/// Which name a label shows where a place has several.
-enum class MapLanguage : std::uint8_t { english, french };
-
 struct PlaceLabel {
     enum class Kind : std::uint8_t { country, region, capital, city, town, village, water };
     QString text;

@@ -1,6 +1,7 @@
 #pragma once
 // Which places of a tile get a label.
 
+#include "map/labels/MapLanguage.h"
 #include "map/labels/PlaceLabel.h"
 #include "map/style/TileData.h"
 #include "map/style/TileRequest.h"

@@ -41,7 +41,9 @@ class MapRecords {
     void setTheme(BasemapTheme theme);
     /// An id that no record has, or none that is shown, selects or highlights nothing.
     void setSelection(const QString& id);
+    [[nodiscard]] const QString& selection() const noexcept { return m_selection; }
     void setHovered(const QString& id);
+    [[nodiscard]] const QString& hovered() const noexcept { return m_hovered; }
 
     [[nodiscard]] const RecordSet& records() const noexcept { return m_records; }
     [[nodiscard]] const OpenMapRelease::Asset& asset(AssetIndex index) const;

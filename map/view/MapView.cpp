@@ -4,7 +4,6 @@
 #include "map/scene/Renderer.h"
 #include "platform/Locale.h"
 
-#include <QLocale>
 #include <QQuickWindow>
 
 #include <chrono>
@@ -12,50 +11,27 @@
 
 namespace vasker {
 
-namespace {
-
-/// A camera that has not moved for so long is at rest.
-constexpr std::chrono::milliseconds restTime{90};
-
-MapLanguage mapLanguage() {
-    static const bool isFrench = QLocale(messagesLocale()).language() == QLocale::French;
-    return isFrench ? MapLanguage::french : MapLanguage::english;
-}
-
-} // namespace
-
 MapView::MapView(QQuickItem* parent)
-    : InputItem(parent), m_composer(mapLanguage()),
-      m_navigator([this] { return resolvedCamera(); }), m_hover(m_composer.records()) {
+    : InputItem(parent), m_composer(mapLanguage(messagesLocale())),
+      m_interaction(*this, m_composer.records(), [this] { return resolvedCamera(); }) {
     setFlag(ItemHasContents);
     setClip(true);
-    m_rest.setSingleShot(true);
-    m_rest.setInterval(restTime);
     m_clock.start();
-    connect(&m_rest, &QTimer::timeout, this, &MapView::redraw);
     connect(&m_composer, &MapComposer::changed, this, &MapView::redraw);
-    connect(&m_hover, &MapHover::changed, this, &MapView::redraw);
-    connect(this, &MapView::selectionChanged, this, [this] {
-        m_composer.records().setSelection(m_selection);
-        redraw();
-    });
-    connect(this, &MapView::hoveredChanged, this, [this] {
-        m_composer.records().setHovered(m_hovered);
-        redraw();
-    });
     connect(this, &MapView::themeChanged, this, &MapView::refreshTheme);
     connect(this, &MapView::textScaleChanged, this, &MapView::redraw);
     connect(this, &MapView::coverChanged, this, &MapView::changeView);
-    connect(this, &MapView::motionChanged, this, [this] {
-        m_navigator.setReducedMotion(m_reducedMotion);
+    connect(&m_interaction.hover(), &MapHover::changed, this, &MapView::redraw);
+    connect(&m_interaction, &MapInteraction::picked, this, &MapView::picked);
+    connect(&m_interaction, &MapInteraction::choiceOffered, this, &MapView::choiceOffered);
+    connect(&m_interaction, &MapInteraction::menuRequested, this, &MapView::menuRequested);
+    MapNavigator& navigator = m_interaction.navigator();
+    connect(this, &MapView::motionChanged, &navigator, [this, &navigator] {
+        navigator.setReducedMotion(m_reducedMotion);
     });
-    m_navigator.pick = [this](const Pick& request) { return pick(request); };
-    connect(&m_navigator, &MapNavigator::moved, this, &MapView::moveCamera);
-    connect(&m_navigator, &MapNavigator::menuRequested, this, &MapView::openMenu);
-    connect(&m_navigator, &MapNavigator::overviewRequested, this, &MapView::overviewRequested);
-    connect(&m_navigator, &MapNavigator::focusRequested, this, [this] {
-        forceActiveFocus(Qt::MouseFocusReason);
-    });
+    connect(&navigator, &MapNavigator::rested, this, &MapView::redraw);
+    connect(&navigator, &MapNavigator::moved, this, &MapView::moved);
+    connect(&navigator, &MapNavigator::overviewRequested, this, &MapView::overviewRequested);
 }
 
 void MapView::setRecords(const RecordSet& records) {
@@ -66,20 +42,30 @@ void MapView::setRecords(const RecordSet& records) {
     }
 }
 
-void MapView::setCamera(const CameraPosition& camera) {
-    if (camera == m_camera) {
-        return;
+void MapView::setSelection(const QString& id) {
+    if (id != selection()) {
+        m_composer.records().setSelection(id);
+        redraw();
+        Q_EMIT selectionChanged();
     }
-    m_camera = camera;
-    if (m_movedTo && camera == CameraPosition(*m_movedTo)) {
-        m_rest.start();
+}
+
+void MapView::setHovered(const QString& id) {
+    if (id != hovered()) {
+        m_composer.records().setHovered(id);
+        redraw();
+        Q_EMIT hoveredChanged();
+    }
+}
+
+void MapView::setCamera(const CameraPosition& camera) {
+    if (camera != m_camera) {
+        m_camera = camera;
+        m_interaction.navigator().follow(camera);
         redraw();
         Q_EMIT viewChanged();
-    } else { // somebody else has moved it
-        m_rest.stop();
-        changeView();
+        Q_EMIT cameraChanged();
     }
-    Q_EMIT cameraChanged();
 }
 
 void MapView::setTiles(QObject* tiles) {
@@ -108,14 +94,9 @@ void MapView::refreshTheme() {
 }
 
 void MapView::changeView() {
-    m_navigator.stop();
+    m_interaction.navigator().stop();
     redraw();
     Q_EMIT viewChanged();
-}
-
-void MapView::moveCamera(const Camera& camera) {
-    m_movedTo = camera.pose();
-    Q_EMIT moved(camera.pose());
 }
 
 void MapView::redraw() {
@@ -129,7 +110,7 @@ Camera MapView::resolvedCamera() const {
 
 void MapView::componentComplete() {
     InputItem::componentComplete();
-    m_controls.watch(this, [this] { redraw(); }); // labels keep clear of them
+    m_interaction.controls().watch(this, [this] { redraw(); }); // labels keep clear of them
 }
 
 void MapView::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
@@ -152,14 +133,13 @@ void MapView::updatePolish() {
         return;
     }
     m_state.devicePixels = window()->effectiveDevicePixelRatio();
-    m_state.isResting = !m_rest.isActive();
+    m_state.textScale = m_textScale;
+    m_state.isResting = m_interaction.navigator().isResting();
     m_state.fades = !m_reducedMotion;
-    m_state.obstacles = m_controls.rects(*this);
-    m_state.unlabelled = m_hover.record();
-    MapFrame before = std::exchange(
-        m_frame,
-        m_composer.compose(
-            m_state, resolvedCamera(), std::chrono::nanoseconds(m_clock.nsecsElapsed())));
+    m_state.obstacles = m_interaction.controls().rects(*this);
+    m_state.unlabelled = m_interaction.hover().record();
+    const std::chrono::nanoseconds now(m_clock.nsecsElapsed());
+    MapFrame before = std::exchange(m_frame, m_composer.compose(m_state, resolvedCamera(), now));
     m_frame.takeImages(before);
     if (m_frame.isUnfinished) {
         QMetaObject::invokeMethod(this, &MapView::redraw, Qt::QueuedConnection);
@@ -180,53 +160,6 @@ QSGNode* MapView::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* /*data*
     }
     node->update(m_frame, *window());
     return node;
-}
-
-bool MapView::pick(const Pick& request) {
-    const MapRecords& records = m_composer.records();
-    const auto record = records.hit(request.point, request.reach, resolvedCamera());
-    auto sharing = record ? records.sharingPlaceWith(*record) : std::vector<AssetIndex>();
-    if (sharing.size() > 1 && records.idOf(record) != m_selection) {
-        Q_EMIT choiceOffered({this->records().loaded,
-                              std::make_shared<const std::vector<AssetIndex>>(std::move(sharing))},
-                             QPointF(request.point.x, request.point.y));
-    } else {
-        Q_EMIT picked(records.idOf(record));
-    }
-    return record.has_value();
-}
-
-void MapView::openMenu(ScreenPoint point, double reach) {
-    if (const auto record = m_composer.records().hit(point, reach, resolvedCamera())) {
-        Q_EMIT menuRequested(m_composer.records().idOf(record), QPointF(point.x, point.y));
-    }
-}
-
-void MapView::refreshCursor() {
-    const bool isDragging = m_navigator.input().drag() != MapInput::Drag::none;
-    setKeepMouseGrab(isDragging);
-    setCursor(isDragging         ? m_navigator.dragCursor()
-              : m_hover.record() ? Qt::PointingHandCursor
-                                 : Qt::ArrowCursor);
-}
-
-bool MapView::handle(const MapEvent& event) {
-    const bool isHandled = m_navigator.handle(event);
-    refreshCursor();
-    return isHandled;
-}
-
-void MapView::hoverAt(std::optional<QPointF> place) {
-    const Camera camera = resolvedCamera();
-    const QRectF free(0, 0, width() - m_coveredRight, height() - m_coveredBelow);
-    if (!place || m_navigator.input().isPressed() || !free.contains(*place) ||
-        m_controls.cover(*place, *this)) {
-        m_hover.clear();
-    } else {
-        const ScreenPoint point{place->x(), place->y()};
-        m_hover.setRecord(m_composer.records().hit(point, pointerReach, camera), point, camera);
-    }
-    refreshCursor();
 }
 
 } // namespace vasker

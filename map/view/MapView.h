@@ -4,17 +4,12 @@
 
 #include "map/frame/MapComposer.h"
 #include "map/input/InputItem.h"
-#include "map/input/MapNavigator.h"
-#include "map/view/MapControls.h"
-#include "map/view/MapHover.h"
+#include "map/view/MapInteraction.h"
 #include "map/view/MapStatus.h"
 
 #include <QElapsedTimer>
 #include <QQmlListProperty>
 #include <QString>
-#include <QTimer>
-
-#include <optional>
 
 namespace vasker {
 
@@ -30,8 +25,8 @@ class MapView : public vasker::InputItem {
     Q_PROPERTY(QString hovered READ hovered WRITE setHovered NOTIFY hoveredChanged)
     Q_PROPERTY(vasker::CameraPosition camera READ camera WRITE setCamera NOTIFY cameraChanged)
     /// The stored choice: "satellite", "hybrid", anything else the drawn map.
-    Q_PROPERTY(QString basemap READ basemap WRITE setBasemap NOTIFY themeChanged)
-    Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY themeChanged)
+    Q_PROPERTY(QString basemap MEMBER m_basemap NOTIFY themeChanged)
+    Q_PROPERTY(bool dark MEMBER m_dark NOTIFY themeChanged)
     /// The TileLibrary that tiles come from; it outlives the item. Null: there are no tiles.
     Q_PROPERTY(QObject* tiles READ tiles WRITE setTiles NOTIFY tilesChanged)
     /// The record under the pointer.
@@ -40,12 +35,12 @@ class MapView : public vasker::InputItem {
     /// The controls over the map: labels keep clear of them, and nothing below them is hovered.
     Q_PROPERTY(QQmlListProperty<QQuickItem> controls READ controls)
     /// The margins that something else covers, in logical pixels.
-    Q_PROPERTY(double coveredBelow READ coveredBelow WRITE setCoveredBelow NOTIFY coverChanged)
-    Q_PROPERTY(double coveredRight READ coveredRight WRITE setCoveredRight NOTIFY coverChanged)
+    Q_PROPERTY(double coveredBelow MEMBER m_coveredBelow NOTIFY coverChanged)
+    Q_PROPERTY(double coveredRight MEMBER m_coveredRight NOTIFY coverChanged)
     /// How large the desktop wants texts; 1 is the usual.
-    Q_PROPERTY(double textScale READ textScale WRITE setTextScale NOTIFY textScaleChanged)
+    Q_PROPERTY(double textScale MEMBER m_textScale NOTIFY textScaleChanged)
     /// Whether the camera is always at its end at once.
-    Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY motionChanged)
+    Q_PROPERTY(bool reducedMotion MEMBER m_reducedMotion NOTIFY motionChanged)
 
   public:
     explicit MapView(QQuickItem* parent = nullptr);
@@ -54,42 +49,34 @@ class MapView : public vasker::InputItem {
         return m_composer.records().records();
     }
     void setRecords(const RecordSet& records);
-    [[nodiscard]] const QString& selection() const noexcept { return m_selection; }
-    void setSelection(const QString& id) { set(m_selection, id, &MapView::selectionChanged); }
-    [[nodiscard]] const QString& hovered() const noexcept { return m_hovered; }
-    void setHovered(const QString& id) { set(m_hovered, id, &MapView::hoveredChanged); }
+    [[nodiscard]] const QString& selection() const noexcept {
+        return m_composer.records().selection();
+    }
+    void setSelection(const QString& id);
+    [[nodiscard]] const QString& hovered() const noexcept { return m_composer.records().hovered(); }
+    void setHovered(const QString& id);
     [[nodiscard]] const CameraPosition& camera() const noexcept { return m_camera; }
     void setCamera(const CameraPosition& camera);
-    [[nodiscard]] const QString& basemap() const noexcept { return m_basemap; }
-    void setBasemap(const QString& basemap) { set(m_basemap, basemap, &MapView::themeChanged); }
-    [[nodiscard]] bool dark() const noexcept { return m_dark; }
-    void setDark(bool dark) { set(m_dark, dark, &MapView::themeChanged); }
     [[nodiscard]] QObject* tiles() const noexcept { return m_composer.tiles(); }
     void setTiles(QObject* tiles);
-    [[nodiscard]] MapHover* hover() noexcept { return &m_hover; }
+    [[nodiscard]] MapHover* hover() noexcept { return &m_interaction.hover(); }
     [[nodiscard]] MapStatus* status() noexcept { return &m_status; }
-    [[nodiscard]] QQmlListProperty<QQuickItem> controls() { return {this, &m_controls.items}; }
-    [[nodiscard]] double coveredBelow() const noexcept { return m_coveredBelow; }
-    void setCoveredBelow(double pixels) { set(m_coveredBelow, pixels, &MapView::coverChanged); }
-    [[nodiscard]] double coveredRight() const noexcept { return m_coveredRight; }
-    void setCoveredRight(double pixels) { set(m_coveredRight, pixels, &MapView::coverChanged); }
-    [[nodiscard]] double textScale() const noexcept { return m_state.textScale; }
-    void setTextScale(double scale) { set(m_state.textScale, scale, &MapView::textScaleChanged); }
-    [[nodiscard]] bool reducedMotion() const noexcept { return m_reducedMotion; }
-    void setReducedMotion(bool reduced) { set(m_reducedMotion, reduced, &MapView::motionChanged); }
+    [[nodiscard]] QQmlListProperty<QQuickItem> controls() {
+        return {this, &m_interaction.controls().items};
+    }
 
     /// The camera in this item as it is.
     [[nodiscard]] Camera resolvedCamera() const;
     /// Whether the last frame showed all that is asked for.
     [[nodiscard]] bool isComplete() const noexcept { return m_frame.isComplete; }
     /// Whether the camera is on its way by itself.
-    [[nodiscard]] bool isMoving() const { return m_navigator.isMoving(); }
+    [[nodiscard]] bool isMoving() const { return m_interaction.navigator().isMoving(); }
     /// How routes and dots are drawn. By itself the map chooses what is quicker on this machine.
     void setDrawing(RecordDrawing drawing);
     /// Moves of the camera that a control asks for, over time.
-    Q_INVOKABLE void zoomIn() { m_navigator.zoomBy(2); }
-    Q_INVOKABLE void zoomOut() { m_navigator.zoomBy(0.5); }
-    Q_INVOKABLE void resetNorth() { m_navigator.resetNorth(); }
+    Q_INVOKABLE void zoomIn() { m_interaction.navigator().zoomBy(2); }
+    Q_INVOKABLE void zoomOut() { m_interaction.navigator().zoomBy(0.5); }
+    Q_INVOKABLE void resetNorth() { m_interaction.navigator().resetNorth(); }
 
   Q_SIGNALS:
     void recordsChanged();
@@ -120,43 +107,27 @@ class MapView : public vasker::InputItem {
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void updatePolish() override;
     QSGNode* updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* data) override;
-    bool handle(const MapEvent& event) override;
-    void hoverAt(std::optional<QPointF> place) override;
+    bool handle(const MapEvent& event) override { return m_interaction.handle(event); }
+    void hoverAt(std::optional<QPointF> place) override { m_interaction.hoverAt(place); }
 
   private:
-    template <typename Value>
-    void set(Value& field, const Value& value, void (MapView::*changed)()) {
-        if (field != value) {
-            field = value;
-            Q_EMIT(this->*changed)();
-        }
-    }
     void redraw();
     void refreshTheme();
     void changeView();
-    void moveCamera(const Camera& camera);
-    void refreshCursor();
-    bool pick(const Pick& request);
-    void openMenu(ScreenPoint point, double reach);
 
     MapComposer m_composer;
     MapState m_state;
     MapFrame m_frame;
-    MapNavigator m_navigator;
-    MapHover m_hover;
+    MapInteraction m_interaction;
     MapStatus m_status;
-    MapControls m_controls;
-    QString m_selection;
-    QString m_hovered;
     QString m_basemap;
     bool m_dark = false;
     CameraPosition m_camera = canadaOverview;
-    std::optional<CameraPose> m_movedTo; ///< what moved() said last
     double m_coveredBelow = 0;
     double m_coveredRight = 0;
+    double m_textScale = 1;
     bool m_reducedMotion = false;
     bool m_choosesDrawing = true; ///< when the renderer is known
-    QTimer m_rest;                ///< runs while the camera is being moved
     QElapsedTimer m_clock;        ///< of fades
 };
 

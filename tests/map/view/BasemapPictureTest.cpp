@@ -22,7 +22,7 @@ class MapGroundPicture : public testing::Test {
         m_window.resize(800, 600);
         m_map = new MapView(m_window.contentItem());
         m_map->setSize({800, 600});
-        m_map->setReducedMotion(true);
+        m_map->setProperty("reducedMotion", true);
         m_window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
         ASSERT_NE(m_window.rendererInterface()->graphicsApi(), QSGRendererInterface::Software);
@@ -40,7 +40,7 @@ class MapGroundPicture : public testing::Test {
         const std::string path = m_folder.filePath(QStringLiteral("imagery")).toStdString();
         writeArchive(path, {{{0, 0, 0}, imageryImage(Qt::red).toStdString()}});
         useArchives({.vector = {}, .imagery = path});
-        m_map->setBasemap(QStringLiteral("satellite"));
+        m_map->setProperty("basemap", QStringLiteral("satellite"));
     }
     void show(std::vector<OpenMapRelease::Asset> assets) {
         m_map->setRecords(recordSetOf(std::move(assets)));
@@ -183,7 +183,7 @@ TEST_F(MapGroundPicture, AnotherStyleKeepsTheCamera) {
     m_map->setCamera(pose);
     QImage last = picture();
     for (const char16_t* basemap : {u"satellite", u"standard", u"hybrid", u"Satellite"}) {
-        m_map->setBasemap(QString::fromUtf16(basemap));
+        m_map->setProperty("basemap", QString::fromUtf16(basemap));
         const QImage seen = picture();
         EXPECT_NE(seen, last);
         EXPECT_EQ(m_map->resolvedCamera().pose(), pose);

@@ -101,7 +101,7 @@ TEST_F(MapFrame, AFilterThatLeavesNothingLeavesTheGround) {
 
 TEST_F(MapFrame, TheDarkMapUsesTheBrightColors) {
     show({facilityAt(54, -112, "refinery")});
-    m_map->setDark(true);
+    m_map->setProperty("dark", true);
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)),
               colorValue(PaletteColor::red, ColorScheme::dark));
     EXPECT_EQ(colorAt({40, 40}), mapTheme(BasemapTheme::dark).background);

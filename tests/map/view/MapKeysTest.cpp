@@ -111,7 +111,7 @@ TEST_F(MapKeys, ShiftMayBeReleasedBeforeTheArrow) {
 }
 
 TEST_F(MapKeys, WithReducedMotionEveryPressAndRepeatIsAStepAtOnce) {
-    m_map->setReducedMotion(true);
+    m_map->setProperty("reducedMotion", true);
     const MapPoint center = camera().center();
     QTest::keyPress(&m_window, Qt::Key_Right);
     expectGroundAt(center, {300, 300});

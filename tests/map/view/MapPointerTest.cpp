@@ -69,7 +69,7 @@ TEST_F(MapPointer, ACameraSetFromOutsideEndsTheMotion) {
 }
 
 TEST_F(MapPointer, WithReducedMotionADragDoesNotGlide) {
-    m_map->setReducedMotion(true);
+    m_map->setProperty("reducedMotion", true);
     press({200, 300}, 1000);
     moveTo({260, 300}, 1040);
     moveTo({320, 300}, 1080);
@@ -89,7 +89,7 @@ TEST_F(MapPointer, NotchesOfTheWheelAddUpAtThePointer) {
 }
 
 TEST_F(MapPointer, WithReducedMotionANotchIsThereAtOnce) {
-    m_map->setReducedMotion(true);
+    m_map->setProperty("reducedMotion", true);
     const double scale = camera().scale();
     wheel({650, 150}, 240);
     EXPECT_FALSE(m_map->isMoving());
@@ -193,8 +193,8 @@ TEST_F(MapPointer, ATremblingClickIsAClick) {
 }
 
 TEST_F(MapPointer, TheRegionIsCentredInThePartThatNothingCovers) {
-    m_map->setCoveredBelow(60);
-    m_map->setCoveredRight(200);
+    m_map->setProperty("coveredBelow", 60);
+    m_map->setProperty("coveredRight", 200);
     expectGroundAt(coordinateToMapPoint({54, -112}), {300, 270});
 }
 
