@@ -8,7 +8,6 @@
 #include <QQmlEngine>
 #include <QStandardPaths>
 
-#include <memory>
 #include <utility>
 
 namespace vasker {
@@ -49,18 +48,15 @@ void SaveQuestion::askByPortal(const QDBusConnection& bus) {
 
 void SaveQuestion::askByDialog() {
     QQmlEngine* const engine = m_window == nullptr ? nullptr : qmlEngine(m_window);
-    std::unique_ptr<QObject> dialog;
     if (engine != nullptr) {
         QQmlComponent component(engine,
                                 QUrl(QStringLiteral("qrc:/qt/qml/Vasker/Platform/SaveDialog.qml")));
-        dialog.reset(component.createWithInitialProperties(
+        m_dialog.reset(component.createWithInitialProperties(
             {{QStringLiteral("asked"), QVariant::fromValue(this)}}));
     }
-    if (dialog == nullptr || !dialog->property("visible").toBool()) {
+    if (m_dialog == nullptr || !m_dialog->property("visible").toBool()) {
         finish(Outcome::unavailable, {});
-        return;
     }
-    dialog.release()->setParent(this);
 }
 
 QUrl SaveQuestion::offered() const {

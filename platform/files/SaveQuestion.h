@@ -10,6 +10,7 @@
 #include <QtQmlIntegration>
 
 #include <functional>
+#include <memory>
 
 namespace vasker {
 
@@ -54,6 +55,7 @@ class SaveQuestion : public QObject {
     QString m_name;
     QPointer<QQuickWindow> m_window;
     Answer m_answer;
+    std::unique_ptr<QObject> m_dialog; ///< goes before the question that it shows
 };
 
 } // namespace vasker
