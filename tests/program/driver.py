@@ -182,7 +182,7 @@ class Screen:
 
 class Program:
     """The running program. Its settings are its own, and gone when it ends. What is given besides
-    changes its environment; None takes a variable away."""
+    changes its environment; None takes a variable away. It is to say nothing on standard error."""
 
     def __init__(self, executable, preferences=None, **environment):
         self._private = tempfile.TemporaryDirectory()
@@ -205,7 +205,8 @@ class Program:
         variables.update(environment)
         self.variables = {key: value for key, value in variables.items() if value is not None}
         self.executable = executable
-        self.process = subprocess.Popen([executable], env=self.variables)
+        self._errors = tempfile.TemporaryFile("w+")
+        self.process = subprocess.Popen([executable], env=self.variables, stderr=self._errors)
 
     def __enter__(self):
         return self
@@ -221,6 +222,12 @@ class Program:
             self.process.kill()
             self.process.wait()
         self._private.cleanup()
+        self._errors.seek(0)
+        said = self._errors.read()
+        if kind is not None:
+            print(said)
+        elif said:
+            raise Missed(f"nothing on standard error; it said:\n{said}")
 
     def windows(self):
         """The program's windows as they are now, in the order of their opening."""

@@ -1,0 +1,230 @@
+"""Uses the real window at random, as long as is asked for, and tells what that costs.
+
+    tools/headless /usr/bin/python3 tests/program/endurance.py PROGRAM [SECONDS [SEED]]
+
+It fails where the program ends, says anything on standard error, or keeps descriptors or threads.
+Memory and the longest time without an answer are printed; the same seed does the same again.
+"""
+
+import os
+import random
+import sys
+import threading
+import time
+from pathlib import Path
+
+from gi.repository import Gio, GLib
+
+from driver import Program, ask_display, wait
+
+NAME = "ca.vasker.OpenMap"
+MOST_WINDOWS = 3
+# After this time what is made once is there, and memory is to stay.
+WARM_SECONDS = 120
+WORDS = ["gas", "pipeline", "alberta", "usine", "é", "42", "  ", "coast", "zzzz", "compressor station", "Σ"]
+SIZES = [(900, 620), (1000, 700), (1280, 800), (1400, 900)]
+
+
+class Hand:
+    """A user who does anything."""
+
+    def __init__(self, program, seed):
+        self._program = program
+        self._random = random.Random(seed)
+        self._window = None
+        self._size = SIZES[0]
+        self._actions = [
+            (8, self.drag),
+            (8, self.scroll),
+            (6, self.click),
+            (3, self.open_menu),
+            (6, self.search),
+            (6, self.walk_the_list),
+            (6, self.steer),
+            (2, self.rotate),
+            (3, self.open_sheet),
+            (3, self.escape),
+            (2, self.tab),
+            (1, self.resize),
+            (1, self.open_window),
+            (1, self.close_window),
+        ]
+
+    def act(self):
+        """One action in one of the program's windows; its name."""
+        windows = self.windows()
+        if not windows:
+            raise AssertionError("the program has no window")
+        self._window = self._random.choice(windows)
+        self._display("windowraise", "windowfocus")
+        weights = [weight for weight, _ in self._actions]
+        action = self._random.choices(self._actions, weights)[0][1]
+        action()
+        return action.__name__
+
+    def windows(self):
+        return ask_display("search", "--onlyvisible", "--pid", str(self._program.process.pid)).split()
+
+    def _display(self, *commands):
+        for command in commands:
+            words = command.split(" ")
+            ask_display(words[0], self._window, *words[1:])
+
+    def _keys(self, *keys):
+        ask_display("key", "--delay", "20", *keys)
+
+    def _somewhere(self, left=0):
+        width, height = self._size
+        x = self._random.randrange(left, width)
+        y = self._random.randrange(height)
+        ask_display("mousemove", "--window", self._window, str(x), str(y))
+
+    def _on_the_map(self):
+        self._somewhere(left=340)
+
+    def drag(self):
+        self._on_the_map()
+        button = self._random.choice("113")
+        ask_display("mousedown", button)
+        for _ in range(self._random.randrange(2, 12)):
+            dx, dy = (self._random.randrange(-60, 61) for _ in range(2))
+            ask_display("mousemove_relative", "--", str(dx), str(dy))
+        ask_display("mouseup", button)
+
+    def scroll(self):
+        self._somewhere()
+        ask_display("click", "--repeat", str(self._random.randrange(1, 9)), "--delay", "30",
+                    self._random.choice("45"))
+
+    def click(self):
+        self._somewhere()
+        ask_display("click", "--repeat", self._random.choice("112"), "1")
+
+    def open_menu(self):
+        self._somewhere()
+        ask_display("click", "3")
+
+    def search(self):
+        self._keys("ctrl+f")
+        if self._random.random() < 0.5:
+            self._keys("ctrl+a", "BackSpace")
+        ask_display("type", "--delay", "25", self._random.choice(WORDS))
+
+    def walk_the_list(self):
+        self._keys("ctrl+f", *["Down"] * self._random.randrange(1, 9), "Return")
+
+    def steer(self):
+        self._on_the_map()
+        self._keys(*self._random.choices(["Left", "Right", "Up", "Down", "plus", "minus", "Home"], k=5))
+
+    def rotate(self):
+        self._keys(*self._random.choices(["shift+Left", "shift+Right", "shift+Up", "shift+Down", "n"], k=4))
+
+    def open_sheet(self):
+        self._keys(self._random.choice(["ctrl+r", "ctrl+question", "F1", "F10", "F11", "ctrl+s", "ctrl+shift+c"]))
+
+    def escape(self):
+        self._keys(*["Escape"] * self._random.randrange(1, 4))
+
+    def tab(self):
+        self._keys(*self._random.choices(["Tab", "shift+Tab", "space"], [6, 3, 1], k=6))
+
+    def resize(self):
+        self._size = self._random.choice(SIZES)
+        self._display("windowsize {} {}".format(*self._size))
+
+    def open_window(self):
+        if len(self.windows()) < MOST_WINDOWS:
+            self._keys("Escape", "Escape", "Escape", "ctrl+n")
+
+    def close_window(self):
+        if len(self.windows()) > 1:
+            self._keys("Escape", "Escape", "Escape", "ctrl+w")
+
+
+class Watch(threading.Thread):
+    """Asks the program again and again, and keeps the longest time until it answered."""
+
+    def __init__(self):
+        super().__init__(daemon=True)
+        self.longest = 0.0
+        self._over = threading.Event()
+
+    def run(self):
+        bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        while not self._over.wait(0.02):
+            begin = time.monotonic()
+            try:
+                bus.call_sync(
+                    NAME, "/" + NAME.replace(".", "/"), "org.freedesktop.DBus.Introspectable",
+                    "Introspect", None, None, Gio.DBusCallFlags.NO_AUTO_START, 10_000,
+                )
+            except GLib.Error:
+                continue  # the program has ended, which its user sees
+            self.longest = max(self.longest, time.monotonic() - begin)
+
+    def end(self):
+        self._over.set()
+        self.join()
+
+
+def costs(pid):
+    """What the program holds: private memory in MB, descriptors, threads."""
+    lines = Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
+    kilobytes = sum(int(line.split()[1]) for line in lines if line.startswith("Private_"))
+    return {
+        "memory": kilobytes / 1024,
+        "descriptors": len(os.listdir(f"/proc/{pid}/fd")),
+        "threads": len(os.listdir(f"/proc/{pid}/task")),
+    }
+
+
+def rested_costs(hand, pid):
+    """The same with one window and no sheet, a while after the last action."""
+    while len(hand.windows()) > 1:
+        hand._window = hand.windows()[-1]
+        hand._display("windowraise", "windowfocus")
+        hand._keys("Escape", "Escape", "Escape", "ctrl+w")
+        time.sleep(0.5)
+    hand._window = hand.windows()[0]
+    hand._display("windowraise", "windowfocus")
+    hand._keys("Escape", "Escape", "Escape", "ctrl+f", "ctrl+a", "BackSpace", "Escape", "Home")
+    time.sleep(8)
+    return costs(pid)
+
+
+def use(executable, seconds, seed):
+    with Program(executable) as program:
+        hand = Hand(program, seed)
+        wait(hand.windows, "there is no window")
+        time.sleep(3)
+        watch = Watch()
+        watch.start()
+        done = []
+        begin = time.monotonic()
+        first = None
+        while time.monotonic() < begin + seconds:
+            done.append(hand.act())
+            if program.process.poll() is not None:
+                raise AssertionError(f"it ended with {program.process.poll()} after {done[-20:]}")
+            if first is None and time.monotonic() > begin + min(WARM_SECONDS, seconds / 2):
+                first = rested_costs(hand, program.process.pid)
+        last = rested_costs(hand, program.process.pid)
+        watch.end()
+        print(f"seed {seed}: {len(done)} actions in {time.monotonic() - begin:.0f} s")
+        for name in first:
+            print(f"{name}: {first[name]:.0f}, at the end {last[name]:.0f}")
+        print(f"longest time without an answer: {1000 * watch.longest:.0f} ms")
+        assert last["descriptors"] <= first["descriptors"] + 2, "descriptors are kept"
+        assert last["threads"] <= first["threads"] + 2, "threads are kept"
+        hand._keys("ctrl+q")
+        status = program.process.wait(timeout=30)
+        assert status == 0, f"it ended with {status}"
+
+
+if __name__ == "__main__":
+    use(
+        sys.argv[1],
+        float(sys.argv[2]) if len(sys.argv) > 2 else 60,
+        int(sys.argv[3]) if len(sys.argv) > 3 else 1,
+    )
