@@ -80,7 +80,7 @@ class OpenMapWorkspace : public QObject {
     /// The release, and no record of it.
     [[nodiscard]] ReleaseRecord whole() const;
     /// The release and its record with this id; no record where none has it.
-    Q_INVOKABLE vasker::ReleaseRecord recordOf(const QString& id) const;
+    [[nodiscard]] Q_INVOKABLE vasker::ReleaseRecord recordOf(const QString& id) const;
     [[nodiscard]] const QString& packagedFile() const noexcept { return m_packagedFile; }
     [[nodiscard]] const QString& digest() const noexcept { return m_digest; }
 

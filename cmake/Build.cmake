@@ -1,4 +1,8 @@
-# What keeps builds quick.
+# What keeps builds quick. With CMAKE_UNITY_BUILD sources are compiled in groups, which is the quickest
+# for a build from nothing; without it, only what has changed is compiled.
+if(CMAKE_UNITY_BUILD)
+    set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON) # little is left to save, and clang-tidy cannot read them
+endif()
 
 # The headers of Qt that most sources include, compiled once for all targets. A source still includes
 # all that it uses: the test HeadersCompileAlone has none of this.
@@ -17,11 +21,11 @@ endfunction()
 # For a QML module, after qt_add_qml_module: views are compiled to bytecode, not to C++, and their
 # generated sources as one.
 function(vasker_compile_views_quickly target)
-    set_target_properties(${target} PROPERTIES
-        QT_QMLCACHEGEN_ARGUMENTS --only-bytecode
-        UNITY_BUILD ON
-        UNITY_BUILD_MODE GROUP)
-    get_target_property(sources ${target} SOURCES)
-    list(FILTER sources INCLUDE REGEX "/qmlcache/")
-    set_source_files_properties(${sources} PROPERTIES UNITY_GROUP views)
+    set_target_properties(${target} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
+    if(NOT CMAKE_UNITY_BUILD)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+        get_target_property(sources ${target} SOURCES)
+        list(FILTER sources INCLUDE REGEX "/qmlcache/")
+        set_source_files_properties(${sources} PROPERTIES UNITY_GROUP views)
+    endif()
 endfunction()

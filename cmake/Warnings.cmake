@@ -2,12 +2,19 @@
 # Errors only where a preset asks for it (VASKER_WARNINGS_AS_ERRORS), never for packagers.
 option(VASKER_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 
+# Where sources are compiled in groups, the compiler warns about types without linkage in "headers",
+# which are sources, about names of other sources, and about null pointers that are not there.
+set(no_false_alarms)
+if(CMAKE_UNITY_BUILD)
+    set(no_false_alarms -Wno-subobject-linkage -Wno-null-dereference -Wno-shadow -Wshadow=local)
+endif()
+
 add_library(vasker_warnings INTERFACE)
 target_compile_options(
     vasker_warnings
     INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
               -Woverloaded-virtual -Wnull-dereference -Wdouble-promotion -Wimplicit-fallthrough
-              $<$<BOOL:${VASKER_WARNINGS_AS_ERRORS}>:-Werror>)
+              ${no_false_alarms} $<$<BOOL:${VASKER_WARNINGS_AS_ERRORS}>:-Werror>)
 
 # Qt code: no implicit texts from bytes, no keyword macros.
 add_library(vasker_qt_rules INTERFACE)

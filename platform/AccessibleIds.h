@@ -25,7 +25,7 @@ class AccessibleIds : public QDBusVirtualObject, private QAccessible::Activation
     AccessibleIds();
     ~AccessibleIds() override;
 
-    QString introspect(const QString& path) const override;
+    [[nodiscard]] QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override;
 
   private:

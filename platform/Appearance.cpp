@@ -1,5 +1,7 @@
 #include "platform/Appearance.h"
 
+#include "platform/Portal.h"
+
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
@@ -19,9 +21,7 @@ namespace vasker {
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString interface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 const QString desktopGroup = QStringLiteral("org.freedesktop.appearance");
 const QString gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
@@ -62,9 +62,9 @@ Appearance::Appearance(const QDBusConnection& bus, QObject* parent) : QObject(pa
         return;
     }
     qRegisterMetaType<QDBusVariant>(); // the slot below is not connected without it
-    if (!m_bus.connect(service,
-                       path,
-                       interface,
+    if (!m_bus.connect(portalService,
+                       portalPath,
+                       settingsInterface,
                        QStringLiteral("SettingChanged"),
                        this,
                        SLOT(apply(QString, QString, QDBusVariant)))) {
@@ -106,8 +106,8 @@ Appearance* Appearance::create(QQmlEngine*, QJSEngine*) {
 
 void Appearance::askPortal() {
     qDBusRegisterMetaType<SettingsByGroup>();
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("ReadAll"));
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        portalService, portalPath, settingsInterface, QStringLiteral("ReadAll"));
     question << QStringList{desktopGroup, gnomeGroup, gnomeContrastGroup};
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(question), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {

@@ -50,7 +50,7 @@ class Appearance : public QObject {
     void changed();
 
   private Q_SLOTS:
-    void apply(const QString& group, const QString& key, const QDBusVariant& value);
+    void apply(const QString& group, const QString& key, const QDBusVariant& wrapped);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

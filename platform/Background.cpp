@@ -11,7 +11,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto patienceForUsefulWork = 10s;
-constexpr auto patience = 200ms;
+constexpr auto patienceForOtherWork = 200ms;
 
 struct Threads {
     std::mutex mutex;
@@ -72,7 +72,8 @@ void startBackgroundThread(std::function<void()> work, AtExit atExit) {
 bool finishBackgroundWork() {
     std::unique_lock lock(threads().mutex);
     threads().ended.wait_for(lock, patienceForUsefulWork, [] { return threads().useful == 0; });
-    return threads().ended.wait_for(lock, patience, [] { return threads().running == 0; });
+    return threads().ended.wait_for(
+        lock, patienceForOtherWork, [] { return threads().running == 0; });
 }
 
 } // namespace vasker

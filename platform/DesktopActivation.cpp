@@ -10,7 +10,7 @@ namespace vasker {
 
 namespace {
 
-const QString interface = QStringLiteral("org.freedesktop.Application");
+const QString applicationInterface = QStringLiteral("org.freedesktop.Application");
 const QString activationKey = QStringLiteral("activation-token");
 const QString startupKey = QStringLiteral("desktop-startup-id");
 
@@ -93,8 +93,8 @@ void DesktopActivation::withdraw() {
 }
 
 bool DesktopActivation::ask(const LaunchToken& token, std::chrono::milliseconds patience) {
-    QDBusMessage request =
-        QDBusMessage::createMethodCall(m_name, m_path, interface, QStringLiteral("Activate"));
+    QDBusMessage request = QDBusMessage::createMethodCall(
+        m_name, m_path, applicationInterface, QStringLiteral("Activate"));
     request << platformData(token);
     // Someone there has to take it: without the name nobody is started in our place.
     request.setAutoStartService(false);

@@ -15,14 +15,11 @@ namespace vasker {
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
-
 // Where the portal puts the request of this caller with this token.
 QString requestPath(const QDBusConnection& bus, const QString& token) {
     QString caller = bus.baseService().mid(1);
     caller.replace(u'.', u'_');
-    return path + QStringLiteral("/request/%1/%2").arg(caller, token);
+    return portalPath + QStringLiteral("/request/%1/%2").arg(caller, token);
 }
 
 } // namespace
@@ -43,7 +40,7 @@ void PortalRequest::send(const QDBusConnection& bus,
         QStringLiteral("vasker%1").arg(QRandomGenerator::global()->generate64(), 0, 36);
     call.options.insert(QStringLiteral("handle_token"), token);
     QDBusMessage message =
-        QDBusMessage::createMethodCall(service, path, call.interface, call.method);
+        QDBusMessage::createMethodCall(portalService, portalPath, call.interface, call.method);
     message.setArguments(call.arguments << call.options);
     // The answer may come before the reply to the call: listening starts first.
     request->listenAt(requestPath(bus, token));

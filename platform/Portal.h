@@ -14,6 +14,10 @@ class QWindow;
 
 namespace vasker {
 
+/// Where the portal is on the session bus.
+inline const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
+inline const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+
 /// What to ask of the portal: `method` of `interface`, with `options` after the other `arguments`.
 struct PortalCall {
     QString interface;

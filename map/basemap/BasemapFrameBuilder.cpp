@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 #include <utility>
 
 namespace vasker {
@@ -71,9 +72,9 @@ void BasemapFrameBuilder::add(RasterTile& tile, double offset, double opacity) {
     m_last.push_back(&tile);
     // What is drawn on top is named first.
     std::vector<Attribution>& attributions = m_frame.attributions;
-    for (auto each = tile.attributions.rbegin(); each != tile.attributions.rend(); ++each) {
-        std::erase(attributions, *each);
-        attributions.insert(attributions.begin(), *each);
+    for (const Attribution& each : std::views::reverse(tile.attributions)) {
+        std::erase(attributions, each);
+        attributions.insert(attributions.begin(), each);
     }
 }
 

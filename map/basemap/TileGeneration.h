@@ -32,7 +32,7 @@ struct TileGeneration {
     std::set<TileKey> outdated;         ///< of `tiles`: more is known of them now
 
     /// A generation for `view`, without tiles and overlay.
-    TileGeneration(std::uint64_t number, double scale, int zoom, const BasemapView& view);
+    TileGeneration(std::uint64_t generation, double ownScale, int ownZoom, const BasemapView& view);
 
     /// Whether its tiles look as `view` asks, apart from scale and overlay.
     [[nodiscard]] bool looksLike(const BasemapView& view) const noexcept;

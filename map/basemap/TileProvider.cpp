@@ -144,7 +144,7 @@ TileProvider::decoded(TileKey key, std::uint64_t revision, std::string_view byte
             return known->tile;
         }
     }
-    const VectorPointer tile = decode(bytes);
+    VectorPointer tile = decode(bytes);
     const auto cost = static_cast<qsizetype>(tile ? tile->memoryBytes() : 0) + leastCost;
     const std::scoped_lock lock(m_mutex);
     const Decoded* const known = m_decoded.object(place);

@@ -19,7 +19,7 @@ constexpr std::chrono::milliseconds timeToEnd{250};
 
 struct TileWorkers::State {
     struct Client {
-        std::uint64_t number;     ///< another one each time a client comes anew
+        std::uint64_t number = 0; ///< another one each time a client comes anew
         std::vector<Job> waiting; ///< the most urgent last
         int running = 0;
         std::stop_source stop;

@@ -45,7 +45,7 @@ class KindListModel : public QAbstractListModel {
     [[nodiscard]] QString currentLabel() const;
 
     /// The value of the entry in `row`, empty outside the list.
-    Q_INVOKABLE QString valueAt(int row) const;
+    [[nodiscard]] Q_INVOKABLE QString valueAt(int row) const;
     /// What the entries are called, in their order.
     [[nodiscard]] QList<QString> labels() const;
 

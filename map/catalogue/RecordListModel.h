@@ -57,9 +57,9 @@ class RecordListModel : public QAbstractListModel {
     [[nodiscard]] QString emptyTitle() const;
 
     /// The id of the record in `row`, empty outside the list.
-    Q_INVOKABLE QString idAt(int row) const;
+    [[nodiscard]] Q_INVOKABLE QString idAt(int row) const;
     /// The row of the record with this id, -1 where it has none.
-    Q_INVOKABLE int rowOf(const QString& id) const;
+    [[nodiscard]] Q_INVOKABLE int rowOf(const QString& id) const;
 
   Q_SIGNALS:
     void recordsChanged();

@@ -43,7 +43,7 @@ void MapMotion::begin(Motion motion) {
         Q_EMIT advanced(momentOf(motion, end)->camera);
         return;
     }
-    m_motion = std::move(motion);
+    m_motion = motion;
     start();
 }
 

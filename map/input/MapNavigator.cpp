@@ -26,6 +26,9 @@ struct Overloaded : Handlers... {
     using Handlers::operator()...;
 };
 
+template <typename... Handlers>
+Overloaded(Handlers...) -> Overloaded<Handlers...>; // clang 14 makes no such guide by itself
+
 } // namespace
 
 MapNavigator::MapNavigator(std::function<Camera()> camera)

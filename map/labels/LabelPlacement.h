@@ -43,10 +43,10 @@ inline constexpr LabelSides aroundThePoint{
 inline constexpr LabelSides onThePoint{LabelSide::centred};
 
 struct LabelCandidate {
-    std::uint64_t id; ///< the same in every frame, another for each label
-    ScreenPoint anchor;
-    double width; ///< of the label, in logical pixels
-    double height;
+    std::uint64_t id = 0; ///< the same in every frame, another for each label
+    ScreenPoint anchor{};
+    double width = 0; ///< of the label, in logical pixels
+    double height = 0;
     double gap = 0; ///< from the anchor to the label's nearest edge; centred: none
     LabelSides sides = aroundThePoint;
     double priority = 0; ///< the smaller comes first

@@ -11,8 +11,8 @@
 namespace vasker {
 
 struct Sprite {
-    ScreenPoint corner; ///< top-left, in item pixels
-    QRectF region;      ///< in the atlas, in logical pixels
+    ScreenPoint corner{}; ///< top-left, in item pixels
+    QRectF region;        ///< in the atlas, in logical pixels
 };
 
 /// Sprites of one atlas.

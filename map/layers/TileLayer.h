@@ -16,7 +16,7 @@ using TileNumber = std::uint64_t;
 
 /// Where a raster tile is seen.
 struct TileQuad {
-    TileNumber tile;
+    TileNumber tile{};
     /// From the top left, clockwise, in item pixels. Without an area nothing is seen; the texture
     /// is made all the same.
     std::array<PerspectivePoint, 4> corners{};

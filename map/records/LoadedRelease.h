@@ -13,7 +13,7 @@ struct LoadedRelease {
     ReleaseIndex index;
     RecordGeometry geometry;
 
-    LoadedRelease(std::shared_ptr<const OpenMapRelease> release,
+    LoadedRelease(const std::shared_ptr<const OpenMapRelease>& release,
                   TextLocale locale,
                   const std::stop_token& stop = {})
         : index(release, std::move(locale), stop), geometry(*release) {}

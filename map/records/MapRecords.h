@@ -79,8 +79,8 @@ class MapRecords {
     [[nodiscard]] std::shared_ptr<const MarkerLayout> layout(double scale);
     [[nodiscard]] const MarkerLayout* layoutOf(const TileOverlay* painted) const;
     [[nodiscard]] std::optional<AssetIndex> shownRecord(const QString& id) const;
-    [[nodiscard]] std::optional<Marker> markerOf(std::optional<AssetIndex> asset) const;
-    [[nodiscard]] LineStrip stripOf(std::optional<AssetIndex> asset, const Camera& camera) const;
+    [[nodiscard]] std::optional<Marker> markerOf(std::optional<AssetIndex> index) const;
+    [[nodiscard]] LineStrip stripOf(std::optional<AssetIndex> index, const Camera& camera) const;
     [[nodiscard]] std::vector<MapLayer> linesAndDots(const Camera& camera,
                                                      RecordDrawing drawing) const;
     void addPins(RecordFrame& frame, double devicePixels);

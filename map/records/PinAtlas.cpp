@@ -45,7 +45,7 @@ double margin(PinState state) {
     return std::ceil(std::max(outline, shadowHeight / 2 * enlargement(state)) + 1);
 }
 
-QSizeF cellSize(PinState state) {
+QSizeF pinCell(PinState state) {
     return {pinWidth * enlargement(state) + 2 * margin(state),
             std::ceil(pinHeight * enlargement(state)) + 2 * margin(state)};
 }
@@ -54,12 +54,12 @@ QSizeF cellSize(PinState state) {
 double rowOf(PinState state) {
     double y = 0;
     for (const PinState above : {PinState::plain, PinState::hovered}) {
-        y += above < state ? cellSize(above).height() : 0;
+        y += above < state ? pinCell(above).height() : 0;
     }
     return y;
 }
 
-QPainterPath outline() {
+QPainterPath pinOutline() {
     QPainterPath path(QPointF(11.3, 29.6));
     path.quadTo(12, 31.3, 12.7, 29.6);
     path.cubicTo(13.3, 26.9, 15, 23.8, 17.07, 22.88);
@@ -95,7 +95,7 @@ void paintPin(QPainter& painter, std::string_view kind, const MapTheme& theme, P
     painter.translate(margin(state), margin(state));
     painter.scale(scale, scale);
     paintShadow(painter);
-    const QPainterPath path = outline();
+    const QPainterPath path = pinOutline();
     const double ring = state == PinState::selected ? ringWidth / scale : 0;
     strokeOutside(painter, path, theme.markerOutline, casing + ring + outlineWidth / scale);
     if (ring > 0) {
@@ -124,8 +124,8 @@ PinAtlas::PinAtlas(std::span<const std::string> kinds, BasemapTheme theme, doubl
             kindOfColumn.emplace(place->second, kind);
         }
     }
-    const QSizeF size(cellSize(PinState::selected).width() * static_cast<double>(m_columns.size()),
-                      rowOf(PinState::selected) + cellSize(PinState::selected).height());
+    const QSizeF size(pinCell(PinState::selected).width() * static_cast<double>(m_columns.size()),
+                      rowOf(PinState::selected) + pinCell(PinState::selected).height());
     m_image = QImage((size * devicePixels).toSize().expandedTo({1, 1}),
                      QImage::Format_ARGB32_Premultiplied);
     m_image.setDevicePixelRatio(devicePixels);
@@ -147,8 +147,8 @@ QRectF PinAtlas::region(std::string_view kind, PinState state) const {
     if (column == m_columns.end()) {
         return {};
     }
-    const double x = column->second * cellSize(PinState::selected).width();
-    return {QPointF(x, rowOf(state)), cellSize(state)};
+    const double x = column->second * pinCell(PinState::selected).width();
+    return {QPointF(x, rowOf(state)), pinCell(state)};
 }
 
 ScreenPoint PinAtlas::tip(PinState state) noexcept {

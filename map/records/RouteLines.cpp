@@ -39,11 +39,12 @@ class Clip {
     double m_to = 1;
 };
 
-ScreenPoint between(ScreenPoint a, ScreenPoint b, double fraction) {
+ScreenPoint pointBetween(ScreenPoint a, ScreenPoint b, double fraction) {
     return {a.x + fraction * (b.x - a.x), a.y + fraction * (b.y - a.y)};
 }
 
-PerspectivePoint between(const PerspectivePoint& a, const PerspectivePoint& b, double fraction) {
+PerspectivePoint
+pointBetween(const PerspectivePoint& a, const PerspectivePoint& b, double fraction) {
     return {
         a.x + fraction * (b.x - a.x), a.y + fraction * (b.y - a.y), a.w + fraction * (b.w - a.w)};
 }
@@ -61,7 +62,7 @@ class LineCutter {
 
     void add(const PerspectivePoint& point) {
         if (m_hasLast && (point.w < nearestW) != (m_last.w < nearestW)) {
-            push(between(m_last, point, (nearestW - m_last.w) / (point.w - m_last.w)));
+            push(pointBetween(m_last, point, (nearestW - m_last.w) / (point.w - m_last.w)));
         }
         if (point.w < nearestW) {
             cut();
@@ -96,9 +97,9 @@ class LineCutter {
                 continue;
             }
             if (m_part.empty()) {
-                m_part.push_back(between(m_line[i], m_line[i + 1], clip.from()));
+                m_part.push_back(pointBetween(m_line[i], m_line[i + 1], clip.from()));
             }
-            const ScreenPoint last = between(m_line[i], m_line[i + 1], clip.to());
+            const ScreenPoint last = pointBetween(m_line[i], m_line[i + 1], clip.to());
             if (last != m_part.back()) {
                 m_part.push_back(last);
             }

@@ -11,7 +11,7 @@ namespace vasker {
 
 namespace {
 
-struct Vertex {
+struct DotVertex {
     float x, y;
     std::array<std::uint8_t, 4> colorAndCorner;
 };
@@ -36,13 +36,13 @@ class DotShader final : public QSGMaterialShader {
     }
 };
 
-const QSGGeometry::AttributeSet& attributes() {
-    static const QSGGeometry::Attribute parts[] = {
+const QSGGeometry::AttributeSet& dotAttributes() {
+    static const std::array parts{
         QSGGeometry::Attribute::createWithAttributeType(
             0, 2, QSGGeometry::FloatType, QSGGeometry::PositionAttribute),
         QSGGeometry::Attribute::createWithAttributeType(
             1, 4, QSGGeometry::UnsignedByteType, QSGGeometry::ColorAttribute)};
-    static const QSGGeometry::AttributeSet set{2, sizeof(Vertex), parts};
+    static const QSGGeometry::AttributeSet set{parts.size(), sizeof(DotVertex), parts.data()};
     return set;
 }
 
@@ -66,7 +66,7 @@ int DotMaterial::compare(const QSGMaterial* other) const {
     return this == other ? 0 : (this < other ? -1 : 1);
 }
 
-DotNode::DotNode() : m_geometry(attributes(), 0) {
+DotNode::DotNode() : m_geometry(dotAttributes(), 0) {
     m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
     m_geometry.setVertexDataPattern(QSGGeometry::StreamPattern);
     setGeometry(&m_geometry);
@@ -78,7 +78,7 @@ void DotNode::update(const DotLayer& layer, float devicePixels) {
         return;
     }
     m_geometry.allocate(static_cast<int>(3 * layer.dots.size()));
-    auto* vertex = static_cast<Vertex*>(m_geometry.vertexData());
+    auto* vertex = static_cast<DotVertex*>(m_geometry.vertexData());
     for (const Dot& dot : layer.dots) {
         for (std::uint8_t corner = 0; corner < 3; ++corner) {
             *vertex++ = {dot.x, dot.y, {dot.color[0], dot.color[1], dot.color[2], corner}};

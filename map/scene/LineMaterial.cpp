@@ -4,6 +4,8 @@
 
 #include <QSGMaterialShader>
 
+#include <array>
+
 namespace vasker {
 
 namespace {
@@ -44,14 +46,14 @@ LineMaterial::LineMaterial() {
 }
 
 const QSGGeometry::AttributeSet& LineMaterial::attributes() {
-    static const QSGGeometry::Attribute parts[] = {
+    static const std::array parts{
         QSGGeometry::Attribute::createWithAttributeType(
             0, 2, QSGGeometry::FloatType, QSGGeometry::PositionAttribute),
         QSGGeometry::Attribute::createWithAttributeType(
             1, 2, QSGGeometry::FloatType, QSGGeometry::UnknownAttribute),
         QSGGeometry::Attribute::createWithAttributeType(
             2, 4, QSGGeometry::UnsignedByteType, QSGGeometry::ColorAttribute)};
-    static const QSGGeometry::AttributeSet set{3, sizeof(LineVertex), parts};
+    static const QSGGeometry::AttributeSet set{parts.size(), sizeof(LineVertex), parts.data()};
     return set;
 }
 

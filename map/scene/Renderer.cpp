@@ -4,6 +4,9 @@
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 
+#include <algorithm>
+#include <array>
+
 namespace vasker {
 
 bool rendersInSoftware() {
@@ -13,12 +16,8 @@ bool rendersInSoftware() {
     }
     const QByteArray renderer(
         reinterpret_cast<const char*>(context->functions()->glGetString(GL_RENDERER)));
-    for (const char* name : {"llvmpipe", "softpipe", "swrast", "SWR", "Software Rasterizer"}) {
-        if (renderer.contains(name)) {
-            return true;
-        }
-    }
-    return false;
+    constexpr std::array software{"llvmpipe", "softpipe", "swrast", "SWR", "Software Rasterizer"};
+    return std::ranges::any_of(software, [&](const char* name) { return renderer.contains(name); });
 }
 
 } // namespace vasker

@@ -7,23 +7,24 @@
 #include <QSGMaterialShader>
 
 #include <algorithm>
+#include <array>
 
 namespace vasker {
 
 namespace {
 
-struct Vertex {
+struct TileVertex {
     float x, y, w;
     float u, v;
 };
 
-const QSGGeometry::AttributeSet& attributes() {
-    static const QSGGeometry::Attribute parts[] = {
+const QSGGeometry::AttributeSet& tileAttributes() {
+    static const std::array parts{
         QSGGeometry::Attribute::createWithAttributeType(
             0, 3, QSGGeometry::FloatType, QSGGeometry::PositionAttribute),
         QSGGeometry::Attribute::createWithAttributeType(
             1, 2, QSGGeometry::FloatType, QSGGeometry::TexCoordAttribute)};
-    static const QSGGeometry::AttributeSet set{2, sizeof(Vertex), parts};
+    static const QSGGeometry::AttributeSet set{parts.size(), sizeof(TileVertex), parts.data()};
     return set;
 }
 
@@ -76,7 +77,7 @@ int TileMaterial::compare(const QSGMaterial* other) const {
 }
 
 struct TileNode::Quad {
-    QSGGeometry geometry{attributes(), 4};
+    QSGGeometry geometry{tileAttributes(), 4};
     TileMaterial material;
     QSGGeometryNode node;
 
@@ -89,7 +90,7 @@ struct TileNode::Quad {
     }
 
     void update(const TileQuad& quad, QSGTexture& texture) {
-        auto* vertex = static_cast<Vertex*>(geometry.vertexData());
+        auto* vertex = static_cast<TileVertex*>(geometry.vertexData());
         struct Corner {
             std::size_t number;
             float u, v;

@@ -31,7 +31,7 @@ class UniformBlock {
 
 /// A colour as shaders blend it: components multiplied by alpha.
 [[nodiscard]] inline QVector4D premultiplied(const QColor& color) {
-    const float alpha = static_cast<float>(color.alphaF());
+    const auto alpha = static_cast<float>(color.alphaF());
     return {static_cast<float>(color.redF()) * alpha,
             static_cast<float>(color.greenF()) * alpha,
             static_cast<float>(color.blueF()) * alpha,

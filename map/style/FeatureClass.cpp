@@ -9,41 +9,41 @@ namespace {
 
 using enum FeatureClass;
 
-struct Kind {
+struct KindClass {
     std::string_view name;
     FeatureClass featureClass;
 };
 
 // clang-format off
 constexpr std::array landKinds{
-    Kind{"residential", urban}, Kind{"industrial", urban}, Kind{"commercial", urban}, Kind{"retail", urban},
-    Kind{"garages", urban}, Kind{"railway", urban}, Kind{"brownfield", urban}, Kind{"landfill", urban},
-    Kind{"forest", green}, Kind{"wood", green}, Kind{"park", green}, Kind{"grass", green}, Kind{"grassland", green},
-    Kind{"meadow", green}, Kind{"scrub", green}, Kind{"heath", green}, Kind{"golf_course", green},
-    Kind{"recreation_ground", green}, Kind{"village_green", green}, Kind{"garden", green}, Kind{"cemetery", green},
-    Kind{"grave_yard", green}, Kind{"orchard", green}, Kind{"vineyard", green}, Kind{"nature_reserve", green},
-    Kind{"allotments", green}, Kind{"glacier", ice},
+    KindClass{"residential", urban}, KindClass{"industrial", urban}, KindClass{"commercial", urban}, KindClass{"retail", urban},
+    KindClass{"garages", urban}, KindClass{"railway", urban}, KindClass{"brownfield", urban}, KindClass{"landfill", urban},
+    KindClass{"forest", green}, KindClass{"wood", green}, KindClass{"park", green}, KindClass{"grass", green}, KindClass{"grassland", green},
+    KindClass{"meadow", green}, KindClass{"scrub", green}, KindClass{"heath", green}, KindClass{"golf_course", green},
+    KindClass{"recreation_ground", green}, KindClass{"village_green", green}, KindClass{"garden", green}, KindClass{"cemetery", green},
+    KindClass{"grave_yard", green}, KindClass{"orchard", green}, KindClass{"vineyard", green}, KindClass{"nature_reserve", green},
+    KindClass{"allotments", green}, KindClass{"glacier", ice},
 };
 
 constexpr std::array streetKinds{
-    Kind{"motorway", motorway}, Kind{"motorway_link", motorway},
-    Kind{"trunk", primary}, Kind{"trunk_link", primary}, Kind{"primary", primary}, Kind{"primary_link", primary},
-    Kind{"secondary", secondary}, Kind{"secondary_link", secondary},
-    Kind{"tertiary", tertiary}, Kind{"tertiary_link", tertiary}, Kind{"runway", tertiary},
-    Kind{"unclassified", street}, Kind{"residential", street}, Kind{"living_street", street}, Kind{"busway", street},
-    Kind{"road", street},
-    Kind{"service", service}, Kind{"pedestrian", service}, Kind{"taxiway", service},
-    Kind{"track", path}, Kind{"path", path}, Kind{"footway", path}, Kind{"cycleway", path}, Kind{"bridleway", path},
-    Kind{"steps", path},
-    Kind{"ferry", ferry},
-    Kind{"rail", rail}, Kind{"narrow_gauge", rail}, Kind{"light_rail", rail}, Kind{"subway", rail}, Kind{"tram", rail},
-    Kind{"funicular", rail}, Kind{"monorail", rail},
+    KindClass{"motorway", motorway}, KindClass{"motorway_link", motorway},
+    KindClass{"trunk", primary}, KindClass{"trunk_link", primary}, KindClass{"primary", primary}, KindClass{"primary_link", primary},
+    KindClass{"secondary", secondary}, KindClass{"secondary_link", secondary},
+    KindClass{"tertiary", tertiary}, KindClass{"tertiary_link", tertiary}, KindClass{"runway", tertiary},
+    KindClass{"unclassified", street}, KindClass{"residential", street}, KindClass{"living_street", street}, KindClass{"busway", street},
+    KindClass{"road", street},
+    KindClass{"service", service}, KindClass{"pedestrian", service}, KindClass{"taxiway", service},
+    KindClass{"track", path}, KindClass{"path", path}, KindClass{"footway", path}, KindClass{"cycleway", path}, KindClass{"bridleway", path},
+    KindClass{"steps", path},
+    KindClass{"ferry", ferry},
+    KindClass{"rail", rail}, KindClass{"narrow_gauge", rail}, KindClass{"light_rail", rail}, KindClass{"subway", rail}, KindClass{"tram", rail},
+    KindClass{"funicular", rail}, KindClass{"monorail", rail},
 };
 // clang-format on
 
 template <typename Kinds>
 std::optional<FeatureClass> find(const Kinds& kinds, std::string_view name) noexcept {
-    const auto found = std::ranges::find(kinds, name, &Kind::name);
+    const auto found = std::ranges::find(kinds, name, &KindClass::name);
     return found == kinds.end() ? std::nullopt : std::optional(found->featureClass);
 }
 

@@ -37,9 +37,9 @@ struct MapTheme {
     QColor recordLabel;
     QColor labelHalo;
     // Records.
-    ColorScheme records;  ///< which values the record colours take
-    QColor markerCasing;  ///< around dots, pins and the selected route
-    QColor routeCasing;   ///< translucent
+    ColorScheme records = ColorScheme::light; ///< which values the record colours take
+    QColor markerCasing;                      ///< around dots, pins and the selected route
+    QColor routeCasing;                       ///< translucent
     QColor markerOutline; ///< around the casing of pins and of the selected route
     QColor pinSymbol;
 };

@@ -18,7 +18,7 @@ void CameraReadout::setMap(MapView* map) {
     if (map == m_map) {
         return;
     }
-    if (m_map) {
+    if (m_map != nullptr) {
         m_map->disconnect(this);
     }
     m_map = map;
@@ -31,7 +31,7 @@ void CameraReadout::setMap(MapView* map) {
 
 void CameraReadout::refresh() {
     Shown shown;
-    if (m_map) {
+    if (m_map != nullptr) {
         const Camera camera = m_map->resolvedCamera();
         const ScaleBar bar = scaleBar(camera, m_maximumBarLength);
         const ScreenPoint middle = camera.focus();

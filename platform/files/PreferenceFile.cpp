@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 
 // A few settings; a file beyond this is another's.
 constexpr qint64 maximumFileSize = 1'000'000;
-constexpr auto patience = 250ms;
+constexpr auto lockPatience = 250ms;
 constexpr auto betweenTries = 2ms;
 
 /// The lock that every change of a file in `folder` takes. It is the folder's, because the file
@@ -47,7 +47,7 @@ class FolderLock {
     /// False where another program holds it all the time. Where the file system has no locks,
     /// nobody can have it: true.
     [[nodiscard]] bool take() const {
-        const QDeadlineTimer end(patience);
+        const QDeadlineTimer end(lockPatience);
         while (::flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
             if (errno != EWOULDBLOCK && errno != EINTR) {
                 return true;

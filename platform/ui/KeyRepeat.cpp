@@ -9,7 +9,7 @@ namespace vasker {
 namespace {
 
 /// The display sends release and press together; a busy machine may read them apart.
-constexpr std::chrono::milliseconds patience(20);
+constexpr std::chrono::milliseconds releasePatience(20);
 
 bool isOfKey(const QEvent& event) {
     return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
@@ -20,7 +20,7 @@ bool isOfKey(const QEvent& event) {
 
 KeyRepeat::KeyRepeat() {
     m_patience.setSingleShot(true);
-    m_patience.setInterval(patience);
+    m_patience.setInterval(releasePatience);
     connect(&m_patience, &QTimer::timeout, this, [this] { deliverRelease(false); });
     qGuiApp->installEventFilter(this);
 }
@@ -60,7 +60,7 @@ void KeyRepeat::holdBack(QObject* window, const QKeyEvent& release) {
 
 void KeyRepeat::deliverRelease(bool isRepeat) {
     m_patience.stop();
-    if (const auto release = std::move(m_release); release && m_window) {
+    if (const auto release = std::move(m_release); release && !m_window.isNull()) {
         deliver(m_window, *release, isRepeat);
     }
 }

@@ -31,7 +31,7 @@ class SharedFile {
     QByteArray bytes = QByteArray("{\0\r\n\xff}", 6) + QByteArray(200000, 'x');
 };
 
-QByteArray contentOf(const QString& path) {
+QByteArray bytesAt(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
 }
@@ -46,7 +46,7 @@ TEST(FileShare, ACopyIsSavedWhereThePortalSays) {
     share.saveCopy(file.path(), nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
     EXPECT_EQ(share.message(), QStringLiteral("Saved to ") + place);
-    EXPECT_EQ(contentOf(place), file.bytes);
+    EXPECT_EQ(bytesAt(place), file.bytes);
     EXPECT_TRUE(QFile::permissions(place).testFlag(QFileDevice::WriteOwner));
     EXPECT_EQ(portal.asked.member(), QStringLiteral("SaveFile"));
     EXPECT_EQ(portal.options().value(QStringLiteral("current_name")),
@@ -82,7 +82,7 @@ TEST(FileShare, ACopyTakesThePlaceOfAnotherFile) {
     FileShare share(noBus());
     share.copyTo(file.path(), QUrl::fromLocalFile(place));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
-    EXPECT_EQ(contentOf(place), file.bytes);
+    EXPECT_EQ(bytesAt(place), file.bytes);
 }
 
 TEST(FileShare, ACopyOntoItselfChangesNothing) {
@@ -91,7 +91,7 @@ TEST(FileShare, ACopyOntoItselfChangesNothing) {
     share.copyTo(file.path(), QUrl::fromLocalFile(file.path()));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
     EXPECT_EQ(share.message(), QStringLiteral("Saved to ") + file.path());
-    EXPECT_EQ(contentOf(file.path()), file.bytes);
+    EXPECT_EQ(bytesAt(file.path()), file.bytes);
 }
 
 TEST(FileShare, WhatIsThereStaysWhereACopyFails) {
@@ -105,7 +105,7 @@ TEST(FileShare, WhatIsThereStaysWhereACopyFails) {
     share.copyTo(file.beside(QStringLiteral("absent")), QUrl::fromLocalFile(place));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
     EXPECT_TRUE(share.message().startsWith(QStringLiteral("The file could not be saved: ")));
-    EXPECT_EQ(contentOf(place), QByteArray("there"));
+    EXPECT_EQ(bytesAt(place), QByteArray("there"));
 }
 
 TEST(FileShare, APlaceThatCannotBeWrittenIsToldOf) {

@@ -96,7 +96,8 @@ QImage bake(const Elevation& raised, double radius, double reach, double pixelRa
 QImage baked(int level, bool dark, double radius, double reach, double pixelRatio) {
     static QHash<QString, QImage> cache;
     const QString key = QStringLiteral("%1 %2 %3 %4 %5");
-    QImage& picture = cache[key.arg(level).arg(dark).arg(radius).arg(reach).arg(pixelRatio)];
+    QImage& picture =
+        cache[key.arg(level).arg(dark ? 1 : 0).arg(radius).arg(reach).arg(pixelRatio)];
     if (picture.isNull()) {
         picture = bake(elevation(level, dark), radius, reach, pixelRatio);
     }

@@ -31,8 +31,8 @@ inline constexpr int paletteSize = 11;
 
 /// What raises a surface above others: the shadow below it and the hairline around it.
 struct Elevation {
-    double offset; ///< how far down the shadow falls, in logical pixels
-    double blur;   ///< its softness: twice the standard deviation, as style sheets count it
+    double offset = 0; ///< how far down the shadow falls, in logical pixels
+    double blur = 0;   ///< its softness: twice the standard deviation, as style sheets count it
     QColor shadow;
     QColor hairline;
 };

@@ -10,12 +10,12 @@ namespace {
 
 using Json = nlohmann::json;
 
-const ExportHeader header{"canada-energy-2026-11", std::string(64, 'a'), "gas \"x\"", "all"};
+const ExportHeader geoJsonHeader{"canada-energy-2026-11", std::string(64, 'a'), "gas \"x\"", "all"};
 
-Json exported(const OpenMapRelease& release, const std::vector<AssetIndex>& records) {
+Json exportedJson(const OpenMapRelease& release, const std::vector<AssetIndex>& records) {
     std::string text;
     const ExportOutcome outcome =
-        exportGeoJson(release, records, header, [&](std::string_view piece) {
+        exportGeoJson(release, records, geoJsonHeader, [&](std::string_view piece) {
             text += piece;
             return true;
         });
@@ -25,7 +25,7 @@ Json exported(const OpenMapRelease& release, const std::vector<AssetIndex>& reco
 
 TEST(GeoJsonExport, NamesReleaseDigestQueryFilterAndSources) {
     const OpenMapRelease release = makeRelease();
-    const Json collection = exported(release, {0, 1});
+    const Json collection = exportedJson(release, {0, 1});
     EXPECT_EQ(collection["type"], "FeatureCollection");
     EXPECT_EQ(collection["release"], "canada-energy-2026-11");
     EXPECT_EQ(collection["sha256"], std::string(64, 'a'));
@@ -39,22 +39,22 @@ TEST(GeoJsonExport, HasNoSourceThatNoRecordOfItCites) {
     OpenMapRelease release = makeRelease();
     release.sources.push_back(makeSource(1));
     release.assets[1].sourceID = sourceID(1);
-    EXPECT_EQ(exported(release, {0})["sources"].size(), 1U);
-    EXPECT_EQ(exported(release, {0, 1})["sources"].size(), 2U);
+    EXPECT_EQ(exportedJson(release, {0})["sources"].size(), 1U);
+    EXPECT_EQ(exportedJson(release, {0, 1})["sources"].size(), 2U);
 }
 
 TEST(GeoJsonExport, DrawsAFacilityAsAPoint) {
     OpenMapRelease release = makeRelease();
     release.assets[0].longitude = -118.267891;
     release.assets[0].latitude = 55.5;
-    EXPECT_EQ(exported(release, {0})["features"][0]["geometry"],
+    EXPECT_EQ(exportedJson(release, {0})["features"][0]["geometry"],
               Json::parse(R"({"type":"Point","coordinates":[-118.267891,55.5]})"));
 }
 
 TEST(GeoJsonExport, DrawsAPipelineAsLines) {
     OpenMapRelease release = makeRelease();
     release.assets[1].routes = {{{-110, 50}, {-109.5, 50.25}}, {{-90, 45}, {-89, 45}, {-88, 46}}};
-    EXPECT_EQ(exported(release, {1})["features"][0]["geometry"],
+    EXPECT_EQ(exportedJson(release, {1})["features"][0]["geometry"],
               Json::parse(R"({"type":"MultiLineString","coordinates":
                   [[[-110,50],[-109.5,50.25]],[[-90,45],[-89,45],[-88,46]]]})"));
 }
@@ -64,7 +64,7 @@ TEST(GeoJsonExport, HoldsTheRecordAndItsFactsEachWithItsSource) {
     OpenMapRelease::Asset& record = release.assets[0];
     record.asOf = "2016";
     record.facts = {{"Emissions", "1 \"kt\"\t\u00e9", sourceID(0), "2021"}};
-    const Json properties = exported(release, {0})["features"][0]["properties"];
+    const Json properties = exportedJson(release, {0})["features"][0]["properties"];
     EXPECT_EQ(properties["id"], record.id);
     EXPECT_EQ(properties["name"], record.name);
     EXPECT_EQ(properties["category_key"], record.kind);
@@ -82,10 +82,10 @@ TEST(GeoJsonExport, HoldsTheRecordAndItsFactsEachWithItsSource) {
 
 TEST(GeoJsonExport, KeepsTheOrderItIsGivenAndMayBeEmpty) {
     const OpenMapRelease release = makeRelease();
-    const Json collection = exported(release, {1, 0});
+    const Json collection = exportedJson(release, {1, 0});
     EXPECT_EQ(collection["features"][0]["properties"]["id"], "A-1");
     EXPECT_EQ(collection["features"][1]["properties"]["id"], "A-0");
-    EXPECT_EQ(exported(release, {})["features"], Json::array());
+    EXPECT_EQ(exportedJson(release, {})["features"], Json::array());
 }
 
 TEST(GeoJsonExport, EscapesEveryControlCharacter) {
@@ -94,13 +94,14 @@ TEST(GeoJsonExport, EscapesEveryControlCharacter) {
     for (char byte = 0; byte < 0x20; ++byte) {
         release.assets[0].name += byte;
     }
-    EXPECT_EQ(exported(release, {0})["features"][0]["properties"]["name"], release.assets[0].name);
+    EXPECT_EQ(exportedJson(release, {0})["features"][0]["properties"]["name"],
+              release.assets[0].name);
 }
 
 TEST(GeoJsonExport, EndsWhereItsSinkWantsNoMore) {
     const OpenMapRelease release = makeRelease();
     const std::vector<AssetIndex> many(10'000, 0);
-    EXPECT_EQ(exportGeoJson(release, many, header, [](std::string_view) { return false; }),
+    EXPECT_EQ(exportGeoJson(release, many, geoJsonHeader, [](std::string_view) { return false; }),
               ExportOutcome::stopped);
 }
 

@@ -1,6 +1,7 @@
 #include "data/text/CaseFolding.h"
 
 #include "data/Cancelled.h"
+#include "tests/data/text/SampleTexts.h"
 
 #include <gtest/gtest.h>
 #include <unicode/normalizer2.h>
@@ -14,10 +15,7 @@
 namespace vasker {
 namespace {
 
-const TextLocale english("en_CA");
 const TextLocale turkish("tr_TR");
-const std::string family = "\U0001F468\u200D\U0001F469\u200D\U0001F467"; // three people, joined
-const std::string flagOfCanada = "\U0001F1E8\U0001F1E6";
 
 bool contains(std::string_view text, std::string_view query, const TextLocale& locale = english) {
     return containsFolded(folded(text, locale), folded(query, locale));
@@ -135,14 +133,6 @@ void expectAsDefined(const std::string& text) {
 std::string utf8(UChar32 codePoint) {
     std::string text;
     return icu::UnicodeString(codePoint).toUTF8String(text);
-}
-
-std::string repeated(std::string_view text, std::size_t count) {
-    std::string result;
-    for (; count > 0; --count) {
-        result += text;
-    }
-    return result;
 }
 
 /// Code points that fold, compose, decompose or are reordered in unusual ways.

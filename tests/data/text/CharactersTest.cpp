@@ -1,6 +1,7 @@
 #include "data/text/Characters.h"
 
 #include "data/Cancelled.h"
+#include "tests/data/text/SampleTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +10,6 @@
 
 namespace vasker {
 namespace {
-
-const std::string family = "\U0001F468\u200D\U0001F469\u200D\U0001F467"; // three people, joined
-const std::string flagOfCanada = "\U0001F1E8\U0001F1E6";
 
 std::size_t countOf(std::string_view text) {
     return characterCount(text, 1'000);

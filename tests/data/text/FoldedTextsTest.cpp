@@ -2,6 +2,7 @@
 
 #include "data/Cancelled.h"
 #include "data/text/CaseFolding.h"
+#include "tests/data/text/SampleTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +15,6 @@ namespace {
 
 using Records = std::vector<std::uint32_t>;
 using Texts = std::vector<std::string>;
-
-const TextLocale english("en_CA");
 
 FoldedTexts made(const std::vector<Texts>& records) {
     FoldedTexts made(english);

@@ -1,5 +1,7 @@
 #include "data/text/NameOrder.h"
 
+#include "tests/data/text/SampleTexts.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,8 +11,6 @@
 
 namespace vasker {
 namespace {
-
-const TextLocale english("en_CA");
 
 using Names = std::vector<std::string>;
 

@@ -14,7 +14,7 @@ namespace vasker {
 namespace {
 
 constexpr const char* path = VASKER_RESOURCES "/imagery.mbtiles";
-constexpr int deepestZoom = 4;
+constexpr int deepestImagery = 4;
 constexpr int side = 256;
 
 QImage imageOf(TileArchive& archive, TileKey key) {
@@ -46,19 +46,19 @@ TEST(Imagery, GivesCredit) {
 TEST(Imagery, HasEveryTileDownToItsDeepestZoomAndNoneBeyond) {
     const auto archive = TileArchive::open(path);
     ASSERT_NE(archive, nullptr);
-    EXPECT_EQ(archive->maximumZoom(), deepestZoom);
-    for (int zoom = 0; zoom <= deepestZoom; ++zoom) {
+    EXPECT_EQ(archive->maximumZoom(), deepestImagery);
+    for (int zoom = 0; zoom <= deepestImagery; ++zoom) {
         for (std::int32_t index = 0; index < 1 << 2 * zoom; ++index) {
             const TileKey key{zoom, index >> zoom, index & ((1 << zoom) - 1)};
             EXPECT_EQ(imageOf(*archive, key).size(), QSize(side, side))
                 << zoom << '/' << key.column << '/' << key.row;
         }
     }
-    EXPECT_FALSE(archive->tile({deepestZoom + 1, 6, 10}));
+    EXPECT_FALSE(archive->tile({deepestImagery + 1, 6, 10}));
 }
 
 TEST(Imagery, ShowsEveryPlaceWhereItLies) {
-    for (int zoom = 2; zoom <= deepestZoom; ++zoom) {
+    for (int zoom = 2; zoom <= deepestImagery; ++zoom) {
         const QColor bay = colorAt({60, -85}, zoom); // Hudson Bay
         EXPECT_GT(bay.blue(), bay.red() + 50) << zoom;
         const QColor desert = colorAt({23, 10}, zoom); // the Sahara
@@ -73,7 +73,7 @@ TEST(Imagery, ShowsEveryPlaceWhereItLies) {
 /// White labels and their pale marks can be told from it.
 TEST(Imagery, SnowIsNotWhite) {
     for (const Coordinate& place : {Coordinate{75, -40}, Coordinate{70, -110}}) {
-        EXPECT_LT(colorAt(place, deepestZoom).lightness(), 235);
+        EXPECT_LT(colorAt(place, deepestImagery).lightness(), 235);
     }
 }
 

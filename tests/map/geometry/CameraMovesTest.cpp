@@ -1,6 +1,7 @@
 // The camera turned, tilted and moved.
 
 #include "map/geometry/Camera.h"
+#include "tests/map/geometry/MapViewport.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,6 @@
 namespace vasker {
 namespace {
 
-constexpr Viewport viewport{960, 748, 36, 0};
 constexpr ScreenPoint places[] = {{480, 356}, {3, 2}, {955, 4}, {120, 700}, {900, 640}};
 
 CameraPose poseOf(double bearing, double pitch) {

@@ -9,7 +9,7 @@
 namespace vasker {
 namespace {
 
-constexpr Viewport viewport{960, 712};
+constexpr Viewport uncovered{960, 712};
 
 void expectShown(const Camera& camera, Coordinate coordinate) {
     const ScreenPoint point = camera.worldToScreen(coordinateToMapPoint(coordinate));
@@ -71,7 +71,7 @@ TEST(Camera, MarginsThatCoverEverythingLeaveAPixel) {
 }
 
 TEST(Camera, KeepsARegionsCentreInTheMiddleOfTheWindow) {
-    const Camera camera(canadaOverview, viewport);
+    const Camera camera(canadaOverview, uncovered);
     const ScreenPoint middle = camera.worldToScreen(coordinateToMapPoint({54, -112}));
     EXPECT_NEAR(middle.x, 480, 1e-6);
     EXPECT_NEAR(middle.y, 356, 1e-6);
@@ -79,29 +79,29 @@ TEST(Camera, KeepsARegionsCentreInTheMiddleOfTheWindow) {
 
 TEST(Camera, ShowsAllOfARectangleAndNoMoreThanItMust) {
     const MapRect rect{1e8, 1e8, 2e6, 1e6};
-    const Camera camera(rect, viewport);
+    const Camera camera(rect, uncovered);
     EXPECT_DOUBLE_EQ(camera.scale(), 960 / 2e6);
     EXPECT_EQ(camera.center(), rect.center());
 }
 
 TEST(Camera, WhatItShowsResolvesToTheSameCamera) {
     const Camera camera =
-        Camera(canadaOverview, viewport).zoomed(7.3, {100, 650}).dragged({0, 0}, {-33.3, 12.1});
-    const Camera again(camera.pose(), viewport);
+        Camera(canadaOverview, uncovered).zoomed(7.3, {100, 650}).dragged({0, 0}, {-33.3, 12.1});
+    const Camera again(camera.pose(), uncovered);
     EXPECT_NEAR(again.scale() / camera.scale(), 1, 1e-12);
     EXPECT_NEAR(again.center().x, camera.center().x, 1e-6);
     EXPECT_NEAR(again.center().y, camera.center().y, 1e-6);
 }
 
 TEST(Camera, KeepsTheCentreWhenTheWindowIsResized) {
-    const Camera camera = Camera(canadaOverview, viewport).dragged({0, 0}, {200, -90});
+    const Camera camera = Camera(canadaOverview, uncovered).dragged({0, 0}, {200, -90});
     const Camera resized(camera.pose(), {579, 568});
     EXPECT_NEAR(resized.center().x, camera.center().x, 1e-6);
     EXPECT_NEAR(resized.center().y, camera.center().y, 1e-6);
 }
 
 TEST(Camera, ADragMovesTheGroundWithThePointer) {
-    const Camera before(canadaOverview, viewport);
+    const Camera before(canadaOverview, uncovered);
     const MapPoint ground = before.screenToWorld({300, 300});
     const ScreenPoint after = before.dragged({0, 0}, {40, -25}).worldToScreen(ground);
     EXPECT_NEAR(after.x, 340, 1e-6);
@@ -109,7 +109,7 @@ TEST(Camera, ADragMovesTheGroundWithThePointer) {
 }
 
 TEST(Camera, ZoomingKeepsTheGroundUnderThePointer) {
-    Camera camera(canadaOverview, viewport);
+    Camera camera(canadaOverview, uncovered);
     const ScreenPoint pointer{700, 200};
     const MapPoint ground = camera.screenToWorld(pointer);
     for (int step = 0; step < 40; ++step) {
@@ -121,69 +121,70 @@ TEST(Camera, ZoomingKeepsTheGroundUnderThePointer) {
 }
 
 TEST(Camera, StopsAtTheNearestZoomAndWithTheWorldInView) {
-    const Camera camera(canadaOverview, viewport);
+    const Camera camera(canadaOverview, uncovered);
     EXPECT_DOUBLE_EQ(camera.zoomed(1e9, {1, 1}).scale(), Camera::maximumScale);
     EXPECT_DOUBLE_EQ(camera.zoomed(1e-9, {1, 1}).scale(), 712 / worldSize);
 }
 
 TEST(Camera, ARectangleOfOneMapPointIsShownAtTheNearestZoom) {
-    const Camera camera(MapRect{5e7, 9e7, 1.3, 1.3}, viewport);
+    const Camera camera(MapRect{5e7, 9e7, 1.3, 1.3}, uncovered);
     EXPECT_DOUBLE_EQ(camera.scale(), Camera::maximumScale);
     EXPECT_NEAR(camera.center().x, 5e7 + 0.65, 1e-6);
 }
 
 TEST(Camera, TheCentreStaysInTheWorld) {
-    const Camera camera = Camera(canadaOverview, viewport).dragged({0, 0}, {0, 1e9});
+    const Camera camera = Camera(canadaOverview, uncovered).dragged({0, 0}, {0, 1e9});
     EXPECT_EQ(camera.center().y, 0);
 }
 
 TEST(Camera, AWishThatIsNoNumberShowsTheOverview) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    const Camera overview(canadaOverview, viewport);
-    EXPECT_EQ(Camera(MapRect{nan, 0, 1, 1}, viewport).center(), overview.center());
-    EXPECT_EQ(Camera(CoordinateRegion{{54, -112}, nan, 40}, viewport).scale(), overview.scale());
+    const Camera overview(canadaOverview, uncovered);
+    EXPECT_EQ(Camera(MapRect{nan, 0, 1, 1}, uncovered).center(), overview.center());
+    EXPECT_EQ(Camera(CoordinateRegion{{54, -112}, nan, 40}, uncovered).scale(), overview.scale());
 }
 
 TEST(Camera, APoseThatIsNoNumberShowsTheOverview) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
-    const Camera overview(canadaOverview, viewport);
+    const Camera overview(canadaOverview, uncovered);
     for (const CameraPose& pose : {CameraPose{{nan, 1e8}, 1e-5},
                                    {{1e8, infinity}, 1e-5},
                                    {{1e8, 1e8}, nan},
                                    {{1e8, 1e8}, 1e-5, -infinity, 0},
                                    {{1e8, 1e8}, 1e-5, 0, nan}}) {
-        EXPECT_EQ(Camera(pose, viewport).pose(), overview.pose());
+        EXPECT_EQ(Camera(pose, uncovered).pose(), overview.pose());
     }
 }
 
 TEST(Camera, ARegionTooFarOutToBeProjectedShowsTheOverview) {
-    const Camera overview(canadaOverview, viewport);
+    const Camera overview(canadaOverview, uncovered);
     const double largest = std::numeric_limits<double>::max();
-    EXPECT_EQ(Camera(CoordinateRegion{{54, largest}, 20, 40}, viewport).pose(), overview.pose());
-    EXPECT_EQ(Camera(MapRect{largest, 0, largest, 1}, viewport).pose(), overview.pose());
+    EXPECT_EQ(Camera(CoordinateRegion{{54, largest}, 20, 40}, uncovered).pose(), overview.pose());
+    EXPECT_EQ(Camera(MapRect{largest, 0, largest, 1}, uncovered).pose(), overview.pose());
 }
 
 TEST(Camera, APoseIsBroughtIntoItsRanges) {
-    const CameraPose pose = Camera(CameraPose{{-1.0, 2 * worldSize}, 99, -90, 75}, viewport).pose();
+    const CameraPose pose =
+        Camera(CameraPose{{-1.0, 2 * worldSize}, 99, -90, 75}, uncovered).pose();
     EXPECT_EQ(pose.center, (MapPoint{worldSize - 1, worldSize}));
     EXPECT_EQ(pose.scale, Camera::maximumScale);
     EXPECT_EQ(pose.bearing, 270);
     EXPECT_EQ(pose.pitch, Camera::maximumPitch);
     for (const double x : {-1e-20, -0.0, worldSize, 1e300, -1e300}) {
-        const double normalized = Camera(CameraPose{{x, 1e8}, 1}, viewport).center().x;
+        const double normalized = Camera(CameraPose{{x, 1e8}, 1}, uncovered).center().x;
         EXPECT_GE(normalized, 0) << x;
         EXPECT_LT(normalized, worldSize) << x;
     }
     for (const double bearing : {-1e-20, 360.0, 720.0, 1e300}) {
-        const double normalized = Camera(CameraPose{{1, 1}, 1, bearing}, viewport).pose().bearing;
+        const double normalized = Camera(CameraPose{{1, 1}, 1, bearing}, uncovered).pose().bearing;
         EXPECT_GE(normalized, 0) << bearing;
         EXPECT_LT(normalized, 360) << bearing;
     }
 }
 
 TEST(Camera, AFactorThatIsNotPositiveChangesNothing) {
-    const Camera camera(canadaOverview, viewport);
+    const Camera camera(canadaOverview, uncovered);
     EXPECT_EQ(camera.zoomed(0, {1, 1}).scale(), camera.scale());
     EXPECT_EQ(camera.zoomed(-3, {1, 1}).scale(), camera.scale());
     EXPECT_EQ(camera.zoomed(std::numeric_limits<double>::quiet_NaN(), {1, 1}).scale(),

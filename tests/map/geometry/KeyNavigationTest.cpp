@@ -1,5 +1,7 @@
 #include "map/geometry/KeyNavigation.h"
 
+#include "tests/map/geometry/MapViewport.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,10 +9,9 @@
 namespace vasker {
 namespace {
 
-constexpr Viewport viewport{960, 748, 36, 0};
 constexpr double held = 2; ///< seconds
 
-Camera cameraOf(double bearing = 0, double pitch = 0) {
+Camera keyCamera(double bearing = 0, double pitch = 0) {
     return {CameraPose{coordinateToMapPoint({54, -112}), 3e-4, bearing, pitch}, viewport};
 }
 
@@ -23,17 +24,17 @@ double doublings(const Camera& from, const Camera& to) {
 }
 
 TEST(KeyNavigation, AShortPressMovesExactlyOneStep) {
-    KeyNavigation navigation(cameraOf());
+    KeyNavigation navigation(keyCamera());
     navigation.press(NavigationAxis::right, 1, 0);
     navigation.release(NavigationAxis::right, 1, 0.06);
     EXPECT_FALSE(navigation.isFinished(0.1));
     EXPECT_TRUE(navigation.isFinished(1));
-    EXPECT_NEAR(pixelsEast(cameraOf(), navigation.cameraAt(1)), 100, 1e-6);
+    EXPECT_NEAR(pixelsEast(keyCamera(), navigation.cameraAt(1)), 100, 1e-6);
     EXPECT_EQ(navigation.cameraAt(1).pose(), navigation.cameraAt(50).pose());
 }
 
 TEST(KeyNavigation, AHeldKeyMovesSteadilyAndStopsSoftly) {
-    KeyNavigation navigation(cameraOf());
+    KeyNavigation navigation(keyCamera());
     navigation.press(NavigationAxis::right, -1, 0);
     const double speed = pixelsEast(navigation.cameraAt(0.5), navigation.cameraAt(0.6)) / 0.1;
     EXPECT_NEAR(pixelsEast(navigation.cameraAt(1.5), navigation.cameraAt(1.6)) / 0.1, speed, 1e-3);
@@ -53,9 +54,9 @@ TEST(KeyNavigation, AHeldKeyMovesSteadilyAndStopsSoftly) {
 
 TEST(KeyNavigation, EveryAxisMovesWhatItsNameSays) {
     const auto after = [](NavigationAxis axis, int direction) {
-        return stepped(cameraOf(30, 20), axis, direction);
+        return stepped(keyCamera(30, 20), axis, direction);
     };
-    const Camera start = cameraOf(30, 20);
+    const Camera start = keyCamera(30, 20);
     EXPECT_LT(after(NavigationAxis::right, 1).worldToScreen(start.center()).x, start.focus().x);
     EXPECT_LT(after(NavigationAxis::down, 1).worldToScreen(start.center()).y, start.focus().y);
     EXPECT_DOUBLE_EQ(after(NavigationAxis::nearer, 1).scale(), 2 * start.scale());
@@ -66,13 +67,13 @@ TEST(KeyNavigation, EveryAxisMovesWhatItsNameSays) {
 }
 
 TEST(KeyNavigation, TwoKeysActAtOnce) {
-    KeyNavigation navigation(cameraOf());
+    KeyNavigation navigation(keyCamera());
     navigation.press(NavigationAxis::right, 1, 0);
     navigation.press(NavigationAxis::nearer, 1, 0.5);
     const Camera later = navigation.cameraAt(1);
-    EXPECT_NEAR(doublings(cameraOf(), later), 0.5 * 3.5, 1e-9);
+    EXPECT_NEAR(doublings(keyCamera(), later), 0.5 * 3.5, 1e-9);
     // At twice the scale a second of panning would be half as far: the way is made in parts.
-    EXPECT_GT(pixelsEast(cameraOf(), later), 300);
+    EXPECT_GT(pixelsEast(keyCamera(), later), 300);
     navigation.release(NavigationAxis::nearer, 1, 1);
     EXPECT_FALSE(navigation.isFinished(20));
     navigation.releaseAll(1.5);
@@ -80,16 +81,16 @@ TEST(KeyNavigation, TwoKeysActAtOnce) {
 }
 
 TEST(KeyNavigation, QuickPressesAreOwedStepByStep) {
-    KeyNavigation navigation(cameraOf());
+    KeyNavigation navigation(keyCamera());
     for (int press = 0; press < 3; ++press) {
         navigation.press(NavigationAxis::nearer, 1, 0.1 * press);
         navigation.release(NavigationAxis::nearer, 1, 0.1 * press + 0.05);
     }
-    EXPECT_NEAR(doublings(cameraOf(), navigation.cameraAt(10)), 3, 1e-9);
+    EXPECT_NEAR(doublings(keyCamera(), navigation.cameraAt(10)), 3, 1e-9);
 }
 
 TEST(KeyNavigation, TheKeyPressedLastDecides) {
-    KeyNavigation navigation(cameraOf());
+    KeyNavigation navigation(keyCamera());
     navigation.press(NavigationAxis::right, 1, 0);
     navigation.press(NavigationAxis::right, -1, 1);
     EXPECT_LT(pixelsEast(navigation.cameraAt(1), navigation.cameraAt(1.5)), 0);
@@ -100,22 +101,22 @@ TEST(KeyNavigation, TheKeyPressedLastDecides) {
 }
 
 TEST(KeyNavigation, ASecondKeyOfTheSameDirectionChangesNothing) {
-    KeyNavigation navigation(cameraOf());
+    KeyNavigation navigation(keyCamera());
     navigation.press(NavigationAxis::nearer, 1, 0);
     navigation.press(NavigationAxis::nearer, 1, 0.2);
-    EXPECT_NEAR(doublings(cameraOf(), navigation.cameraAt(0.4)), 0.4 * 3.5, 1e-9);
+    EXPECT_NEAR(doublings(keyCamera(), navigation.cameraAt(0.4)), 0.4 * 3.5, 1e-9);
     navigation.release(NavigationAxis::nearer, 1, 0.4);
     EXPECT_TRUE(navigation.isFinished(1));
 }
 
 TEST(KeyNavigation, AtRestItStaysWhereItIs) {
-    const KeyNavigation navigation(cameraOf(10, 10));
+    const KeyNavigation navigation(keyCamera(10, 10));
     EXPECT_TRUE(navigation.isFinished(0));
-    EXPECT_EQ(navigation.cameraAt(7).pose(), cameraOf(10, 10).pose());
+    EXPECT_EQ(navigation.cameraAt(7).pose(), keyCamera(10, 10).pose());
 }
 
 TEST(KeyNavigation, LeaningStopsAtTheSteepestPitch) {
-    KeyNavigation navigation(cameraOf());
+    KeyNavigation navigation(keyCamera());
     navigation.press(NavigationAxis::back, 1, 0);
     EXPECT_EQ(navigation.cameraAt(10).pose().pitch, Camera::maximumPitch);
 }

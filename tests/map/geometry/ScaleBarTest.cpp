@@ -1,5 +1,7 @@
 #include "map/geometry/ScaleBar.h"
 
+#include "tests/map/geometry/MapViewport.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,8 +9,6 @@
 
 namespace vasker {
 namespace {
-
-constexpr Viewport viewport{960, 748, 36, 0};
 
 Camera cameraAt(double latitude, double scale, double bearing = 0, double pitch = 0) {
     return {CameraPose{coordinateToMapPoint({latitude, -112}), scale, bearing, pitch}, viewport};

@@ -16,14 +16,14 @@ const QColor redColor(200, 40, 10);
 const QColor background(Qt::white);
 const QColor casing(0, 128, 0);
 
-constexpr int side = 200; ///< device pixels of a picture
+constexpr int pictureSide = 200; ///< device pixels of a picture
 constexpr double scale = 1.0 / 1'024;
 
 /// `pixels` around a place over the Prairies that lies on the corner of a pixel.
 struct Frame {
     MapPoint corner;
     [[nodiscard]] MapRect bounds() const {
-        return {corner.x, corner.y, side / scale, side / scale};
+        return {corner.x, corner.y, pictureSide / scale, pictureSide / scale};
     }
     [[nodiscard]] OpenMapRelease::Position positionAt(double x, double y) const {
         const Coordinate place = mapPointToCoordinate({corner.x + x / scale, corner.y + y / scale});
@@ -37,7 +37,7 @@ Frame home() {
 }
 
 Frame east(const Frame& frame) {
-    return {{frame.corner.x + side / scale, frame.corner.y}};
+    return {{frame.corner.x + pictureSide / scale, frame.corner.y}};
 }
 
 OpenMapRelease::Asset facilityOn(const Frame& frame, double x, double y) {
@@ -51,7 +51,7 @@ class Painted {
             std::vector<Rgb> colors,
             const MapRect& bounds,
             double devicePixels = 1)
-        : m_image(side, side, QImage::Format_RGB32) {
+        : m_image(pictureSide, pictureSide, QImage::Format_RGB32) {
         RouteColors routes(colors.begin(), colors.end());
         MarkerLayout layout;
         layout.dots = markersByPriority(records);
@@ -101,7 +101,7 @@ TEST(RecordOverlay, OnADenserScreenADotHasMorePixels) {
     const Frame frame = home();
     const RecordSet records = recordSetOf({facilityOn(frame, 100, 60)});
     const auto covered = [](const Painted& picture) {
-        const std::string row = picture.row(60, 0, side);
+        const std::string row = picture.row(60, 0, pictureSide);
         return std::count(row.begin(), row.end(), '#');
     };
     EXPECT_NEAR(
@@ -123,7 +123,7 @@ TEST(RecordOverlay, ARouteIsTwoPixelsWideInACasing) {
     const Painted picture = painted(
         recordSetOf({pipelineAlong({{frame.positionAt(100, -50), frame.positionAt(100, 250)}})}),
         frame.bounds());
-    for (const int y : {0, 100, side - 1}) {
+    for (const int y : {0, 100, pictureSide - 1}) {
         EXPECT_EQ(picture.row(y, 95, 105), "...-##-...") << y;
     }
 }
@@ -143,7 +143,7 @@ TEST(RecordOverlay, NoCasingCutsATrunkWhereABranchMeetsIt) {
     const OpenMapRelease::Route branch{frame.positionAt(100, 80), frame.positionAt(180, 80)};
     for (const auto& routes : {std::vector{trunk, branch}, std::vector{branch, trunk}}) {
         const Painted picture = painted(recordSetOf({pipelineAlong(routes)}), frame.bounds());
-        for (int y = 0; y < side; ++y) {
+        for (int y = 0; y < pictureSide; ++y) {
             ASSERT_EQ(picture.row(y, 99, 101), "##") << y;
         }
     }
@@ -162,11 +162,11 @@ TEST(RecordOverlay, DotsLieUponRoutes) {
 TEST(RecordOverlay, WhatLiesElsewhereIsNotSeen) {
     const Frame frame = home();
     const Painted picture = painted(
-        recordSetOf({facilityOn(frame, side + 20, 60),
+        recordSetOf({facilityOn(frame, pictureSide + 20, 60),
                      facilityOn(frame, 60, -20),
                      pipelineAlong({{frame.positionAt(-30, -30), frame.positionAt(-30, 400)}})}),
         frame.bounds());
-    QImage empty(side, side, QImage::Format_RGB32);
+    QImage empty(pictureSide, pictureSide, QImage::Format_RGB32);
     empty.fill(background);
     EXPECT_EQ(picture.image(), empty);
 }
@@ -180,7 +180,7 @@ TEST(RecordOverlay, ARecordThatIsNotShownHasNoLine) {
                                 std::make_shared<const MarkerLayout>(),
                                 {{red}, casing, casing},
                                 1);
-    QImage image(side, side, QImage::Format_RGB32);
+    QImage image(pictureSide, pictureSide, QImage::Format_RGB32);
     image.fill(background);
     overlay.paint(image, frame.bounds(), scale);
     EXPECT_EQ(image.pixelColor(100, 100), background);
@@ -190,20 +190,20 @@ TEST(RecordOverlay, BothSidesOfABorderBetweenTilesShowOneDotAndOneLine) {
     const Frame left = home();
     const Frame right = east(left);
     const RecordSet records =
-        recordSetOf({facilityOn(left, side, 60),
+        recordSetOf({facilityOn(left, pictureSide, 60),
                      pipelineAlong({{left.positionAt(20, 100), right.positionAt(150, 130)}})});
     const Painted west = painted(records, left.bounds());
     const Painted eastern = painted(records, right.bounds());
     // As one picture would show it.
-    const Frame middle{{left.corner.x + side / 2 / scale, left.corner.y}};
+    const Frame middle{{left.corner.x + pictureSide / 2 / scale, left.corner.y}};
     const QImage whole = painted(records, middle.bounds()).image();
     for (int y = 50; y < 140; ++y) {
-        for (int x = 0; x < side / 2; ++x) {
-            const QColor onTheLeft = west.at(side / 2 + x, y);
+        for (int x = 0; x < pictureSide / 2; ++x) {
+            const QColor onTheLeft = west.at(pictureSide / 2 + x, y);
             const QColor onTheRight = eastern.at(x, y);
             for (const auto& [seen, expected] :
                  {std::pair(onTheLeft, whole.pixelColor(x, y)),
-                  std::pair(onTheRight, whole.pixelColor(side / 2 + x, y))}) {
+                  std::pair(onTheRight, whole.pixelColor(pictureSide / 2 + x, y))}) {
                 ASSERT_NEAR(seen.red(), expected.red(), 12) << x << ' ' << y;
                 ASSERT_NEAR(seen.blue(), expected.blue(), 12) << x << ' ' << y;
             }

@@ -18,7 +18,7 @@
 namespace vasker {
 namespace {
 
-const QDateTime now(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC);
+const QDateTime lastUse(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC);
 
 class TileCacheTest : public testing::Test {
   protected:
@@ -28,7 +28,7 @@ class TileCacheTest : public testing::Test {
     }
     static TileCache::Entry entry(const QByteArray& bytes) {
         return {.bytes = bytes,
-                .freshUntil = now.addDays(7),
+                .freshUntil = lastUse.addDays(7),
                 .entityTag = "\"1\"",
                 .lastModified = "then"};
     }
@@ -36,61 +36,61 @@ class TileCacheTest : public testing::Test {
 };
 
 TEST_F(TileCacheTest, KeepsWhatItIsGiven) {
-    TileCache(folder.path(), 1'000'000).keep(address(1), entry("bytes"), now);
+    TileCache(folder.path(), 1'000'000).keep(address(1), entry("bytes"), lastUse);
     TileCache cache(folder.path(), 1'000'000);
-    const auto found = cache.find(address(1), now);
+    const auto found = cache.find(address(1), lastUse);
     ASSERT_TRUE(found.has_value());
     EXPECT_EQ(found->bytes, "bytes");
-    EXPECT_EQ(found->freshUntil, now.addDays(7));
+    EXPECT_EQ(found->freshUntil, lastUse.addDays(7));
     EXPECT_EQ(found->entityTag, "\"1\"");
     EXPECT_EQ(found->lastModified, "then");
-    EXPECT_FALSE(cache.find(address(2), now).has_value());
+    EXPECT_FALSE(cache.find(address(2), lastUse).has_value());
 }
 
 TEST_F(TileCacheTest, TheLatestHolds) {
     TileCache cache(folder.path(), 1'000'000);
-    cache.keep(address(1), entry("old"), now);
-    cache.keep(address(1), entry("new"), now);
-    EXPECT_EQ(cache.find(address(1), now)->bytes, "new");
-    cache.refresh(address(1), now.addDays(30));
-    EXPECT_EQ(cache.find(address(1), now)->freshUntil, now.addDays(30));
+    cache.keep(address(1), entry("old"), lastUse);
+    cache.keep(address(1), entry("new"), lastUse);
+    EXPECT_EQ(cache.find(address(1), lastUse)->bytes, "new");
+    cache.refresh(address(1), lastUse.addDays(30));
+    EXPECT_EQ(cache.find(address(1), lastUse)->freshUntil, lastUse.addDays(30));
     cache.drop(address(1));
-    EXPECT_FALSE(cache.find(address(1), now).has_value());
+    EXPECT_FALSE(cache.find(address(1), lastUse).has_value());
 }
 
 TEST_F(TileCacheTest, NeverGrowsBeyondItsBoundAndLosesWhatWasNotLookedAtLongest) {
     TileCache cache(folder.path(), 1'000'000);
     const QByteArray tile(30'000, 'x');
-    cache.keep(address(0), entry(tile), now);
+    cache.keep(address(0), entry(tile), lastUse);
     for (int number = 1; number < 200; ++number) {
-        const QDateTime later = now.addDays(2 * number);
+        const QDateTime later = lastUse.addDays(2 * number);
         cache.keep(address(number), entry(tile), later);
         ASSERT_TRUE(cache.find(address(0), later).has_value()) << "looked at all the time";
     }
     EXPECT_LE(QFileInfo(path()).size(), 1'000'000);
     EXPECT_GT(QFileInfo(path()).size(), 800'000);
-    EXPECT_TRUE(cache.find(address(199), now).has_value());
-    EXPECT_FALSE(cache.find(address(1), now).has_value());
+    EXPECT_TRUE(cache.find(address(199), lastUse).has_value());
+    EXPECT_FALSE(cache.find(address(1), lastUse).has_value());
 }
 
 TEST_F(TileCacheTest, WhatIsLargerThanTheBoundIsNotKept) {
     TileCache cache(folder.path(), 100'000);
-    cache.keep(address(1), entry(QByteArray(200'000, 'x')), now);
-    EXPECT_FALSE(cache.find(address(1), now).has_value());
+    cache.keep(address(1), entry(QByteArray(200'000, 'x')), lastUse);
+    EXPECT_FALSE(cache.find(address(1), lastUse).has_value());
     EXPECT_LE(QFileInfo(path()).size(), 100'000);
 }
 
 TEST_F(TileCacheTest, SeveralMayUseOneFile) {
     TileCache one(folder.path(), 1'000'000);
     TileCache other(folder.path(), 1'000'000);
-    one.keep(address(1), entry("1"), now);
-    other.keep(address(2), entry("2"), now);
-    EXPECT_EQ(one.find(address(2), now)->bytes, "2");
-    EXPECT_EQ(other.find(address(1), now)->bytes, "1");
+    one.keep(address(1), entry("1"), lastUse);
+    other.keep(address(2), entry("2"), lastUse);
+    EXPECT_EQ(one.find(address(2), lastUse)->bytes, "2");
+    EXPECT_EQ(other.find(address(1), lastUse)->bytes, "1");
 }
 
 TEST_F(TileCacheTest, IsTheUsersOwnBusiness) {
-    TileCache(folder.path(), 1'000'000).keep(address(1), entry("1"), now);
+    TileCache(folder.path(), 1'000'000).keep(address(1), entry("1"), lastUse);
     EXPECT_EQ(QFile::permissions(path()) & (QFileDevice::ReadGroup | QFileDevice::ReadOther),
               QFileDevice::Permissions());
 }
@@ -98,16 +98,16 @@ TEST_F(TileCacheTest, IsTheUsersOwnBusiness) {
 TEST_F(TileCacheTest, BeginsAnewWhereTheFileIsDamagedMeanwhile) {
     TileCache cache(folder.path(), 10'000'000);
     for (int number = 0; number < 100; ++number) {
-        cache.keep(address(number), entry(QByteArray(30'000, 'x')), now);
+        cache.keep(address(number), entry(QByteArray(30'000, 'x')), lastUse);
     }
     QFile file(path());
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     file.write(QByteArray(static_cast<int>(file.size()), 'y'));
     file.close();
     TileCache again(folder.path(), 10'000'000);
-    EXPECT_FALSE(again.find(address(50), now).has_value());
-    again.keep(address(1), entry("1"), now);
-    EXPECT_EQ(again.find(address(1), now)->bytes, "1");
+    EXPECT_FALSE(again.find(address(50), lastUse).has_value());
+    again.keep(address(1), entry("1"), lastUse);
+    EXPECT_EQ(again.find(address(1), lastUse)->bytes, "1");
 }
 
 class ForeignTileCacheTest : public TileCacheTest {
@@ -126,8 +126,8 @@ class ForeignTileCacheTest : public TileCacheTest {
         QElapsedTimer time;
         time.start();
         TileCache cache(folder.path(), bound);
-        cache.keep(address(1), entry("1"), now);
-        const auto found = cache.find(address(1), now);
+        cache.keep(address(1), entry("1"), lastUse);
+        const auto found = cache.find(address(1), lastUse);
         EXPECT_LT(time.elapsed(), 1'000);
         EXPECT_LE(QFileInfo(path()).size(), bound);
         return found && found->bytes == "1";
@@ -160,10 +160,10 @@ TEST_F(ForeignTileCacheTest, OurLayoutWithAnythingBesideItIsReplaced) {
              "ALTER TABLE tile ADD COLUMN more",
          }) {
         QFile::remove(path());
-        TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+        TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), lastUse);
         make(statement);
         EXPECT_TRUE(isReplaced()) << statement;
-        EXPECT_FALSE(TileCache(folder.path(), 1'000'000).find(address(2), now).has_value())
+        EXPECT_FALSE(TileCache(folder.path(), 1'000'000).find(address(2), lastUse).has_value())
             << statement;
     }
 }
@@ -177,7 +177,7 @@ TEST_F(ForeignTileCacheTest, ADatabaseOfManyTablesIsNotReadToTheEnd) {
 }
 
 TEST_F(ForeignTileCacheTest, AFileThatANewerSqliteAloneWritesIsReplaced) {
-    TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+    TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), lastUse);
     QFile file(path());
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     file.seek(18); // the version that writing takes
@@ -198,7 +198,7 @@ TEST_F(ForeignTileCacheTest, ADatabaseThatLooksEmptyAndIsDamagedIsReplaced) {
 
 TEST_F(ForeignTileCacheTest, AFifoInThePlaceOfAFileIsReplaced) {
     for (const char* ending : {"", "-journal", "-wal"}) {
-        TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+        TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), lastUse);
         const QString place = path() + QLatin1String(ending);
         QFile::remove(place);
         ASSERT_EQ(mkfifo(QFile::encodeName(place).constData(), 0600), 0);
@@ -207,11 +207,11 @@ TEST_F(ForeignTileCacheTest, AFifoInThePlaceOfAFileIsReplaced) {
 }
 
 TEST_F(ForeignTileCacheTest, AFileFarAboveTheBoundIsReplacedAndASmallerOneKept) {
-    TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), now);
+    TileCache(folder.path(), 1'000'000).keep(address(2), entry("2"), lastUse);
     ASSERT_TRUE(QFile::resize(path(), 2'000'000));
-    EXPECT_TRUE(TileCache(folder.path(), 1'000'000).find(address(2), now).has_value());
+    EXPECT_TRUE(TileCache(folder.path(), 1'000'000).find(address(2), lastUse).has_value());
     ASSERT_TRUE(QFile::resize(path(), 2'000'001));
-    EXPECT_FALSE(TileCache(folder.path(), 1'000'000).find(address(2), now).has_value());
+    EXPECT_FALSE(TileCache(folder.path(), 1'000'000).find(address(2), lastUse).has_value());
     ASSERT_TRUE(QFile::resize(path(), 1'500'000'000));
     EXPECT_TRUE(isReplaced());
 }
@@ -234,7 +234,7 @@ class CommonUser {
 };
 
 TEST_F(TileCacheTest, ReadsWhatItMayNotWrite) {
-    TileCache(folder.path(), 1'000'000).keep(address(1), entry("1"), now);
+    TileCache(folder.path(), 1'000'000).keep(address(1), entry("1"), lastUse);
     constexpr auto readable =
         QFileDevice::ReadOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther;
     QFile::setPermissions(path(), readable);
@@ -245,10 +245,10 @@ TEST_F(TileCacheTest, ReadsWhatItMayNotWrite) {
         const CommonUser user;
         ASSERT_FALSE(QFile(path()).open(QIODevice::ReadWrite));
         TileCache cache(folder.path(), 1'000'000);
-        EXPECT_TRUE(cache.find(address(1), now.addDays(3)).has_value());
-        cache.keep(address(2), entry("2"), now);
-        EXPECT_FALSE(cache.find(address(2), now).has_value());
-        EXPECT_TRUE(cache.find(address(1), now).has_value());
+        EXPECT_TRUE(cache.find(address(1), lastUse.addDays(3)).has_value());
+        cache.keep(address(2), entry("2"), lastUse);
+        EXPECT_FALSE(cache.find(address(2), lastUse).has_value());
+        EXPECT_TRUE(cache.find(address(1), lastUse).has_value());
     }
     QFile::setPermissions(folder.path(),
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
@@ -278,27 +278,27 @@ class FullDisk {
 
 TEST_F(TileCacheTest, ReadsOnWhereTheDiskIsFull) {
     TileCache cache(folder.path(), 100'000'000);
-    cache.keep(address(1), entry("1"), now);
+    cache.keep(address(1), entry("1"), lastUse);
     testing::internal::CaptureStderr();
     {
         const FullDisk full(100'000);
         for (int number = 2; number < 50; ++number) {
-            cache.keep(address(number), entry(QByteArray(30'000, 'x')), now);
+            cache.keep(address(number), entry(QByteArray(30'000, 'x')), lastUse);
         }
-        EXPECT_EQ(cache.find(address(1), now)->bytes, "1");
-        EXPECT_TRUE(cache.find(address(2), now).has_value());
-        EXPECT_FALSE(cache.find(address(49), now).has_value());
+        EXPECT_EQ(cache.find(address(1), lastUse)->bytes, "1");
+        EXPECT_TRUE(cache.find(address(2), lastUse).has_value());
+        EXPECT_FALSE(cache.find(address(49), lastUse).has_value());
     }
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    cache.keep(address(60), entry("60"), now);
-    EXPECT_EQ(cache.find(address(60), now)->bytes, "60") << "there is room again";
+    cache.keep(address(60), entry("60"), lastUse);
+    EXPECT_EQ(cache.find(address(60), lastUse)->bytes, "60") << "there is room again";
 }
 
 TEST_F(TileCacheTest, IsMadeNowhereOnAFullDisk) {
     const FullDisk full(0);
     TileCache cache(folder.filePath(QStringLiteral("new")), 1'000'000);
-    cache.keep(address(1), entry("1"), now);
-    EXPECT_FALSE(cache.find(address(1), now).has_value());
+    cache.keep(address(1), entry("1"), lastUse);
+    EXPECT_FALSE(cache.find(address(1), lastUse).has_value());
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace vasker {
 namespace {
 
-const QDateTime now(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC);
+const QDateTime received(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC);
 
 TileResponse answer(int status, const QByteArray& body) {
     TileResponse result;
@@ -51,8 +51,8 @@ TEST(TileResponse, KeepsAsLongAsTheHeadersSayButSevenDaysAtLeastAndAYearAtMost) 
         TileResponse one = answer(200, {});
         one.cacheControl = cacheControl;
         one.expires = expires;
-        const auto until = freshUntil(one, now);
-        return until ? static_cast<int>(now.daysTo(*until)) : -1;
+        const auto until = freshUntil(one, received);
+        return until ? static_cast<int>(received.daysTo(*until)) : -1;
     };
     EXPECT_EQ(days("", ""), 7);
     EXPECT_EQ(days("max-age=60", ""), 7);

@@ -41,13 +41,13 @@ class MapFrame : public testing::Test {
     MapView* m_map = nullptr;
 };
 
-QColor light(PaletteColor color) {
+QColor lightColor(PaletteColor color) {
     return colorValue(color, ColorScheme::light);
 }
 
 TEST_F(MapFrame, AFacilityStandsAsABalloonInTheColorOfItsKind) {
     show({facilityAt(54, -112, "refinery")});
-    EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), light(PaletteColor::red));
+    EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), lightColor(PaletteColor::red));
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(60, 30)), mapTheme(BasemapTheme::light).background);
 }
 
@@ -55,7 +55,7 @@ TEST_F(MapFrame, ACrowdedFacilityIsADotInTheColorOfItsKind) {
     show({facilityAt(54, -112, "refinery"),
           facilityAt(53.5, -112, "gas_plant"),
           facilityAt(50, -100, "gas_plant")});
-    EXPECT_EQ(colorAt(at(53.5, -112)), light(PaletteColor::blue));
+    EXPECT_EQ(colorAt(at(53.5, -112)), lightColor(PaletteColor::blue));
 }
 
 TEST_F(MapFrame, APipelineIsALineTwoPixelsWide) {
@@ -64,7 +64,8 @@ TEST_F(MapFrame, APipelineIsALineTwoPixelsWide) {
     const QPoint middle = at(54, -112);
     int height = 0;
     for (int y = -6; y <= 6; ++y) {
-        height += picture.pixelColor(middle + QPoint(0, y)) == light(PaletteColor::yellow) ? 1 : 0;
+        height +=
+            picture.pixelColor(middle + QPoint(0, y)) == lightColor(PaletteColor::yellow) ? 1 : 0;
     }
     EXPECT_GE(height, 1);
     EXPECT_LE(height, 2);
@@ -78,7 +79,7 @@ TEST_F(MapFrame, ThePickedPipelineIsBlueAndFivePixelsWide) {
         int height = 0;
         for (int y = -8; y <= 8; ++y) {
             const QColor color = picture.pixelColor(at(latitude, -112) + QPoint(0, y));
-            height += color == light(PaletteColor::blue) ? 1 : 0;
+            height += color == lightColor(PaletteColor::blue) ? 1 : 0;
         }
         EXPECT_GE(height, 4);
         EXPECT_LE(height, 5);
@@ -127,7 +128,8 @@ TEST_F(MapFrame, ADragMovesTheGroundAndPicksNothing) {
     QTest::mouseMove(&m_window, {220, 540});
     QTest::mouseRelease(&m_window, Qt::LeftButton, {}, {220, 540});
     EXPECT_EQ(picks.size(), 0);
-    EXPECT_EQ(colorAt(at(54, -112) + QPoint(120, 40) + QPoint(-8, -18)), light(PaletteColor::red));
+    EXPECT_EQ(colorAt(at(54, -112) + QPoint(120, 40) + QPoint(-8, -18)),
+              lightColor(PaletteColor::red));
 }
 
 } // namespace

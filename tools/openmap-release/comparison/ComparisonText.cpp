@@ -200,24 +200,24 @@ std::string limitationsText(const std::vector<std::string>& limitations, const c
     return text;
 }
 
-using Json = nlohmann::ordered_json;
+using OrderedJson = nlohmann::ordered_json;
 
-Json json(const RecordName& record) {
+OrderedJson json(const RecordName& record) {
     return {{"id", record.id}, {"name", record.name}};
 }
 
-Json json(const std::optional<std::string>& value) {
-    return value ? Json(*value) : Json();
+OrderedJson json(const std::optional<std::string>& value) {
+    return value ? OrderedJson(*value) : OrderedJson();
 }
 
-Json json(const SourceComparison& source) {
-    Json object{{"source", source.source},
-                {"recordsBefore", source.recordsBefore},
-                {"recordsAfter", source.recordsAfter},
-                {"added", Json::array()},
-                {"gone", Json::array()},
-                {"moved", Json::array()},
-                {"changed", Json::array()}};
+OrderedJson json(const SourceComparison& source) {
+    OrderedJson object{{"source", source.source},
+                       {"recordsBefore", source.recordsBefore},
+                       {"recordsAfter", source.recordsAfter},
+                       {"added", OrderedJson::array()},
+                       {"gone", OrderedJson::array()},
+                       {"moved", OrderedJson::array()},
+                       {"changed", OrderedJson::array()}};
     for (const RecordName& record : source.added) {
         object["added"].push_back(json(record));
     }
@@ -258,17 +258,17 @@ std::string comparisonText(const ReleaseComparison& comparison) {
 }
 
 std::string comparisonJson(const ReleaseComparison& comparison) {
-    Json object{{"before",
-                 {{"release", comparison.idBefore},
-                  {"generatedAt", comparison.generatedBefore},
-                  {"records", comparison.recordsBefore}}},
-                {"after",
-                 {{"release", comparison.idAfter},
-                  {"generatedAt", comparison.generatedAfter},
-                  {"records", comparison.recordsAfter}}},
-                {"limitationsAdded", comparison.limitationsAdded},
-                {"limitationsGone", comparison.limitationsGone},
-                {"sources", Json::array()}};
+    OrderedJson object{{"before",
+                        {{"release", comparison.idBefore},
+                         {"generatedAt", comparison.generatedBefore},
+                         {"records", comparison.recordsBefore}}},
+                       {"after",
+                        {{"release", comparison.idAfter},
+                         {"generatedAt", comparison.generatedAfter},
+                         {"records", comparison.recordsAfter}}},
+                       {"limitationsAdded", comparison.limitationsAdded},
+                       {"limitationsGone", comparison.limitationsGone},
+                       {"sources", OrderedJson::array()}};
     for (const SourceComparison& source : comparison.sources) {
         object["sources"].push_back(json(source));
     }

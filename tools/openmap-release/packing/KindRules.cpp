@@ -1,14 +1,12 @@
 #include "tools/openmap-release/packing/KindRules.h"
 
+#include "tools/openmap-release/packing/tables/Cells.h"
+
 #include <algorithm>
 #include <span>
 
 namespace vasker {
 namespace {
-
-bool isDigit(char byte) {
-    return byte >= '0' && byte <= '9';
-}
 
 enum class Hash { separates, belongsToItsWord };
 

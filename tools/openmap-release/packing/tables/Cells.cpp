@@ -9,10 +9,6 @@
 namespace vasker {
 namespace {
 
-bool isDigit(char byte) {
-    return byte >= '0' && byte <= '9';
-}
-
 void removeInvisible(std::string& text) {
     // Soft hyphen, zero-width blank, non-joiner and joiner, word joiner, byte order mark.
     constexpr auto invisible = std::to_array<std::string_view>(

@@ -8,6 +8,10 @@
 
 namespace vasker {
 
+[[nodiscard]] constexpr bool isDigit(char byte) noexcept {
+    return byte >= '0' && byte <= '9';
+}
+
 /// The published text without blanks around it and without invisible characters (zero-width blanks
 /// and joiners, soft hyphens, byte order marks); nothing where the cell is empty, "n/a" or "--".
 [[nodiscard]] std::optional<std::string> publishedText(std::string_view cell);

@@ -7,10 +7,6 @@
 namespace vasker {
 namespace {
 
-bool isDigit(char byte) {
-    return byte >= '0' && byte <= '9';
-}
-
 /// The digits behind "CPV=" in the address of the industry's definition.
 std::string naicsCode(const RowReader& row) {
     const std::string address = row.requiredText("Industry classification link");

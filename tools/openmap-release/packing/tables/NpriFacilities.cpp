@@ -6,7 +6,7 @@
 namespace vasker {
 namespace {
 
-NpriFacility readFacility(const RowReader& row) {
+NpriFacility readNpriFacility(const RowReader& row) {
     NpriFacility facility;
     facility.id = plainNpriId(row.requiredDigits("NPRI ID"));
     facility.year = row.requiredYear("Year of last filed report");
@@ -40,7 +40,7 @@ std::vector<NpriFacility> readNpriFacilities(const CsvTable& table, PackTally& t
     UniqueIds ids("NPRI ID");
     for (const CsvTable::Row& cells : table.rows()) {
         const RowReader row(table, cells);
-        NpriFacility& facility = facilities.emplace_back(readFacility(row));
+        NpriFacility& facility = facilities.emplace_back(readNpriFacility(row));
         ids.take(row, facility.id);
         facility.city = row.place("City", TableRole::npriFacilities, tally);
     }
