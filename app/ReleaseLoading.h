@@ -1,6 +1,6 @@
 #pragma once
 // The work of the load task: from a file's path to a release that is ready for views, or to the
-// reason why there is none. Touches nothing but its arguments; any thread.
+// reason why there is none. Any thread.
 
 #include "map/records/RecordSet.h"
 
@@ -21,8 +21,9 @@ struct LoadFailure {
 
 using LoadOutcome = std::variant<std::shared_ptr<const LoadedRelease>, LoadFailure>;
 
-/// Reads the file at `path` whole and decodes it against `expectedSHA256`. Ends early, with a
-/// failure that nobody needs, if `stop` asks to stop.
+/// Reads the file at `path` whole and decodes it against `expectedSHA256`. Where somebody holds a
+/// release that equals the one in the file, returns that. Ends early, with a failure that nobody
+/// needs, if `stop` asks to stop.
 [[nodiscard]] LoadOutcome loadRelease(const std::string& path,
                                       const std::string& expectedSHA256,
                                       const TextLocale& locale,

@@ -18,4 +18,12 @@ double proportionalMemory() {
     throw std::runtime_error("the kernel tells no proportional memory");
 }
 
+void writeFile(const QString& path, const std::string& text) {
+    const auto size = static_cast<qint64>(text.size());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), size) != size) {
+        throw std::runtime_error("cannot write " + path.toStdString());
+    }
+}
+
 } // namespace vasker

@@ -1,15 +1,17 @@
 // How fast the real window is: from process start to the first full picture, frame by frame while
 // the map is dragged and zoomed, from a keystroke to the filtered picture; and what it weighs.
 //
-//   xvfb-run -a -s '-screen 0 1400x900x24' bench-frame [real|worst|empty ...]
+//   xvfb-run -a -s '-screen 0 1400x900x24' bench-frame [real|worst|10%|1%|empty ...]
 //
 // Each case runs in a process of its own: "real" on the packaged release, "worst" on a synthesized
-// one at the limits (15,000,000 bytes, 10,000 records, 300,000 route points), "empty" on a window
+// one at the limits (15,000,000 bytes, 10,000 records, 300,000 route points), "10%" and "1%" on
+// synthesized ones of a tenth and a hundredth of that, "empty" on a window
 // without content: the floor beside which the others are to be read.
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
 #include "app/QmlModules.h"
+#include "bench/Figures.h"
 #include "bench/FrameClock.h"
 #include "bench/Process.h"
 #include "data/Digest.h"
@@ -21,7 +23,6 @@
 
 #include <QDir>
 #include <QEventLoop>
-#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMouseEvent>
@@ -33,6 +34,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <vector>
@@ -40,17 +42,18 @@
 namespace vasker {
 namespace {
 
+/// Of each gesture.
+int frames() {
+    return isSmallBench() ? 60 : 300;
+}
+
 double milliseconds(std::int64_t nanoseconds) {
     return static_cast<double>(nanoseconds) / 1e6;
 }
 
-double percentile(std::vector<double> values, double fraction) {
-    std::sort(values.begin(), values.end());
-    return values[static_cast<std::size_t>(fraction * static_cast<double>(values.size() - 1))];
-}
-
-/// Steps `script` once for every picture, and prints the times between the pictures.
-void measureFrames(const char* name,
+/// Steps `script` once for every picture, and tells the times between the pictures.
+void measureFrames(const Figures& figures,
+                   const char* name,
                    FrameClock& clock,
                    int frames,
                    const std::function<void(int)>& script) {
@@ -71,11 +74,7 @@ void measureFrames(const char* name,
     });
     script(0);
     loop.exec();
-    std::printf("  %-24s median %6.2f ms   95th percentile %6.2f ms   longest %6.2f ms\n",
-                name,
-                percentile(intervals, 0.5),
-                percentile(intervals, 0.95),
-                percentile(intervals, 1));
+    figures.addTimes(name, intervals);
 }
 
 /// Throws unless the window's picture shows records: plenty of pixels in several of their colours.
@@ -105,14 +104,9 @@ void requireRecordsInPicture(QQuickWindow& window,
             }
         }
     }
-    if (pixels < 5000 || seen.size() < 4) {
+    if (pixels < (isSmallBench() ? 50 : 5000) || seen.size() < 4) {
         throw std::runtime_error("the picture shows no records");
     }
-    std::printf("  %-24s %d pixels in %zu of %zu record colours\n",
-                "records in the picture",
-                pixels,
-                seen.size(),
-                tints.size());
 }
 
 /// A hand on the mouse over the map: one event for each picture.
@@ -150,7 +144,7 @@ class Hand {
     }
 
   private:
-    static constexpr int lastStep = 302;
+    const int lastStep = frames() + 2;
 
     void send(QEvent::Type type, QPointF place, Qt::MouseButton button) const {
         QMouseEvent event(type,
@@ -166,15 +160,9 @@ class Hand {
     QPointF m_middle;
 };
 
-void printTimes(const char* name, const std::vector<double>& times) {
-    std::printf("  %-24s median %6.2f ms   longest %6.2f ms\n",
-                name,
-                percentile(times, 0.5),
-                percentile(times, 1));
-}
-
 /// From a keystroke to the picture with the new list, and to the one whose map is complete again.
-void measureFilter(FrameClock& clock,
+void measureFilter(const Figures& figures,
+                   FrameClock& clock,
                    QQuickWindow& window,
                    const OpenMapWorkspace& workspace,
                    const MapView& map) {
@@ -198,11 +186,11 @@ void measureFilter(FrameClock& clock,
         toMap.push_back(
             milliseconds(clock.waitForPicture([&] { return map.isComplete(); }) - start));
     }
-    printTimes("keystroke to list", toList);
-    printTimes("keystroke to map", toMap);
+    figures.addTimes("keystroke to list", toList);
+    figures.addTimes("keystroke to map", toMap);
 }
 
-void measureRelease(const QString& folder, std::int64_t started) {
+void measureRelease(const Figures& figures, const QString& folder, std::int64_t started) {
     const QTemporaryDir user;
     OpenMapApp windows(Bundle(folder),
                        TextLocale::fromEnvironment(),
@@ -219,19 +207,17 @@ void measureRelease(const QString& folder, std::int64_t started) {
     if (shown == 0) {
         throw std::runtime_error("no map within ten seconds: " + root.failureText().toStdString());
     }
-    std::printf("  %-24s %6.0f ms after the process was started\n",
-                "first full picture",
-                milliseconds(shown - started));
+    figures.add("first full picture", milliseconds(shown - started), "ms");
     OpenMapWorkspace& workspace = *root.workspace();
     requireRecordsInPicture(window, *map, workspace.release());
-    std::printf("  %-24s %6.0f MB\n", "memory at first", proportionalMemory());
+    figures.add("memory at first", proportionalMemory(), "MB");
 
     const Hand hand(window, *map);
     const auto measureGesture = [&](const char* name, const std::function<void(int)>& gesture) {
         workspace.resetCamera();
         const CameraPose before = map->resolvedCamera().pose();
         CameraPose middle = before;
-        measureFrames(name, clock, 300, [&](int step) {
+        measureFrames(figures, name, clock, frames(), [&](int step) {
             gesture(step);
             window.update();
             middle = step == 45 ? map->resolvedCamera().pose() : middle;
@@ -243,44 +229,51 @@ void measureRelease(const QString& folder, std::int64_t started) {
     measureGesture("drag", [&](int step) { hand.drag(step, Qt::LeftButton, 4, 2); });
     measureGesture("zoom", [&](int step) { hand.zoom(step); });
     measureGesture("rotate", [&](int step) { hand.drag(step, Qt::RightButton, 5, 0); });
-    measureGesture("pitch", [&](int step) { hand.drag(step, Qt::RightButton, 0, -4); });
+    measureGesture("tilt", [&](int step) { hand.drag(step, Qt::RightButton, 0, -4); });
     workspace.resetCamera();
-    measureFilter(clock, window, workspace, *map);
-    std::printf("  %-24s %6.0f MB\n", "memory at last", proportionalMemory());
+    measureFilter(figures, clock, window, workspace, *map);
+    figures.add("memory at last", proportionalMemory(), "MB");
 }
 
-void measureEmpty(std::int64_t started) {
+void measureEmpty(const Figures& figures, std::int64_t started) {
     QQuickWindow window;
     window.resize(1280, 800);
     FrameClock clock(window);
     window.show();
     const std::int64_t shown = clock.waitForPicture([] { return true; });
-    std::printf("  %-24s %6.0f ms after the process was started\n",
-                "first picture",
-                milliseconds(shown - started));
-    measureFrames("frames", clock, 300, [&](int) { window.update(); });
-    std::printf("  %-24s %6.0f MB\n", "memory", proportionalMemory());
+    figures.add("first full picture", milliseconds(shown - started), "ms");
+    measureFrames(figures, "frame", clock, frames(), [&](int) { window.update(); });
+    figures.add("memory at last", proportionalMemory(), "MB");
 }
 
-void write(const QString& path, const std::string& text) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) ||
-        file.write(text.data(), static_cast<qint64>(text.size())) !=
-            static_cast<qint64>(text.size())) {
-        throw std::runtime_error("cannot write " + path.toStdString());
+/// How large the synthesized release of a case is, in hundredths of the limits; nothing: the case
+/// is not on a synthesized one.
+std::optional<std::size_t> hundredthsOf(const QString& name) {
+    if (name == QStringLiteral("worst")) {
+        return isSmallBench() ? 1 : 100;
     }
+    if (name == QStringLiteral("10%")) {
+        return 10;
+    }
+    if (name == QStringLiteral("1%")) {
+        return 1;
+    }
+    return std::nullopt;
 }
 
 /// The folder with the release of a case, made in `scratch` where it is not the packaged one.
 QString folderOf(const QString& name, const QString& scratch) {
-    if (name != QStringLiteral("worst")) {
+    const auto hundredths = hundredthsOf(name);
+    if (!hundredths) {
         return QStringLiteral(VASKER_PACKAGED_RESOURCES);
     }
-    const std::string json =
-        synthesizeFile({.records = 10'000, .routePoints = 300'000, .bytes = 15'000'000, .seed = 1});
-    write(scratch + QStringLiteral("/OpenMap.json"), json);
-    write(scratch + QStringLiteral("/BundleInformation.json"),
-          R"({"VaskerOpenMapSHA256":")" + sha256(json) + R"("})");
+    const std::string json = synthesizeFile({.records = 100 * *hundredths,
+                                             .routePoints = 3'000 * *hundredths,
+                                             .bytes = 150'000 * *hundredths,
+                                             .seed = 1});
+    writeFile(scratch + QStringLiteral("/OpenMap.json"), json);
+    writeFile(scratch + QStringLiteral("/BundleInformation.json"),
+              R"({"VaskerOpenMapSHA256":")" + sha256(json) + R"("})");
     return scratch;
 }
 
@@ -291,8 +284,6 @@ int runCases(QStringList cases) {
     for (const QString& name : cases) {
         const QTemporaryDir scratch;
         const QString folder = folderOf(name, scratch.path());
-        std::printf("%s\n", qPrintable(name));
-        std::fflush(stdout);
         QProcess process;
         process.setProcessChannelMode(QProcess::ForwardedChannels);
         process.start(QCoreApplication::applicationFilePath(),
@@ -308,7 +299,9 @@ int runCases(QStringList cases) {
 int measure(const QString& name, const QString& folder, std::int64_t started) {
     installInterfaceFont();
     try {
-        name == QStringLiteral("empty") ? measureEmpty(started) : measureRelease(folder, started);
+        const Figures figures(name.toStdString());
+        name == QStringLiteral("empty") ? measureEmpty(figures, started)
+                                        : measureRelease(figures, folder, started);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "bench-frame: %s\n", error.what());
         return 1;

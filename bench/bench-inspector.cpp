@@ -6,13 +6,13 @@
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
 #include "app/QmlModules.h"
+#include "bench/Figures.h"
 #include "bench/FrameClock.h"
 #include "bench/Process.h"
-#include "platform/Appearance.h"
+#include "bench/Stillness.h"
 #include "platform/Memory.h"
 #include "platform/ui/theme/Fonts.h"
 
-#include <QDBusVariant>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
@@ -30,15 +30,6 @@ using Sheet = SheetStack::Sheet;
 /// The first openings fill caches of tiles, fonts, glyphs and components.
 constexpr std::size_t openingsToWarmUp = 500;
 
-/// As a desktop that asks for less motion tells it.
-void stopMotion() {
-    QMetaObject::invokeMethod(Appearance::create(nullptr, nullptr),
-                              "apply",
-                              Q_ARG(QString, QStringLiteral("org.freedesktop.appearance")),
-                              Q_ARG(QString, QStringLiteral("reduced-motion")),
-                              Q_ARG(QDBusVariant, QDBusVariant(1U)));
-}
-
 void expectPicture(std::int64_t shown, const char* what) {
     if (shown == 0) {
         throw std::runtime_error(std::string("no picture: ") + what);
@@ -47,6 +38,7 @@ void expectPicture(std::int64_t shown, const char* what) {
 
 void measure(std::size_t openings) {
     stopMotion();
+    const Figures figures("real");
     const QTemporaryDir user;
     OpenMapApp windows(Bundle(QStringLiteral(VASKER_PACKAGED_RESOURCES)),
                        TextLocale::fromEnvironment(),
@@ -76,19 +68,11 @@ void measure(std::size_t openings) {
             warm = proportionalMemory();
         }
     }
-    std::sort(times.begin(), times.end());
-    std::printf("inspector to picture   median %6.2f ms   95th percentile %6.2f ms   longest %6.2f "
-                "ms\n",
-                times[openings / 2],
-                times[openings * 95 / 100],
-                times.back());
+    figures.addTimes("inspector to picture", times);
     if (openings > openingsToWarmUp) {
-        std::printf("memory                 %6.0f MB after %zu openings, %.0f MB after %zu\n",
-                    warm,
-                    openingsToWarmUp,
-                    proportionalMemory(),
-                    openings);
+        figures.add("memory after 500 inspectors", warm, "MB");
     }
+    figures.add("memory after all inspectors", proportionalMemory(), "MB");
 }
 
 } // namespace

@@ -82,4 +82,10 @@ int OpenMapInspector::promptFacts() const {
         facts, [](const OpenMapFact& fact) { return fact.label.size() + fact.value.size(); });
 }
 
+int OpenMapInspector::promptCredits() const {
+    constexpr int rowsOfCredit = 2; // a credit is about as tall as two facts
+    const int rowsLeft = std::max(0, mostPromptRows - static_cast<int>(facts.size()));
+    return std::min(promptCount(credits), (rowsLeft + rowsOfCredit - 1) / rowsOfCredit);
+}
+
 } // namespace vasker

@@ -4,6 +4,7 @@
 
 #include "data/OpenMapRelease.h"
 #include "detail/OpenMapCredit.h"
+#include "platform/ui/text/TextPieces.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -25,6 +26,8 @@ struct OpenMapFact {
     /// Both empty: there is no link.
     Q_PROPERTY(QString linkTitle READ linkTitle CONSTANT)
     Q_PROPERTY(QString linkAddress READ linkAddress CONSTANT)
+    /// Whether a text of it is more than is laid out at once.
+    Q_PROPERTY(bool isLong READ isLong CONSTANT)
 
   public:
     struct Link {
@@ -39,6 +42,7 @@ struct OpenMapFact {
 
     [[nodiscard]] QString linkTitle() const { return link ? link->title : QString(); }
     [[nodiscard]] QString linkAddress() const { return link ? link->address : QString(); }
+    [[nodiscard]] bool isLong() const { return isLongText(label) || isLongText(value); }
 
     friend bool operator==(const OpenMapFact&, const OpenMapFact&) = default;
 };
@@ -83,7 +87,7 @@ struct OpenMapInspector {
     [[nodiscard]] QVariantList creditList() const { return asList(credits); }
     /// How many rows of each list a view lays out before it shows anything; see promptCount().
     [[nodiscard]] int promptFacts() const;
-    [[nodiscard]] int promptCredits() const { return promptCount(credits); }
+    [[nodiscard]] int promptCredits() const;
 };
 
 } // namespace vasker

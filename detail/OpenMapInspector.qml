@@ -104,7 +104,7 @@ Item {
 
                     width: parent?.width ?? 0
                     active: index < factSteps.made
-                    Component.onCompleted: setSource("FactRow.qml", {
+                    Component.onCompleted: setSource(modelData.isLong ? "LongFactRow.qml" : "FactRow.qml", {
                         "fact": modelData,
                         "separated": index > 0,
                         "width": width,

@@ -12,6 +12,10 @@ namespace {
 /// Scales that differ less than this count as equal.
 constexpr double scaleTolerance = 1e-4;
 
+/// So many images of tiles that are not seen yet become textures in one frame: each takes half a
+/// millisecond.
+constexpr std::size_t mostImagesAhead = 3;
+
 /// The quad of `tile` in the copy of the world that lies `offset` map points to the east. At rest
 /// and upright it stands on whole device pixels. With an opacity of 0 it has no area: nothing is
 /// seen, and the texture is made all the same.
@@ -100,7 +104,9 @@ void BasemapFrameBuilder::showCover(TileGeneration& generation,
 
 void BasemapFrameBuilder::prepare(TileGeneration& generation) {
     for (auto& [key, tile] : generation.tiles) {
-        add(tile, 0, 0);
+        if (tile.isHandedOver || m_frame.tiles.newImages.size() < mostImagesAhead) {
+            add(tile, 0, 0);
+        }
     }
 }
 

@@ -20,7 +20,7 @@ class BasemapFrameBuilder {
     /// Exactly the tiles of `cover`, all of which are there: what is left of other views may be
     /// coarser, or older.
     void showCover(TileGeneration& generation, const std::vector<CoverTile>& cover, double opacity);
-    /// Hands images over before they are seen.
+    /// Hands images over before they are seen, a few a frame.
     void prepare(TileGeneration& generation);
     /// The labels of the tiles shown last, and what else is said of them.
     void describe(const TileGeneration& generation);

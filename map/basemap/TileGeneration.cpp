@@ -79,6 +79,14 @@ bool TileGeneration::markOutdated(const ServiceTile& tile) {
     return isConcerned;
 }
 
+void TileGeneration::dropBasemapsOutside(const std::vector<CoverTile>& cover) {
+    for (auto& [key, tile] : tiles) {
+        if (tile.isHandedOver && !std::ranges::count(cover, key, &CoverTile::key)) {
+            tile.basemap = {};
+        }
+    }
+}
+
 void TileGeneration::trim(const Camera& camera, double margin) {
     const auto offsets = worldCopyOffsets(camera.visibleRect(margin));
     std::erase_if(tiles, [&](const auto& tile) {

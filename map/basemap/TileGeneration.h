@@ -48,6 +48,8 @@ struct TileGeneration {
     void takeBasemap(const TileGeneration& other);
     /// More is known of `tile` now; whether that concerns a tile of this generation.
     bool markOutdated(const ServiceTile& tile);
+    /// Of tiles that are shown, only those of `cover` keep what a new overlay would be painted on.
+    void dropBasemapsOutside(const std::vector<CoverTile>& cover);
     /// Drops what lies farther than `margin` pixels outside the view.
     void trim(const Camera& camera, double margin);
 };

@@ -285,6 +285,9 @@ BasemapFrame TilePyramid::show(std::chrono::nanoseconds now) {
         if (m_current->tiles.size() >= frame.shownLast() + keptOutOfView) {
             m_current->trim(m_view.camera, keptAround);
         }
+        if (m_view.isResting && !m_pending) {
+            m_current->dropBasemapsOutside(cover(*m_current, paintedAhead));
+        }
     }
     if (m_pending) {
         frame.prepare(*m_pending);

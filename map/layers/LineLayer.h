@@ -1,9 +1,12 @@
 #pragma once
 // Lines of constant width on the screen, as one triangle strip.
 
+#include "map/geometry/Camera.h"
+
 #include <QColor>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -34,8 +37,10 @@ struct LineStyle {
 };
 
 struct LineLayer {
-    LineStrip strip;
+    /// Never changes; null: there are no lines. The scene graph keeps it until another one comes.
+    std::shared_ptr<const LineStrip> strip;
     LineStyle style;
+    ScreenPoint offset{0, 0}; ///< of the strip in the item, in item pixels
 };
 
 } // namespace vasker

@@ -49,6 +49,8 @@ void MapRecords::setHovered(const QString& id) {
 }
 
 void MapRecords::refreshColors() {
+    m_selectedStrip.drop();
+    m_hoveredStrip.drop();
     m_colors.clear();
     m_routeColors.clear();
     ++m_revision;
@@ -76,6 +78,8 @@ std::optional<AssetIndex> MapRecords::shownRecord(const QString& id) const {
 void MapRecords::findHighlighted() {
     m_selectedAsset = shownRecord(m_selection);
     m_hoveredAsset = shownRecord(m_hovered);
+    m_selectedStrip.drop();
+    m_hoveredStrip.drop();
 }
 
 const OpenMapRelease::Asset& MapRecords::asset(AssetIndex index) const {
@@ -128,15 +132,20 @@ const MarkerLayout* MapRecords::layoutOf(const TileOverlay* painted) const {
     return nullptr;
 }
 
-LineStrip MapRecords::stripOf(std::optional<AssetIndex> index, const Camera& camera) const {
-    if (!index || !asset(*index).hasRoute()) {
-        return {};
+void MapRecords::placeRoute(LineLayer& layer,
+                            HeldStrip& held,
+                            std::optional<AssetIndex> index,
+                            const Camera& camera) const {
+    if (index && asset(*index).hasRoute()) {
+        const RecordGeometry& geometry = m_records.loaded->geometry;
+        const HeldStrip::Placed placed =
+            held.shown(geometry, geometry.runsOf(*index), m_routeColors, camera);
+        layer.strip = placed.strip;
+        layer.offset = placed.offset;
     }
-    const RecordGeometry& geometry = m_records.loaded->geometry;
-    return routeStrip(geometry, geometry.runsOf(*index), m_routeColors, camera);
 }
 
-std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawing drawing) const {
+std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawing drawing) {
     const MapTheme& theme = mapTheme(m_theme);
     const QColor blue = colorValue(PaletteColor::blue, theme.records);
     LineLayer routes{{}, {routeWidth, routeCasing, theme.routeCasing, {}}};
@@ -145,17 +154,18 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
     DotLayer dots{{}, dotRadius, dotCasing, theme.markerCasing};
     if (m_records.loaded && drawing == RecordDrawing::live) {
         const RecordGeometry& geometry = m_records.loaded->geometry;
-        routes.strip = routeStrip(geometry, geometry.runs(), m_routeColors, camera);
+        routes.strip = std::make_shared<const LineStrip>(
+            routeStrip(geometry, geometry.runs(), m_routeColors, camera));
     }
     if (m_hoveredAsset != m_selectedAsset) {
-        hovered.strip = stripOf(m_hoveredAsset, camera);
+        placeRoute(hovered, m_hoveredStrip, m_hoveredAsset, camera);
     }
-    selected.strip = stripOf(m_selectedAsset, camera);
+    placeRoute(selected, m_selectedStrip, m_selectedAsset, camera);
     LineLayer outline = selected;
     outline.style.casingWidth += selectedRouteOutline;
     outline.style.casing = theme.markerOutline;
     if (theme.markerOutline.alpha() == 0) {
-        outline.strip.clear();
+        outline.strip.reset();
     }
     for (const PlacedMarker& dot : m_markerFrame.dots) {
         dots.dots.push_back({static_cast<float>(dot.point.x),

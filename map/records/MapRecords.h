@@ -4,6 +4,7 @@
 
 #include "map/geometry/ScreenRect.h"
 #include "map/layers/MapLayer.h"
+#include "map/records/HeldStrip.h"
 #include "map/records/HitTest.h"
 #include "map/records/MarkerFrame.h"
 #include "map/records/PinAtlas.h"
@@ -80,9 +81,11 @@ class MapRecords {
     [[nodiscard]] const MarkerLayout* layoutOf(const TileOverlay* painted) const;
     [[nodiscard]] std::optional<AssetIndex> shownRecord(const QString& id) const;
     [[nodiscard]] std::optional<Marker> markerOf(std::optional<AssetIndex> index) const;
-    [[nodiscard]] LineStrip stripOf(std::optional<AssetIndex> index, const Camera& camera) const;
-    [[nodiscard]] std::vector<MapLayer> linesAndDots(const Camera& camera,
-                                                     RecordDrawing drawing) const;
+    void placeRoute(LineLayer& layer,
+                    HeldStrip& held,
+                    std::optional<AssetIndex> asset,
+                    const Camera& camera) const;
+    [[nodiscard]] std::vector<MapLayer> linesAndDots(const Camera& camera, RecordDrawing drawing);
     void addPins(RecordFrame& frame, double devicePixels);
 
     RecordSet m_records;
@@ -98,7 +101,9 @@ class MapRecords {
     std::vector<Marker> m_markers; ///< by priority
     std::map<DetailLevel, std::shared_ptr<const MarkerLayout>> m_layouts; ///< as needed
     std::vector<std::weak_ptr<const RecordOverlay>> m_overlays; ///< those that were made and live
-    MarkerFrame m_markerFrame;                                  ///< as last composed
+    HeldStrip m_selectedStrip;
+    HeldStrip m_hoveredStrip;
+    MarkerFrame m_markerFrame;      ///< as last composed
     std::optional<PinAtlas> m_pins; ///< none: to be made; for the density below
     double m_devicePixels = 0;
 };

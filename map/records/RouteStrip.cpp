@@ -119,20 +119,30 @@ void drawLine(Pen& pen, std::span<const ScreenPoint> line) {
 LineStrip routeStrip(const RecordGeometry& geometry,
                      std::span<const RouteRun> runs,
                      const RouteColors& colors,
-                     const Camera& camera) {
+                     const Camera& camera,
+                     double margin) {
     LineStrip strip;
     const Viewport view = camera.viewport();
-    const LineView screen{
-        .project = [&camera](MapPoint point) { return camera.worldToPerspective(point); },
-        .width = view.width,
-        .height = view.height,
-        .seen = camera.visibleRect(lineReach),
-        .scale = camera.scale()};
+    const LineView screen{.project =
+                              [&camera, margin](MapPoint point) {
+                                  PerspectivePoint place = camera.worldToPerspective(point);
+                                  place.x += margin * place.w;
+                                  place.y += margin * place.w;
+                                  return place;
+                              },
+                          .width = view.width + 2 * margin,
+                          .height = view.height + 2 * margin,
+                          .seen = camera.visibleRect(margin + lineReach),
+                          .scale = camera.scale()};
     drawRouteLines(
         geometry, runs, colors, screen, [&strip](Rgb color, std::span<const ScreenPoint> line) {
             Pen pen(strip, color);
             drawLine(pen, line);
         });
+    for (LineVertex& vertex : strip) {
+        vertex.x -= static_cast<float>(margin);
+        vertex.y -= static_cast<float>(margin);
+    }
     return strip;
 }
 

@@ -9,10 +9,12 @@
 
 namespace vasker {
 
-/// The lines of `runs` that `camera` sees, in every copy of the world.
+/// The lines of `runs` that `camera` sees, and those within `margin` pixels of its view, in every
+/// copy of the world.
 [[nodiscard]] LineStrip routeStrip(const RecordGeometry& geometry,
                                    std::span<const RouteRun> runs,
                                    const RouteColors& colors,
-                                   const Camera& camera);
+                                   const Camera& camera,
+                                   double margin = 0);
 
 } // namespace vasker

@@ -30,7 +30,9 @@ class LineShader final : public QSGMaterialShader {
             color = premultiplied(*style.color);
         }
         UniformBlock block(*state.uniformData());
-        block.write(state.combinedMatrix());
+        QMatrix4x4 matrix = state.combinedMatrix();
+        matrix.translate(material.offset.x(), material.offset.y());
+        block.write(matrix);
         block.write(color);
         block.write(premultiplied(style.casing));
         block.write(QVector4D(core, whole, drawn, material.devicePixels));

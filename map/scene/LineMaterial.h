@@ -5,6 +5,7 @@
 
 #include <QSGGeometry>
 #include <QSGMaterial>
+#include <QVector2D>
 
 namespace vasker {
 
@@ -16,6 +17,7 @@ class LineMaterial final : public QSGMaterial {
     static const QSGGeometry::AttributeSet& attributes();
 
     LineStyle style;
+    QVector2D offset;       ///< of the strip, in item pixels
     float devicePixels = 1; ///< device pixels per item pixel
 
     [[nodiscard]] QSGMaterialType* type() const override;

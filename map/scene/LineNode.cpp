@@ -12,17 +12,22 @@ LineNode::LineNode() : m_geometry(LineMaterial::attributes(), 0) {
 }
 
 void LineNode::update(const LineLayer& layer, float devicePixels) {
-    const LineStrip& strip = layer.strip;
-    if (strip.empty() && m_geometry.vertexCount() == 0) {
-        return;
+    if (layer.strip != m_strip) {
+        m_strip = layer.strip;
+        const std::size_t count = m_strip ? m_strip->size() : 0;
+        m_geometry.allocate(static_cast<int>(count));
+        if (count > 0) {
+            std::memcpy(m_geometry.vertexData(), m_strip->data(), count * sizeof(LineVertex));
+        }
+        markDirty(DirtyGeometry);
     }
-    m_geometry.allocate(static_cast<int>(strip.size()));
-    if (!strip.empty()) {
-        std::memcpy(m_geometry.vertexData(), strip.data(), strip.size() * sizeof(LineVertex));
+    if (m_strip) {
+        m_material.style = layer.style;
+        m_material.offset = {static_cast<float>(layer.offset.x),
+                             static_cast<float>(layer.offset.y)};
+        m_material.devicePixels = devicePixels;
+        markDirty(DirtyMaterial);
     }
-    m_material.style = layer.style;
-    m_material.devicePixels = devicePixels;
-    markDirty(DirtyGeometry | DirtyMaterial);
 }
 
 } // namespace vasker

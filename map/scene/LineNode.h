@@ -6,6 +6,8 @@
 
 #include <QSGGeometryNode>
 
+#include <memory>
+
 namespace vasker {
 
 class LineNode final : public QSGGeometryNode {
@@ -18,6 +20,7 @@ class LineNode final : public QSGGeometryNode {
   private:
     QSGGeometry m_geometry;
     LineMaterial m_material;
+    std::shared_ptr<const LineStrip> m_strip; ///< that m_geometry was made of
 };
 
 } // namespace vasker

@@ -8,7 +8,7 @@
 
 namespace vasker {
 
-/// What filling these rings at once takes, in pixels of outline: about a quarter of a microsecond
+/// What filling these rings at once takes, in pixels of outline: a quarter to half a microsecond
 /// each. The rings are in device pixels and lie in or near a raster tile.
 [[nodiscard]] double fillCost(std::span<const QPolygonF> rings);
 /// What drawing these lines at once takes, `width` device pixels wide.

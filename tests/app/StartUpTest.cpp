@@ -77,6 +77,42 @@ TEST_F(StartUp, AValidReleaseIsShown) {
     EXPECT_EQ(loading->workspace()->release(), makeRelease());
 }
 
+TEST_F(StartUp, WindowsOfOneReleaseHoldItOnce) {
+    writeRelease(m_release);
+    const auto first = root();
+    const auto second = root();
+    first->load();
+    wait(*first);
+    second->load();
+    wait(*second);
+    ASSERT_EQ(second->screen(), Screen::Ready);
+    EXPECT_EQ(&second->workspace()->release(), &first->workspace()->release());
+}
+
+TEST_F(StartUp, AWindowOfAnotherReleaseHoldsItsOwn) {
+    writeRelease(m_release);
+    const auto first = root();
+    first->load();
+    wait(*first);
+    OpenMapRelease other = makeRelease();
+    other.assets[0].name = "Another plant";
+    writeRelease(encode(other));
+    const auto second = root();
+    second->load();
+    wait(*second);
+    EXPECT_EQ(second->workspace()->release(), other);
+    EXPECT_EQ(first->workspace()->release(), makeRelease());
+}
+
+TEST_F(StartUp, AFileThatIsDamagedIsRefusedThoughAWindowHoldsItsRelease) {
+    writeRelease(m_release);
+    const auto first = root();
+    first->load();
+    wait(*first);
+    write("OpenMap.json", m_release + ' ');
+    EXPECT_EQ(failure(), checksum);
+}
+
 TEST_F(StartUp, ABundleWithoutTheResourceFailsAtOnce) {
     writeDigest(sha256(m_release));
     const auto loading = root();

@@ -62,7 +62,7 @@ TEST(OpenMapCredit, OfLongListsOnlyTheFirstAreLaidOutAtOnce) {
     const OpenMapCredit one = OpenMapCredit::of(makeSource());
     EXPECT_EQ(promptCount({}), 0);
     EXPECT_EQ(promptCount({one, one}), 2);
-    EXPECT_EQ(promptCount(std::vector<OpenMapCredit>(100, one)), 12);
+    EXPECT_EQ(promptCount(std::vector<OpenMapCredit>(100, one)), 7);
     OpenMapCredit huge = one;
     huge.attribution = QString(100'000, QLatin1Char('a'));
     EXPECT_EQ(promptCount({huge, one}), 1);

@@ -174,9 +174,23 @@ TEST(OpenMapInspector, OfHugeFactsOnlyTheFirstIsLaidOutAtOnce) {
     release.assets[0].facts.assign(50, makeFact(std::string(10'000, 'x')));
     EXPECT_EQ(inspected(release).promptFacts(), 1);
     release.assets[0].facts.assign(50, makeFact());
-    EXPECT_EQ(inspected(release).promptFacts(), 12);
+    EXPECT_EQ(inspected(release).promptFacts(), 7);
     release.assets[0].facts.assign(5, makeFact());
     EXPECT_EQ(inspected(release).promptFacts(), 5);
+}
+
+TEST(OpenMapInspector, LaysOutAtOnceOnlyTheCreditsThatHaveRoomBelowItsFacts) {
+    OpenMapRelease release = releaseOfTwoSources();
+    auto& facts = release.assets[0].facts;
+    const auto promptCreditsWith = [&](std::size_t count) {
+        facts.assign(count, makeFact());
+        facts.back().sourceID = sourceID(1);
+        return inspected(release).promptCredits();
+    };
+    EXPECT_EQ(promptCreditsWith(2), 2);
+    EXPECT_EQ(promptCreditsWith(6), 1);
+    EXPECT_EQ(promptCreditsWith(7), 0);
+    EXPECT_EQ(promptCreditsWith(50), 0);
 }
 
 TEST(ReleaseRecord, IsEmptyWithoutReleaseAndWithoutRecord) {

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QQuickWindow>
 
 namespace vasker {
 
@@ -13,6 +14,8 @@ void installInterfaceFont() {
                                  QStringLiteral("Noto Sans")} +
                      font.families());
     QGuiApplication::setFont(font);
+    // Glyphs as images: a processor that draws takes a multiple of the time for distance fields.
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 }
 
 } // namespace vasker

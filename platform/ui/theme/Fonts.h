@@ -1,5 +1,5 @@
 #pragma once
-// The typeface of all texts.
+// The typeface of all texts, and how it is drawn.
 
 namespace vasker {
 

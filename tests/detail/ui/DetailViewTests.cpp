@@ -90,9 +90,11 @@ class Releases : public QObject {
         release.sources[0].sourceURL = "http://data.example.ca/npri";
         return first(std::move(release));
     }
-    Q_INVOKABLE static vasker::ReleaseRecord withFiftyHugeFacts() {
+    /// Of 10,000 characters each: `part` again and again.
+    Q_INVOKABLE static vasker::ReleaseRecord withFiftyHugeFacts(const QString& part) {
         OpenMapRelease release = makeRelease();
-        release.assets[0].facts.assign(50, makeFact(std::string(10'000, 'x')));
+        const QString value = part.repeated(10'000 / part.size());
+        release.assets[0].facts.assign(50, makeFact(value.toStdString()));
         return first(std::move(release));
     }
     Q_INVOKABLE static vasker::ReleaseRecord withManyFacts() {

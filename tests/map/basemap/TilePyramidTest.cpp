@@ -276,6 +276,21 @@ TEST_F(TilePyramidTest, AnImageIsHandedOverOnce) {
     EXPECT_TRUE(frame.tiles.newImages.empty());
 }
 
+TEST_F(TilePyramidTest, ImagesThatAreNotSeenYetAreHandedOverAFewAFrame) {
+    openWithoutServices();
+    ASSERT_TRUE(lookUntilComplete());
+    scaleTo(1.2);
+    look();
+    library->workers().wait(pyramid.get(), milliseconds(10'000));
+    std::size_t handedOver = 0;
+    ASSERT_TRUE(lookUntil([&] {
+        EXPECT_LE(frame.tiles.newImages.size(), 3U);
+        handedOver += frame.tiles.newImages.size();
+        return frame.scale == view.camera.scale();
+    }));
+    EXPECT_GE(handedOver, 4U);
+}
+
 TEST_F(TilePyramidTest, AnOverlayIsPaintedInDevicePixels) {
     struct Spot : TileOverlay {
         void paint(QImage& image, const MapRect& bounds, double scale) const override {

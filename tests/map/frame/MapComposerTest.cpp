@@ -62,7 +62,7 @@ TEST_F(MapComposerTest, TheListOfLayersHasTheSameKindsInEveryFrame) {
 
 TEST_F(MapComposerTest, WithoutTilesRecordsAreDrawnLive) {
     const MapFrame frame = compose();
-    EXPECT_FALSE(layersOf<LineLayer>(frame).front()->strip.empty());
+    EXPECT_FALSE(layersOf<LineLayer>(frame).front()->strip->empty());
     EXPECT_EQ(layersOf<DotLayer>(frame).front()->dots.size(), 1U); // the other has a pin
 }
 
@@ -70,8 +70,8 @@ TEST_F(MapComposerTest, TheSameStateGivesTheSameFrame) {
     static_cast<void>(compose());
     const MapFrame first = compose();
     const MapFrame second = compose();
-    EXPECT_EQ(layersOf<LineLayer>(first).front()->strip.size(),
-              layersOf<LineLayer>(second).front()->strip.size());
+    EXPECT_EQ(layersOf<LineLayer>(first).front()->strip->size(),
+              layersOf<LineLayer>(second).front()->strip->size());
     const auto spritesOf = [](const SpriteLayer& layer) {
         std::vector<ScreenPoint> corners;
         for (const SpriteSheet& sheet : layer.sheets) {
@@ -91,7 +91,8 @@ TEST_F(MapComposerTest, TheSelectedRouteIsBlueAndWide) {
     composer.records().setSelection(QStringLiteral("R-2"));
     const MapFrame frame = compose();
     const LineLayer& selected = *layersOf<LineLayer>(frame)[3];
-    EXPECT_FALSE(selected.strip.empty());
+    ASSERT_NE(selected.strip, nullptr);
+    EXPECT_FALSE(selected.strip->empty());
     EXPECT_EQ(selected.style.width, 5);
     EXPECT_EQ(selected.style.color, colorValue(PaletteColor::blue, ColorScheme::light));
 }
