@@ -223,7 +223,18 @@
     </message>
 </context>
 <context>
+    <name>FactRow</name>
+    <message>
+        <source>Found by the search</source>
+        <translation>Trouvé par la recherche</translation>
+    </message>
+</context>
+<context>
     <name>LabelledRow</name>
+    <message>
+        <source>Found by the search</source>
+        <translation>Trouvé par la recherche</translation>
+    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
@@ -341,6 +352,10 @@
 </context>
 <context>
     <name>OpenMapInspector</name>
+    <message>
+        <source>Found by the search</source>
+        <translation>Trouvé par la recherche</translation>
+    </message>
     <message>
         <source>Source period</source>
         <translation>Période de la source</translation>
@@ -712,6 +727,29 @@
     <message>
         <source>Records: %1</source>
         <translation>Fiches : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::FoundText</name>
+    <message>
+        <source>Id</source>
+        <translation>Identifiant</translation>
+    </message>
+    <message>
+        <source>Reporting company</source>
+        <translation>Entreprise déclarante</translation>
+    </message>
+    <message>
+        <source>Jurisdiction</source>
+        <translation>Province ou territoire</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <translation>%1 : </translation>
+    </message>
+    <message>
+        <source>Found in %1: %2</source>
+        <translation>Trouvé dans « %1 » : %2</translation>
     </message>
 </context>
 <context>

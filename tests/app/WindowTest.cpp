@@ -75,6 +75,23 @@ TEST_F(Window, ANameIsNeverReadAsMarkupWhateverWasInItsRowBefore) {
     EXPECT_EQ(attempts, 0);
 }
 
+TEST_F(Window, ARowSaysWhereARecordWasFoundThatItsNameDoesNotTell) {
+    openRecords();
+    const auto described = [&] {
+        return QAccessible::queryAccessibleInterface(item("open-map-record-A-10"));
+    };
+    const double height = item("open-map-record-A-10")->height();
+    workspace().setQuery(QStringLiteral("prairie"));
+    EXPECT_EQ(described()->text(QAccessible::Description),
+              QStringLiteral("Found in Reporting company: Prairie Gas"));
+    EXPECT_EQ(described()->text(QAccessible::Name),
+              QStringLiteral("Plant 10, Refinery, source period 2016"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return item("open-map-record-A-10")->height() > height; }));
+    workspace().setQuery(QStringLiteral("plant 10"));
+    EXPECT_EQ(described()->text(QAccessible::Description), QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return item("open-map-record-A-10")->height() == height; }));
+}
+
 TEST_F(Window, KeysMoveThroughTheListAndEnterPicks) {
     openRecords();
     key(Qt::Key_F, Qt::ControlModifier);
