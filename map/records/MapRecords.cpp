@@ -142,6 +142,7 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
     LineLayer routes{{}, {routeWidth, routeCasing, theme.routeCasing, {}}};
     LineLayer hovered{{}, {routeWidth, hoveredRouteCasing, blue, {}}};
     LineLayer selected{{}, {selectedRouteWidth, selectedRouteCasing, theme.markerCasing, blue}};
+    DotLayer quietDots{{}, quietDotRadius, dotCasing, theme.markerCasing};
     DotLayer dots{{}, dotRadius, dotCasing, theme.markerCasing};
     if (m_records.loaded && drawing == RecordDrawing::live) {
         const RecordGeometry& geometry = m_records.loaded->geometry;
@@ -158,7 +159,8 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
         outline.strip.clear();
     }
     for (const PlacedMarker& dot : m_markerFrame.dots) {
-        dots.dots.push_back({static_cast<float>(dot.point.x),
+        (dot.isQuiet ? quietDots : dots)
+            .dots.push_back({static_cast<float>(dot.point.x),
                              static_cast<float>(dot.point.y),
                              m_colors[dot.asset]});
     }
@@ -166,6 +168,7 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
             std::move(hovered),
             std::move(outline),
             std::move(selected),
+            std::move(quietDots),
             std::move(dots)};
 }
 
