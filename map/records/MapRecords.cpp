@@ -6,6 +6,8 @@
 #include "map/style/MapTheme.h"
 #include "presentation/Symbols.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <utility>
 
@@ -203,6 +205,32 @@ void MapRecords::addPins(RecordFrame& frame, double devicePixels) {
         draw(*m_markerFrame.selected, PinState::selected);
     }
     frame.pins.sheets.push_back(std::move(sheet));
+}
+
+std::vector<Shape> MapRecords::pinShapes() const {
+    std::vector<Shape> shapes;
+    const auto add = [&](const PlacedMarker& pin, PinState state) {
+        const ScreenPoint tip = PinAtlas::tip(state);
+        shapes.emplace_back([corner = QPointF(pin.point.x - tip.x, pin.point.y - tip.y),
+                             kind = asset(pin.asset).kind,
+                             theme = m_theme,
+                             state](QPainter& painter) {
+            painter.save();
+            painter.translate(corner);
+            paintPin(painter, kind, theme, state);
+            painter.restore();
+        });
+    };
+    for (const PlacedMarker& pin : m_markerFrame.pins) {
+        add(pin, PinState::plain);
+    }
+    if (m_markerFrame.hovered) {
+        add(*m_markerFrame.hovered, PinState::hovered);
+    }
+    if (m_markerFrame.selected) {
+        add(*m_markerFrame.selected, PinState::selected);
+    }
+    return shapes;
 }
 
 RecordFrame MapRecords::compose(const Camera& camera,

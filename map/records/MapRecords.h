@@ -4,6 +4,7 @@
 
 #include "map/geometry/ScreenRect.h"
 #include "map/layers/MapLayer.h"
+#include "map/layers/Shape.h"
 #include "map/records/HitTest.h"
 #include "map/records/MarkerFrame.h"
 #include "map/records/PinAtlas.h"
@@ -61,6 +62,9 @@ class MapRecords {
                                       RecordDrawing drawing,
                                       const TileOverlay* painted,
                                       double devicePixels);
+
+    /// The pins of the last frame, in drawing order, drawn instead of cut out.
+    [[nodiscard]] std::vector<Shape> pinShapes() const;
 
     /// Where the point of a record without routes stands, in the copy of the world nearest to the
     /// camera's centre; nothing for one with routes or out of view.

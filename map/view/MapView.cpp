@@ -2,9 +2,8 @@
 
 #include "map/scene/MapNode.h"
 #include "map/scene/Renderer.h"
-#include "platform/Locale.h"
+#include "map/view/ViewScene.h"
 
-#include <QLocale>
 #include <QQuickWindow>
 
 #include <chrono>
@@ -16,11 +15,6 @@ namespace {
 
 /// A camera that has not moved for so long is at rest.
 constexpr std::chrono::milliseconds restTime{90};
-
-MapLanguage mapLanguage() {
-    static const bool isFrench = QLocale(messagesLocale()).language() == QLocale::French;
-    return isFrench ? MapLanguage::french : MapLanguage::english;
-}
 
 } // namespace
 
