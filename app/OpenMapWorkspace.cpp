@@ -1,5 +1,6 @@
 #include "app/OpenMapWorkspace.h"
 
+#include "data/text/CaseFolding.h"
 #include "map/records/Framing.h"
 #include "platform/files/Preferences.h"
 
@@ -85,6 +86,10 @@ QString OpenMapWorkspace::inspector() const {
 ReleaseRecord OpenMapWorkspace::inspected() const {
     ReleaseRecord record = whole();
     record.asset = m_inspected;
+    if (m_inspected) {
+        record.found = m_loaded->index.firstMatch(
+            folded(query().toStdString(), m_loaded->index.locale()), *m_inspected);
+    }
     return record;
 }
 

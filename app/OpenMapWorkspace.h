@@ -74,8 +74,8 @@ class OpenMapWorkspace : public QObject {
     [[nodiscard]] bool showingRecords() const { return m_sheets.isRequested(Sheet::Records); }
     void setShowingRecords(bool showing) { show(Sheet::Records, showing); }
 
-    /// The record of the inspector. It stays when the inspector is to close, so that it does not
-    /// change while it leaves.
+    /// The record of the inspector, and what it was found by. It stays when the inspector is to
+    /// close, so that it does not change while it leaves.
     [[nodiscard]] ReleaseRecord inspected() const;
     /// The release, and no record of it.
     [[nodiscard]] ReleaseRecord whole() const;

@@ -62,9 +62,22 @@ HeaderButton {
             onPicked: root.saves.savePicture(root.Window.window, 2)
         }
         MenuRow {
+            label: qsTr("Save a picture at four times the size…")
+            onPicked: root.saves.savePicture(root.Window.window, 4)
+        }
+        MenuRow {
+            label: qsTr("Save the map as PDF or SVG…")
+            onPicked: root.saves.savePage(root.Window.window)
+        }
+        MenuRow {
             label: qsTr("Copy picture of the map")
             note: "Ctrl+Shift+C"
             onPicked: root.saves.copyPicture()
+        }
+        MenuRow {
+            label: qsTr("Print the map…")
+            note: "Ctrl+P"
+            onPicked: root.saves.print(root.Window.window)
         }
     }
     Shortcut {
@@ -76,6 +89,11 @@ HeaderButton {
         sequence: "Ctrl+Shift+S"
         autoRepeat: false
         onActivated: root.saves.savePicture(root.Window.window)
+    }
+    Shortcut {
+        sequence: "Ctrl+P"
+        autoRepeat: false
+        onActivated: root.saves.print(root.Window.window)
     }
     Shortcut {
         sequence: "Ctrl+Shift+C"

@@ -1,6 +1,7 @@
 #include "data/Classification.h"
 
 #include "data/Cancelled.h"
+#include "data/SearchedTexts.h"
 #include "data/text/Capitalization.h"
 #include "data/text/CaseFolding.h"
 #include "data/text/CodePointOrder.h"
@@ -56,8 +57,7 @@ bool OpenMapRelease::Asset::matches(std::string_view query, const TextLocale& lo
     const auto contains = [&](std::string_view text) {
         return containsFolded(folded(text, locale), foldedQuery);
     };
-    return contains(name) || contains(id) || (reportedCompany && contains(*reportedCompany)) ||
-           contains(jurisdiction) || std::ranges::any_of(facts, contains, &Fact::value);
+    return std::ranges::any_of(searchedTexts(*this), contains, &SearchedText::text);
 }
 
 std::vector<AssetIndex> filtered(const OpenMapRelease& release,

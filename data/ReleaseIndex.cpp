@@ -31,14 +31,8 @@ std::vector<AssetIndex> nameOrderOf(const std::vector<Asset>& assets,
 }
 
 void addTexts(FoldedTexts& texts, const Asset& asset, const std::stop_token& stop) {
-    texts.addText(asset.name, stop);
-    texts.addText(asset.id, stop);
-    if (asset.reportedCompany) {
-        texts.addText(*asset.reportedCompany, stop);
-    }
-    texts.addText(asset.jurisdiction, stop);
-    for (const OpenMapRelease::Fact& fact : asset.facts) {
-        texts.addText(fact.value, stop);
+    for (const SearchedText& each : searchedTexts(asset)) {
+        texts.addText(each.text, stop);
     }
     texts.endRecord();
 }
@@ -63,6 +57,10 @@ ReleaseIndex::ReleaseIndex(std::shared_ptr<const OpenMapRelease> release,
         addTexts(m_texts, assets[each], stop);
     }
     m_texts.finish();
+    m_ranks.resize(assets.size());
+    for (std::size_t rank = 0; rank < m_nameOrder.size(); ++rank) {
+        m_ranks[m_nameOrder[rank]] = static_cast<std::uint32_t>(rank);
+    }
 
     m_byID.reserve(assets.size());
     for (const Asset& asset : assets) {
@@ -98,6 +96,15 @@ std::vector<AssetIndex> ReleaseIndex::filtered(std::string_view query,
     std::ranges::transform(
         ranks, ranks.begin(), [this](std::uint32_t rank) { return m_nameOrder[rank]; });
     return ranks;
+}
+
+std::optional<SearchedText> ReleaseIndex::firstMatch(std::string_view foldedQuery,
+                                                     AssetIndex record) const {
+    if (foldedQuery.empty()) {
+        return std::nullopt;
+    }
+    const auto text = m_texts.firstTextWith(foldedQuery, m_ranks[record]);
+    return text ? std::optional(searchedTexts(m_release->assets[record])[*text]) : std::nullopt;
 }
 
 std::optional<AssetIndex> ReleaseIndex::find(std::string_view id) const {

@@ -2,6 +2,7 @@
 // A release prepared for views: its records in name order, its texts folded for search, its kinds.
 
 #include "data/OpenMapRelease.h"
+#include "data/SearchedTexts.h"
 #include "data/text/FoldedTexts.h"
 
 #include <cstddef>
@@ -38,6 +39,12 @@ class ReleaseIndex {
     /// Returns for each of kinds() how many records of this kind match `query`.
     [[nodiscard]] std::vector<std::size_t> counts(std::string_view query) const;
 
+    /// Returns the first text of `record` that contains `foldedQuery`, a query after folded(). The
+    /// text lives as long as the release. Nothing where filtered() leaves the record out, and for
+    /// the empty query, which every record matches and none of its texts more than another.
+    [[nodiscard]] std::optional<SearchedText> firstMatch(std::string_view foldedQuery,
+                                                         AssetIndex record) const;
+
     /// Returns the distinct kinds in code-point order.
     [[nodiscard]] const std::vector<std::string>& kinds() const noexcept { return m_kinds; }
 
@@ -55,6 +62,7 @@ class ReleaseIndex {
     TextLocale m_locale;
     std::vector<std::string> m_kinds;
     std::vector<AssetIndex> m_nameOrder;      ///< by rank
+    std::vector<std::uint32_t> m_ranks;       ///< by AssetIndex
     std::vector<std::uint32_t> m_kindIndices; ///< by rank; indices in m_kinds
     FoldedTexts m_texts;                      ///< by rank
     std::unordered_map<std::string_view, AssetIndex> m_byID;

@@ -23,7 +23,9 @@ SectionRow {
     SelectableText {
         width: parent.width
         horizontalAlignment: TextEdit.AlignLeft
+        textStyle: root.fact.found ? Theme.type.headline : Theme.type.body
         text: root.fact.value
+        Accessible.description: root.fact.found ? qsTr("Found by the search") : ""
         keyTarget: root.keyTarget
     }
     LinkText {

@@ -39,12 +39,18 @@ QString locationText(const Asset& asset) {
 
 } // namespace
 
-OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release, const Asset& asset) {
+OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
+                                      const Asset& asset,
+                                      const std::optional<SearchedText>& found) {
+    using Field = SearchedText::Field;
+    const auto isFoundBy = [&](Field field) { return found && found->field == field; };
     OpenMapInspector inspector{.name = toQString(asset.name),
                                .subtitle = recordSubtitle(asset),
                                .period = toQString(asset.asOf),
                                .status = toQString(asset.status),
                                .company = {},
+                               .idFound = isFoundBy(Field::id),
+                               .companyFound = isFoundBy(Field::company),
                                .caveat = tr("Company and status describe the cited release. They "
                                             "do not establish the current operator or current "
                                             "operation."),
@@ -59,6 +65,9 @@ OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release, const Asset
         inspector.facts.push_back({.label = toQString(fact.label),
                                    .value = toQString(fact.value),
                                    .link = provenance(release, fact)});
+    }
+    if (isFoundBy(Field::fact)) {
+        inspector.facts[found->fact].found = true;
     }
     for (const Source& source : release.sources) {
         if (cites(asset, source)) {

@@ -3,6 +3,7 @@
 // publisher of each value, and what its place means. Texts of the release stand as stored.
 
 #include "data/OpenMapRelease.h"
+#include "data/SearchedTexts.h"
 #include "detail/OpenMapCredit.h"
 #include "platform/ui/text/TextPieces.h"
 
@@ -28,6 +29,7 @@ struct OpenMapFact {
     Q_PROPERTY(QString linkAddress READ linkAddress CONSTANT)
     /// Whether a text of it is more than is laid out at once.
     Q_PROPERTY(bool isLong READ isLong CONSTANT)
+    Q_PROPERTY(bool found MEMBER found CONSTANT)
 
   public:
     struct Link {
@@ -39,6 +41,7 @@ struct OpenMapFact {
     QString label;
     QString value;
     std::optional<Link> link;
+    bool found = false; ///< the record was found by this value
 
     [[nodiscard]] QString linkTitle() const { return link ? link->title : QString(); }
     [[nodiscard]] QString linkAddress() const { return link ? link->address : QString(); }
@@ -57,6 +60,8 @@ struct OpenMapInspector {
     Q_PROPERTY(QString status MEMBER status CONSTANT)
     Q_PROPERTY(bool hasCompany READ hasCompany CONSTANT)
     Q_PROPERTY(QString companyName READ companyName CONSTANT)
+    Q_PROPERTY(bool companyFound MEMBER companyFound CONSTANT)
+    Q_PROPERTY(bool idFound MEMBER idFound CONSTANT)
     Q_PROPERTY(QString caveat MEMBER caveat CONSTANT)
     Q_PROPERTY(QVariantList facts READ factList CONSTANT)
     Q_PROPERTY(int promptFacts READ promptFacts CONSTANT)
@@ -70,14 +75,18 @@ struct OpenMapInspector {
     QString period;
     QString status;
     std::optional<QString> company; ///< present, even if empty: there is a row for it
+    bool idFound = false;           ///< the record was found by its id
+    bool companyFound = false;      ///< the record was found by its company
     QString caveat;
     std::vector<OpenMapFact> facts;
     std::vector<OpenMapCredit> credits; ///< of each cited source once, in the release's order
     QString location;
 
-    /// What is told about `asset`, whose sources are looked up in `release`.
+    /// What is told about `asset`, whose sources are looked up in `release`. `found` is the text
+    /// that a search found it by, if any.
     [[nodiscard]] static OpenMapInspector of(const OpenMapRelease& release,
-                                             const OpenMapRelease::Asset& asset);
+                                             const OpenMapRelease::Asset& asset,
+                                             const std::optional<SearchedText>& found = {});
 
     [[nodiscard]] bool hasCompany() const { return company.has_value(); }
     [[nodiscard]] QString companyName() const { return company.value_or(QString()); }

@@ -68,9 +68,10 @@ Item {
                 SelectableText {
                     width: parent.width
                     horizontalAlignment: TextEdit.AlignLeft
-                    textStyle: Theme.type.caption
+                    textStyle: root.content.idFound ? Theme.type.captionMedium : Theme.type.caption
                     color: Theme.colors.text2
                     text: root.content.subtitle
+                    Accessible.description: root.content.idFound ? qsTr("Found by the search") : ""
                     keyTarget: list
                 }
             }
@@ -86,6 +87,7 @@ Item {
                 visible: root.content.hasCompany
                 label: qsTr("Reporting company")
                 value: root.content.companyName
+                found: root.content.companyFound
             }
             NoteRow {
                 textStyle: Theme.type.caption

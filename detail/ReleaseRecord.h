@@ -3,6 +3,7 @@
 // value; copies share the release.
 
 #include "data/OpenMapRelease.h"
+#include "data/SearchedTexts.h"
 #include "detail/Citation.h"
 #include "detail/OpenMapInspector.h"
 #include "detail/OpenMapSources.h"
@@ -30,6 +31,7 @@ struct ReleaseRecord {
   public:
     std::shared_ptr<const OpenMapRelease> release; ///< null: nothing is shown
     std::optional<std::size_t> asset;              ///< a place in `release->assets`
+    std::optional<SearchedText> found = {};        ///< the text of it that a search found it by
 
     /// The record, or nullptr where there is none. Lives as long as the release.
     [[nodiscard]] const OpenMapRelease::Asset* record() const noexcept {
@@ -39,7 +41,8 @@ struct ReleaseRecord {
 
     [[nodiscard]] OpenMapInspector inspector() const {
         const OpenMapRelease::Asset* const shown = record();
-        return shown == nullptr ? OpenMapInspector{} : OpenMapInspector::of(*release, *shown);
+        return shown == nullptr ? OpenMapInspector{}
+                                : OpenMapInspector::of(*release, *shown, found);
     }
     [[nodiscard]] OpenMapSources sources() const {
         return release ? OpenMapSources::of(*release) : OpenMapSources{};

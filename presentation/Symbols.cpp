@@ -44,4 +44,8 @@ PaletteColor color(std::string_view kind) noexcept {
     return mark(kind).color;
 }
 
+bool hasOwnSymbol(std::string_view kind) noexcept {
+    return !mark(kind).kind.empty();
+}
+
 } // namespace vasker

@@ -13,4 +13,7 @@ namespace vasker {
 /// The colour for the category key `kind`; gray for a key without an own one.
 [[nodiscard]] PaletteColor color(std::string_view kind) noexcept;
 
+/// Whether the category key `kind` has an icon of its own.
+[[nodiscard]] bool hasOwnSymbol(std::string_view kind) noexcept;
+
 } // namespace vasker

@@ -31,7 +31,7 @@ picture_packages=(xvfb dbus-daemon netpbm)
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev qml6-module-qttest
     clang libclang-rt-dev clang-format clang-tidy desktop-file-utils appstream appstream-util
-    xauth x11-utils x11-apps xdotool at-spi2-core python3 python3-gi gir1.2-atspi-2.0
+    poppler-utils xauth x11-utils x11-apps xdotool at-spi2-core python3 python3-gi gir1.2-atspi-2.0
 )
 
 # Installs those of the packages given that are missing, and touches no other package. Where it cannot

@@ -1,14 +1,16 @@
 #include "app/saving/MapPicture.h"
 
-#include "platform/files/WholeFile.h"
 #include "platform/ui/theme/TextStyles.h"
 
-#include <QCoreApplication>
-#include <QImageWriter>
+#include <QFontMetricsF>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
+#include <QPen>
 #include <QTextLayout>
 
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace vasker {
@@ -16,6 +18,10 @@ namespace vasker {
 namespace {
 
 constexpr double margin = 14;
+constexpr double barStroke = 1.5;
+constexpr double haloStroke = 4;
+constexpr double northSize = 40;
+constexpr int dotsPerMetre = 3780; // 96 dots per inch, which the fonts of labels count in
 
 /// A text set in lines of one width.
 struct Paragraph {
@@ -42,9 +48,32 @@ struct Paragraph {
     }
 };
 
+QImage imageFor(QSizeF size, double scale) {
+    QImage image(static_cast<int>(std::lround(size.width() * scale)),
+                 static_cast<int>(std::lround(size.height() * scale)),
+                 QImage::Format_RGB32);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+    return image;
+}
+
+void drawWithHalo(QPainter& painter,
+                  const QPainterPath& strokes,
+                  const QColor& color,
+                  const QColor& halo) {
+    for (const auto& [shade, width] : {std::pair(halo, haloStroke), std::pair(color, barStroke)}) {
+        painter.strokePath(strokes, QPen(shade, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+}
+
 } // namespace
 
-QImage MapPicture::composed() const {
+QSizeF MapPicture::size() const {
+    return {mapSize.width(), mapSize.height() + drawStrip(nullptr)};
+}
+
+/// Its height; drawn from the painter's origin on.
+double MapPicture::drawStrip(QPainter* painter) const {
     const TextStyles styles = TextStyles::at(1);
     std::vector<Paragraph> paragraphs{{title, styles.headline, text}};
     for (const QString& note : notes) {
@@ -52,33 +81,95 @@ QImage MapPicture::composed() const {
             paragraphs.push_back({note, styles.caption, quietText});
         }
     }
-    const double width = map.width() / scale - 2 * margin;
-    const auto drawAll = [&](QPainter* painter) {
-        double below = margin;
-        for (const Paragraph& paragraph : paragraphs) {
-            below = paragraph.draw(painter, width, below);
-        }
-        return below + margin;
-    };
-    const int strip = static_cast<int>(std::ceil(drawAll(nullptr) * scale));
-    QImage picture(map.width(), map.height() + strip, QImage::Format_RGB32);
-    picture.fill(background);
-    QPainter painter(&picture);
-    painter.drawImage(QRect(QPoint(), map.size()), map);
-    painter.translate(0, map.height());
-    painter.scale(scale, scale);
-    drawAll(&painter);
-    return picture;
+    double below = margin;
+    for (const Paragraph& paragraph : paragraphs) {
+        below = paragraph.draw(painter, mapSize.width() - 2 * margin, below);
+    }
+    return std::ceil(below + margin);
 }
 
-QString MapPicture::write(const QString& path) const {
-    if (!path.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive)) {
-        return QCoreApplication::translate("vasker::MapPicture", "its name has to end in .png.");
+QImage MapPicture::basemap() const {
+    const double density = map->frame.devicePixels;
+    QImage image = imageFor(mapSize, density);
+    image.fill(background);
+    QPainter painter(&image);
+    painter.scale(density, density);
+    map->paintBasemap(painter);
+    return image;
+}
+
+void MapPicture::drawScaleBar(QPainter& painter) const {
+    if (barLength <= 0) {
+        return;
     }
-    return writeWhole(path, [this](QIODevice& file) {
-        QImageWriter writer(&file, "png");
-        return writer.write(composed()) ? QString() : writer.errorString();
-    });
+    const QPointF foot(margin, mapSize.height() - margin);
+    QPainterPath bar(foot - QPointF(0, 7));
+    bar.lineTo(foot);
+    bar.lineTo(foot + QPointF(barLength, 0));
+    bar.lineTo(foot + QPointF(barLength, -7));
+    bar.moveTo(foot + QPointF(barLength / 2, 0));
+    bar.lineTo(foot + QPointF(barLength / 2, -4));
+    drawWithHalo(painter, bar, mapText, mapHalo);
+    const QFont font = TextStyles::at(1).mapNote.font;
+    QPainterPath outline;
+    outline.addText(foot + QPointF(-1, -12), font, QStringLiteral("0"));
+    const double width = QFontMetricsF(font).horizontalAdvance(barText);
+    const QPointF end = foot + QPointF(std::round(barLength - width / 2), -12);
+    outline.addText(end, font, barText);
+    painter.strokePath(outline, QPen(mapHalo, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setFont(font);
+    painter.setPen(mapText);
+    painter.drawText(foot + QPointF(-1, -12), QStringLiteral("0"));
+    painter.drawText(end, barText);
+}
+
+void MapPicture::drawNorth(QPainter& painter) const {
+    if (bearing == 0) {
+        return;
+    }
+    const QPointF center(mapSize.width() - margin - northSize / 2, margin + northSize / 2);
+    painter.setPen(QPen(mapText, 0.75));
+    painter.setBrush(background);
+    painter.drawEllipse(center, northSize / 2, northSize / 2);
+    painter.save();
+    painter.translate(center);
+    painter.rotate(-bearing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(north);
+    painter.drawPolygon(QPolygonF({{0, -16}, {5, 2}, {-5, 2}}));
+    painter.setBrush(quietText);
+    painter.drawPolygon(QPolygonF({{0, 16}, {5, 2}, {-5, 2}}));
+    painter.restore();
+}
+
+void MapPicture::draw(QPainter& painter) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (painter.paintEngine()->type() == QPaintEngine::Raster) {
+        painter.setClipRect(QRectF({}, mapSize));
+        map->paintBasemap(painter);
+    } else {
+        painter.drawImage(QRectF({}, mapSize), basemap());
+    }
+    map->paintRecords(painter);
+    drawScaleBar(painter);
+    drawNorth(painter);
+    painter.restore();
+    // Over what of the map reaches below its end: not every engine clips.
+    painter.save();
+    painter.translate(0, mapSize.height());
+    painter.fillRect(QRectF(0, 0, mapSize.width(), size().height() - mapSize.height()), background);
+    drawStrip(&painter);
+    painter.restore();
+}
+
+QImage MapPicture::composed() const {
+    QImage picture = imageFor(size(), scale);
+    picture.fill(background);
+    QPainter painter(&picture);
+    painter.scale(scale, scale);
+    draw(painter);
+    return picture;
 }
 
 } // namespace vasker

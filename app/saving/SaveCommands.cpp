@@ -1,8 +1,13 @@
 #include "app/saving/SaveCommands.h"
 
+#include "app/saving/PictureFile.h"
 #include "app/saving/RecordFile.h"
 #include "app/saving/SavedName.h"
+#include "map/geometry/ScaleBar.h"
+#include "map/view/CameraReadout.h"
+#include "map/view/ViewScene.h"
 #include "platform/Appearance.h"
+#include "platform/Locale.h"
 #include "platform/ui/theme/Theme.h"
 #include "presentation/RecordText.h"
 
@@ -10,16 +15,35 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPointer>
-#include <QQuickItemGrabResult>
+
+#include <algorithm>
 
 namespace vasker {
 
-SaveCommands::SaveCommands(QObject* parent) : QObject(parent), m_saving(Appearance::sessionBus()) {
+namespace {
+
+/// Of the basemap on a page, and the greatest of all: 288 dots per inch where a logical pixel is a
+/// 96th of one.
+constexpr double pageDensity = 3;
+
+constexpr double longestBar = 150; // logical pixels
+
+} // namespace
+
+SaveCommands::SaveCommands(QObject* parent)
+    : QObject(parent), m_saving(Appearance::sessionBus()), m_printing(Appearance::sessionBus()) {
     connect(&m_saving, &FileSaving::started, this, [this](const QString& path) {
         tell(tr("Saving %1…").arg(QFileInfo(path).fileName()));
     });
     connect(&m_saving, &FileSaving::ended, this, [this](bool saved, const QString& message) {
         tell(message, !saved);
+    });
+    m_slow.setSingleShot(true);
+    m_slow.setInterval(400);
+    connect(&m_slow, &QTimer::timeout, this, [this] { tell(tr("Taking the picture…")); });
+    connect(&m_printing, &Printing::started, this, [this] { tell(tr("Printing the map…")); });
+    connect(&m_printing, &Printing::ended, this, [this](bool printed, const QString& message) {
+        tell(message, !printed);
     });
 }
 
@@ -37,19 +61,39 @@ void SaveCommands::saveRecords(QQuickWindow* window) {
 }
 
 void SaveCommands::savePicture(QQuickWindow* window, double scale) {
-    forget();
+    ask(tr("Save a picture of the map, as .png"), QStringLiteral(".png"), window, scale);
+}
+
+void SaveCommands::savePage(QQuickWindow* window) {
+    ask(tr("Save the map, as .pdf or .svg"), QStringLiteral(".pdf"), window, pageDensity);
+}
+
+void SaveCommands::ask(const QString& title,
+                       const QString& suffix,
+                       QQuickWindow* window,
+                       double scale) {
     const QPointer<QQuickWindow> above(window);
-    takePicture(scale, [this, above](const MapPicture& picture) {
-        m_saving.save(tr("Save a picture of the map, as .png"),
-                      savedName({releaseID(), m_workspace->query(), QStringLiteral("map")},
-                                QStringLiteral(".png")),
-                      above,
-                      [picture](const QString& path) { return picture.write(path); });
+    takePicture(scale, [this, title, suffix, above](const MapPicture& picture) {
+        m_saving.save(
+            title,
+            savedName({releaseID(), m_workspace->query(), QStringLiteral("map")}, suffix),
+            above,
+            [file = PictureFile{picture}](const QString& path) { return file.write(path); });
+    });
+}
+
+void SaveCommands::print(QQuickWindow* window) {
+    const QPointer<QQuickWindow> above(window);
+    takePicture(pageDensity, [this, above](const MapPicture& picture) {
+        m_printing.print(picture.title,
+                         above,
+                         [file = PictureFile{picture}](QIODevice& device, const QPageLayout& page) {
+                             return file.writePage(device, page);
+                         });
     });
 }
 
 void SaveCommands::copyPicture() {
-    forget();
     takePicture(1, [this](const MapPicture& picture) {
         QGuiApplication::clipboard()->setImage(picture.composed());
         tell(tr("The picture of the map is on the clipboard."));
@@ -57,40 +101,45 @@ void SaveCommands::copyPicture() {
 }
 
 void SaveCommands::takePicture(double scale, const Use& use) {
-    m_map->setProperty("pictured", true);
-    const QSizeF pixels = m_map->size() * scale * m_map->window()->effectiveDevicePixelRatio();
-    const QSharedPointer<QQuickItemGrabResult> grab = m_map->grabToImage(pixels.toSize());
-    const auto finish = [this, grab, use] {
-        m_map->setProperty("pictured", false);
-        if (grab == nullptr || grab->image().isNull()) {
-            tell(tr("The picture could not be taken."), true);
-        } else {
-            use(pictureOf(grab->image()));
-        }
-    };
-    if (grab == nullptr) {
-        finish();
-        return;
-    }
-    connect(grab.get(), &QQuickItemGrabResult::ready, this, finish, Qt::SingleShotConnection);
+    forget();
+    m_slow.start();
+    const double pixels = scale * m_map->window()->effectiveDevicePixelRatio();
+    MapScene scene = sceneOf(*m_map, std::min(pixels, pageDensity));
+    const double height = m_map->height() - scene.camera.viewport().coveredBelow;
+    scene.state.obstacles = {{0, height - 44, 190, 44}}; // labels keep clear of the scale bar
+    MapSnapshot::take(scene, this, [this, pixels, use](std::shared_ptr<const MapDrawing> map) {
+        m_slow.stop();
+        forget();
+        use(pictureOf(std::move(map), pixels));
+    });
 }
 
-MapPicture SaveCommands::pictureOf(const QImage& grabbed) const {
-    const double scale = grabbed.width() / m_map->width();
+MapPicture SaveCommands::pictureOf(std::shared_ptr<const MapDrawing> map, double scale) const {
     const OpenMapRelease& release = m_workspace->release();
     QStringList basemap;
-    for (const QVariant& each : m_map->status()->attribution()) {
-        basemap.append(each.toMap().value(QStringLiteral("text")).toString());
+    for (const Attribution& each : map->frame.attributions) {
+        basemap.append(each.text);
     }
     QStringList publishers;
     for (const OpenMapRelease::Source& source : release.sources) {
         publishers.append(QString::fromStdString(source.attribution));
     }
     publishers.removeDuplicates();
-    // The caption covers the end of the map; its text goes below.
-    const double height = m_map->height() - m_map->resolvedCamera().viewport().coveredBelow;
-    return {.map = grabbed.copy(0, 0, grabbed.width(), static_cast<int>(height * scale)),
+    const Theme& theme = *Theme::create(nullptr, nullptr);
+    const ThemeColors& mapColors =
+        m_map->status()->showsImagery() ? theme.darkColors() : theme.colors();
+    const Camera camera = m_map->resolvedCamera();
+    const ScaleBar bar = scaleBar(camera, longestBar);
+    return {.map = map,
+            // The caption covers the end of the map; its text goes below.
+            .mapSize = {m_map->width(), m_map->height() - camera.viewport().coveredBelow},
             .scale = scale,
+            .barLength = bar.pixels,
+            .barText = distanceText(bar.metres, QLocale(messagesLocale())),
+            .bearing = camera.pose().bearing,
+            .mapText = mapColors.text,
+            .mapHalo = m_map->status()->halo(),
+            .north = theme.colors().north(),
             .title = QString::fromStdString(release.coverageName),
             .notes = {shownText(),
                       m_map->property("captionText").toString(),
@@ -99,9 +148,9 @@ MapPicture SaveCommands::pictureOf(const QImage& grabbed) const {
                           ? QString()
                           : tr("Basemap: %1").arg(basemap.join(QStringLiteral(" · "))),
                       tr("Release: %1").arg(releaseID())},
-            .background = Theme::create(nullptr, nullptr)->colors().window,
-            .text = Theme::create(nullptr, nullptr)->colors().text,
-            .quietText = Theme::create(nullptr, nullptr)->colors().text2};
+            .background = theme.colors().window,
+            .text = theme.colors().text,
+            .quietText = theme.colors().text2};
 }
 
 QString SaveCommands::shownText() const {

@@ -4,14 +4,17 @@
 #include "app/OpenMapWorkspace.h"
 #include "app/saving/MapPicture.h"
 #include "map/view/MapView.h"
+#include "platform/Printing.h"
 #include "platform/files/FileSaving.h"
 
 #include <QObject>
 #include <QQuickWindow>
 #include <QString>
+#include <QTimer>
 #include <QtQmlIntegration>
 
 #include <functional>
+#include <memory>
 
 namespace vasker {
 
@@ -19,7 +22,7 @@ class SaveCommands : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(vasker::OpenMapWorkspace* workspace MEMBER m_workspace REQUIRED)
-    /// A picture is taken of it; its property "pictured" is true meanwhile.
+    /// A picture is taken of it; its property "captionText" stands below.
     Q_PROPERTY(vasker::MapView* map MEMBER m_map REQUIRED)
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
     Q_PROPERTY(bool failed READ failed NOTIFY messageChanged)
@@ -42,6 +45,10 @@ class SaveCommands : public QObject {
     /// The same for a picture of the map as it is seen now, `scale` times as large as on the
     /// screen.
     Q_INVOKABLE void savePicture(QQuickWindow* window, double scale = 1);
+    /// The same for a page: PDF or SVG.
+    Q_INVOKABLE void savePage(QQuickWindow* window);
+    /// Prints the map as it is seen now; the user says how, above `window`.
+    Q_INVOKABLE void print(QQuickWindow* window);
     /// Puts a picture of the map as it is seen now on the clipboard.
     Q_INVOKABLE void copyPicture();
 
@@ -51,7 +58,8 @@ class SaveCommands : public QObject {
   private:
     using Use = std::function<void(const MapPicture& picture)>;
     void takePicture(double scale, const Use& use);
-    [[nodiscard]] MapPicture pictureOf(const QImage& grabbed) const;
+    void ask(const QString& title, const QString& suffix, QQuickWindow* window, double scale);
+    [[nodiscard]] MapPicture pictureOf(std::shared_ptr<const MapDrawing> map, double scale) const;
     /// Which records are shown; empty where all are.
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] QString releaseID() const;
@@ -60,6 +68,8 @@ class SaveCommands : public QObject {
     OpenMapWorkspace* m_workspace = nullptr;
     MapView* m_map = nullptr;
     FileSaving m_saving;
+    Printing m_printing;
+    QTimer m_slow; ///< runs while a picture is taken and nothing is said of it
     QString m_message;
     bool m_failed = false;
 };

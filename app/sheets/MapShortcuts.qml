@@ -38,6 +38,10 @@ Section {
         value: "Ctrl+Shift+C"
     }
     LabelledRow {
+        label: qsTr("Print the map")
+        value: "Ctrl+P"
+    }
+    LabelledRow {
         label: qsTr("Pick what is in the middle")
         value: qsTr("Enter or Space")
     }

@@ -199,6 +199,20 @@ std::vector<std::uint32_t> FoldedTexts::recordsWithLong(std::string_view query) 
     });
 }
 
+std::optional<std::size_t> FoldedTexts::firstTextWith(std::string_view foldedQuery,
+                                                      std::uint32_t record) const {
+    const std::size_t begin = record == 0 ? 0 : m_recordEnds[record - 1];
+    const std::string_view texts = bytes().substr(begin, m_recordEnds[record] - begin);
+    std::size_t at = texts.find(foldedQuery);
+    while (at != std::string_view::npos && !isWhole(begin + at, foldedQuery.size())) {
+        at = texts.find(foldedQuery, at + 1);
+    }
+    if (at == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(std::ranges::count(texts.substr(0, at), endOfText));
+}
+
 std::vector<std::uint32_t> FoldedTexts::recordsWith(std::string_view query) const {
     constexpr std::size_t longestShortQuery = 256;
     const std::string foldedQuery = folded(query, m_locale);

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -35,6 +36,12 @@ class FoldedTexts {
     /// Returns the numbers of the records of which a text contains `query`, as containsFolded()
     /// compares, in ascending order. `query` is not empty.
     [[nodiscard]] std::vector<std::uint32_t> recordsWith(std::string_view query) const;
+
+    /// Returns which of the texts of `record`, counted from 0, is the first that contains
+    /// `foldedQuery`, which is not empty; nothing exactly where recordsWith() leaves the record
+    /// out.
+    [[nodiscard]] std::optional<std::size_t> firstTextWith(std::string_view foldedQuery,
+                                                           std::uint32_t record) const;
 
     /// Returns the bytes that are searched. The view lives as long as this object.
     [[nodiscard]] std::string_view bytes() const noexcept;

@@ -1,6 +1,7 @@
 #include "map/catalogue/KindListModel.h"
 
 #include "presentation/RecordText.h"
+#include "presentation/Symbols.h"
 
 #include <numeric>
 
@@ -9,6 +10,14 @@ namespace vasker {
 namespace {
 
 const QString allKinds = QStringLiteral("all");
+
+QString symbolOf(const QString& value) {
+    return value == allKinds ? QString() : toQString(symbol(value.toStdString()));
+}
+
+int tintOf(const QString& value) {
+    return static_cast<int>(color(value.toStdString()));
+}
 
 } // namespace
 
@@ -32,6 +41,10 @@ QVariant KindListModel::data(const QModelIndex& index, int role) const {
         return QString::number(countAt(index.row()));
     case CountTextRole:
         return tr("Records: %1").arg(countAt(index.row()));
+    case SymbolRole:
+        return symbolOf(valueAt(index.row()));
+    case TintRole:
+        return tintOf(valueAt(index.row()));
     default:
         return {};
     }
@@ -41,7 +54,9 @@ QHash<int, QByteArray> KindListModel::roleNames() const {
     return {{ValueRole, "value"},
             {LabelRole, "label"},
             {CountRole, "count"},
-            {CountTextRole, "countText"}};
+            {CountTextRole, "countText"},
+            {SymbolRole, "symbol"},
+            {TintRole, "tint"}};
 }
 
 void KindListModel::setKinds(const QList<QString>& kinds) {
@@ -81,6 +96,14 @@ int KindListModel::currentRow() const {
 QString KindListModel::currentLabel() const {
     const int row = currentRow();
     return row < 0 ? categoryText(m_kind.toStdString()) : labelAt(row);
+}
+
+QString KindListModel::currentSymbol() const {
+    return symbolOf(m_kind);
+}
+
+int KindListModel::currentTint() const {
+    return tintOf(m_kind);
 }
 
 QString KindListModel::valueAt(int row) const {

@@ -1,5 +1,6 @@
 #pragma once
-// The entries of the category picker: "All categories", then one per kind, in the order given.
+// The entries of the category picker, which is the map's legend: "All categories", then one per
+// kind, in the order given.
 
 #include <QAbstractListModel>
 #include <QList>
@@ -20,6 +21,9 @@ class KindListModel : public QAbstractListModel {
     Q_PROPERTY(int currentRow READ currentRow NOTIFY currentChanged)
     Q_PROPERTY(QList<QString> labels READ labels NOTIFY kindsChanged)
     Q_PROPERTY(QString currentLabel READ currentLabel NOTIFY currentChanged)
+    /// How its records are marked; an empty name for all categories.
+    Q_PROPERTY(QString currentSymbol READ currentSymbol NOTIFY currentChanged)
+    Q_PROPERTY(int currentTint READ currentTint NOTIFY currentChanged)
 
   public:
     enum Role {
@@ -27,6 +31,8 @@ class KindListModel : public QAbstractListModel {
         LabelRole,                ///< `label`: what is shown
         CountRole,                ///< `count`: how many records there are, as text
         CountTextRole,            ///< `countText`: the same in words
+        SymbolRole,               ///< `symbol`: the icon of its records; empty for all categories
+        TintRole,                 ///< `tint`: the number of a PaletteColor
     };
 
     explicit KindListModel(QObject* parent = nullptr);
@@ -43,6 +49,8 @@ class KindListModel : public QAbstractListModel {
     void setKind(const QString& kind);
     [[nodiscard]] int currentRow() const;
     [[nodiscard]] QString currentLabel() const;
+    [[nodiscard]] QString currentSymbol() const;
+    [[nodiscard]] int currentTint() const;
 
     /// The value of the entry in `row`, empty outside the list.
     [[nodiscard]] Q_INVOKABLE QString valueAt(int row) const;

@@ -22,7 +22,11 @@ Menu {
         required property string value
         required property string count
         required property string countText
+        required symbol
+        required property int tint
 
+        symbolic: true
+        symbolColor: Theme.colors.record(tint)
         note: count
         spokenNote: countText
         choice: true

@@ -48,7 +48,7 @@ T.ComboBox {
     Label {
         id: title
 
-        visible: 12 + implicitWidth + 8 + value.implicitWidth < chevron.x
+        visible: 12 + implicitWidth + 8 + value.anchors.leftMargin + value.implicitWidth < chevron.x
         anchors.left: parent.left
         anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter
@@ -56,11 +56,22 @@ T.ComboBox {
         color: Theme.colors.text2
         text: qsTr("Layer")
     }
+    Icon {
+        id: symbol
+
+        visible: name.length > 0
+        anchors.left: title.visible ? title.right : parent.left
+        anchors.leftMargin: title.visible ? 8 : 12
+        anchors.verticalCenter: parent.verticalCenter
+        name: root.kinds.currentSymbol
+        size: 18 * Theme.iconScale
+        color: Theme.colors.record(root.kinds.currentTint)
+    }
     Label {
         id: value
 
-        anchors.left: title.visible ? title.right : parent.left
-        anchors.leftMargin: title.visible ? 8 : 12
+        anchors.left: symbol.left
+        anchors.leftMargin: symbol.visible ? Theme.iconColumn + 4 : 0
         anchors.right: chevron.left
         anchors.verticalCenter: parent.verticalCenter
         textStyle: Theme.type.subheadline

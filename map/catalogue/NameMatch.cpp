@@ -18,6 +18,24 @@ std::vector<qsizetype> characterBoundaries(QStringView text) {
     return boundaries;
 }
 
+using Places = std::vector<qsizetype>;
+
+/// The first of some overlapping windows that contains the match, so that a long text is not folded
+/// many times; where none does, all places. A match has at most `longest` characters.
+template <typename Found>
+std::pair<Places::const_iterator, Places::const_iterator>
+windowThat(const Places& places, std::size_t longest, const Found& found) {
+    const auto step = static_cast<std::ptrdiff_t>(std::max<std::size_t>(longest, 256));
+    for (auto first = places.begin(); places.end() - first > 1;) {
+        const auto last = first + std::min(2 * step, places.end() - first);
+        if (found(*first, *std::prev(last))) {
+            return {first, last};
+        }
+        first += std::min(step, places.end() - first);
+    }
+    return {places.begin(), places.end()};
+}
+
 // Styled text runs blanks together and knows no line feed.
 QString literally(QStringView text) {
     QString literal = text.toString().toHtmlEscaped();
@@ -37,12 +55,13 @@ matchedPart(QStringView name, std::string_view foldedQuery, const TextLocale& lo
     if (foldedQuery.empty() || !found(0, name.size())) {
         return std::nullopt;
     }
-    // A longer text contains what a shorter one does: both ends can be found by halving.
     const std::vector<qsizetype> places = characterBoundaries(name);
+    const auto [first, last] = windowThat(places, foldedQuery.size(), found);
+    // A longer text contains what a shorter one does: both ends can be found by halving.
     const auto end =
-        std::ranges::partition_point(places, [&](qsizetype place) { return !found(0, place); });
-    const auto afterBegin = std::partition_point(
-        places.begin(), end, [&](qsizetype place) { return found(place, *end); });
+        std::partition_point(first, last, [&](qsizetype place) { return !found(*first, place); });
+    const auto afterBegin =
+        std::partition_point(first, end, [&](qsizetype place) { return found(place, *end); });
     return TextRange{*std::prev(afterBegin), *end};
 }
 

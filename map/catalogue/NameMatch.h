@@ -1,5 +1,5 @@
 #pragma once
-// Which part of a name the search text was found in, and how that is shown.
+// Which part of a name or another value the search text was found in, and how that is shown.
 
 #include "data/text/CaseFolding.h"
 

@@ -1,5 +1,6 @@
 #include "map/catalogue/RecordListModel.h"
 
+#include "map/catalogue/FoundText.h"
 #include "map/catalogue/NameMatch.h"
 #include "presentation/RecordText.h"
 #include "presentation/Symbols.h"
@@ -48,6 +49,10 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
         return toQString(symbol(record.kind));
     case TintRole:
         return static_cast<int>(color(record.kind));
+    case FoundRole:
+        return FoundText::of(m_records.loaded->index, recordIn(index.row()), m_foldedQuery).markup;
+    case FoundTextRole:
+        return FoundText::of(m_records.loaded->index, recordIn(index.row()), m_foldedQuery).spoken;
     case AccessibleRole:
         return tr("%1, %2, source period %3")
             .arg(toQString(record.name), categoryText(record.kind), toQString(record.asOf));
@@ -64,6 +69,8 @@ QHash<int, QByteArray> RecordListModel::roleNames() const {
             {CategoryRole, "category"},
             {SymbolRole, "symbol"},
             {TintRole, "tint"},
+            {FoundRole, "found"},
+            {FoundTextRole, "foundText"},
             {AccessibleRole, "accessibleText"}};
 }
 
@@ -97,7 +104,7 @@ void RecordListModel::setQuery(const QString& query) {
     foldQuery();
     Q_EMIT queryChanged();
     if (!isEmpty()) {
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {MarkupRole});
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {MarkupRole, FoundRole, FoundTextRole});
     }
 }
 
@@ -137,9 +144,12 @@ int RecordListModel::rowOf(const QString& id) const {
     return place == filtered.end() ? -1 : static_cast<int>(place - filtered.begin());
 }
 
+AssetIndex RecordListModel::recordIn(int row) const {
+    return (*m_records.filtered)[static_cast<std::size_t>(row)];
+}
+
 const OpenMapRelease::Asset& RecordListModel::asset(int row) const {
-    const AssetIndex record = (*m_records.filtered)[static_cast<std::size_t>(row)];
-    return m_records.loaded->index.release().assets[record];
+    return m_records.loaded->index.release().assets[recordIn(row)];
 }
 
 QString RecordListModel::markup(const OpenMapRelease::Asset& asset) const {

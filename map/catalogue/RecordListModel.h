@@ -35,6 +35,8 @@ class RecordListModel : public QAbstractListModel {
         CategoryRole,   ///< `category`: the category's label and the source period
         SymbolRole,     ///< `symbol`: the icon's name
         TintRole,       ///< `tint`: the number of a PaletteColor
+        FoundRole,      ///< `found`: where else the match is, as styled text, or empty
+        FoundTextRole,  ///< `foundText`: the same in a sentence for assistive tools
         AccessibleRole, ///< `accessibleText`: the row in one sentence for assistive tools
     };
 
@@ -72,6 +74,7 @@ class RecordListModel : public QAbstractListModel {
     void replaced();
 
   private:
+    [[nodiscard]] AssetIndex recordIn(int row) const;
     [[nodiscard]] const OpenMapRelease::Asset& asset(int row) const;
     [[nodiscard]] QString markup(const OpenMapRelease::Asset& asset) const;
     /// Adds or removes rows at the end until there are as many as `wanted`.

@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Vasker.Map
 import Vasker.Platform
 
-// One record: icon, name, reported unit, category and period.
+// One record: icon, name, reported unit, category and period, and where else it was found.
 T.ItemDelegate {
     id: root
 
@@ -16,6 +16,8 @@ T.ItemDelegate {
     required property string category
     required property string symbol
     required property int tint
+    required property string found
+    required property string foundText
     required property string accessibleText
 
     property bool selected: false
@@ -39,6 +41,7 @@ T.ItemDelegate {
     Accessible.role: Accessible.ListItem
     Accessible.ignored: root.kept
     Accessible.name: root.accessibleText
+    Accessible.description: root.foundText
     Accessible.selectable: true
     Accessible.selected: root.selected
     Accessible.focusable: true
@@ -117,20 +120,17 @@ T.ItemDelegate {
             textFormat: Text.StyledText
             text: root.markup
         }
-        Label {
-            width: parent.width
+        CaptionLine {
             visible: root.unit.length > 0
-            wrapMode: Text.Wrap
-            textStyle: Theme.type.captionLine
-            color: Theme.colors.text2
             text: root.unit
         }
-        Label {
-            width: parent.width
-            wrapMode: Text.Wrap
-            textStyle: Theme.type.captionLine
-            color: Theme.colors.text2
+        CaptionLine {
             text: root.category
+        }
+        CaptionLine {
+            visible: root.found.length > 0
+            textFormat: Text.StyledText
+            text: root.found
         }
     }
     // In an item of its own: a handler makes its item take every button of the mouse.

@@ -59,6 +59,14 @@ std::vector<RecordLabel> MapComposer::recordLabels(const RecordFrame& records,
     return labels;
 }
 
+std::vector<Shape> MapComposer::shapes() {
+    std::vector<Shape> shapes = m_labels.shapes();
+    for (Shape& pin : m_records.pinShapes()) {
+        shapes.push_back(std::move(pin));
+    }
+    return shapes;
+}
+
 MapFrame
 MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::nanoseconds now) {
     BasemapFrame basemap = composeBasemap(state, camera, now);

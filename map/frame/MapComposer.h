@@ -33,6 +33,9 @@ class MapComposer : public QObject {
     [[nodiscard]] MapFrame
     compose(const MapState& state, const Camera& camera, std::chrono::nanoseconds now);
 
+    /// Labels and pins of the last frame, in drawing order, for those who do not draw its sprites.
+    [[nodiscard]] std::vector<Shape> shapes();
+
     /// The scene graph has lost its textures.
     void handOverAgain();
 

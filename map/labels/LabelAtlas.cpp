@@ -1,8 +1,5 @@
 #include "map/labels/LabelAtlas.h"
 
-#include "map/labels/LabelText.h"
-#include "map/style/MapTheme.h"
-
 #include <QPainter>
 
 #include <algorithm>
@@ -24,10 +21,6 @@ constexpr qsizetype mostEntries = 10'000;
 
 constexpr int dotsPerMetre = 3780; // 96 dots per inch, which labelFont() counts in
 
-constexpr double markRadius = 2.2;
-constexpr double markStroke = 1.3;
-constexpr double markHalo = 1.4;
-
 QImage emptyPage(double devicePixels, double textScale) {
     const double scale = devicePixels * std::max(1.0, textScale / 2);
     QImage image(static_cast<int>(std::ceil(pageWidth * scale)),
@@ -40,16 +33,6 @@ QImage emptyPage(double devicePixels, double textScale) {
     return image;
 }
 
-void paintMark(QPainter& painter, QPointF centre, BasemapTheme theme) {
-    const MapTheme& colors = mapTheme(theme);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(colors.labelHalo);
-    painter.setPen(QPen(colors.labelHalo, markStroke + 2 * markHalo));
-    painter.drawEllipse(centre, markRadius, markRadius);
-    painter.setPen(QPen(colors.placeLabel, markStroke));
-    painter.drawEllipse(centre, markRadius, markRadius);
-}
-
 } // namespace
 
 LabelAtlas::LabelAtlas(double devicePixels, double textScale)
@@ -60,6 +43,11 @@ LabelAtlas::LabelAtlas(double devicePixels, double textScale)
 
 QSizeF LabelAtlas::size(const Label& label) {
     return entryOf(label).size;
+}
+
+SetText LabelAtlas::textOf(const Label& label) {
+    const Entry& known = entryOf(label);
+    return {known.lines, known.size};
 }
 
 std::optional<LabelAtlas::Place> LabelAtlas::place(const Label& label) {
@@ -83,10 +71,10 @@ std::optional<LabelAtlas::Place> LabelAtlas::place(const Label& label) {
 LabelAtlas::Place LabelAtlas::placeMark(BasemapTheme theme) {
     std::optional<Place>& mark = m_marks[static_cast<std::size_t>(theme)];
     if (!mark) {
-        const double side = 2 * std::ceil(markRadius + markStroke / 2 + markHalo + 0.5);
+        const double side = 2 * std::ceil(placeMarkReach + 0.5);
         mark = room({side, side});
         QPainter painter(&m_pages[mark->page].image);
-        paintMark(painter, mark->region.center(), theme);
+        paintPlaceMark(painter, mark->region.center(), theme);
     }
     return used(*mark);
 }

@@ -4,6 +4,7 @@
 // longest ago makes room for new texts.
 
 #include "map/labels/Label.h"
+#include "map/labels/LabelText.h"
 
 #include <QHash>
 #include <QImage>
@@ -31,6 +32,8 @@ class LabelAtlas {
     /// does not fit into these ends in an ellipsis. Draws nothing. A text without any letter has no
     /// size.
     [[nodiscard]] QSizeF size(const Label& label);
+    /// The text in its lines.
+    [[nodiscard]] SetText textOf(const Label& label);
     /// Whether the text was measured already: size() is quick then.
     [[nodiscard]] bool knows(const Label& label) const { return m_entries.contains(label); }
 

@@ -5,7 +5,10 @@
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QGuiApplication>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
+#include <QRawFont>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -22,6 +25,11 @@ constexpr double haloRadius = 1.35;
 constexpr int haloSteps = 8;
 constexpr double pointsPerPixel = 72.0 / 96.0;
 constexpr QChar ellipsis(0x2026);
+
+constexpr double markRadius = 2.2;
+constexpr double markStroke = 1.3;
+constexpr double markHalo = 1.4;
+static_assert(placeMarkReach >= markRadius + markStroke / 2 + markHalo);
 
 struct TextStyle {
     double pixels = 11.5;
@@ -123,6 +131,19 @@ QString tidied(const QString& text, bool isCapitals) {
     return isCapitals ? tidy.toUpper() : tidy;
 }
 
+QPainterPath outlineOf(const QList<QGlyphRun>& runs) {
+    QPainterPath outline;
+    for (const QGlyphRun& run : runs) {
+        const QRawFont font = run.rawFont();
+        const QList<quint32> glyphs = run.glyphIndexes();
+        const QList<QPointF> places = run.positions();
+        for (qsizetype i = 0; i < glyphs.size(); ++i) {
+            outline.addPath(font.pathForGlyph(glyphs[i]).translated(places[i]));
+        }
+    }
+    return outline;
+}
+
 QColor textColor(LabelStyle style, const MapTheme& theme) {
     switch (style) {
     case LabelStyle::country:
@@ -184,13 +205,34 @@ void paintLabel(QPainter& painter, const SetText& text, const Label& label, doub
             painter.drawGlyphRun(shift, run);
         }
     };
-    painter.setPen(theme.labelHalo);
-    for (int step = 0; step < haloSteps; ++step) {
-        const double angle = 2 * M_PI * step / haloSteps;
-        draw(QPointF(std::cos(angle), std::sin(angle)) * (haloRadius * textScale));
+    if (painter.paintEngine()->type() == QPaintEngine::Raster) {
+        painter.setPen(theme.labelHalo);
+        for (int step = 0; step < haloSteps; ++step) {
+            const double angle = 2 * M_PI * step / haloSteps;
+            draw(QPointF(std::cos(angle), std::sin(angle)) * (haloRadius * textScale));
+        }
+    } else { // a page keeps what it is given: the text once, and the halo as an outline
+        const QPen halo(theme.labelHalo,
+                        2 * haloRadius * textScale,
+                        Qt::SolidLine,
+                        Qt::RoundCap,
+                        Qt::RoundJoin);
+        painter.strokePath(outlineOf(runs), halo);
     }
     painter.setPen(textColor(label.style, theme));
     draw({0, 0});
+}
+
+void paintPlaceMark(QPainter& painter, QPointF centre, BasemapTheme theme) {
+    const MapTheme& colors = mapTheme(theme);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(colors.labelHalo);
+    painter.setPen(QPen(colors.labelHalo, markStroke + 2 * markHalo));
+    painter.drawEllipse(centre, markRadius, markRadius);
+    painter.setPen(QPen(colors.placeLabel, markStroke));
+    painter.drawEllipse(centre, markRadius, markRadius);
+    painter.restore();
 }
 
 } // namespace vasker

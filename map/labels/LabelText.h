@@ -4,6 +4,7 @@
 #include "map/labels/Label.h"
 
 #include <QFont>
+#include <QPointF>
 #include <QSizeF>
 #include <QString>
 
@@ -26,5 +27,9 @@ setText(const QString& text, LabelStyle style, double textScale, const QPaintDev
 
 /// Lines centred in a block of that size whose corner is the painter's origin, with halo.
 void paintLabel(QPainter& painter, const SetText& text, const Label& label, double textScale);
+
+/// The ring that marks the point of a place, and how far from the point it reaches with its halo.
+void paintPlaceMark(QPainter& painter, QPointF centre, BasemapTheme theme);
+inline constexpr double placeMarkReach = 4.25;
 
 } // namespace vasker

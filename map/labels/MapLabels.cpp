@@ -1,6 +1,9 @@
 #include "map/labels/MapLabels.h"
 
+#include "map/labels/LabelText.h"
+
 #include <QHash>
+#include <QPainter>
 
 #include <utility>
 
@@ -135,6 +138,29 @@ SpriteLayer MapLabels::sprites() {
         layer.sheets[page].atlas = m_atlas->page(page);
     }
     return layer;
+}
+
+std::vector<Shape> MapLabels::shapes() {
+    std::vector<Shape> shapes;
+    for (const PlacedLabel& placed : m_placement.placed()) {
+        const Candidate& candidate = m_candidates[placed.candidate];
+        if (candidate.mark) {
+            shapes.emplace_back(
+                [mark = *candidate.mark, theme = candidate.label.theme](auto& painter) {
+                    paintPlaceMark(painter, {mark.x, mark.y}, theme);
+                });
+        }
+        shapes.emplace_back([corner = QPointF(placed.rect.x, placed.rect.y),
+                             text = m_atlas->textOf(candidate.label),
+                             label = candidate.label,
+                             textScale = m_textScale](QPainter& painter) {
+            painter.save();
+            painter.translate(corner);
+            paintLabel(painter, text, label, textScale);
+            painter.restore();
+        });
+    }
+    return shapes;
 }
 
 } // namespace vasker

@@ -4,6 +4,7 @@
 #include "map/geometry/Camera.h"
 #include "map/labels/LabelAtlas.h"
 #include "map/labels/LabelPlacement.h"
+#include "map/layers/Shape.h"
 #include "map/layers/SpriteLayer.h"
 
 #include <QString>
@@ -38,6 +39,9 @@ struct LabelInput {
 class MapLabels {
   public:
     [[nodiscard]] SpriteLayer compose(const LabelInput& input);
+
+    /// The labels of the last frame and the rings of their places, drawn instead of cut out.
+    [[nodiscard]] std::vector<Shape> shapes();
 
     /// Whether labels of the last frame wait for the next one.
     [[nodiscard]] bool isUnfinished() const noexcept { return m_newLabels < 0; }

@@ -19,8 +19,8 @@ double distanceToPin(ScreenPoint point, ScreenPoint tip, double scale) {
     return std::hypot(std::max(0.0, dx), std::max({0.0, above, below}));
 }
 
-double distanceToDot(ScreenPoint point, ScreenPoint dot) {
-    return std::max(0.0, std::hypot(dot.x - point.x, dot.y - point.y) - dotRadius - dotCasing);
+double distanceToDot(ScreenPoint point, ScreenPoint dot, double radius) {
+    return std::max(0.0, std::hypot(dot.x - point.x, dot.y - point.y) - radius - dotCasing);
 }
 
 /// The best answer so far.
@@ -62,8 +62,9 @@ std::optional<AssetIndex> markerAt(ScreenPoint point, double reach, const HitSce
             const Marker& marker = scene.markers[i];
             const MapPoint place{marker.point.x + offset, marker.point.y};
             if (around.contains(place)) {
-                nearest.offer(marker.asset,
-                              distanceToDot(point, scene.camera.worldToScreen(place)));
+                nearest.offer(
+                    marker.asset,
+                    distanceToDot(point, scene.camera.worldToScreen(place), dotRadiusOf(marker)));
             }
         }
     }

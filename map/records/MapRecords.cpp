@@ -6,6 +6,8 @@
 #include "map/style/MapTheme.h"
 #include "presentation/Symbols.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <utility>
 
@@ -151,6 +153,7 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
     LineLayer routes{{}, {routeWidth, routeCasing, theme.routeCasing, {}}};
     LineLayer hovered{{}, {routeWidth, hoveredRouteCasing, blue, {}}};
     LineLayer selected{{}, {selectedRouteWidth, selectedRouteCasing, theme.markerCasing, blue}};
+    DotLayer quietDots{{}, quietDotRadius, dotCasing, theme.markerCasing};
     DotLayer dots{{}, dotRadius, dotCasing, theme.markerCasing};
     if (m_records.loaded && drawing == RecordDrawing::live) {
         const RecordGeometry& geometry = m_records.loaded->geometry;
@@ -168,7 +171,8 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
         outline.strip.reset();
     }
     for (const PlacedMarker& dot : m_markerFrame.dots) {
-        dots.dots.push_back({static_cast<float>(dot.point.x),
+        (dot.isQuiet ? quietDots : dots)
+            .dots.push_back({static_cast<float>(dot.point.x),
                              static_cast<float>(dot.point.y),
                              m_colors[dot.asset]});
     }
@@ -176,6 +180,7 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
             std::move(hovered),
             std::move(outline),
             std::move(selected),
+            std::move(quietDots),
             std::move(dots)};
 }
 
@@ -210,6 +215,32 @@ void MapRecords::addPins(RecordFrame& frame, double devicePixels) {
         draw(*m_markerFrame.selected, PinState::selected);
     }
     frame.pins.sheets.push_back(std::move(sheet));
+}
+
+std::vector<Shape> MapRecords::pinShapes() const {
+    std::vector<Shape> shapes;
+    const auto add = [&](const PlacedMarker& pin, PinState state) {
+        const ScreenPoint tip = PinAtlas::tip(state);
+        shapes.emplace_back([corner = QPointF(pin.point.x - tip.x, pin.point.y - tip.y),
+                             kind = asset(pin.asset).kind,
+                             theme = m_theme,
+                             state](QPainter& painter) {
+            painter.save();
+            painter.translate(corner);
+            paintPin(painter, kind, theme, state);
+            painter.restore();
+        });
+    };
+    for (const PlacedMarker& pin : m_markerFrame.pins) {
+        add(pin, PinState::plain);
+    }
+    if (m_markerFrame.hovered) {
+        add(*m_markerFrame.hovered, PinState::hovered);
+    }
+    if (m_markerFrame.selected) {
+        add(*m_markerFrame.selected, PinState::selected);
+    }
+    return shapes;
 }
 
 RecordFrame MapRecords::compose(const Camera& camera,

@@ -4,6 +4,7 @@
 
 #include "map/geometry/ScreenRect.h"
 #include "map/layers/MapLayer.h"
+#include "map/layers/Shape.h"
 #include "map/records/HeldStrip.h"
 #include "map/records/HitTest.h"
 #include "map/records/MarkerFrame.h"
@@ -65,6 +66,9 @@ class MapRecords {
                                       const TileOverlay* painted,
                                       double devicePixels);
 
+    /// The pins of the last frame, in drawing order, drawn instead of cut out.
+    [[nodiscard]] std::vector<Shape> pinShapes() const;
+
     /// Where the point of a record without routes stands, in the copy of the world nearest to the
     /// camera's centre; nothing for one with routes or out of view.
     [[nodiscard]] std::optional<ScreenPoint> placeOf(AssetIndex record, const Camera& camera) const;
@@ -83,7 +87,7 @@ class MapRecords {
     [[nodiscard]] std::optional<Marker> markerOf(std::optional<AssetIndex> index) const;
     void placeRoute(LineLayer& layer,
                     HeldStrip& held,
-                    std::optional<AssetIndex> asset,
+                    std::optional<AssetIndex> index,
                     const Camera& camera) const;
     [[nodiscard]] std::vector<MapLayer> linesAndDots(const Camera& camera, RecordDrawing drawing);
     void addPins(RecordFrame& frame, double devicePixels);

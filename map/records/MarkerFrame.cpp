@@ -29,7 +29,7 @@ class Placing {
             const Viewport view = m_camera.viewport();
             if (place.x >= -markerReach && place.x <= view.width + markerReach &&
                 place.y >= -markerReach && place.y <= view.height + markerReach) {
-                use(PlacedMarker{marker.asset, place, marker.isAlone});
+                use(PlacedMarker{marker.asset, place, marker.isQuiet, marker.isAlone});
             }
         }
     }

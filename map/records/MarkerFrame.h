@@ -13,6 +13,7 @@ namespace vasker {
 struct PlacedMarker {
     AssetIndex asset;
     ScreenPoint point;    ///< of the record: the centre of a dot, the tip of a pin
+    bool isQuiet = false; ///< as in the layout
     bool isAlone = false; ///< as in the layout
 };
 

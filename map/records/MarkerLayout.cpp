@@ -1,6 +1,7 @@
 #include "map/records/MarkerLayout.h"
 
 #include "map/geometry/PointGrid.h"
+#include "presentation/Symbols.h"
 
 #include <algorithm>
 #include <array>
@@ -8,6 +9,7 @@
 #include <numbers>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 namespace vasker {
 
@@ -42,44 +44,60 @@ class PinSpacing {
 class DotCover {
   public:
     DotCover(double scale, std::size_t expected)
-        : m_radius((dotRadius + dotCasing) / scale), m_drawn(2 * m_radius, 2 * m_radius, expected) {
-        for (std::size_t i = 0; i < m_rim.size(); ++i) {
-            const double angle =
-                2 * std::numbers::pi * static_cast<double>(i) / static_cast<double>(m_rim.size());
-            m_rim[i] = {m_radius * std::cos(angle), m_radius * std::sin(angle)};
+        : m_scale(scale), m_drawn(gridFor(scale, expected)), m_quiet(gridFor(scale, expected)) {
+        for (std::size_t i = 0; i < m_circle.size(); ++i) {
+            const double angle = 2 * std::numbers::pi * static_cast<double>(i) /
+                                 static_cast<double>(m_circle.size());
+            m_circle[i] = {std::cos(angle), std::sin(angle)};
         }
     }
 
-    /// Draws a dot at `point` if any of it would be seen: its middle or its rim.
-    bool place(MapPoint point) {
+    /// Draws the dot of `marker` if any of it would be seen: its middle or its rim.
+    bool place(const Marker& marker) {
+        const MapPoint point = marker.point;
+        const double radius = (dotRadiusOf(marker) + dotCasing) / m_scale;
         m_near.clear();
-        static_cast<void>(m_drawn.anyNear(point, [&](MapPoint other) {
-            m_near.push_back(other);
-            return false;
-        }));
+        collect(m_drawn, point, dotRadius);
+        collect(m_quiet, point, quietDotRadius);
         const bool isHidden =
-            isCovered(point) && std::all_of(m_rim.begin(), m_rim.end(), [&](MapPoint offset) {
-                return isCovered({point.x + offset.x, point.y + offset.y});
+            isCovered(point) && std::all_of(m_circle.begin(), m_circle.end(), [&](MapPoint offset) {
+                return isCovered({point.x + radius * offset.x, point.y + radius * offset.y});
             });
         if (!isHidden) {
-            m_drawn.insert(point);
+            (marker.isQuiet ? m_quiet : m_drawn).insert(point);
         }
         return !isHidden;
     }
 
   private:
+    struct Disc {
+        MapPoint center;
+        double radius; ///< map points
+    };
+
+    [[nodiscard]] static PointGrid gridFor(double scale, std::size_t expected) {
+        const double width = 2 * (dotRadius + dotCasing) / scale;
+        return {width, width, expected};
+    }
+    void collect(const PointGrid& drawn, MapPoint place, double radius) {
+        static_cast<void>(drawn.anyNear(place, [&](MapPoint other) {
+            m_near.push_back({other, (radius + dotCasing) / m_scale});
+            return false;
+        }));
+    }
     [[nodiscard]] bool isCovered(MapPoint place) const {
-        return std::any_of(m_near.begin(), m_near.end(), [&](MapPoint dot) {
-            const double dx = place.x - dot.x;
-            const double dy = place.y - dot.y;
-            return dx * dx + dy * dy <= m_radius * m_radius;
+        return std::any_of(m_near.begin(), m_near.end(), [&](const Disc& dot) {
+            const double dx = place.x - dot.center.x;
+            const double dy = place.y - dot.center.y;
+            return dx * dx + dy * dy <= dot.radius * dot.radius;
         });
     }
 
-    double m_radius; ///< map points
-    std::array<MapPoint, 32> m_rim{};
+    double m_scale; ///< logical pixels per map point
+    std::array<MapPoint, 32> m_circle{};
     PointGrid m_drawn;
-    std::vector<MapPoint> m_near; ///< the drawn dots around the one in question
+    PointGrid m_quiet;
+    std::vector<Disc> m_near; ///< the drawn dots around the one in question
 };
 
 /// All markers, to ask how many stand near a place.
@@ -123,12 +141,14 @@ std::vector<Marker> markersByPriority(const RecordSet& records) {
     candidates.reserve(records.filtered->size());
     for (const AssetIndex index : *records.filtered) {
         if (!assets[index].hasRoute()) {
-            candidates.push_back(
-                {{index, records.loaded->geometry.points()[index]}, frequency[assets[index].kind]});
+            candidates.push_back({{index,
+                                   records.loaded->geometry.points()[index],
+                                   !hasOwnSymbol(assets[index].kind)},
+                                  frequency[assets[index].kind]});
         }
     }
     std::stable_sort(candidates.begin(), candidates.end(), [](const auto& a, const auto& b) {
-        return a.frequency < b.frequency;
+        return std::pair(a.marker.isQuiet, a.frequency) < std::pair(b.marker.isQuiet, b.frequency);
     });
     std::vector<Marker> markers;
     markers.reserve(candidates.size());
@@ -147,7 +167,7 @@ MarkerLayout markerLayout(const std::vector<Marker>& markers, DetailLevel level)
         if (pins.place(marker.point)) {
             layout.pins.push_back(marker);
             layout.pins.back().isAlone = neighbours.isAlone(marker.point);
-        } else if (dots.place(marker.point)) {
+        } else if (dots.place(marker)) {
             layout.dots.push_back(marker);
         }
     }

@@ -2,9 +2,10 @@
 // Which records stand as pins and which as dots. No record is ever without a marker; only a dot
 // that lies wholly under others, but for slivers of less than half a pixel, is not drawn.
 //
-// Where pins would crowd, rarer kinds come first, then the order of the list. The layout
-// holds for all scales of one level and for every place of the world, so that nothing changes while
-// the map is dragged or a record is selected.
+// Where pins would crowd, kinds with an icon of their own come first, then rarer kinds, then the
+// order of the list. The dots of kinds without an icon are quiet: smaller, and below the others.
+// The layout holds for all scales of one level and for every place of the world, so that nothing
+// changes while the map is dragged or a record is selected.
 
 #include "map/geometry/DetailLevel.h"
 #include "map/geometry/Projection.h"
@@ -19,8 +20,9 @@ namespace vasker {
 inline constexpr double pinSpacingX = 34;
 inline constexpr double pinSpacingY = 36;
 
-/// The size of a dot in logical pixels: its radius, and the casing around it.
+/// The size of a dot in logical pixels: its radius, that of a quiet one, and the casing around it.
 inline constexpr double dotRadius = 3.25;
+inline constexpr double quietDotRadius = 2.25;
 inline constexpr double dotCasing = 1;
 
 /// The most pins that are drawn at once.
@@ -30,8 +32,13 @@ inline constexpr std::size_t maximumPins = 500;
 struct Marker {
     AssetIndex asset;
     MapPoint point;
+    bool isQuiet = false; ///< its kind has no icon of its own
     bool isAlone = false; ///< of a pin in a layout: no other marker stands near it
 };
+
+[[nodiscard]] inline double dotRadiusOf(const Marker& marker) noexcept {
+    return marker.isQuiet ? quietDotRadius : dotRadius;
+}
 
 /// A pin stands alone where no other marker is nearer than this, in logical pixels: its label
 /// covers none.

@@ -5,6 +5,7 @@
 #include "platform/ui/theme/IconPainter.h"
 #include "presentation/Symbols.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
@@ -76,12 +77,19 @@ void paintShadow(QPainter& painter) {
     painter.save();
     painter.translate(pinTipX, pinTipY);
     painter.scale(shadowWidth / 2, shadowHeight / 2);
-    QRadialGradient gradient(QPointF(0, 0), 1);
-    gradient.setColorAt(0, QColor(0, 0, 0, 107));
-    gradient.setColorAt(1, QColor(0, 0, 0, 0));
     painter.setPen(Qt::NoPen);
-    painter.setBrush(gradient);
-    painter.drawEllipse(QPointF(0, 0), 1, 1);
+    if (painter.paintEngine()->type() == QPaintEngine::Raster) {
+        QRadialGradient gradient(QPointF(0, 0), 1);
+        gradient.setColorAt(0, QColor(0, 0, 0, 107));
+        gradient.setColorAt(1, QColor(0, 0, 0, 0));
+        painter.setBrush(gradient);
+        painter.drawEllipse(QPointF(0, 0), 1, 1);
+    } else { // readers of pages disagree on gradients that fade out
+        painter.setBrush(QColor(0, 0, 0, 22));
+        for (const double radius : {0.8, 0.6, 0.4, 0.2}) {
+            painter.drawEllipse(QPointF(0, 0), radius, radius);
+        }
+    }
     painter.restore();
 }
 
@@ -89,7 +97,11 @@ void strokeOutside(QPainter& painter, const QPainterPath& path, const QColor& co
     painter.strokePath(path, QPen(color, 2 * width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
-void paintPin(QPainter& painter, std::string_view kind, const MapTheme& theme, PinState state) {
+} // namespace
+
+void paintPin(QPainter& painter, std::string_view kind, BasemapTheme basemap, PinState state) {
+    const MapTheme& theme = mapTheme(basemap);
+    painter.setRenderHint(QPainter::Antialiasing);
     const double scale = enlargement(state);
     const double casing = casingWidth(state) / scale;
     painter.translate(margin(state), margin(state));
@@ -113,8 +125,6 @@ void paintPin(QPainter& painter, std::string_view kind, const MapTheme& theme, P
               symbolStroke);
 }
 
-} // namespace
-
 PinAtlas::PinAtlas(std::span<const std::string> kinds, BasemapTheme theme, double devicePixels) {
     std::map<int, std::string_view> kindOfColumn;
     for (const std::string& kind : kinds) {
@@ -136,7 +146,7 @@ PinAtlas::PinAtlas(std::span<const std::string> kinds, BasemapTheme theme, doubl
         for (const PinState state : {PinState::plain, PinState::hovered, PinState::selected}) {
             painter.save();
             painter.translate(region(kind, state).topLeft());
-            paintPin(painter, kind, mapTheme(theme), state);
+            paintPin(painter, kind, theme, state);
             painter.restore();
         }
     }

@@ -12,9 +12,15 @@
 #include <string>
 #include <string_view>
 
+class QPainter;
+
 namespace vasker {
 
 enum class PinState { plain, hovered, selected };
+
+/// Draws the pin of `kind`, the top-left of its region on the painter's origin. Changes the
+/// painter's state. Any thread.
+void paintPin(QPainter& painter, std::string_view kind, BasemapTheme theme, PinState state);
 
 class PinAtlas {
   public:

@@ -15,8 +15,8 @@ namespace vasker {
 
 namespace {
 
-QImage dotSprite(const QColor& color, const QColor& casing, double devicePixels) {
-    const double whole = (dotRadius + dotCasing) * devicePixels;
+QImage dotSprite(double radius, const QColor& color, const QColor& casing, double devicePixels) {
+    const double whole = (radius + dotCasing) * devicePixels;
     const int half = static_cast<int>(std::ceil(whole)) + 1;
     QImage sprite(2 * half, 2 * half, QImage::Format_ARGB32_Premultiplied);
     sprite.fill(Qt::transparent);
@@ -26,7 +26,7 @@ QImage dotSprite(const QColor& color, const QColor& casing, double devicePixels)
     painter.setBrush(casing);
     painter.drawEllipse(QPointF(half, half), whole, whole);
     painter.setBrush(color);
-    painter.drawEllipse(QPointF(half, half), dotRadius * devicePixels, dotRadius * devicePixels);
+    painter.drawEllipse(QPointF(half, half), radius * devicePixels, radius * devicePixels);
     return sprite;
 }
 
@@ -48,8 +48,9 @@ RecordOverlay::RecordOverlay(std::shared_ptr<const LoadedRelease> loaded,
     }
     for (const Marker& dot : m_layout->dots) {
         const Rgb color = m_colors.records[dot.asset];
-        if (!m_sprites.contains(color)) {
-            m_sprites.emplace(color, dotSprite(colorOf(color), m_colors.dotCasing, devicePixels));
+        QImage& sprite = m_sprites[{color, dot.isQuiet}];
+        if (sprite.isNull()) {
+            sprite = dotSprite(dotRadiusOf(dot), colorOf(color), m_colors.dotCasing, devicePixels);
         }
     }
 }
@@ -105,7 +106,7 @@ void RecordOverlay::paintDots(QImage& image, const MapRect& bounds, double scale
             if (!around.contains(dot.point)) {
                 continue;
             }
-            const QImage& sprite = m_sprites.at(m_colors.records[dot.asset]);
+            const QImage& sprite = m_sprites.at({m_colors.records[dot.asset], dot.isQuiet});
             const double x = (dot.point.x + offset - bounds.x) * scale;
             const double y = (dot.point.y - bounds.y) * scale;
             painter.drawImage(QPoint(static_cast<int>(std::lround(x)) - sprite.width() / 2,

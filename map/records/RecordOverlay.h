@@ -14,6 +14,7 @@
 
 #include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace vasker {
@@ -50,7 +51,7 @@ class RecordOverlay final : public TileOverlay {
     double m_devicePixels;
     LineCoverage m_lines;
     std::vector<Rgb> m_lineColors; ///< each once, in the order in which they are painted
-    std::map<Rgb, QImage> m_sprites;
+    std::map<std::pair<Rgb, bool>, QImage> m_sprites; ///< by colour and whether they are quiet
 };
 
 } // namespace vasker

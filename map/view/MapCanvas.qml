@@ -6,9 +6,6 @@ import Vasker.Platform
 MapView {
     id: root
 
-    // While a picture is taken of it, what only serves to use it is not to be seen.
-    property bool pictured: false
-    readonly property real controlOpacity: pictured ? 0 : 1
     readonly property string captionText: caption.text
 
     coveredBelow: caption.height
@@ -61,7 +58,6 @@ MapView {
         border.width: 2
         border.color: Theme.colors.accent
         visible: ring.shown
-        opacity: root.controlOpacity
     }
     ScaleBar {
         id: bar
@@ -84,7 +80,6 @@ MapView {
         maximumWidth: parent.width - anchors.rightMargin - bar.x - bar.width - 24
         note: !imageryWait.over ? "" : root.status.lacksImagery ? qsTr("Satellite imagery needs a network connection") : qsTr("Sharper imagery needs a network connection")
         links: root.status.attribution
-        opacity: root.controlOpacity
         colors: textColors
     }
     Compass {
@@ -107,7 +102,6 @@ MapView {
         anchors.top: compass.bottom
         anchors.topMargin: 8
         nearest: readout.nearest
-        opacity: root.controlOpacity
         farthest: readout.farthest
         onZoomedIn: root.zoomIn()
         onZoomedOut: root.zoomOut()
@@ -123,7 +117,6 @@ MapView {
         name: root.hover.name
         caption: root.hover.caption
         mapWidth: root.width - root.coveredRight
-        opacity: root.controlOpacity
     }
     PickList {
         id: choice
@@ -136,6 +129,5 @@ MapView {
 
         around: 0
         inside: true
-        opacity: root.controlOpacity
     }
 }

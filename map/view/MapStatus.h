@@ -35,6 +35,7 @@ class MapStatus : public QObject {
     [[nodiscard]] bool showsImagery() const noexcept { return vasker::showsImagery(m_theme); }
     [[nodiscard]] const QColor& halo() const noexcept { return mapTheme(m_theme).labelHalo; }
 
+    [[nodiscard]] BasemapTheme theme() const noexcept { return m_theme; }
     void setTheme(BasemapTheme theme);
     void setFrame(const MapFrame& frame);
 

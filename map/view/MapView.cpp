@@ -2,7 +2,7 @@
 
 #include "map/scene/MapNode.h"
 #include "map/scene/Renderer.h"
-#include "platform/Locale.h"
+#include "map/view/ViewScene.h"
 
 #include <QQuickWindow>
 

@@ -223,7 +223,18 @@
     </message>
 </context>
 <context>
+    <name>FactRow</name>
+    <message>
+        <source>Found by the search</source>
+        <translation>Trouvé par la recherche</translation>
+    </message>
+</context>
+<context>
     <name>LabelledRow</name>
+    <message>
+        <source>Found by the search</source>
+        <translation>Trouvé par la recherche</translation>
+    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
@@ -288,6 +299,18 @@
 <context>
     <name>PrimaryMenu</name>
     <message>
+        <source>Save a picture at four times the size…</source>
+        <translation>Enregistrer une image quatre fois plus grande…</translation>
+    </message>
+    <message>
+        <source>Save the map as PDF or SVG…</source>
+        <translation>Enregistrer la carte en PDF ou SVG…</translation>
+    </message>
+    <message>
+        <source>Print the map…</source>
+        <translation>Imprimer la carte…</translation>
+    </message>
+    <message>
         <source>Save a picture of the map…</source>
         <translation>Enregistrer une image de la carte…</translation>
     </message>
@@ -341,6 +364,10 @@
 </context>
 <context>
     <name>OpenMapInspector</name>
+    <message>
+        <source>Found by the search</source>
+        <translation>Trouvé par la recherche</translation>
+    </message>
     <message>
         <source>Source period</source>
         <translation>Période de la source</translation>
@@ -492,6 +519,10 @@
 </context>
 <context>
     <name>MapShortcuts</name>
+    <message>
+        <source>Print the map</source>
+        <translation>Imprimer la carte</translation>
+    </message>
     <message>
         <source>Map</source>
         <translation>Carte</translation>
@@ -715,6 +746,29 @@
     </message>
 </context>
 <context>
+    <name>vasker::FoundText</name>
+    <message>
+        <source>Id</source>
+        <translation>Identifiant</translation>
+    </message>
+    <message>
+        <source>Reporting company</source>
+        <translation>Entreprise déclarante</translation>
+    </message>
+    <message>
+        <source>Jurisdiction</source>
+        <translation>Province ou territoire</translation>
+    </message>
+    <message>
+        <source>%1: </source>
+        <translation>%1 : </translation>
+    </message>
+    <message>
+        <source>Found in %1: %2</source>
+        <translation>Trouvé dans « %1 » : %2</translation>
+    </message>
+</context>
+<context>
     <name>vasker::RecordListModel</name>
     <message>
         <source>%1, %2, source period %3</source>
@@ -835,13 +889,6 @@
     </message>
 </context>
 <context>
-    <name>vasker::MapPicture</name>
-    <message>
-        <source>its name has to end in .png.</source>
-        <translation>son nom doit se terminer par .png.</translation>
-    </message>
-</context>
-<context>
     <name>vasker::RecordFile</name>
     <message>
         <source>its name has to end in .csv or .geojson.</source>
@@ -855,16 +902,24 @@
 <context>
     <name>vasker::SaveCommands</name>
     <message>
+        <source>Save the map, as .pdf or .svg</source>
+        <translation>Enregistrer la carte, en .pdf ou .svg</translation>
+    </message>
+    <message>
+        <source>Taking the picture…</source>
+        <translation>Prise de l’image…</translation>
+    </message>
+    <message>
+        <source>Printing the map…</source>
+        <translation>Impression de la carte…</translation>
+    </message>
+    <message>
         <source>Save a picture of the map, as .png</source>
         <translation>Enregistrer une image de la carte, en .png</translation>
     </message>
     <message>
         <source>The picture of the map is on the clipboard.</source>
         <translation>L’image de la carte est dans le presse-papiers.</translation>
-    </message>
-    <message>
-        <source>The picture could not be taken.</source>
-        <translation>L’image n’a pas pu être prise.</translation>
     </message>
     <message>
         <source>Search: %1</source>
@@ -959,6 +1014,32 @@
     <message>
         <source>Sources &amp; coverage</source>
         <translation>Sources et couverture</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::PictureFile</name>
+    <message>
+        <source>its name has to end in .png, .pdf or .svg.</source>
+        <translation>son nom doit se terminer par .png, .pdf ou .svg.</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::Printing</name>
+    <message>
+        <source>This desktop has no dialog to print with. Save the map as PDF and print that.</source>
+        <translation>Ce bureau n’a pas de dialogue d’impression. Enregistrez la carte en PDF et imprimez ce fichier.</translation>
+    </message>
+    <message>
+        <source>the desktop did not take it.</source>
+        <translation>le bureau ne l’a pas acceptée.</translation>
+    </message>
+    <message>
+        <source>The map is on its way to the printer.</source>
+        <translation>La carte a été envoyée à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>The map could not be printed: %1</source>
+        <translation>La carte n’a pas pu être imprimée : %1</translation>
     </message>
 </context>
 </TS>

@@ -1,83 +1,85 @@
 #include "app/saving/MapPicture.h"
 
-#include <QDir>
-#include <QTemporaryDir>
+#include "tests/app/PictureBuilder.h"
 
 #include <gtest/gtest.h>
 
 namespace vasker {
 namespace {
 
-const QColor paper(250, 250, 250);
-const QColor ground(10, 200, 30);
-
-MapPicture picture(double scale = 1) {
-    QImage map(static_cast<int>(400 * scale), static_cast<int>(300 * scale), QImage::Format_RGB32);
-    map.fill(ground);
-    return {.map = map,
-            .scale = scale,
-            .title = QStringLiteral("A title"),
-            .notes = {QStringLiteral("A note."), QString(), QStringLiteral("Another note.")},
-            .background = paper,
-            .text = Qt::black,
-            .quietText = Qt::black};
-}
-
-/// How many pixels of the picture below the map are no background.
-int writtenPixels(const QImage& image, int mapHeight) {
-    int written = 0;
-    for (int y = mapHeight; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            written += image.pixelColor(x, y) != paper ? 1 : 0;
+/// How many pixels of a part of the image are not of that colour.
+int pixelsOtherThan(const QColor& color, const QImage& image, const QRect& part) {
+    int count = 0;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            count += image.pixelColor(x, y) != color ? 1 : 0;
         }
     }
-    return written;
+    return count;
 }
 
+QRect strip(const QImage& image) {
+    return {0,
+            static_cast<int>(mapHeight),
+            image.width(),
+            image.height() - static_cast<int>(mapHeight)};
+}
+
+const QRect barPlace(0, 250, 200, 50);
+const QRect northPlace(320, 0, 80, 80);
+
 TEST(MapPicture, IsTheMapAndBelowItAStripWithTexts) {
-    const QImage image = picture().composed();
+    const QImage image = makePicture().composed();
     EXPECT_EQ(image.width(), 400);
     EXPECT_GT(image.height(), 300 + 40);
-    EXPECT_EQ(image.copy(0, 0, 400, 300), picture().map);
-    EXPECT_GT(writtenPixels(image, 300), 100);
+    EXPECT_EQ(image.pixelColor(2, 2), ground);
+    EXPECT_EQ(image.pixelColor(2, 299), ground);
+    EXPECT_EQ(image.pixelColor(100, 100), dotColor);
+    EXPECT_EQ(image.pixelColor(2, 301), paper);
+    EXPECT_GT(pixelsOtherThan(paper, image, strip(image)), 100);
 }
 
 TEST(MapPicture, GrowsWithEachNoteAndNotWithAnEmptyOne) {
-    MapPicture more = picture();
+    MapPicture more = makePicture();
     more.notes.append(QStringLiteral("A third note."));
-    MapPicture same = picture();
+    MapPicture same = makePicture();
     same.notes.append(QString());
-    EXPECT_GT(more.composed().height(), picture().composed().height());
-    EXPECT_EQ(same.composed().height(), picture().composed().height());
+    EXPECT_GT(more.size().height(), makePicture().size().height());
+    EXPECT_EQ(same.size(), makePicture().size());
 }
 
 TEST(MapPicture, SetsALongNoteInSeveralLinesWithinItsWidth) {
-    MapPicture longer = picture();
+    MapPicture longer = makePicture();
     longer.notes = {QStringLiteral("word ").repeated(100)};
     const QImage image = longer.composed();
-    EXPECT_GT(image.height(), picture().composed().height() + 60);
-    EXPECT_EQ(writtenPixels(image.copy(390, 0, 10, image.height()), 300), 0);
+    EXPECT_GT(image.height(), makePicture().size().height() + 60);
+    QRect edge = strip(image);
+    edge.setLeft(390);
+    EXPECT_EQ(pixelsOtherThan(paper, image, edge), 0);
 }
 
-TEST(MapPicture, OfTwiceTheSizeHasTextsOfTwiceTheSize) {
-    EXPECT_EQ(picture(2).composed().size(), picture().composed().size() * 2);
+TEST(MapPicture, OfTwiceTheSizeHasAllOfTwiceTheSize) {
+    const QImage image = makePicture(2).composed();
+    EXPECT_EQ(image.size(), makePicture().composed().size() * 2);
+    EXPECT_EQ(image.pixelColor(200, 200), dotColor);
+    EXPECT_EQ(image.pixelColor(200, 212), dotColor);
 }
 
-TEST(MapPicture, IsWrittenAsPngThatReadsBackTheSame) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.PNG"));
-    EXPECT_EQ(picture().write(path), QString());
-    EXPECT_EQ(QImage(path, "png").convertToFormat(QImage::Format_RGB32), picture().composed());
+TEST(MapPicture, HasAScaleBarWhereThereIsALength) {
+    MapPicture picture = makePicture();
+    EXPECT_EQ(pixelsOtherThan(ground, picture.composed(), barPlace), 0);
+    picture.barLength = 120;
+    picture.barText = QStringLiteral("50 km");
+    EXPECT_GT(pixelsOtherThan(ground, picture.composed(), barPlace), 300);
 }
 
-TEST(MapPicture, OfAnotherFormatIsRefusedAndNothingIsWritten) {
-    const QTemporaryDir folder;
-    for (const char* name : {"map.jpg", "map", "map.pdf"}) {
-        EXPECT_EQ(picture().write(folder.filePath(QString::fromLatin1(name))),
-                  QStringLiteral("its name has to end in .png."));
-    }
-    EXPECT_NE(picture().write(folder.filePath(QStringLiteral("absent/map.png"))), QString());
-    EXPECT_EQ(QDir(folder.path()).count(), 2U);
+TEST(MapPicture, HasAnArrowToTheNorthOnlyWhereThatIsNotUp) {
+    MapPicture picture = makePicture();
+    EXPECT_EQ(pixelsOtherThan(ground, picture.composed(), northPlace), 0);
+    picture.bearing = 90; // north is to the left of the middle, at (366, 34)
+    const QImage turned = picture.composed();
+    EXPECT_EQ(turned.pixelColor(360, 34), picture.north);
+    EXPECT_NE(turned.pixelColor(372, 34), picture.north);
 }
 
 } // namespace

@@ -59,6 +59,16 @@ TEST_F(Workspace, ShowsRecordsByNameWithNumbersByValueAndNamesakesInFileOrder) {
     EXPECT_EQ(shown(), "line two ten twin-b twin-a");
 }
 
+TEST_F(Workspace, TheInspectedRecordSaysWhatItWasFoundBy) {
+    pick("ten");
+    EXPECT_EQ(m_workspace.inspected().found, std::nullopt);
+    m_workspace.setQuery(QStringLiteral("PRAIRIE"));
+    EXPECT_EQ(m_workspace.inspected().found,
+              (SearchedText{SearchedText::Field::company, 0, "Prairie Gas"}));
+    m_workspace.setQuery(QStringLiteral("alder"));
+    EXPECT_EQ(m_workspace.inspected().found, std::nullopt);
+}
+
 TEST_F(Workspace, OffersEachKindOnceInCodePointOrder) {
     EXPECT_EQ(m_workspace.kinds(),
               (QList<QString>{QStringLiteral("Zinc"),

@@ -75,6 +75,23 @@ TEST_F(Window, ANameIsNeverReadAsMarkupWhateverWasInItsRowBefore) {
     EXPECT_EQ(attempts, 0);
 }
 
+TEST_F(Window, ARowSaysWhereARecordWasFoundThatItsNameDoesNotTell) {
+    openRecords();
+    const auto described = [&] {
+        return QAccessible::queryAccessibleInterface(item("open-map-record-A-10"));
+    };
+    const double height = item("open-map-record-A-10")->height();
+    workspace().setQuery(QStringLiteral("prairie"));
+    EXPECT_EQ(described()->text(QAccessible::Description),
+              QStringLiteral("Found in Reporting company: Prairie Gas"));
+    EXPECT_EQ(described()->text(QAccessible::Name),
+              QStringLiteral("Plant 10, Refinery, source period 2016"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return item("open-map-record-A-10")->height() > height; }));
+    workspace().setQuery(QStringLiteral("plant 10"));
+    EXPECT_EQ(described()->text(QAccessible::Description), QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return item("open-map-record-A-10")->height() == height; }));
+}
+
 TEST_F(Window, KeysMoveThroughTheListAndEnterPicks) {
     openRecords();
     key(Qt::Key_F, Qt::ControlModifier);
@@ -227,19 +244,20 @@ TEST_F(Window, TheKeyboardReachesTheMapAndItsControls) {
     EXPECT_EQ(workspace().camera(), CameraPosition(canadaOverview));
 }
 
-TEST_F(Window, APictureOfTheMapIsCopiedWithoutWhatOnlyServesToUseIt) {
+TEST_F(Window, APictureOfTheMapIsCopied) {
     openRecords();
     QQuickItem* const map = item("open-map-canvas");
     QGuiApplication::clipboard()->clear();
     key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(item("open-map-zoom-in")->parentItem()->opacity(), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-save-notice") != nullptr; }));
-    EXPECT_EQ(item("open-map-save-notice")->property("label").toString(),
-              QStringLiteral("The picture of the map is on the clipboard."));
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        const QQuickItem* const notice = item("open-map-save-notice");
+        return notice != nullptr &&
+               notice->property("label").toString() ==
+                   QStringLiteral("The picture of the map is on the clipboard.");
+    }));
     const QImage picture = QGuiApplication::clipboard()->image();
     EXPECT_EQ(picture.width(), map->width());
     EXPECT_GT(picture.height(), map->height());
-    EXPECT_EQ(item("open-map-zoom-in")->parentItem()->opacity(), 1);
     click(item("open-map-save-notice"));
     EXPECT_EQ(item("open-map-save-notice"), nullptr);
 }

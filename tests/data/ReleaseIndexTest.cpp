@@ -2,6 +2,7 @@
 
 #include "data/Cancelled.h"
 #include "data/Classification.h"
+#include "data/text/CaseFolding.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <gtest/gtest.h>
@@ -124,6 +125,34 @@ class Draw {
     std::mt19937 m_random;
 };
 
+using Texts = std::vector<std::optional<SearchedText>>; // of each record
+
+Texts firstMatches(const ReleaseIndex& index, std::string_view query) {
+    Texts texts;
+    for (AssetIndex record = 0; record < index.release().assets.size(); ++record) {
+        texts.push_back(index.firstMatch(folded(query, index.locale()), record));
+    }
+    return texts;
+}
+
+/// By definition.
+Texts firstMatches(const OpenMapRelease& release,
+                   std::string_view query,
+                   const TextLocale& locale) {
+    Texts texts;
+    for (const OpenMapRelease::Asset& asset : release.assets) {
+        std::optional<SearchedText> first;
+        for (const SearchedText& each : searchedTexts(asset)) {
+            const bool contains = containsFolded(folded(each.text, locale), folded(query, locale));
+            if (!query.empty() && !first && contains) {
+                first = each;
+            }
+        }
+        texts.push_back(first);
+    }
+    return texts;
+}
+
 TEST(ReleaseIndex, AnswersAsTheDefinitionsDo) {
     const std::vector<TextLocale> locales = {TextLocale("en_CA"),
                                              TextLocale("fr_CA"),
@@ -151,6 +180,9 @@ TEST(ReleaseIndex, AnswersAsTheDefinitionsDo) {
                                          : index.kinds()[draw.below(index.kinds().size())];
             const auto expected = filtered(*release, query, kind, locale);
             ASSERT_EQ(index.filtered(query, kind), expected)
+                << "round " << round << ", locale " << locale.id() << ", query "
+                << testing::PrintToString(query);
+            ASSERT_EQ(firstMatches(index, query), firstMatches(*release, query, locale))
                 << "round " << round << ", locale " << locale.id() << ", query "
                 << testing::PrintToString(query);
             found += expected.empty() ? 0 : 1;
@@ -204,6 +236,22 @@ TEST(ReleaseIndex, AReleaseWithoutRecordsAnswersNothing) {
     EXPECT_TRUE(index.kinds().empty());
     EXPECT_TRUE(index.counts("").empty());
     EXPECT_EQ(index.find("A-0"), std::nullopt);
+}
+
+TEST(ReleaseIndex, ARecordIsFoundInTheFirstOfItsTexts) {
+    auto release = std::make_shared<OpenMapRelease>(makeRelease());
+    release->assets = {makeAsset(0)};
+    release->assets[0].facts = {makeFact("North Gas"), makeFact("South")};
+    const ReleaseIndex index(release, TextLocale("en"));
+    using Field = SearchedText::Field;
+    EXPECT_EQ(index.firstMatch("plant", 0), (SearchedText{Field::name, 0, "Plant 0"}));
+    EXPECT_EQ(index.firstMatch("a-", 0), (SearchedText{Field::id, 0, "A-0"}));
+    EXPECT_EQ(index.firstMatch("gas", 0), (SearchedText{Field::company, 0, "Prairie Gas"}));
+    EXPECT_EQ(index.firstMatch("alb", 0), (SearchedText{Field::jurisdiction, 0, "Alberta"}));
+    EXPECT_EQ(index.firstMatch("north", 0), (SearchedText{Field::fact, 0, "North Gas"}));
+    EXPECT_EQ(index.firstMatch("south", 0), (SearchedText{Field::fact, 1, "South"}));
+    EXPECT_EQ(index.firstMatch("gassouth", 0), std::nullopt);
+    EXPECT_EQ(index.firstMatch("", 0), std::nullopt);
 }
 
 TEST(ReleaseIndex, ARecordIsFoundByItsExactID) {

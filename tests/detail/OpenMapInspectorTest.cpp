@@ -48,6 +48,26 @@ TEST(OpenMapInspector, TellsTheCompanyOnlyWhereThereIsOne) {
     EXPECT_FALSE(inspected(release).hasCompany());
 }
 
+TEST(OpenMapInspector, MarksTheOneTextThatTheRecordWasFoundBy) {
+    OpenMapRelease release = makeRelease();
+    release.assets[0].facts = {makeFact("a"), makeFact("b")};
+    const auto marks = [&](const std::optional<SearchedText>& found) {
+        const auto made = OpenMapInspector::of(release, release.assets[0], found);
+        return std::vector<bool>{
+            made.idFound, made.companyFound, made.facts[0].found, made.facts[1].found};
+    };
+    using Field = SearchedText::Field;
+    EXPECT_EQ(marks({}), (std::vector<bool>{false, false, false, false}));
+    EXPECT_EQ(marks(SearchedText{Field::name, 0, {}}),
+              (std::vector<bool>{false, false, false, false}));
+    EXPECT_EQ(marks(SearchedText{Field::id, 0, {}}),
+              (std::vector<bool>{true, false, false, false}));
+    EXPECT_EQ(marks(SearchedText{Field::company, 0, {}}),
+              (std::vector<bool>{false, true, false, false}));
+    EXPECT_EQ(marks(SearchedText{Field::fact, 1, {}}),
+              (std::vector<bool>{false, false, false, true}));
+}
+
 TEST(OpenMapInspector, HasARowForACompanyWhoseNameIsEmpty) {
     OpenMapRelease release = makeRelease();
     release.assets[0].reportedCompany = "";

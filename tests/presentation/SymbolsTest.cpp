@@ -31,6 +31,7 @@ TEST(Symbols, EveryKnownKindHasItsIconAndColor) {
     for (const Row& row : rows) {
         EXPECT_EQ(symbol(row.kind), row.symbol) << row.kind;
         EXPECT_EQ(color(row.kind), row.color) << row.kind;
+        EXPECT_EQ(hasOwnSymbol(row.kind), row.symbol != std::string_view("mappin")) << row.kind;
     }
 }
 
@@ -38,6 +39,7 @@ TEST(Symbols, AKeyThatDiffersInAnyCharacterIsUnknown) {
     for (const char* kind : {"", "Refinery", "gas_plant ", " gas_plant", "gas", "gas_plants"}) {
         EXPECT_EQ(symbol(kind), "mappin") << kind;
         EXPECT_EQ(color(kind), PaletteColor::gray) << kind;
+        EXPECT_FALSE(hasOwnSymbol(kind)) << kind;
     }
 }
 

@@ -5,6 +5,9 @@ from driver import Missed, Program
 from portal import Portal
 
 PROMPT = "Facility, pipeline or reporting company"
+NO_PRINTING = (
+    "This desktop has no dialog to print with. Save the map as PDF and print that."
+)
 BEHIND = [
     "open-map-options",
     "open-map-reset",
@@ -178,6 +181,35 @@ def a_picture_of_the_map_is_saved(executable):
         (width, height), doubled = sizes
         if width != map_width or doubled != (2 * width, 2 * height):
             raise Missed(f"a map {map_width} wide gives {sizes}")
+
+
+def the_map_is_saved_as_a_page(executable):
+    with program_with_release(executable, RELEASE) as copy:
+        for name, beginning in (("map.pdf", b"%PDF"), ("map.svg", b"<?xml")):
+            place = copy.parent / name
+            with Portal(save_to=place) as portal, Program(copy) as program:
+                program.press(id="open-map-menu")
+                program.press(role="menu item", name="Save the map as PDF or SVG…")
+                program.see(name=f"Saved to {place}")
+                if portal.asked("SaveFile")[2]["current_name"] != "test-1-map.pdf":
+                    raise Missed(f"asked: {portal.calls}")
+            if not place.read_bytes().startswith(beginning):
+                raise Missed(f"{name} begins with {place.read_bytes()[:10]}")
+
+
+def the_map_is_printed(executable):
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        program.see(id="open-map-canvas")
+        program.key("ctrl+p")
+        program.see(name=NO_PRINTING)
+    with program_with_release(executable, RELEASE) as copy, Portal() as portal:
+        with Program(copy) as program:
+            program.see(id="open-map-canvas")
+            program.key("ctrl+p")
+            program.see(name="The map is on its way to the printer.")
+            page, options = portal.asked("Print")[2:]
+            if not page.startswith(b"%PDF") or options["token"] != 7:
+                raise Missed(f"printed: {page[:10]}, {options}")
 
 
 def the_records_sheet_comes_before_the_inspector(executable):

@@ -7,8 +7,11 @@ SectionRow {
 
     required property string label
     required property string value
+    // Whether the value is what a search found.
+    property bool found: false
 
     Accessible.role: Accessible.StaticText
+    Accessible.description: root.found ? qsTr("Found by the search") : ""
     Accessible.name: qsTr("%1: %2").arg(root.label).arg(root.value)
 
     Item {
@@ -36,6 +39,7 @@ SectionRow {
             width: pair.stacked ? parent.width : implicitWidth
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.Wrap
+            textStyle: root.found ? Theme.type.headline : Theme.type.body
             color: Theme.colors.text2
             text: root.value
         }

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Vasker.Platform
 
-// One choice in a menu; the current one is filled, the chosen one marked. A note stands dimmed at
-// its end. Picked, it closes the menu first.
+// One choice in a menu; the current one is filled, the chosen one marked. A symbol may stand before
+// its label, and a note stands dimmed at its end. Picked, it closes the menu first.
 T.MenuItem {
     id: root
 
@@ -16,6 +16,10 @@ T.MenuItem {
     property bool chosen: false
     // Whether the label leaves room for a mark before it.
     property bool indented: choice
+    // The icon before the label, or the room for one: whether it has a place, its name and colour.
+    property bool symbolic: false
+    property string symbol
+    property color symbolColor: Theme.colors.text2
     // A line stands above it.
     property bool startsGroup: false
     readonly property MenuList list: ListView.view as MenuList
@@ -63,11 +67,21 @@ T.MenuItem {
             size: 16 * Theme.iconScale
             color: Theme.colors.accent
         }
+        Icon {
+            id: mark
+
+            visible: root.symbolic && name.length > 0
+            x: root.indented ? 12 + 16 * Theme.iconScale : 10
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.symbol
+            size: 18 * Theme.iconScale
+            color: root.symbolColor
+        }
         Label {
             id: title
 
             anchors.left: parent.left
-            anchors.leftMargin: root.indented ? 12 + 16 * Theme.iconScale : 10
+            anchors.leftMargin: mark.x + (root.symbolic ? Theme.iconColumn + 8 : 0)
             anchors.right: noteLabel.left
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter

@@ -39,9 +39,10 @@ QByteArray withScaledStrokes(const QByteArray& svg, double strokeScale) {
     return scaled.toUtf8();
 }
 
-// Few icons, colours and cuts exist; parsing each once keeps lists and the map's atlas cheap.
+// Few icons, colours and cuts exist; parsing each once keeps lists and the map's atlas cheap. A
+// thread has its own, because rendering changes a renderer.
 QSvgRenderer& renderer(QStringView name, const QColor& color, double strokeScale) {
-    static QHash<QString, std::shared_ptr<QSvgRenderer>> cache;
+    thread_local QHash<QString, std::shared_ptr<QSvgRenderer>> cache;
     const QString key = QStringLiteral("%1 %2 %3").arg(name, color.name()).arg(strokeScale);
     std::shared_ptr<QSvgRenderer>& cached = cache[key];
     if (!cached) {

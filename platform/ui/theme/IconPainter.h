@@ -1,5 +1,5 @@
 #pragma once
-// The application's icons, drawn in one colour at any size. User-interface thread.
+// The application's icons, drawn in one colour at any size. Any thread.
 
 #include <QStringView>
 

@@ -1,5 +1,7 @@
 #include "map/catalogue/KindListModel.h"
 
+#include "presentation/Symbols.h"
+
 #include <QAbstractItemModelTester>
 
 #include <gtest/gtest.h>
@@ -73,6 +75,29 @@ TEST_F(KindList, EachEntryTellsHowManyRecordsItHoldsAndAllCategoriesTheirSum) {
     EXPECT_EQ(counts, "4845 3 0 12 4830 ");
     EXPECT_EQ(m_model.data(m_model.index(3), KindListModel::CountTextRole).toString(),
               QStringLiteral("Records: 12"));
+}
+
+TEST_F(KindList, EachEntryHasTheMarkOfItsRecordsAndAllCategoriesNone) {
+    std::string marks;
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const QModelIndex entry = m_model.index(row);
+        marks += m_model.data(entry, KindListModel::SymbolRole).toString().toStdString() + "/" +
+                 std::to_string(m_model.data(entry, KindListModel::TintRole).toInt()) + " ";
+    }
+    const auto tint = [](PaletteColor color) { return std::to_string(static_cast<int>(color)); };
+    const std::string gray = tint(PaletteColor::gray);
+    EXPECT_EQ(marks,
+              "/" + gray + " mappin/" + gray + " flame/" + tint(PaletteColor::blue) +
+                  " arrow.down.to.line/" + tint(PaletteColor::orange) + " mappin/" + gray + " ");
+}
+
+TEST_F(KindList, TheChosenEntryTellsItsMark) {
+    EXPECT_EQ(m_model.currentSymbol(), QString());
+    m_model.setKind(QStringLiteral("gas_plant"));
+    EXPECT_EQ(m_model.currentSymbol(), QStringLiteral("flame"));
+    EXPECT_EQ(m_model.currentTint(), static_cast<int>(PaletteColor::blue));
+    m_model.setKind(QStringLiteral("refinery"));
+    EXPECT_EQ(m_model.currentSymbol(), QStringLiteral("gearshape.2"));
 }
 
 TEST_F(KindList, TheLabelsForFirstLettersAreThoseOfTheEntries) {

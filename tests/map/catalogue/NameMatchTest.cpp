@@ -40,6 +40,20 @@ TEST(NameMatch, ACharacterThatFoldsToSeveralIsMarkedWhole) {
     EXPECT_EQ(marked("Straße 5", "SS"), "Stra[ß]e 5");
 }
 
+TEST(NameMatch, AMatchIsMarkedWhereverItStandsInALongText) {
+    for (const std::size_t before : {0U, 255U, 256U, 257U, 509U, 512U, 1'000U, 9'000U}) {
+        for (const std::size_t after : {0U, 1U, 700U}) {
+            const std::string lead(before, 'x');
+            const std::string tail(after, 'x');
+            EXPECT_EQ(marked((lead + "GAS" + tail + "gas").c_str(), "gas"),
+                      lead + "[GAS]" + tail + "gas");
+        }
+    }
+    const std::string query(600, 'a');
+    EXPECT_EQ(marked((std::string(300, 'x') + query).c_str(), query.c_str()),
+              std::string(300, 'x') + '[' + query + ']');
+}
+
 TEST(NameMatch, TurkishLettersMatchAsTurkishReadersExpect) {
     EXPECT_EQ(marked("DIŞ İş", "iş", "tr"), "DIŞ [İş]");
 }

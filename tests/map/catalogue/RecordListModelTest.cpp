@@ -118,11 +118,22 @@ TEST_F(RecordList, OnlyAMatchedNameHasMarkup) {
     EXPECT_EQ(text(1, Role::MarkupRole), "");
 }
 
+TEST_F(RecordList, ARowWhoseNameHoldsNoMatchSaysWhereTheMatchIs) {
+    m_model.setQuery(QStringLiteral("FIRST"));
+    EXPECT_EQ(text(1, Role::FoundRole), "Reported unit: <b>first</b>");
+    EXPECT_EQ(text(1, Role::FoundTextRole), "Found in Reported unit: first");
+    EXPECT_EQ(text(1, Role::AccessibleRole), "Birch, Compressor_station, source period March 2025");
+    m_model.setQuery(QStringLiteral("birch"));
+    EXPECT_EQ(text(1, Role::FoundRole), "");
+    EXPECT_EQ(text(1, Role::FoundTextRole), "");
+}
+
 TEST_F(RecordList, AQueryTellsTheViewsToShowMarkupAnew) {
     const QSignalSpy spy(&m_model, &RecordListModel::dataChanged);
     m_model.setQuery(QStringLiteral("b"));
     ASSERT_EQ(spy.size(), 1);
-    EXPECT_EQ(spy[0][2].value<QList<int>>(), QList<int>{Role::MarkupRole});
+    EXPECT_EQ(spy[0][2].value<QList<int>>(),
+              (QList<int>{Role::MarkupRole, Role::FoundRole, Role::FoundTextRole}));
 }
 
 TEST_F(RecordList, TheSelectedRowFollowsTheRecord) {

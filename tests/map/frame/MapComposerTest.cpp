@@ -45,8 +45,8 @@ TEST_F(MapComposerTest, AFrameIsAnOrderedListOfLayers) {
     for (const MapLayer& layer : frame.layers) {
         order += "BTLDS"[layer.index()];
     }
-    // Background, tiles, the routes and those that stand out, dots, labels, pins.
-    EXPECT_EQ(order, "BTLLLLDSS");
+    // Background, tiles, the routes and those that stand out, quiet dots, dots, labels, pins.
+    EXPECT_EQ(order, "BTLLLLDDSS");
     EXPECT_EQ(frame.size, QSizeF(900, 700));
 }
 
@@ -63,7 +63,7 @@ TEST_F(MapComposerTest, TheListOfLayersHasTheSameKindsInEveryFrame) {
 TEST_F(MapComposerTest, WithoutTilesRecordsAreDrawnLive) {
     const MapFrame frame = compose();
     EXPECT_FALSE(layersOf<LineLayer>(frame).front()->strip->empty());
-    EXPECT_EQ(layersOf<DotLayer>(frame).front()->dots.size(), 1U); // the other has a pin
+    EXPECT_EQ(layersOf<DotLayer>(frame).back()->dots.size(), 1U); // the other has a pin
 }
 
 TEST_F(MapComposerTest, TheSameStateGivesTheSameFrame) {

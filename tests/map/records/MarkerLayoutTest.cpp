@@ -27,7 +27,7 @@ RecordSet crowd() {
     std::normal_distribution<double> spread(0, 1.5);
     std::vector<OpenMapRelease::Asset> assets;
     for (int i = 0; i < 3000; ++i) {
-        const char* kinds[] = {"gas_plant", "gas_plant", "gas_plant", "storage", "lng_plant"};
+        const char* kinds[] = {"gas_plant", "gas_plant", "battery", "storage", "lng_plant"};
         assets.push_back(facilityAt(54 + spread(random), -114 + spread(random), kinds[i % 5]));
     }
     return recordSetOf(std::move(assets));
@@ -38,6 +38,31 @@ TEST(MarkerLayout, RarerKindsComeFirstThenTheOrderOfTheList) {
                                            facilityAt(51, -111, "gas_plant"),
                                            facilityAt(52, -112, "lng_plant")});
     EXPECT_EQ(assetsOf(markersByPriority(records)), (std::vector<AssetIndex>{2, 0, 1}));
+}
+
+TEST(MarkerLayout, AKindWithoutAnIconComesLastAndIsQuiet) {
+    const RecordSet records = recordSetOf({facilityAt(50, -110, "battery"),
+                                           facilityAt(51, -111, "gas_plant"),
+                                           facilityAt(52, -112, "gas_plant")});
+    const auto markers = markersByPriority(records);
+    EXPECT_EQ(assetsOf(markers), (std::vector<AssetIndex>{1, 2, 0}));
+    EXPECT_FALSE(markers[0].isQuiet);
+    EXPECT_TRUE(markers[2].isQuiet);
+    EXPECT_LT(dotRadiusOf(markers[2]), dotRadiusOf(markers[0]));
+}
+
+TEST(MarkerLayout, AQuietDotIsLeftOutOnlyWhereItLiesWhollyUnderALargerOne) {
+    const DetailLevel level(20);
+    const double pixel = 360 / (worldSize * level.maximumScale()); // degrees of longitude
+    const auto dots = [&](const char* kind, double apart) {
+        const RecordSet records = recordSetOf({facilityAt(50, -110, "storage"), // has the pin
+                                               facilityAt(50, -110 + 20 * pixel, "storage"),
+                                               facilityAt(50, -110 + (20 + apart) * pixel, kind)});
+        return markerLayout(markersByPriority(records), level).dots.size();
+    };
+    EXPECT_EQ(dots("storage", 0.9), 2U);
+    EXPECT_EQ(dots("battery", 0.9), 1U); // lies wholly under the disc that is a pixel larger
+    EXPECT_EQ(dots("battery", 1.1), 2U);
 }
 
 TEST(MarkerLayout, ARecordWithARouteHasNoMarker) {
@@ -81,18 +106,18 @@ TEST(MarkerLayout, EveryRecordHasAMarkOrLiesWhollyUnderOtherDots) {
     }
     ASSERT_LT(marked.size(), markers.size());
     for (const double scale : {overview.maximumScale(), overview.minimumScale()}) {
-        const double radius = (dotRadius + dotCasing) / scale;
         for (const Marker& marker : markers) {
             if (marked.contains(marker.asset)) {
                 continue;
             }
+            const double radius = (dotRadiusOf(marker) + dotCasing) / scale;
             for (int i = 0; i < 60; ++i) {
                 const MapPoint rim{marker.point.x + radius * std::cos(i * 0.1047),
                                    marker.point.y + radius * std::sin(i * 0.1047)};
                 const bool covered =
                     std::any_of(layout.dots.begin(), layout.dots.end(), [&](const Marker& dot) {
                         return std::hypot(dot.point.x - rim.x, dot.point.y - rim.y) <=
-                               radius + 0.5 / scale; // a sliver that nobody sees
+                               (dotRadiusOf(dot) + dotCasing + 0.5) / scale; // nobody sees a sliver
                     });
                 ASSERT_TRUE(covered);
             }

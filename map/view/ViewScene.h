@@ -1,0 +1,13 @@
+#pragma once
+// What a map item shows, for a picture of it.
+
+#include "map/frame/MapSnapshot.h"
+
+namespace vasker {
+
+class MapView;
+
+/// What `view` shows apart from what is hovered, at `devicePixels` per logical pixel.
+[[nodiscard]] MapScene sceneOf(MapView& view, double devicePixels);
+
+} // namespace vasker
