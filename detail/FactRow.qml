@@ -10,6 +10,8 @@ SectionRow {
     property Item keyTarget: null
 
     spacing: 5
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.fact.spokenText
 
     Label {
         width: parent.width
@@ -24,6 +26,7 @@ SectionRow {
         width: parent.width
         horizontalAlignment: TextEdit.AlignLeft
         text: root.fact.value
+        activeFocusOnTab: false
         keyTarget: root.keyTarget
     }
     LinkText {

@@ -462,6 +462,10 @@
         <source>Publisher-reported location. Equipment position, physical-site boundary and survey precision are not established.</source>
         <translation>Emplacement déclaré par l’éditeur. La position des équipements, les limites physiques du site et la précision du levé ne sont pas établies.</translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
 </context>
 <context>
     <name>vasker::OpenMapSources</name>
