@@ -965,4 +965,22 @@
         <translation>Sources et couverture</translation>
     </message>
 </context>
+<context>
+    <name>vasker::Announcements</name>
+    <message numerus="yes">
+        <source>The map is open: %n records</source>
+        <translation>
+            <numerusform>La carte est ouverte : %n fiche</numerusform>
+            <numerusform>La carte est ouverte : %n fiches</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Picked: %1, %2</source>
+        <translation>Choisi : %1, %2</translation>
+    </message>
+    <message>
+        <source>Basemap: %1</source>
+        <translation>Fond de carte : %1</translation>
+    </message>
+</context>
 </TS>
