@@ -1,4 +1,4 @@
-#include "platform/AccessibleIds.h"
+#include "platform/accessibility/AccessibleIds.h"
 
 #include <QAccessibleObject>
 #include <QDBusMessage>

@@ -1,4 +1,4 @@
-#include "platform/ui/Announcer.h"
+#include "platform/accessibility/Announcer.h"
 
 #include <QAccessible>
 #include <QDBusArgument>

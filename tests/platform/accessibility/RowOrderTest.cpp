@@ -1,4 +1,4 @@
-#include "platform/ui/RowOrder.h"
+#include "platform/accessibility/RowOrder.h"
 
 #include <QQuickItem>
 #include <QTest>
