@@ -61,6 +61,24 @@ Window {
 
         sheets: window.root.sheets
     }
+    Announcer {
+        id: announcer
+
+        Accessible.role: Accessible.Notification
+        Accessible.name: notice
+        Accessible.ignored: notice.length === 0
+    }
+    Announcements {
+        root: window.root
+        onSpoken: text => announcer.announce(text)
+    }
+    Connections {
+        target: view.item as WorkspaceView
+
+        function onSpoken(text: string): void {
+            announcer.announce(text);
+        }
+    }
     Connections {
         target: window.root
 

@@ -48,6 +48,11 @@ void OpenMapWorkspace::setSelection(const QString& selection) {
     }
 }
 
+void OpenMapWorkspace::pickOnMap(const QString& selection) {
+    Q_EMIT pickedOnMap(selection);
+    setSelection(selection);
+}
+
 void OpenMapWorkspace::open(AssetIndex record) {
     focus(release().assets[record]);
     if (showingRecords()) {

@@ -52,6 +52,7 @@ class OpenMapWorkspace : public QObject {
     }
 
     [[nodiscard]] RecordFilter* filter() noexcept { return &m_filter; }
+    [[nodiscard]] const RecordFilter& filter() const noexcept { return m_filter; }
     [[nodiscard]] const QString& query() const noexcept { return m_filter.query(); }
     void setQuery(const QString& query) { m_filter.setQuery(query); }
     [[nodiscard]] const QString& kind() const noexcept { return m_filter.kind(); }
@@ -64,6 +65,8 @@ class OpenMapWorkspace : public QObject {
     /// does neither.
     [[nodiscard]] const QString& selection() const noexcept { return m_selection; }
     void setSelection(const QString& selection);
+    /// The same, picked on the map.
+    Q_INVOKABLE void pickOnMap(const QString& selection);
 
     /// The id of the record in the inspector; empty while that is closed or to close.
     [[nodiscard]] QString inspector() const;
@@ -100,6 +103,8 @@ class OpenMapWorkspace : public QObject {
     void inspectorChanged();
     void basemapChanged();
     void cameraChanged();
+    /// Before the selection changes.
+    void pickedOnMap(const QString& id);
 
   private:
     using Picked = std::optional<AssetIndex>;

@@ -13,6 +13,9 @@ FocusScope {
     required property SheetStack sheets
     readonly property bool sheetIsOpen: sheets.current !== SheetStack.NoSheet
 
+    // To screen readers.
+    signal spoken(string text)
+
     Backdrop {
         anchors.fill: parent
         covered: sources.onScreen || records.onScreen || inspector.onScreen
@@ -86,7 +89,7 @@ FocusScope {
             tiles: view.application.tiles
             coveredRight: inspector.covered
             hovered: canvas.hover.recordId.length > 0 ? canvas.hover.recordId : catalogue.hovered
-            onPicked: id => view.workspace.selection = id
+            onPicked: id => view.workspace.pickOnMap(id)
             onMoved: camera => view.workspace.camera = camera
             onOverviewRequested: view.workspace.resetCamera()
             onMenuRequested: (id, place) => menu.offer(id, canvas, place)
@@ -105,6 +108,7 @@ FocusScope {
 
         workspace: view.workspace
         map: canvas
+        onMessageChanged: view.spoken(message)
     }
     SourcesSheet {
         id: sources

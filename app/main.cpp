@@ -1,6 +1,6 @@
 #include "app/OpenMapApp.h"
 #include "app/QmlModules.h"
-#include "platform/AccessibleIds.h"
+#include "platform/accessibility/AccessibleIds.h"
 #include "platform/Appearance.h"
 #include "platform/Background.h"
 #include "platform/DesktopActivation.h"

@@ -10,6 +10,8 @@ SectionRow {
     property Item keyTarget: null
 
     spacing: 5
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.fact.spokenText
 
     Label {
         width: parent.width
@@ -26,6 +28,7 @@ SectionRow {
         textStyle: root.fact.found ? Theme.type.headline : Theme.type.body
         text: root.fact.value
         Accessible.description: root.fact.found ? qsTr("Found by the search") : ""
+        activeFocusOnTab: false
         keyTarget: root.keyTarget
     }
     LinkText {

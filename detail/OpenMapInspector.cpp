@@ -39,6 +39,11 @@ QString locationText(const Asset& asset) {
 
 } // namespace
 
+QString OpenMapFact::spokenText() const {
+    //: A fact for a screen reader: its label and its value
+    return OpenMapInspector::tr("%1, %2").arg(label, value);
+}
+
 OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
                                       const Asset& asset,
                                       const std::optional<SearchedText>& found) {

@@ -24,6 +24,8 @@ struct OpenMapFact {
     QML_VALUE_TYPE(openMapFact)
     Q_PROPERTY(QString label MEMBER label CONSTANT)
     Q_PROPERTY(QString value MEMBER value CONSTANT)
+    /// What assistive tools read of it: label and value in one.
+    Q_PROPERTY(QString spokenText READ spokenText CONSTANT)
     /// Both empty: there is no link.
     Q_PROPERTY(QString linkTitle READ linkTitle CONSTANT)
     Q_PROPERTY(QString linkAddress READ linkAddress CONSTANT)
@@ -43,6 +45,7 @@ struct OpenMapFact {
     std::optional<Link> link;
     bool found = false; ///< the record was found by this value
 
+    [[nodiscard]] QString spokenText() const;
     [[nodiscard]] QString linkTitle() const { return link ? link->title : QString(); }
     [[nodiscard]] QString linkAddress() const { return link ? link->address : QString(); }
     [[nodiscard]] bool isLong() const { return isLongText(label) || isLongText(value); }

@@ -37,6 +37,7 @@ ListView {
     bottomMargin: 4
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Records")
+    Accessible.description: root.records.countText
 
     function enter(): void {
         root.forceActiveFocus(Qt.TabFocusReason);
@@ -79,10 +80,13 @@ ListView {
 
     delegate: RecordRow {
         width: ListView.view.width
+        setSize: root.count
         selected: index === root.records.selectedRow
         hoveredOnMap: recordId === root.hoveredOnMap
         current: root.activeFocus && ListView.isCurrentItem
         separatorVisible: index < root.count - 1 && index + 1 !== root.records.selectedRow
+        Component.onCompleted: order.refresh()
+        onPositionInSetChanged: order.refresh()
         onHoveredChanged: {
             if (hovered) {
                 root.hovered = recordId;
@@ -97,6 +101,11 @@ ListView {
         onMenuRequested: place => root.menuRequested(recordId, this, place)
     }
 
+    RowOrder {
+        id: order
+
+        parentOfRows: root.contentItem
+    }
     Connections {
         target: root.records
 

@@ -116,15 +116,16 @@ void RecordListModel::setSelection(const QString& selection) {
     }
 }
 
-QString RecordListModel::countText() const {
-    const std::size_t total =
-        m_records.loaded ? m_records.loaded->index.release().assets.size() : std::size_t{0};
+QString RecordListModel::countText(const RecordSet& records) {
+    const bool isLoaded = records.loaded != nullptr;
+    const std::size_t total = isLoaded ? records.loaded->index.release().assets.size() : 0;
+    const int shown = isLoaded ? static_cast<int>(records.filtered->size()) : 0;
     //: %n: how many records are shown, %1: how many there are
-    return tr("%n of %1 records", nullptr, rowCount()).arg(total);
+    return tr("%n of %1 records", nullptr, shown).arg(total);
 }
 
-QString RecordListModel::emptyTitle() const {
-    return m_query.isEmpty() ? tr("No results") : tr("No results for “%1”").arg(m_query);
+QString RecordListModel::emptyTitle(const QString& query) {
+    return query.isEmpty() ? tr("No results") : tr("No results for “%1”").arg(query);
 }
 
 QString RecordListModel::idAt(int row) const {

@@ -55,8 +55,11 @@ class RecordListModel : public QAbstractListModel {
     [[nodiscard]] int selectedRow() const noexcept { return m_selectedRow; }
     [[nodiscard]] bool isEmpty() const { return rowCount() == 0; }
     /// "12 of 40 records".
-    [[nodiscard]] QString countText() const;
-    [[nodiscard]] QString emptyTitle() const;
+    [[nodiscard]] QString countText() const { return countText(m_records); }
+    [[nodiscard]] static QString countText(const RecordSet& records);
+    /// What stands in place of the rows where `query` finds none.
+    [[nodiscard]] QString emptyTitle() const { return emptyTitle(m_query); }
+    [[nodiscard]] static QString emptyTitle(const QString& query);
 
     /// The id of the record in `row`, empty outside the list.
     [[nodiscard]] Q_INVOKABLE QString idAt(int row) const;

@@ -20,6 +20,9 @@ T.ItemDelegate {
     required property string foundText
     required property string accessibleText
 
+    // How many rows the list has, and which of them this is, for assistive tools.
+    property int setSize: 0
+    readonly property int positionInSet: kept ? 0 : index + 1
     property bool selected: false
     // Whether the pointer is on its marker on the map.
     property bool hoveredOnMap: false

@@ -26,7 +26,7 @@ TextEdit {
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
     Accessible.ignored: !root.visible
-    Accessible.focusable: true
+    Accessible.focusable: root.activeFocusOnTab
     Keys.forwardTo: root.keyTarget === null ? [] : [root.keyTarget]
 
     FocusRing {

@@ -489,6 +489,10 @@
         <source>Publisher-reported location. Equipment position, physical-site boundary and survey precision are not established.</source>
         <translation>Emplacement déclaré par l’éditeur. La position des équipements, les limites physiques du site et la précision du levé ne sont pas établies.</translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
 </context>
 <context>
     <name>vasker::OpenMapSources</name>
@@ -1040,6 +1044,24 @@
     <message>
         <source>The map could not be printed: %1</source>
         <translation>La carte n’a pas pu être imprimée : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::Announcements</name>
+    <message numerus="yes">
+        <source>The map is open: %n records</source>
+        <translation>
+            <numerusform>La carte est ouverte : %n fiche</numerusform>
+            <numerusform>La carte est ouverte : %n fiches</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Picked: %1, %2</source>
+        <translation>Choisi : %1, %2</translation>
+    </message>
+    <message>
+        <source>Basemap: %1</source>
+        <translation>Fond de carte : %1</translation>
     </message>
 </context>
 </TS>

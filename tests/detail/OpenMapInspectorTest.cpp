@@ -120,6 +120,7 @@ TEST(OpenMapInspector, TellsFactsInOrderEachWithItsOwnPeriodAndPublisher) {
     ASSERT_EQ(facts.size(), 2U);
     EXPECT_EQ(facts[0].label, QStringLiteral("Sulphur dioxide"));
     EXPECT_EQ(facts[0].value, QStringLiteral("first"));
+    EXPECT_EQ(facts[0].spokenText(), QStringLiteral("Sulphur dioxide, first"));
     EXPECT_EQ(facts[0].linkTitle(), QStringLiteral("NPRI · 2016"));
     EXPECT_EQ(facts[0].linkAddress(), QStringLiteral("https://data.example.ca/npri"));
     EXPECT_EQ(facts[1].value, QStringLiteral("second"));

@@ -55,3 +55,48 @@ def a_category_is_chosen(executable):
         program.see(role="menu item", name="Gas plant")
         program.key("Escape")
         program.miss(role="menu item")
+
+
+def places(program):
+    """Of each row in the tree, in its order: its attributes "posinset" and "setsize"."""
+    found = []
+    for row in program.see(id="open-map-records").find_all(role="list item"):
+        told = row.node.get_attributes()
+        found.append((int(told.get("posinset", 0)), int(told.get("setsize", 0))))
+    return found
+
+
+def the_rows_of_a_long_list_tell_their_places(executable):
+    """Though only those in view have been made."""
+    assets = [
+        dict(RELEASE["assets"][0], id=f"A-{number}", name=f"Plant {number}") for number in range(400)
+    ]
+    with program_with_release(executable, changed("assets", to=assets)) as copy, Program(copy) as program:
+        program.see(name="400 of 400 records")
+
+        def expect(first, last):
+            def told():
+                found = places(program)
+                positions = [position for position, _ in found]
+                return (
+                    {size for _, size in found} == {400}
+                    and positions == list(range(positions[0], positions[-1] + 1))
+                    and positions[0] <= first
+                    and positions[-1] >= last
+                )
+
+            program.wait(told, f"the rows tell {places(program)}")
+
+        expect(1, 10)
+        program.see(name=PROMPT).focus()
+        program.key("Down")
+        for _ in range(5):
+            program.key("Next")
+        expect(40, 50)
+        program.key("Home")
+        expect(1, 10)
+        program.key("End")
+        expect(395, 400)
+        focused = program.see(role="list item", state="focused")
+        if focused.name != "Plant 399, Gas plant, source period 2016":
+            raise Missed(focused.text())

@@ -50,6 +50,7 @@ def the_inspector_tells_of_a_record(executable):
             "Company and status describe the cited release."
             " They do not establish the current operator or current operation.",
             "Reported information",
+            "City, Fairview",
             "City",
             "Fairview",
             "NPRI · 2016",
@@ -62,6 +63,9 @@ def the_inspector_tells_of_a_record(executable):
             " Equipment position, physical-site boundary and survey precision are not established.",
         ]
         expect_in_order(sheet.names(), expected)
+        fact = sheet.find(name="City, Fairview")
+        if not fact.find(role="link", name="NPRI · 2016"):
+            raise Missed(fact.text())
         expect_nothing_behind(program, "Record")
 
 

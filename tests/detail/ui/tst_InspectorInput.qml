@@ -65,15 +65,15 @@ TestCase {
         mouseDoubleClickSequence(value, 4, value.height / 2);
         verify(value.selectedText.length > 0);
     }
-    function test_tab_reaches_texts_and_links_in_order(): void {
+    function test_tab_reaches_links_and_passes_values(): void {
         const view = open(Releases.twoFacts());
         view.takeFocus();
         const reached = [];
-        for (let i = 0; i < 8; ++i) {
+        for (let i = 0; i < 6; ++i) {
             reached.push(Walk.list(view).focused.text);
             keyClick(Qt.Key_Tab);
         }
-        compare(reached, ["Plant 0", "Gas plant · A-0", "12.5 t", "NPRI · 2016", "7 t", "NPRI · 2015", "Source data", "Licence"]);
+        compare(reached, ["Plant 0", "Gas plant · A-0", "NPRI · 2016", "NPRI · 2015", "Source data", "Licence"]);
     }
     function test_what_the_keyboard_reaches_is_in_view(): void {
         const view = open(Releases.withManyFacts());

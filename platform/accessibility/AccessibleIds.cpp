@@ -1,4 +1,4 @@
-#include "platform/AccessibleIds.h"
+#include "platform/accessibility/AccessibleIds.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -81,6 +81,21 @@ bool edit(const QAccessibleInterface& field, const QString& method, const QVaria
     return false;
 }
 
+// Empty where there is nothing to tell.
+Attributes attributesOf(const QAccessibleInterface& control) {
+    Attributes attributes;
+    if (const QString id = identifier(control); !id.isEmpty()) {
+        attributes[QStringLiteral("id")] = id;
+    }
+    const int position = control.object()->property("positionInSet").toInt();
+    const int size = control.object()->property("setSize").toInt();
+    if (position > 0 && position <= size) {
+        attributes[QStringLiteral("posinset")] = QString::number(position);
+        attributes[QStringLiteral("setsize")] = QString::number(size);
+    }
+    return attributes;
+}
+
 // What is to be answered in the bridge's stead; not valid where the bridge answers.
 QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
     const QString group = question.interface();
@@ -90,8 +105,9 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
         question.arguments() == QVariantList{accessible, QStringLiteral("AccessibleId")}) {
         return QVariant::fromValue(QDBusVariant(id));
     }
-    if (!id.isEmpty() && group == accessible && method == u"GetAttributes") {
-        return QVariant::fromValue(Attributes{{QStringLiteral("id"), id}});
+    if (group == accessible && method == u"GetAttributes") {
+        const Attributes attributes = attributesOf(control);
+        return attributes.isEmpty() ? QVariant() : QVariant::fromValue(attributes);
     }
     if (group == action && method == u"DoAction" && isOutOfReach(control)) {
         return false;

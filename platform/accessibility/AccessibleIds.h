@@ -1,6 +1,7 @@
 #pragma once
-// Gives controls their identifiers on the accessibility bus, lets assistive tools set texts, and
-// keeps them from pressing what is disabled.
+// Gives controls their identifiers on the accessibility bus, and rows their place in a list that
+// has only made those in view; lets assistive tools set texts, and keeps them from pressing what is
+// disabled.
 //
 // Qt's bridge to that bus does none of it. This object takes the bridge's place there, answers
 // what the bridge does not know, and hands all else on to it. It relies on the names under which
@@ -19,6 +20,9 @@ class AccessibleIds : public QDBusVirtualObject, private QAccessible::Activation
   public:
     /// An object's name that begins so is its identifier on the bus.
     static constexpr QLatin1StringView prefix{"open-map-"};
+
+    // An object with the properties "positionInSet", 1 for the first, and "setSize" has them as the
+    // attributes "posinset" and "setsize".
 
     /// Takes the bridge's place, now or when assistive tools are first asked for. Made after the
     /// application and gone before it.

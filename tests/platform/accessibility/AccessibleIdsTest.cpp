@@ -1,4 +1,4 @@
-#include "platform/AccessibleIds.h"
+#include "platform/accessibility/AccessibleIds.h"
 
 #include <QAccessibleObject>
 #include <QDBusMessage>
@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <utility>
 
 namespace vasker {
 namespace {
@@ -126,6 +127,30 @@ TEST_F(AccessibleIdsTest, AnObjectsNameIsItsIdentifier) {
         ask(pathOf(button), accessible, QStringLiteral("GetAttributes")));
     EXPECT_EQ(attributes,
               (QMap<QString, QString>{{QStringLiteral("id"), QStringLiteral("open-map-reset")}}));
+}
+
+TEST_F(AccessibleIdsTest, ARowTellsItsPlaceInTheWholeList) {
+    takePlace();
+    QObject row;
+    row.setObjectName(QStringLiteral("open-map-record-1"));
+    row.setProperty("positionInSet", 12);
+    row.setProperty("setSize", 4830);
+    const auto attributes = qdbus_cast<QMap<QString, QString>>(
+        ask(pathOf(row), accessible, QStringLiteral("GetAttributes")));
+    EXPECT_EQ(attributes,
+              (QMap<QString, QString>{{QStringLiteral("id"), QStringLiteral("open-map-record-1")},
+                                      {QStringLiteral("posinset"), QStringLiteral("12")},
+                                      {QStringLiteral("setsize"), QStringLiteral("4830")}}));
+}
+
+TEST_F(AccessibleIdsTest, APlaceOutsideTheListIsNotTold) {
+    takePlace();
+    for (const auto& [position, size] : {std::pair{0, 5}, {6, 5}, {-1, 5}, {1, 0}}) {
+        QObject row;
+        row.setProperty("positionInSet", position);
+        row.setProperty("setSize", size);
+        EXPECT_EQ(ask(pathOf(row), accessible, QStringLiteral("GetAttributes")), byBridge);
+    }
 }
 
 TEST_F(AccessibleIdsTest, AllElseIsTheBridges) {
