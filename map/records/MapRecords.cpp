@@ -1,31 +1,18 @@
 #include "map/records/MapRecords.h"
 
-#include "map/records/PinShape.h"
 #include "map/records/RouteStrip.h"
 #include "map/records/RouteStyle.h"
 #include "map/style/MapTheme.h"
 #include "presentation/Symbols.h"
-
-#include <QPainter>
 
 #include <algorithm>
 #include <utility>
 
 namespace vasker {
 
-namespace {
-
-ScreenRect boxOf(ScreenPoint tip, double scale) {
-    const double width = pinWidth * scale;
-    const double height = pinHeight * scale;
-    return {tip.x - width / 2, tip.y - height, width, height};
-}
-
-} // namespace
-
 void MapRecords::setRecords(const RecordSet& records) {
     if (records.loaded != m_records.loaded) {
-        m_pins.reset();
+        m_pins.forget();
     }
     m_records = records;
     m_markers = m_records.loaded ? markersByPriority(m_records) : std::vector<Marker>();
@@ -36,7 +23,7 @@ void MapRecords::setRecords(const RecordSet& records) {
 
 void MapRecords::setTheme(BasemapTheme theme) {
     m_theme = theme;
-    m_pins.reset();
+    m_pins.forget();
     refreshColors();
 }
 
@@ -184,63 +171,9 @@ std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawi
             std::move(dots)};
 }
 
-void MapRecords::addPins(RecordFrame& frame, double devicePixels) {
-    if (!m_pins || m_devicePixels != devicePixels) {
-        m_pins.emplace(m_records.loaded->index.kinds(), m_theme, devicePixels);
-        m_devicePixels = devicePixels;
-    }
-    SpriteSheet sheet{m_pins->image(), {}};
-    const auto draw = [&](const PlacedMarker& pin, PinState state) {
-        const ScreenPoint tip = PinAtlas::tip(state);
-        sheet.sprites.push_back({{pin.point.x - tip.x, pin.point.y - tip.y},
-                                 m_pins->region(asset(pin.asset).kind, state)});
-    };
-    const auto show = [&](const PlacedMarker& pin, double scale, bool isHighlighted) {
-        frame.shownPins.push_back({pin.asset, boxOf(pin.point, scale), isHighlighted, pin.isAlone});
-    };
-    if (m_markerFrame.selected) {
-        show(*m_markerFrame.selected, selectedPinScale, true);
-    }
-    if (m_markerFrame.hovered) {
-        show(*m_markerFrame.hovered, hoveredPinScale, true);
-    }
-    for (const PlacedMarker& pin : m_markerFrame.pins) {
-        show(pin, 1, false);
-        draw(pin, PinState::plain);
-    }
-    if (m_markerFrame.hovered) {
-        draw(*m_markerFrame.hovered, PinState::hovered);
-    }
-    if (m_markerFrame.selected) {
-        draw(*m_markerFrame.selected, PinState::selected);
-    }
-    frame.pins.sheets.push_back(std::move(sheet));
-}
-
 std::vector<Shape> MapRecords::pinShapes() const {
-    std::vector<Shape> shapes;
-    const auto add = [&](const PlacedMarker& pin, PinState state) {
-        const ScreenPoint tip = PinAtlas::tip(state);
-        shapes.emplace_back([corner = QPointF(pin.point.x - tip.x, pin.point.y - tip.y),
-                             kind = asset(pin.asset).kind,
-                             theme = m_theme,
-                             state](QPainter& painter) {
-            painter.save();
-            painter.translate(corner);
-            paintPin(painter, kind, theme, state);
-            painter.restore();
-        });
-    };
-    for (const PlacedMarker& pin : m_markerFrame.pins) {
-        add(pin, PinState::plain);
-    }
-    if (m_markerFrame.hovered) {
-        add(*m_markerFrame.hovered, PinState::hovered);
-    }
-    if (m_markerFrame.selected) {
-        add(*m_markerFrame.selected, PinState::selected);
-    }
-    return shapes;
+    return m_records.loaded ? vasker::pinShapes(m_markerFrame, *m_records.loaded, m_theme)
+                            : std::vector<Shape>();
 }
 
 RecordFrame MapRecords::compose(const Camera& camera,
@@ -258,7 +191,9 @@ RecordFrame MapRecords::compose(const Camera& camera,
     if (shown != nullptr) {
         m_markerFrame = markerFrame(
             *shown, {markerOf(m_hoveredAsset), markerOf(m_selectedAsset)}, drawing, camera);
-        addPins(frame, devicePixels);
+        frame.pins.sheets.push_back(
+            m_pins.sprites(m_markerFrame, *m_records.loaded, m_theme, devicePixels));
+        frame.shownPins = shownPins(m_markerFrame);
     }
     frame.linesAndDots = linesAndDots(camera, drawing);
     return frame;

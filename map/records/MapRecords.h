@@ -2,14 +2,13 @@
 // The records of one map: which are drawn, in which colours, as what; and which of them is under
 // the pointer. User-interface thread.
 
-#include "map/geometry/ScreenRect.h"
 #include "map/layers/MapLayer.h"
 #include "map/layers/Shape.h"
 #include "map/records/HeldStrip.h"
 #include "map/records/HitTest.h"
 #include "map/records/MarkerFrame.h"
-#include "map/records/PinAtlas.h"
 #include "map/records/RecordOverlay.h"
+#include "map/records/RecordPins.h"
 #include "map/records/RecordSet.h"
 
 #include <QString>
@@ -21,14 +20,6 @@
 #include <vector>
 
 namespace vasker {
-
-/// A pin on the screen.
-struct ShownPin {
-    AssetIndex asset;
-    ScreenRect box;
-    bool isHighlighted; ///< selected or hovered
-    bool isAlone;       ///< no other marker stands near it
-};
 
 /// The records in one frame.
 struct RecordFrame {
@@ -90,7 +81,6 @@ class MapRecords {
                     std::optional<AssetIndex> index,
                     const Camera& camera) const;
     [[nodiscard]] std::vector<MapLayer> linesAndDots(const Camera& camera, RecordDrawing drawing);
-    void addPins(RecordFrame& frame, double devicePixels);
 
     RecordSet m_records;
     BasemapTheme m_theme = BasemapTheme::light;
@@ -107,9 +97,8 @@ class MapRecords {
     std::vector<std::weak_ptr<const RecordOverlay>> m_overlays; ///< those that were made and live
     HeldStrip m_selectedStrip;
     HeldStrip m_hoveredStrip;
-    MarkerFrame m_markerFrame;      ///< as last composed
-    std::optional<PinAtlas> m_pins; ///< none: to be made; for the density below
-    double m_devicePixels = 0;
+    MarkerFrame m_markerFrame; ///< as last composed
+    RecordPins m_pins;
 };
 
 } // namespace vasker

@@ -1,0 +1,90 @@
+#include "map/records/RecordPins.h"
+
+#include "map/records/PinShape.h"
+
+#include <QPainter>
+
+namespace vasker {
+
+namespace {
+
+ScreenRect boxOf(ScreenPoint tip, double scale) {
+    const double width = pinWidth * scale;
+    const double height = pinHeight * scale;
+    return {tip.x - width / 2, tip.y - height, width, height};
+}
+
+/// Calls `draw` with each pin, in drawing order.
+template <typename Draw>
+void forEachPin(const MarkerFrame& frame, Draw draw) {
+    for (const PlacedMarker& pin : frame.pins) {
+        draw(pin, PinState::plain);
+    }
+    if (frame.hovered) {
+        draw(*frame.hovered, PinState::hovered);
+    }
+    if (frame.selected) {
+        draw(*frame.selected, PinState::selected);
+    }
+}
+
+ScreenPoint cornerOf(const PlacedMarker& pin, PinState state) {
+    const ScreenPoint tip = PinAtlas::tip(state);
+    return {pin.point.x - tip.x, pin.point.y - tip.y};
+}
+
+const std::string& kindOf(const PlacedMarker& pin, const LoadedRelease& release) {
+    return release.index.release().assets[pin.asset].kind;
+}
+
+} // namespace
+
+std::vector<ShownPin> shownPins(const MarkerFrame& frame) {
+    std::vector<ShownPin> pins;
+    const auto show = [&](const PlacedMarker& pin, double scale, bool isHighlighted) {
+        pins.push_back({pin.asset, boxOf(pin.point, scale), isHighlighted, pin.isAlone});
+    };
+    if (frame.selected) {
+        show(*frame.selected, selectedPinScale, true);
+    }
+    if (frame.hovered) {
+        show(*frame.hovered, hoveredPinScale, true);
+    }
+    for (const PlacedMarker& pin : frame.pins) {
+        show(pin, 1, false);
+    }
+    return pins;
+}
+
+std::vector<Shape>
+pinShapes(const MarkerFrame& frame, const LoadedRelease& release, BasemapTheme theme) {
+    std::vector<Shape> shapes;
+    forEachPin(frame, [&](const PlacedMarker& pin, PinState state) {
+        const ScreenPoint corner = cornerOf(pin, state);
+        shapes.emplace_back([=, kind = kindOf(pin, release)](QPainter& painter) {
+            painter.save();
+            painter.translate(corner.x, corner.y);
+            paintPin(painter, kind, theme, state);
+            painter.restore();
+        });
+    });
+    return shapes;
+}
+
+SpriteSheet RecordPins::sprites(const MarkerFrame& frame,
+                                const LoadedRelease& release,
+                                BasemapTheme theme,
+                                double devicePixels) {
+    if (!m_atlas || m_devicePixels != devicePixels) {
+        m_atlas.emplace(release.index.kinds(), theme, devicePixels);
+        m_devicePixels = devicePixels;
+    }
+    SpriteSheet sheet{m_atlas->image(), {}};
+    forEachPin(frame, [&](const PlacedMarker& pin, PinState state) {
+        sheet.sprites.push_back(
+            {cornerOf(pin, state), m_atlas->region(kindOf(pin, release), state)});
+    });
+    return sheet;
+}
+
+} // namespace vasker

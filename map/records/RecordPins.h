@@ -1,0 +1,48 @@
+#pragma once
+// The pins of one map: on the screen sprites of one atlas, on a page shapes. Both in drawing order,
+// the hovered and the selected one last.
+
+#include "map/geometry/ScreenRect.h"
+#include "map/layers/Shape.h"
+#include "map/layers/SpriteLayer.h"
+#include "map/records/LoadedRelease.h"
+#include "map/records/MarkerFrame.h"
+#include "map/records/PinAtlas.h"
+
+#include <optional>
+#include <vector>
+
+namespace vasker {
+
+/// A pin on the screen.
+struct ShownPin {
+    AssetIndex asset;
+    ScreenRect box;
+    bool isHighlighted; ///< selected or hovered
+    bool isAlone;       ///< no other marker stands near it
+};
+
+/// Where the pins stand, the selected and the hovered one first.
+[[nodiscard]] std::vector<ShownPin> shownPins(const MarkerFrame& frame);
+
+/// The pins as shapes, for `release`, which has their records.
+[[nodiscard]] std::vector<Shape>
+pinShapes(const MarkerFrame& frame, const LoadedRelease& release, BasemapTheme theme);
+
+class RecordPins {
+  public:
+    /// The pins at `devicePixels` per logical pixel. The atlas lasts until forget() or until
+    /// another density is asked for.
+    [[nodiscard]] SpriteSheet sprites(const MarkerFrame& frame,
+                                      const LoadedRelease& release,
+                                      BasemapTheme theme,
+                                      double devicePixels);
+    /// The release or the theme is another one.
+    void forget() { m_atlas.reset(); }
+
+  private:
+    std::optional<PinAtlas> m_atlas; ///< none: to be made; for the density below
+    double m_devicePixels = 0;
+};
+
+} // namespace vasker
