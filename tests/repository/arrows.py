@@ -35,6 +35,7 @@ ARROWS = {
     },
     "map/scene/": {"map/frame/", "map/layers/", "map/geometry/"},
     "map/input/": {"map/records/", "map/geometry/"},
+    "map/controls/": {"platform/"},
     "map/view/": {
         "map/input/", "map/scene/", "map/frame/", "map/records/", "map/basemap/", "map/style/",
         "map/layers/", "map/geometry/", "presentation/", "data/", "platform/",
