@@ -63,7 +63,8 @@ std::vector<ColoredLine> linesOf(const LineLayer& layer) {
             lines.push_back({{}, QColor(vertex.red, vertex.green, vertex.blue)});
             isWithin = true;
         }
-        lines.back().places << QPointF(vertex.x + layer.offset.x, vertex.y + layer.offset.y);
+        lines.back().places << QPointF(double{vertex.x} + layer.offset.x,
+                                       double{vertex.y} + layer.offset.y);
     }
     return lines;
 }

@@ -2,7 +2,7 @@
 
 #include "map/scene/MapNode.h"
 #include "map/scene/Renderer.h"
-#include "map/view/ViewScene.h"
+#include "platform/Locale.h"
 
 #include <QQuickWindow>
 
