@@ -1,6 +1,7 @@
 #include "map/basemap/TileJob.h"
 
 #include "map/labels/PlaceLabels.h"
+#include "map/style/ImagePool.h"
 #include "map/style/TilePainter.h"
 
 #include <utility>
@@ -41,7 +42,7 @@ TileJob::Result TileJob::run(const std::stop_token& stop) && {
     if (!overlay) {
         tile.image = std::exchange(tile.basemap, QImage());
     } else if (!stop.stop_requested()) {
-        tile.image = tile.basemap.copy();
+        tile.image = pooledCopy(tile.basemap);
         overlay->paint(tile.image,
                        tile.pixels.bounds(tile.devicePixelsPerMapPoint),
                        tile.devicePixelsPerMapPoint);

@@ -1,5 +1,6 @@
 #include "map/style/TilePainter.h"
 
+#include "map/style/ImagePool.h"
 #include "map/style/MapTheme.h"
 #include "map/style/VectorTilePainter.h"
 
@@ -63,7 +64,7 @@ QImage paintTile(const TileData& data, const TileRequest& requested) {
     const BasemapTheme drawn = hasImagery ? BasemapTheme::dark : request.theme;
 
     const PixelRect pixels = request.pixels();
-    QImage image(pixels.width, pixels.height, QImage::Format_RGB32);
+    QImage image = pooledImage(pixels.width, pixels.height, QImage::Format_RGB32);
     image.fill(mapTheme(drawn).land);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
