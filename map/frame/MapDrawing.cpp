@@ -1,7 +1,6 @@
 #include "map/frame/MapDrawing.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QPen>
 #include <QPolygonF>
 #include <QTransform>
@@ -69,26 +68,22 @@ std::vector<ColoredLine> linesOf(const LineLayer& layer) {
     return lines;
 }
 
-/// First every casing, then the cores: where a branch meets a trunk, no casing cuts the trunk.
+/// First every casing, then the cores: where a branch meets a trunk, no casing cuts the trunk. One
+/// by one: the time that a raster takes for a path grows with the square of its crossings.
 void paintLines(QPainter& painter, const LineLayer& layer) {
     const std::vector<ColoredLine> lines = linesOf(layer);
     const LineStyle& style = layer.style;
-    QPen pen(style.casing, style.width + 2 * style.casingWidth);
-    pen.setCapStyle(Qt::RoundCap);
-    pen.setJoinStyle(Qt::RoundJoin);
-    QPainterPath casings;
-    for (const ColoredLine& line : lines) {
-        casings.addPolygon(line.places);
-    }
+    const auto draw = [&](double width, const auto& colorOfLine) {
+        for (const ColoredLine& line : lines) {
+            painter.setPen(
+                QPen(colorOfLine(line), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            painter.drawPolyline(line.places);
+        }
+    };
     if (style.casing.alpha() > 0) {
-        painter.strokePath(casings, pen);
+        draw(style.width + 2 * style.casingWidth, [&](const auto&) { return style.casing; });
     }
-    pen.setWidthF(style.width);
-    for (const ColoredLine& line : lines) {
-        pen.setColor(style.color.value_or(line.color));
-        painter.setPen(pen);
-        painter.drawPolyline(line.places);
-    }
+    draw(style.width, [&](const ColoredLine& line) { return style.color.value_or(line.color); });
 }
 
 void paintDots(QPainter& painter, const DotLayer& layer) {
