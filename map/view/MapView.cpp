@@ -124,7 +124,7 @@ void MapView::redraw() {
 }
 
 Camera MapView::resolvedCamera() const {
-    return {m_camera, {width(), height(), m_coveredBelow, m_coveredRight}};
+    return {m_camera, {width(), height(), m_coveredBelow, m_coveredRight, m_coveredLeft}};
 }
 
 void MapView::componentComplete() {
@@ -218,9 +218,8 @@ bool MapView::handle(const MapEvent& event) {
 
 void MapView::hoverAt(std::optional<QPointF> place) {
     const Camera camera = resolvedCamera();
-    const QRectF free(0, 0, width() - m_coveredRight, height() - m_coveredBelow);
-    if (!place || m_navigator.input().isPressed() || !free.contains(*place) ||
-        m_controls.cover(*place, *this)) {
+    if (!place || m_navigator.input().isPressed() ||
+        !camera.viewport().isFree({place->x(), place->y()}) || m_controls.cover(*place, *this)) {
         m_hover.clear();
     } else {
         const ScreenPoint point{place->x(), place->y()};

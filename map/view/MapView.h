@@ -42,6 +42,7 @@ class MapView : public vasker::InputItem {
     /// The margins that something else covers, in logical pixels.
     Q_PROPERTY(double coveredBelow READ coveredBelow WRITE setCoveredBelow NOTIFY coverChanged)
     Q_PROPERTY(double coveredRight READ coveredRight WRITE setCoveredRight NOTIFY coverChanged)
+    Q_PROPERTY(double coveredLeft READ coveredLeft WRITE setCoveredLeft NOTIFY coverChanged)
     /// How large the desktop wants texts; 1 is the usual.
     Q_PROPERTY(double textScale READ textScale WRITE setTextScale NOTIFY textScaleChanged)
     /// Whether the camera is always at its end at once.
@@ -73,6 +74,8 @@ class MapView : public vasker::InputItem {
     void setCoveredBelow(double pixels) { set(m_coveredBelow, pixels, &MapView::coverChanged); }
     [[nodiscard]] double coveredRight() const noexcept { return m_coveredRight; }
     void setCoveredRight(double pixels) { set(m_coveredRight, pixels, &MapView::coverChanged); }
+    [[nodiscard]] double coveredLeft() const noexcept { return m_coveredLeft; }
+    void setCoveredLeft(double pixels) { set(m_coveredLeft, pixels, &MapView::coverChanged); }
     [[nodiscard]] double textScale() const noexcept { return m_state.textScale; }
     void setTextScale(double scale) { set(m_state.textScale, scale, &MapView::textScaleChanged); }
     [[nodiscard]] bool reducedMotion() const noexcept { return m_reducedMotion; }
@@ -154,6 +157,7 @@ class MapView : public vasker::InputItem {
     std::optional<CameraPose> m_movedTo; ///< what moved() said last
     double m_coveredBelow = 0;
     double m_coveredRight = 0;
+    double m_coveredLeft = 0;
     bool m_reducedMotion = false;
     bool m_choosesDrawing = true; ///< when the renderer is known
     QTimer m_rest;                ///< runs while the camera is being moved
