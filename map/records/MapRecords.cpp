@@ -19,6 +19,19 @@ ScreenRect boxOf(ScreenPoint tip, double scale) {
     return {tip.x - width / 2, tip.y - height, width, height};
 }
 
+/// Pins that cover a name become dots.
+void makeWay(MarkerFrame& frame, std::span<const ScreenRect> names) {
+    const auto covers = [names](const PlacedMarker& pin) {
+        const ScreenRect box = boxOf(pin.point, 1);
+        return std::ranges::any_of(names,
+                                   [&](const ScreenRect& name) { return box.overlaps(name); });
+    };
+    const auto covering = std::stable_partition(
+        frame.pins.begin(), frame.pins.end(), [&](const auto& pin) { return !covers(pin); });
+    frame.dots.insert(frame.dots.end(), covering, frame.pins.end());
+    frame.pins.erase(covering, frame.pins.end());
+}
+
 } // namespace
 
 void MapRecords::setRecords(const RecordSet& records) {
@@ -205,7 +218,8 @@ void MapRecords::addPins(RecordFrame& frame, double devicePixels) {
 RecordFrame MapRecords::compose(const Camera& camera,
                                 RecordDrawing drawing,
                                 const TileOverlay* painted,
-                                double devicePixels) {
+                                double devicePixels,
+                                std::span<const ScreenRect> names) {
     RecordFrame frame;
     m_markerFrame = {};
     std::shared_ptr<const MarkerLayout> live;
@@ -217,6 +231,7 @@ RecordFrame MapRecords::compose(const Camera& camera,
     if (shown != nullptr) {
         m_markerFrame = markerFrame(
             *shown, {markerOf(m_hoveredAsset), markerOf(m_selectedAsset)}, drawing, camera);
+        makeWay(m_markerFrame, names);
         addPins(frame, devicePixels);
     }
     frame.linesAndDots = linesAndDots(camera, drawing);

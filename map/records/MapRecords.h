@@ -16,6 +16,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace vasker {
@@ -56,11 +57,12 @@ class MapRecords {
 
     /// The records as `camera` sees them. With RecordDrawing::painted, routes and dots are those of
     /// `painted`, which came from overlay(); where it is null or of another release, no marker is
-    /// shown.
+    /// shown. A pin that would cover one of `names` is a dot.
     [[nodiscard]] RecordFrame compose(const Camera& camera,
                                       RecordDrawing drawing,
                                       const TileOverlay* painted,
-                                      double devicePixels);
+                                      double devicePixels,
+                                      std::span<const ScreenRect> names = {});
 
     /// Where the point of a record without routes stands, in the copy of the world nearest to the
     /// camera's centre; nothing for one with routes or out of view.

@@ -85,6 +85,8 @@ class MapView : public vasker::InputItem {
     [[nodiscard]] Camera resolvedCamera() const;
     /// Whether the last frame showed all that is asked for.
     [[nodiscard]] bool isComplete() const noexcept { return m_frame.isComplete; }
+    /// The places in and around the view whose labels the last frame chose from.
+    [[nodiscard]] const std::vector<PlaceLabel>& places() const noexcept { return m_frame.places; }
     /// Whether the camera is on its way by itself.
     [[nodiscard]] bool isMoving() const { return m_navigator.isMoving(); }
     /// How routes and dots are drawn. By itself the map chooses what is quicker on this machine.
