@@ -91,6 +91,7 @@ FocusScope {
             hovered: canvas.hover.recordId.length > 0 ? canvas.hover.recordId : catalogue.hovered
             onPicked: id => view.workspace.pickOnMap(id)
             onMoved: camera => view.workspace.camera = camera
+            onSpoken: text => view.spoken(text)
             onOverviewRequested: view.workspace.resetCamera()
             onMenuRequested: (id, place) => menu.offer(id, canvas, place)
             Keys.onEscapePressed: view.workspace.selection = ""

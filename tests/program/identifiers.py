@@ -10,7 +10,7 @@ CONTROLS = {
     "open-map-options": ("push button", "Map options", True),
     "open-map-sources": ("push button", "Sources & coverage", True),
     "open-map-reset": ("push button", "Canada", True),
-    "open-map-canvas": ("image", "Canadian energy infrastructure map", False),
+    "open-map-canvas": ("canvas", "Canadian energy infrastructure map", False),
 }
 
 
