@@ -10,6 +10,7 @@ SectionRow {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: qsTr("%1: %2").arg(root.label).arg(root.value)
+    Accessible.ignored: !root.visible
 
     Item {
         id: pair

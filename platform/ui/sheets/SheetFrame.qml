@@ -15,6 +15,8 @@ Item {
     required property real shown
     required property size usualSize
     readonly property bool holdsFocus: holder.activeFocus
+    // For assistive tools.
+    readonly property bool modal: true
     readonly property real away: 1 - shown
     readonly property real largeHeight: Math.max(0, parent.height - 40)
     readonly property real mediumHeight: Math.min(usualSize.height, atBottom ? largeHeight : parent.height)
