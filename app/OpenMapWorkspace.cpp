@@ -3,6 +3,8 @@
 #include "map/records/Framing.h"
 #include "platform/files/Preferences.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 namespace vasker {
@@ -101,6 +103,10 @@ ReleaseRecord OpenMapWorkspace::recordOf(const QString& id) const {
     ReleaseRecord record = whole();
     record.asset = m_loaded->index.find(id.toStdString());
     return record;
+}
+
+QString OpenMapWorkspace::packagedFile() const {
+    return QFileInfo::exists(m_packagedFile) ? m_packagedFile : QString();
 }
 
 QString OpenMapWorkspace::basemap() const {

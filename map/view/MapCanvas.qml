@@ -14,6 +14,7 @@ MapView {
     // To screen readers.
     signal spoken(string text)
 
+    objectName: "open-map-canvas"
     coveredBelow: caption.height
     dark: Theme.dark
     reducedMotion: Theme.still
