@@ -21,6 +21,7 @@ Window {
     function showWorkspace(): void {
         if (root.screen === OpenMapRoot.Ready) {
             view.setSource("WorkspaceView.qml", {
+                "focus": true,
                 "application": window.application,
                 "workspace": root.workspace,
                 "sheets": root.sheets
@@ -87,22 +88,14 @@ Window {
         }
     }
     Shortcut {
-        sequence: "Ctrl+N"
-        autoRepeat: false
-        onActivated: window.application.openWindow()
-    }
-    Shortcut {
-        sequence: "Ctrl+?"
+        sequences: ["Ctrl+?", "F1"]
         enabled: window.root.sheets.current === SheetStack.NoSheet
         onActivated: window.root.sheets.request(SheetStack.Shortcuts)
     }
-    Shortcut {
-        sequence: "Ctrl+W"
-        autoRepeat: false
-        onActivated: window.close()
-    }
-    Shortcut {
-        sequence: "Ctrl+Q"
-        onActivated: window.application.closeAllWindows()
+    WindowKeys {
+        window: window
+        onNewWanted: window.application.openWindow()
+        onCloseWanted: window.close()
+        onQuitWanted: window.application.closeAllWindows()
     }
 }

@@ -4,6 +4,8 @@
 #include "map/records/Framing.h"
 #include "platform/files/Preferences.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 namespace vasker {
@@ -106,6 +108,10 @@ ReleaseRecord OpenMapWorkspace::recordOf(const QString& id) const {
     ReleaseRecord record = whole();
     record.asset = m_loaded->index.find(id.toStdString());
     return record;
+}
+
+QString OpenMapWorkspace::packagedFile() const {
+    return QFileInfo::exists(m_packagedFile) ? m_packagedFile : QString();
 }
 
 QString OpenMapWorkspace::basemap() const {

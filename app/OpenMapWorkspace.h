@@ -84,7 +84,8 @@ class OpenMapWorkspace : public QObject {
     [[nodiscard]] ReleaseRecord whole() const;
     /// The release and its record with this id; no record where none has it.
     [[nodiscard]] Q_INVOKABLE vasker::ReleaseRecord recordOf(const QString& id) const;
-    [[nodiscard]] const QString& packagedFile() const noexcept { return m_packagedFile; }
+    /// The path of the file that the release was read from, or empty where there is none by now.
+    [[nodiscard]] QString packagedFile() const;
     [[nodiscard]] const QString& digest() const noexcept { return m_digest; }
 
     /// The stored preference as it stands, known or not; "standard" where nothing is stored.

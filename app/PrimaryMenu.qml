@@ -81,6 +81,10 @@ HeaderButton {
         }
     }
     Shortcut {
+        sequence: "F10"
+        onActivated: root.menu.toggle()
+    }
+    Shortcut {
         sequence: "Ctrl+S"
         autoRepeat: false
         onActivated: root.saves.saveRecords(root.Window.window)

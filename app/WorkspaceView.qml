@@ -81,16 +81,17 @@ FocusScope {
             anchors.right: parent.right
             anchors.top: header.bottom
             anchors.bottom: parent.bottom
-            objectName: "open-map-canvas"
             records: view.workspace.filter.records
             selection: view.workspace.selection
             camera: view.workspace.camera
             basemap: view.workspace.basemap
             tiles: view.application.tiles
-            coveredRight: inspector.covered
+            coveredRight: inspector.coveredAtEnd
+            coveredLeft: Math.max(0, inspector.coveredAtStart - divider.x - divider.width)
             hovered: canvas.hover.recordId.length > 0 ? canvas.hover.recordId : catalogue.hovered
             onPicked: id => view.workspace.pickOnMap(id)
             onMoved: camera => view.workspace.camera = camera
+            onSpoken: text => view.spoken(text)
             onOverviewRequested: view.workspace.resetCamera()
             onMenuRequested: (id, place) => menu.offer(id, canvas, place)
             Keys.onEscapePressed: view.workspace.selection = ""

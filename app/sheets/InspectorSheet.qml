@@ -4,20 +4,21 @@ import Vasker.App
 import Vasker.Detail
 import Vasker.Platform
 
-// The inspector: beside the map where there is room for both, else over the middle of the window.
+// The inspector: beside the map where there is room for both, else over the catalogue.
 WindowSheet {
     id: root
 
     required property OpenMapWorkspace workspace
-    // How much of the window it takes from the map at the trailing edge, in logical pixels.
-    readonly property real covered: wanted && placement === Sheet.Trailing ? preferredWidth + 16 : 0
+    // How much of the window it takes from either edge on, in logical pixels.
+    readonly property real coveredAtEnd: wanted && placement === Sheet.Trailing ? preferredWidth + 16 : 0
+    readonly property real coveredAtStart: wanted && placement === Sheet.Leading ? preferredWidth + 16 : 0
 
     signal menuRequested(Item over, point place)
 
     kind: SheetStack.Inspector
     identifier: "open-map-inspector"
     title: qsTr("Record")
-    placement: width >= Theme.besideWidth ? Sheet.Trailing : Sheet.Centered
+    placement: width >= Theme.besideWidth ? Sheet.Trailing : Sheet.Leading
     preferredWidth: 560
     preferredHeight: Math.min(height - 32, 900)
     minimumWidth: 550

@@ -30,6 +30,14 @@ Section {
         value: qsTr("Home")
     }
     LabelledRow {
+        label: qsTr("To the nearest record in a direction")
+        value: qsTr("Ctrl+arrow keys")
+    }
+    LabelledRow {
+        label: qsTr("Next, previous record in view")
+        value: "R, Shift+R"
+    }
+    LabelledRow {
         label: qsTr("Save a picture of the map")
         value: "Ctrl+Shift+S"
     }

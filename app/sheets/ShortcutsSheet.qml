@@ -34,7 +34,11 @@ WindowSheet {
             }
             LabelledRow {
                 label: qsTr("Keyboard shortcuts")
-                value: "Ctrl+?"
+                value: "F1, Ctrl+?"
+            }
+            LabelledRow {
+                label: qsTr("Main menu")
+                value: "F10"
             }
             LabelledRow {
                 label: qsTr("Next control, previous control")

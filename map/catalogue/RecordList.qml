@@ -96,6 +96,7 @@ ListView {
         }
         onPicked: {
             root.currentIndex = index;
+            root.forceActiveFocus(Qt.MouseFocusReason);
             root.picked(recordId);
         }
         onMenuRequested: place => root.menuRequested(recordId, this, place)

@@ -70,20 +70,24 @@ std::vector<Shape> MapComposer::shapes() {
 MapFrame
 MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::nanoseconds now) {
     BasemapFrame basemap = composeBasemap(state, camera, now);
+    LabelInput input{.camera = camera,
+                     .theme = state.theme,
+                     .devicePixels = state.devicePixels,
+                     .textScale = state.textScale,
+                     .places = std::move(basemap.labels),
+                     .records = {},
+                     .obstacles = state.obstacles,
+                     .isMoving = !state.isResting};
     // Without tiles there is nothing to paint records on.
     RecordFrame records = m_records.compose(camera,
                                             m_pyramid ? state.drawing : RecordDrawing::live,
                                             basemap.overlay.get(),
-                                            state.devicePixels);
-    SpriteLayer labels = m_labels.compose({.camera = camera,
-                                           .theme = state.theme,
-                                           .devicePixels = state.devicePixels,
-                                           .textScale = state.textScale,
-                                           .places = std::move(basemap.labels),
-                                           .records = recordLabels(records, state),
-                                           .obstacles = state.obstacles,
-                                           .isMoving = !state.isResting});
+                                            state.devicePixels,
+                                            m_labels.prominentNames(input));
+    input.records = recordLabels(records, state);
+    SpriteLayer labels = m_labels.compose(input);
     MapFrame frame;
+    frame.places = std::move(input.places);
     frame.size = {camera.viewport().width, camera.viewport().height};
     frame.devicePixels = state.devicePixels;
     frame.attributions = std::move(basemap.attributions);

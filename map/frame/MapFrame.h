@@ -2,6 +2,7 @@
 // One frame of the map: everything that is seen, as a value.
 
 #include "map/basemap/Attribution.h"
+#include "map/labels/PlaceLabel.h"
 #include "map/layers/MapLayer.h"
 
 #include <QSizeF>
@@ -16,6 +17,7 @@ struct MapFrame {
     std::vector<MapLayer> layers; ///< in drawing order, the lowest first
 
     // What is said about it.
+    std::vector<PlaceLabel> places; ///< those whose labels compete for room in it
     std::vector<Attribution> attributions;
     bool lacksImagery = false; ///< imagery is asked for and missing somewhere in view
     bool lacksSharperImagery =

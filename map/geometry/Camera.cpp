@@ -37,16 +37,10 @@ MapRect boundsOf(const CoordinateRegion& region) {
     return {northWest.x, northWest.y, southEast.x - northWest.x, southEast.y - northWest.y};
 }
 
-/// The middle of the viewport's free part, and so also half of its size.
-ScreenPoint middleOf(Viewport viewport) {
-    return {(viewport.width - viewport.coveredRight) / 2,
-            (viewport.height - viewport.coveredBelow) / 2};
-}
-
 /// The whole world fits into the viewport's free part.
 double minimumScale(Viewport viewport) {
-    const ScreenPoint middle = middleOf(viewport);
-    return std::min(2 * std::min(middle.x, middle.y) / worldSize, Camera::maximumScale);
+    const ScreenPoint half = viewport.freeHalf();
+    return std::min(2 * std::min(half.x, half.y) / worldSize, Camera::maximumScale);
 }
 
 double clampedScale(double scale, Viewport viewport) {
@@ -95,15 +89,6 @@ double normalizedX(double x) {
     return east < 0 ? std::fmod(east + worldSize, worldSize) : east;
 }
 
-Viewport usable(Viewport viewport) {
-    const double width = std::max(1.0, viewport.width);
-    const double height = std::max(1.0, viewport.height);
-    return {width,
-            height,
-            std::clamp(viewport.coveredBelow, 0.0, height - 1),
-            std::clamp(viewport.coveredRight, 0.0, width - 1)};
-}
-
 /// No place is farther away than this many times the distance of the camera's centre.
 constexpr double farthest = 20;
 
@@ -124,7 +109,7 @@ Camera::Camera(const CameraPose& pose, Viewport viewport)
     : Camera(CameraPosition(pose), viewport) {}
 
 Camera::Camera(const CameraPosition& position, Viewport viewport)
-    : m_pose{{0, 0}, 1}, m_viewport(usable(viewport)) {
+    : m_pose{{0, 0}, 1}, m_viewport(viewport.usable()) {
     if (!std::visit([](const auto& each) { return isFinite(each); }, position)) {
         *this = Camera(CameraPosition(canadaOverview), viewport);
         return;
@@ -140,10 +125,10 @@ Camera::Camera(const CameraPosition& position, Viewport viewport)
         return;
     }
     // A frame without extent asks for the nearest zoom: the quotients are then infinite.
-    const ScreenPoint middle = middleOf(m_viewport);
+    const ScreenPoint half = m_viewport.freeHalf();
     setPose({frame.center,
-             std::min(middle.x / std::max(0.0, frame.halfWidth),
-                      middle.y / std::max(0.0, frame.halfHeight))});
+             std::min(half.x / std::max(0.0, frame.halfWidth),
+                      half.y / std::max(0.0, frame.halfHeight))});
 }
 
 void Camera::setPose(const CameraPose& pose) noexcept {
@@ -160,7 +145,7 @@ void Camera::setPose(const CameraPose& pose) noexcept {
 }
 
 ScreenPoint Camera::focus() const noexcept {
-    return middleOf(m_viewport);
+    return m_viewport.middle();
 }
 
 PerspectivePoint Camera::worldToPerspective(MapPoint point) const noexcept {

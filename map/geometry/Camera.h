@@ -8,6 +8,7 @@
 
 #include "map/geometry/MapRect.h"
 #include "map/geometry/Projection.h"
+#include "map/geometry/Viewport.h"
 
 #include <array>
 #include <variant>
@@ -39,29 +40,12 @@ using CameraPosition = std::variant<CoordinateRegion, MapRect, CameraPose>;
 /// What the map shows first, and what "Canada" returns to.
 inline constexpr CoordinateRegion canadaOverview{{54.0, -112.0}, 20.0, 40.0};
 
-/// A place on the map item: logical pixels from its top-left corner, y down.
-struct ScreenPoint {
-    double x;
-    double y;
-    friend bool operator==(const ScreenPoint&, const ScreenPoint&) = default;
-};
-
 /// A place on the map item in perspective: x / w and y / w are logical pixels; w is 1 at the
 /// camera's centre and grows with the distance.
 struct PerspectivePoint {
     double x;
     double y;
     double w;
-};
-
-/// The size of the map item in logical pixels, at least 1 by 1, and the margins of it that
-/// something else covers. The margins leave at least a pixel free.
-struct Viewport {
-    double width;
-    double height;
-    double coveredBelow = 0;
-    double coveredRight = 0;
-    friend bool operator==(const Viewport&, const Viewport&) = default;
 };
 
 /// How far to the east, in map points, lie those copies of the world that `rect` reaches into:

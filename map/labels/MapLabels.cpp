@@ -16,9 +16,15 @@ namespace {
 constexpr double placeGap = 5;
 constexpr double pinGap = labelSpacing + 1;
 
+/// Around a name that pins make way for: a pin at its edge would leave it no room.
+constexpr double nameMargin = labelSpacing + 1;
+
 /// New labels that one frame takes in.
 constexpr int mostNewLabels = 60;
 constexpr int mostNewLabelsWhileMoving = 6;
+
+/// Smaller capitals of regions are set as towns; other towns come later than this.
+constexpr double capitalPriority = 6;
 
 /// Labels of records come after those of all places.
 constexpr double recordPriority = 10'000;
@@ -28,9 +34,23 @@ bool hasMark(PlaceLabel::Kind kind) {
            kind != PlaceLabel::Kind::water;
 }
 
+bool isProminent(const PlaceLabel& place) {
+    return place.kind == PlaceLabel::Kind::region || place.kind == PlaceLabel::Kind::capital ||
+           place.kind == PlaceLabel::Kind::city ||
+           (place.kind == PlaceLabel::Kind::town && place.priority < capitalPriority);
+}
+
+ScreenRect freePart(const Camera& camera) {
+    const Viewport view = camera.viewport();
+    return {view.coveredLeft,
+            0,
+            view.width - view.coveredLeft - view.coveredRight,
+            view.height - view.coveredBelow};
+}
+
 } // namespace
 
-SpriteLayer MapLabels::compose(const LabelInput& input) {
+void MapLabels::begin(const LabelInput& input) {
     if (!m_atlas || m_devicePixels != input.devicePixels || m_textScale != input.textScale) {
         m_atlas.emplace(input.devicePixels, input.textScale);
         m_devicePixels = input.devicePixels;
@@ -40,16 +60,33 @@ SpriteLayer MapLabels::compose(const LabelInput& input) {
     m_candidates.clear();
     m_placements.clear();
     addPlaces(input);
+}
+
+std::vector<ScreenRect> MapLabels::prominentNames(const LabelInput& input) {
+    begin(input);
+    std::vector<ScreenRect> names;
+    for (const PlacedLabel& placed :
+         m_names.place(m_placements, input.obstacles, freePart(input.camera))) {
+        if (m_candidates[placed.candidate].isProminent) {
+            const ScreenRect& name = placed.rect;
+            names.push_back({name.x - nameMargin,
+                             name.y - nameMargin,
+                             name.width + 2 * nameMargin,
+                             name.height + 2 * nameMargin});
+        }
+    }
+    return names;
+}
+
+SpriteLayer MapLabels::compose(const LabelInput& input) {
+    begin(input);
     addRecords(input);
 
     std::vector<ScreenRect> obstacles = input.obstacles;
     for (const RecordLabel& record : input.records) {
         obstacles.push_back(record.pin);
     }
-    const Viewport view = input.camera.viewport();
-    m_placement.place(m_placements,
-                      obstacles,
-                      {0, 0, view.width - view.coveredRight, view.height - view.coveredBelow});
+    m_placement.place(m_placements, obstacles, freePart(input.camera));
     return sprites();
 }
 
@@ -75,7 +112,8 @@ void MapLabels::addPlaces(const LabelInput& input) {
             placement.priority = place.priority;
             placement.text = hash;
             add({{place.text, labelStyleOf(place.kind), input.theme},
-                 isMarked ? std::optional(anchor) : std::nullopt},
+                 isMarked ? std::optional(anchor) : std::nullopt,
+                 isProminent(place)},
                 placement);
         }
     }

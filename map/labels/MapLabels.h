@@ -38,6 +38,9 @@ struct LabelInput {
 
 class MapLabels {
   public:
+    /// Where the names of regions and cities stand that pins make way for: one tells from them what
+    /// part of the world one sees. The records of `input` do not matter.
+    [[nodiscard]] std::vector<ScreenRect> prominentNames(const LabelInput& input);
     [[nodiscard]] SpriteLayer compose(const LabelInput& input);
 
     /// The labels of the last frame and the rings of their places, drawn instead of cut out.
@@ -50,14 +53,17 @@ class MapLabels {
     struct Candidate {
         Label label;
         std::optional<ScreenPoint> mark; ///< where a ring marks the place
+        bool isProminent = false;
     };
 
+    void begin(const LabelInput& input);
     void addPlaces(const LabelInput& input);
     void addRecords(const LabelInput& input);
     void add(Candidate candidate, LabelCandidate placement);
     [[nodiscard]] SpriteLayer sprites();
 
     LabelPlacement m_placement;
+    LabelPlacement m_names;            ///< as if there were no pins
     std::optional<LabelAtlas> m_atlas; ///< for the density and the text scale below
     double m_devicePixels = 0;
     double m_textScale = 0;

@@ -179,7 +179,8 @@ std::vector<Shape> MapRecords::pinShapes() const {
 RecordFrame MapRecords::compose(const Camera& camera,
                                 RecordDrawing drawing,
                                 const TileOverlay* painted,
-                                double devicePixels) {
+                                double devicePixels,
+                                std::span<const ScreenRect> names) {
     RecordFrame frame;
     m_markerFrame = {};
     std::shared_ptr<const MarkerLayout> live;
@@ -191,6 +192,7 @@ RecordFrame MapRecords::compose(const Camera& camera,
     if (shown != nullptr) {
         m_markerFrame = markerFrame(
             *shown, {markerOf(m_hoveredAsset), markerOf(m_selectedAsset)}, drawing, camera);
+        makeWay(m_markerFrame, names);
         frame.pins.sheets.push_back(
             m_pins.sprites(m_markerFrame, *m_records.loaded, m_theme, devicePixels));
         frame.shownPins = shownPins(m_markerFrame);

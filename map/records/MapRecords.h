@@ -17,6 +17,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace vasker {
@@ -51,11 +52,12 @@ class MapRecords {
 
     /// The records as `camera` sees them. With RecordDrawing::painted, routes and dots are those of
     /// `painted`, which came from overlay(); where it is null or of another release, no marker is
-    /// shown.
+    /// shown. A pin that would cover one of `names` is a dot.
     [[nodiscard]] RecordFrame compose(const Camera& camera,
                                       RecordDrawing drawing,
                                       const TileOverlay* painted,
-                                      double devicePixels);
+                                      double devicePixels,
+                                      std::span<const ScreenRect> names = {});
 
     /// The pins of the last frame, in drawing order, drawn instead of cut out.
     [[nodiscard]] std::vector<Shape> pinShapes() const;

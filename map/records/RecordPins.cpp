@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace vasker {
 
 namespace {
@@ -54,6 +56,18 @@ std::vector<ShownPin> shownPins(const MarkerFrame& frame) {
         show(pin, 1, false);
     }
     return pins;
+}
+
+void makeWay(MarkerFrame& frame, std::span<const ScreenRect> names) {
+    const auto covers = [names](const PlacedMarker& pin) {
+        const ScreenRect box = boxOf(pin.point, 1);
+        return std::ranges::any_of(names,
+                                   [&](const ScreenRect& name) { return box.overlaps(name); });
+    };
+    const auto covering = std::stable_partition(
+        frame.pins.begin(), frame.pins.end(), [&](const auto& pin) { return !covers(pin); });
+    frame.dots.insert(frame.dots.end(), covering, frame.pins.end());
+    frame.pins.erase(covering, frame.pins.end());
 }
 
 std::vector<Shape>

@@ -10,6 +10,7 @@
 #include "map/records/PinAtlas.h"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace vasker {
@@ -24,6 +25,9 @@ struct ShownPin {
 
 /// Where the pins stand, the selected and the hovered one first.
 [[nodiscard]] std::vector<ShownPin> shownPins(const MarkerFrame& frame);
+
+/// Pins that cover one of the `names` become dots.
+void makeWay(MarkerFrame& frame, std::span<const ScreenRect> names);
 
 /// The pins as shapes, for `release`, which has their records.
 [[nodiscard]] std::vector<Shape>

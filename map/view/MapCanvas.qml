@@ -8,14 +8,19 @@ MapView {
 
     readonly property string captionText: caption.text
 
+    // To screen readers.
+    signal spoken(string text)
+
+    objectName: "open-map-canvas"
     coveredBelow: caption.height
     dark: Theme.dark
     reducedMotion: Theme.still
     textScale: Theme.textScale
-    controls: [bar, attribution, compass, zoom]
+    controls: [bar, attribution, compass, zoom, exploration.pill]
     activeFocusOnTab: true
-    Accessible.role: Accessible.Graphic
+    Accessible.role: Accessible.Canvas
     Accessible.name: qsTr("Canadian energy infrastructure map")
+    Accessible.description: qsTr("Arrow keys move the map, plus and minus zoom. Ctrl with an arrow key goes to the nearest record there; R and Shift+R go through the records in view. Enter opens the record.")
     Accessible.focusable: true
     onChoiceOffered: (records, place) => choice.offer(records, place)
 
@@ -45,25 +50,25 @@ MapView {
         onTriggered: over = true
     }
 
-    // Where Enter picks, for those who steer by keys.
-    Rectangle {
-        id: aim
+    Exploration {
+        id: exploration
 
-        x: Math.round((root.width - root.coveredRight - width) / 2)
-        y: Math.round((root.height - root.coveredBelow - height) / 2)
-        width: 12
-        height: 12
-        radius: 6
-        color: "transparent"
-        border.width: 2
-        border.color: Theme.colors.accent
-        visible: ring.shown
+        anchors.fill: parent
+        anchors.leftMargin: root.coveredLeft
+        anchors.rightMargin: root.coveredRight
+        anchors.bottomMargin: root.coveredBelow
+        map: root
+        colors: textColors
+        steered: ring.shown
+        onSpoken: text => root.spoken(text)
+        onMoved: camera => root.moved(camera)
+        onPicked: id => root.picked(id)
     }
     ScaleBar {
         id: bar
 
         anchors.left: parent.left
-        anchors.leftMargin: 14
+        anchors.leftMargin: 14 + root.coveredLeft
         anchors.bottom: caption.top
         anchors.bottomMargin: 12
         barLength: readout.barLength

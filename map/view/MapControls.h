@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QPointF>
+#include <QQmlListProperty>
 
 #include <functional>
 #include <vector>
@@ -16,7 +17,12 @@ namespace vasker {
 
 class MapControls {
   public:
+    using List = QQmlListProperty<QQuickItem>;
+
     QList<QQuickItem*> items;
+
+    /// The items as a property of `map`.
+    [[nodiscard]] List listFor(QObject* map) { return {map, &items}; }
 
     /// Calls `changed` whenever another part of the map is covered, as long as `receiver` lives.
     void watch(const QObject* receiver, const std::function<void()>& changed) const;

@@ -29,11 +29,8 @@ bool MapInteraction::handle(const MapEvent& event) {
 
 void MapInteraction::hoverAt(std::optional<QPointF> place) {
     const Camera camera = m_camera();
-    const Viewport viewport = camera.viewport();
-    const QRectF free(
-        0, 0, viewport.width - viewport.coveredRight, viewport.height - viewport.coveredBelow);
-    if (!place || m_navigator.input().isPressed() || !free.contains(*place) ||
-        m_controls.cover(*place, m_map)) {
+    if (!place || m_navigator.input().isPressed() ||
+        !camera.viewport().isFree({place->x(), place->y()}) || m_controls.cover(*place, m_map)) {
         m_hover.clear();
     } else {
         const ScreenPoint point{place->x(), place->y()};

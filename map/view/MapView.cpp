@@ -105,7 +105,7 @@ void MapView::redraw() {
 }
 
 Camera MapView::resolvedCamera() const {
-    return {m_camera, {width(), height(), m_coveredBelow, m_coveredRight}};
+    return {m_camera, {width(), height(), m_coveredBelow, m_coveredRight, m_coveredLeft}};
 }
 
 void MapView::componentComplete() {
@@ -151,7 +151,6 @@ QSGNode* MapView::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* /*data*
     auto* node = dynamic_cast<MapNode*>(oldNode);
     if (node == nullptr) {
         node = new MapNode;
-        // The textures of an earlier node are gone.
         m_composer.handOverAgain();
         if (std::exchange(m_choosesDrawing, false) && !rendersInSoftware()) {
             m_state.drawing = RecordDrawing::live;

@@ -37,6 +37,7 @@ class MapView : public vasker::InputItem {
     /// The margins that something else covers, in logical pixels.
     Q_PROPERTY(double coveredBelow MEMBER m_coveredBelow NOTIFY coverChanged)
     Q_PROPERTY(double coveredRight MEMBER m_coveredRight NOTIFY coverChanged)
+    Q_PROPERTY(double coveredLeft MEMBER m_coveredLeft NOTIFY coverChanged)
     /// How large the desktop wants texts; 1 is the usual.
     Q_PROPERTY(double textScale MEMBER m_textScale NOTIFY textScaleChanged)
     /// Whether the camera is always at its end at once.
@@ -61,14 +62,14 @@ class MapView : public vasker::InputItem {
     void setTiles(QObject* tiles);
     [[nodiscard]] MapHover* hover() noexcept { return &m_interaction.hover(); }
     [[nodiscard]] MapStatus* status() noexcept { return &m_status; }
-    [[nodiscard]] QQmlListProperty<QQuickItem> controls() {
-        return {this, &m_interaction.controls().items};
-    }
+    [[nodiscard]] MapControls::List controls() { return m_interaction.controls().listFor(this); }
 
     /// The camera in this item as it is.
     [[nodiscard]] Camera resolvedCamera() const;
     /// Whether the last frame showed all that is asked for.
     [[nodiscard]] bool isComplete() const noexcept { return m_frame.isComplete; }
+    /// The places in and around the view whose labels the last frame chose from.
+    [[nodiscard]] const std::vector<PlaceLabel>& places() const noexcept { return m_frame.places; }
     /// Whether the camera is on its way by itself.
     [[nodiscard]] bool isMoving() const { return m_interaction.navigator().isMoving(); }
     /// How routes and dots are drawn. By itself the map chooses what is quicker on this machine.
@@ -125,6 +126,7 @@ class MapView : public vasker::InputItem {
     CameraPosition m_camera = canadaOverview;
     double m_coveredBelow = 0;
     double m_coveredRight = 0;
+    double m_coveredLeft = 0;
     double m_textScale = 1;
     bool m_reducedMotion = false;
     bool m_choosesDrawing = true; ///< when the renderer is known

@@ -1,5 +1,7 @@
 #include "platform/accessibility/AccessibleIds.h"
 
+#include "platform/accessibility/AccessibleActions.h"
+
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusVariant>
@@ -53,6 +55,33 @@ QStringList interfaces(QAccessibleInterface& field) {
 bool isOutOfReach(const QAccessibleInterface& control) {
     const QVariant enabled = control.object()->property("enabled");
     return enabled.isValid() && !enabled.toBool();
+}
+
+bool isModal(const QAccessibleInterface& control) {
+    return control.role() == QAccessible::Dialog && control.object()->property("modal").toBool();
+}
+
+// The numbers of ATSPI_STATE_..., of which a bit each stands in two words.
+constexpr unsigned int enabledState = 8;
+constexpr unsigned int modalState = 16;
+constexpr unsigned int sensitiveState = 24;
+constexpr unsigned int showingState = 25;
+constexpr unsigned int visibleState = 30;
+
+// A sheet has no others; the bridge knows of none that is modal.
+QList<unsigned int> statesOfSheet(const QAccessibleInterface& sheet) {
+    const QAccessible::State state = sheet.state();
+    unsigned int bits = 1U << modalState;
+    if (!state.disabled) {
+        bits |= 1U << enabledState | 1U << sensitiveState;
+    }
+    if (!state.invisible) {
+        bits |= 1U << visibleState;
+    }
+    if (!state.invisible && !state.offscreen) {
+        bits |= 1U << showingState;
+    }
+    return {bits, 0};
 }
 
 // The field's own text property takes what it takes from the keyboard, and tells the same of it.
@@ -111,6 +140,12 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
     }
     if (group == action && method == u"DoAction" && isOutOfReach(control)) {
         return false;
+    }
+    if (group == accessible && method == u"GetState" && isModal(control)) {
+        return QVariant::fromValue(statesOfSheet(control));
+    }
+    if (const QVariant actions = answerOfActions(question, control); actions.isValid()) {
+        return actions;
     }
     if (!isTextField(control)) {
         return {};

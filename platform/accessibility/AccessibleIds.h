@@ -1,7 +1,7 @@
 #pragma once
 // Gives controls their identifiers on the accessibility bus, and rows their place in a list that
-// has only made those in view; lets assistive tools set texts, and keeps them from pressing what is
-// disabled.
+// has only made those in view; tells that a sheet is modal, and each action once; lets assistive
+// tools set texts, and keeps them from pressing what is disabled.
 //
 // Qt's bridge to that bus does none of it. This object takes the bridge's place there, answers
 // what the bridge does not know, and hands all else on to it. It relies on the names under which
@@ -22,7 +22,7 @@ class AccessibleIds : public QDBusVirtualObject, private QAccessible::Activation
     static constexpr QLatin1StringView prefix{"open-map-"};
 
     // An object with the properties "positionInSet", 1 for the first, and "setSize" has them as the
-    // attributes "posinset" and "setsize".
+    // attributes "posinset" and "setsize". A dialog whose property "modal" is true is modal.
 
     /// Takes the bridge's place, now or when assistive tools are first asked for. Made after the
     /// application and gone before it.

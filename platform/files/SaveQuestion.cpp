@@ -65,8 +65,15 @@ QUrl SaveQuestion::offered() const {
     return QUrl::fromLocalFile(folder.filePath(m_name));
 }
 
+QUrl SaveQuestion::fileAt(const QUrl& place) {
+    return place.scheme().isEmpty() && !place.isEmpty()
+               ? QUrl::fromLocalFile(place.toString(QUrl::PreferLocalFile))
+               : place;
+}
+
 bool SaveQuestion::isTaken(const QUrl& place) const {
-    return place.isLocalFile() && QFileInfo::exists(place.toLocalFile());
+    const QUrl file = fileAt(place);
+    return file.isLocalFile() && QFileInfo::exists(file.toLocalFile());
 }
 
 void SaveQuestion::finish(Outcome outcome, const QUrl& place) {

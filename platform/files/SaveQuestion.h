@@ -42,7 +42,9 @@ class SaveQuestion : public QObject {
     [[nodiscard]] QQuickWindow* window() const { return m_window; }
     /// Whether a file at `place` would take the place of another.
     [[nodiscard]] Q_INVOKABLE bool isTaken(const QUrl& place) const;
-    Q_INVOKABLE void choose(const QUrl& place) { finish(Outcome::chosen, place); }
+    Q_INVOKABLE void choose(const QUrl& place) { finish(Outcome::chosen, fileAt(place)); }
+    /// `place` as the address of a file: of a name that was typed Qt's dialog gives the bare path.
+    [[nodiscard]] static QUrl fileAt(const QUrl& place);
     Q_INVOKABLE void cancel() { finish(Outcome::cancelled, {}); }
 
   private:

@@ -53,6 +53,7 @@ Rectangle {
         selectedTextColor: Theme.colors.onAccent
         selectByMouse: true
         clip: true
+        focus: true
         activeFocusOnTab: true
         inputMethodHints: Qt.ImhNoPredictiveText
 

@@ -595,6 +595,18 @@
         <source>Esc</source>
         <translation>Échap</translation>
     </message>
+    <message>
+        <source>To the nearest record in a direction</source>
+        <translation>À la fiche la plus proche dans une direction</translation>
+    </message>
+    <message>
+        <source>Ctrl+arrow keys</source>
+        <translation>Ctrl+flèches</translation>
+    </message>
+    <message>
+        <source>Next, previous record in view</source>
+        <translation>Fiche suivante, précédente en vue</translation>
+    </message>
 </context>
 <context>
     <name>ShortcutsSheet</name>
@@ -730,6 +742,10 @@
         <source>Arrow keys or first letters</source>
         <translation>Flèches ou premières lettres</translation>
     </message>
+    <message>
+        <source>Main menu</source>
+        <translation>Menu principal</translation>
+    </message>
 </context>
 <context>
     <name>WorkspaceView</name>
@@ -822,6 +838,10 @@
     <message>
         <source>Sharper imagery needs a network connection</source>
         <translation>Une imagerie plus nette nécessite une connexion réseau</translation>
+    </message>
+    <message>
+        <source>Arrow keys move the map, plus and minus zoom. Ctrl with an arrow key goes to the nearest record there; R and Shift+R go through the records in view. Enter opens the record.</source>
+        <translation>Les flèches déplacent la carte, plus et moins changent l’échelle. Ctrl avec une flèche va à la fiche la plus proche de ce côté; R et Maj+R parcourent les fiches en vue. Entrée ouvre la fiche.</translation>
     </message>
 </context>
 <context>
@@ -1062,6 +1082,103 @@
     <message>
         <source>Basemap: %1</source>
         <translation>Fond de carte : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::PlaceText</name>
+    <message>
+        <source>north</source>
+        <translation>au nord</translation>
+    </message>
+    <message>
+        <source>north-east</source>
+        <translation>au nord-est</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>à l’est</translation>
+    </message>
+    <message>
+        <source>south-east</source>
+        <translation>au sud-est</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <translation>au sud</translation>
+    </message>
+    <message>
+        <source>south-west</source>
+        <translation>au sud-ouest</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <translation>à l’ouest</translation>
+    </message>
+    <message>
+        <source>north-west</source>
+        <translation>au nord-ouest</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 degrees south</source>
+        <translation>%1 degrés sud</translation>
+    </message>
+    <message>
+        <source>%1 degrees north</source>
+        <translation>%1 degrés nord</translation>
+    </message>
+    <message>
+        <source>%1 degrees west</source>
+        <translation>%1 degrés ouest</translation>
+    </message>
+    <message>
+        <source>%1 degrees east</source>
+        <translation>%1 degrés est</translation>
+    </message>
+    <message>
+        <source>here</source>
+        <translation>ici</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Nearest: %1, %2</source>
+        <translation>Le plus proche : %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>no record in view</source>
+        <translation>aucune fiche en vue</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records in view</source>
+        <translation>
+            <numerusform>%n fiche en vue</numerusform>
+            <numerusform>%n fiches en vue</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>vasker::MapExplorer</name>
+    <message>
+        <source>No record in this direction</source>
+        <translation>Aucune fiche dans cette direction</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 </TS>

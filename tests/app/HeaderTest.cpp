@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QPointer>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -41,6 +42,9 @@ class Header : public OpenWindow {
             texts.push_back(row->property("label").toString().toStdString());
         }
         return texts;
+    }
+    static std::ptrdiff_t windowCount() {
+        return std::ranges::count_if(QGuiApplication::topLevelWindows(), &QWindow::isVisible);
     }
     /// As another program finds it in the file.
     [[nodiscard]] QString storedBasemap() const {
@@ -154,6 +158,54 @@ TEST_F(Header, WindowsAreOpenedAndClosedFromTheFailureScreenToo) {
     key(Qt::Key_W, Qt::ControlModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
     EXPECT_TRUE(m_application->hasWindows());
+}
+
+TEST_F(Header, AWindowIsOpenedAndClosedWhileAMenuIsOpen) {
+    openRecords();
+    const QPointer<QQuickWindow> first = m_window;
+    EXPECT_EQ(openMenu("open-map-menu").size(), 9U);
+    key(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(windowCount(), 2);
+    activate();
+    key(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
+    EXPECT_TRUE(m_application->hasWindows());
+}
+
+TEST_F(Header, AWindowIsOpenedAndClosedWhileASheetIsOpen) {
+    openRecords();
+    const QPointer<QQuickWindow> first = m_window;
+    key(Qt::Key_F1);
+    ASSERT_NE(item("open-map-shortcuts"), nullptr);
+    key(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(windowCount(), 2);
+    activate();
+    key(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
+}
+
+TEST_F(Header, QuittingWorksWhileAMenuIsOpen) {
+    openRecords();
+    EXPECT_EQ(openMenu("open-map-options").size(), 3U);
+    key(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_application->hasWindows(); }));
+}
+
+TEST_F(Header, F1IsHelpAndF10TheMainMenu) {
+    openRecords();
+    key(Qt::Key_F1);
+    ASSERT_NE(item("open-map-shortcuts"), nullptr);
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-shortcuts") == nullptr; }));
+    key(Qt::Key_F10);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return item("open-map-menu")->property("opened").toBool(); }));
+}
+
+TEST_F(Header, AtTheStartTheKeyboardIsInTheSearchField) {
+    openRecords();
+    type("plant 29");
+    EXPECT_EQ(workspace().query(), QStringLiteral("plant 29"));
 }
 
 TEST_F(Header, QuittingClosesEveryWindow) {

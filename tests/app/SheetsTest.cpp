@@ -204,19 +204,21 @@ TEST_F(Sheets, TheInspectorStandsBesideTheMapWhereThereIsRoom) {
     resize(1216, 1000);
     EXPECT_EQ(place(item("open-map-inspector")), QRectF(1216 - 16 - 560, 16, 560, 900));
     resize(1215, 800);
-    EXPECT_EQ(place(item("open-map-inspector")), QRectF(328, 16, 560, 768));
+    EXPECT_EQ(place(item("open-map-inspector")), QRectF(16, 16, 560, 768));
     EXPECT_EQ(item("open-map-canvas")->property("coveredRight").toDouble(), 0);
+    EXPECT_EQ(item("open-map-canvas")->property("coveredLeft").toDouble(), 576 - 321);
     EXPECT_EQ(workspace().camera(), framed);
     resize(1280, 800);
     close(QStringLiteral("Escape"));
     EXPECT_EQ(item("open-map-canvas")->property("coveredRight").toDouble(), 0);
+    EXPECT_EQ(item("open-map-canvas")->property("coveredLeft").toDouble(), 0);
     EXPECT_EQ(workspace().camera(), framed);
 }
 
 TEST_F(Sheets, EachFitsTheSmallestWindow) {
     resize(900, 620);
     openInspector("A-7");
-    EXPECT_EQ(place(item("open-map-inspector")), QRectF(170, 16, 560, 588));
+    EXPECT_EQ(place(item("open-map-inspector")), QRectF(16, 16, 560, 588));
     close(QStringLiteral("Escape"));
     waitForNone();
     openSources();
@@ -239,6 +241,48 @@ TEST_F(Sheets, SourcesAndRecordsAreAsLargeAsTheWindowLets) {
     waitForNone();
     openRecordsSheet();
     EXPECT_EQ(place(sheet("Records")), QRectF(480, 600, 640, 600));
+}
+
+TEST_F(Sheets, TheRecordsSheetIsPulledDownToClose) {
+    openRecordsSheet();
+    const QPoint grabber = place(sheet("Records")).topLeft().toPoint() + QPoint(300, 10);
+    QTest::mousePress(m_window, Qt::LeftButton, {}, grabber);
+    for (int way = 10; way <= 60; way += 10) {
+        QTest::mouseMove(m_window, grabber + QPoint(0, way));
+    }
+    EXPECT_GT(place(sheet("Records")).y(), 400);
+    QTest::mouseRelease(m_window, Qt::LeftButton, {}, grabber + QPoint(0, 60));
+    EXPECT_TRUE(workspace().showingRecords()); // not far enough
+    EXPECT_TRUE(QTest::qWaitFor([&] { return place(sheet("Records")).y() == 400; }));
+    QTest::mousePress(m_window, Qt::LeftButton, {}, grabber);
+    for (int way = 10; way <= 160; way += 10) {
+        QTest::mouseMove(m_window, grabber + QPoint(0, way));
+    }
+    QTest::mouseRelease(m_window, Qt::LeftButton, {}, grabber + QPoint(0, 160));
+    EXPECT_FALSE(workspace().showingRecords());
+    waitForNone();
+}
+
+TEST_F(Sheets, TheShareControlIsThereWhileThePackagedFileIs) {
+    openSources();
+    EXPECT_NE(item("open-map-share"), nullptr);
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    ASSERT_TRUE(QFile::remove(m_folder.filePath(QStringLiteral("OpenMap.json"))));
+    openSources();
+    EXPECT_EQ(item("open-map-share"), nullptr);
+}
+
+TEST_F(Sheets, TheKeyboardIsInTheListAfterAClickOnARowAndAfterTheInspector) {
+    click(item("open-map-record-A-2"));
+    waitFor("Record");
+    close(QStringLiteral("Escape"));
+    waitForNone();
+    EXPECT_EQ(m_window->activeFocusItem(), item("open-map-records"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_NE(selection(), "A-2");
+    EXPECT_NE(selection(), "");
 }
 
 TEST_F(Sheets, AWindowCanBeClosedWithASheetOnIt) {

@@ -1,5 +1,6 @@
 #include "platform/files/FileSaving.h"
 
+#include "platform/files/SaveQuestion.h"
 #include "platform/files/WholeFile.h"
 #include "tests/platform/PlayedDesktop.h"
 
@@ -101,6 +102,18 @@ TEST_F(Saving, AFullDiskIsToldOf) {
 TEST_F(Saving, APlaceOnAnotherComputerIsRefused) {
     m_saving.saveAt(QUrl(QStringLiteral("sftp://example.org/table.csv")), writing("a"));
     EXPECT_EQ(ending(false), "The file could not be saved: that place is not on this computer.");
+}
+
+TEST(SaveQuestion, ABarePathIsAFileToo) {
+    const auto path = [](const char* place) {
+        return SaveQuestion::fileAt(QUrl(QString::fromUtf8(place))).toLocalFile();
+    };
+    EXPECT_EQ(path("/home/ann/other name.json"), QStringLiteral("/home/ann/other name.json"));
+    EXPECT_EQ(path("/home/ann/a#1?.json"), QStringLiteral("/home/ann/a#1?.json"));
+    EXPECT_EQ(path("file:///home/ann/a.json"), QStringLiteral("/home/ann/a.json"));
+    EXPECT_EQ(SaveQuestion::fileAt(QUrl(QStringLiteral("https://example.org/a"))),
+              QUrl(QStringLiteral("https://example.org/a")));
+    EXPECT_TRUE(SaveQuestion::fileAt(QUrl()).isEmpty());
 }
 
 } // namespace

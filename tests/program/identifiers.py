@@ -10,7 +10,7 @@ CONTROLS = {
     "open-map-options": ("push button", "Map options", True),
     "open-map-sources": ("push button", "Sources & coverage", True),
     "open-map-reset": ("push button", "Canada", True),
-    "open-map-canvas": ("image", "Canadian energy infrastructure map", False),
+    "open-map-canvas": ("canvas", "Canadian energy infrastructure map", False),
 }
 
 
@@ -19,7 +19,7 @@ def expect_controls(window, controls):
         found = window.find_all(id=id)
         if len(found) != 1 or not found[0].fits(role=role, name=name, state="showing"):
             raise Missed(f"{id}: {[each.text() for each in found]}")
-        if pressable != ("Press" in found[0].actions()) or "SetFocus" not in found[0].actions():
+        if found[0].actions().count("Press") != int(pressable) or "SetFocus" not in found[0].actions():
             raise Missed(f"{id} has the actions {found[0].actions()}")
         if found[0].node.get_attributes().get("id") != id:
             raise Missed(f"{id} has the attributes {found[0].node.get_attributes()}")

@@ -63,10 +63,24 @@ def the_inspector_tells_of_a_record(executable):
             " Equipment position, physical-site boundary and survey precision are not established.",
         ]
         expect_in_order(sheet.names(), expected)
+        if "modal" not in sheet.states:
+            raise Missed(sheet.text())
         fact = sheet.find(name="City, Fairview")
         if not fact.find(role="link", name="NPRI · 2016"):
             raise Missed(fact.text())
         expect_nothing_behind(program, "Record")
+
+
+def a_record_without_a_company_has_no_row_for_it(executable):
+    release = changed("assets", 1, "reportedCompany", to=None)
+    del release["assets"][1]["reportedCompany"]
+    with program_with_release(executable, release) as copy, Program(copy) as program:
+        program.press(id="open-map-record-A-10")
+        names = program.see(id="open-map-inspector").names()
+        if "Reported status: Reported for 2016" not in names:
+            raise Missed(f"the sheet tells {names}")
+        if any(name.startswith("Reporting company") for name in names):
+            raise Missed(f"a row that is omitted: {names}")
 
 
 def closing_the_inspector_clears_the_selection(executable):

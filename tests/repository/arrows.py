@@ -40,6 +40,9 @@ ARROWS = {
         "map/input/", "map/scene/", "map/frame/", "map/records/", "map/basemap/", "map/style/",
         "map/layers/", "map/geometry/", "presentation/", "data/", "platform/",
     },
+    "map/exploration/": {
+        "map/view/", "map/labels/", "map/records/", "map/geometry/", "presentation/", "data/", "platform/",
+    },
     "map/catalogue/": {"map/records/", "presentation/", "data/", "platform/"},
     "detail/": {"presentation/", "data/", "platform/"},
     "app/": {"map/", "detail/", "presentation/", "data/", "platform/"},

@@ -13,6 +13,7 @@ SectionRow {
     Accessible.role: Accessible.StaticText
     Accessible.description: root.found ? qsTr("Found by the search") : ""
     Accessible.name: qsTr("%1: %2").arg(root.label).arg(root.value)
+    Accessible.ignored: !root.visible
 
     Item {
         id: pair

@@ -12,6 +12,7 @@ FocusScope {
     enum Placement {
         Centered,
         Trailing,
+        Leading,
         BottomEdge
     }
 
@@ -121,7 +122,7 @@ FocusScope {
 
         Rectangle {
             anchors.fill: parent
-            color: root.placement === Sheet.Trailing ? Theme.colors.sideScrim : Theme.colors.scrim
+            color: frame.atSide ? Theme.colors.sideScrim : Theme.colors.scrim
             opacity: root.shown
         }
     }
@@ -132,7 +133,8 @@ FocusScope {
         title: root.title
         content: root.content
         atBottom: root.placement === Sheet.BottomEdge
-        atSide: root.placement === Sheet.Trailing
+        atEnd: root.placement === Sheet.Trailing
+        atStart: root.placement === Sheet.Leading
         scrolled: root.scrolled
         large: root.large
         shown: root.shown

@@ -8,13 +8,17 @@ Item {
     required property string title
     required property Component content
     required property bool atBottom
-    required property bool atSide
+    required property bool atEnd
+    required property bool atStart
     required property bool scrolled
     required property bool large
     // 0 gone, 1 in place.
     required property real shown
     required property size usualSize
     readonly property bool holdsFocus: holder.activeFocus
+    // For assistive tools.
+    readonly property bool modal: true
+    readonly property bool atSide: atStart || atEnd
     readonly property real away: 1 - shown
     readonly property real largeHeight: Math.max(0, parent.height - 40)
     readonly property real mediumHeight: Math.min(usualSize.height, atBottom ? largeHeight : parent.height)
@@ -38,8 +42,8 @@ Item {
 
     width: Math.min(parent.width, usualSize.width)
     height: Math.round(mediumHeight + (atBottom ? (largeHeight - mediumHeight) * grabber.reach : 0))
-    x: atSide ? parent.width - width - 16 + 24 * away : Math.round((parent.width - width) / 2)
-    y: atBottom ? parent.height - height * shown : atSide ? 16 : Math.round((parent.height - height) / 2) + 16 * away
+    x: atEnd ? parent.width - width - 16 + 24 * away : atStart ? 16 - 24 * away : Math.round((parent.width - width) / 2)
+    y: atBottom ? parent.height - height * shown + grabber.pulled : atSide ? 16 : Math.round((parent.height - height) / 2) + 16 * away
     opacity: atBottom ? 1 : shown
     Accessible.role: Accessible.Dialog
     Accessible.name: root.title
@@ -72,6 +76,7 @@ Item {
             large: root.large
             travel: root.largeHeight - root.mediumHeight
             onMoved: large => root.resized(large)
+            onPulledDown: root.dismissed()
         }
         Label {
             id: title

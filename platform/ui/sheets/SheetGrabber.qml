@@ -11,10 +11,14 @@ Button {
     required property real travel
     property bool dragging: false
     property real dragged: 0
+    // How far below the lower height it is pulled, in logical pixels.
+    property real pulled: 0
     // 0 at the lower height, 1 at the larger one.
     property real reach: dragging ? dragged : large ? 1 : 0
 
     signal moved(bool large)
+    // It was pulled down and let go.
+    signal pulledDown
 
     implicitWidth: 60
     implicitHeight: 18
@@ -61,7 +65,7 @@ Button {
         property real startReach
 
         parent: root.handle
-        enabled: root.visible && root.travel > 0
+        enabled: root.visible
         target: null
         xAxis.enabled: false
         onActiveChanged: {
@@ -70,12 +74,15 @@ Button {
                 root.dragged = root.reach;
                 root.dragging = true;
             } else {
-                root.moved(root.dragged > 0.5);
                 root.dragging = false;
+                root.pulled > 80 ? root.pulledDown() : root.moved(root.dragged > 0.5);
+                root.pulled = 0;
             }
         }
         onTranslationChanged: if (active) {
-            root.dragged = Math.max(0, Math.min(1, startReach - translation.y / root.travel));
+            const above = startReach * root.travel - translation.y;
+            root.dragged = Math.max(0, Math.min(1, above / Math.max(1, root.travel)));
+            root.pulled = Math.max(0, -above);
         }
     }
 }

@@ -11,6 +11,8 @@ Text {
 
     font: root.textStyle.font
     color: Theme.colors.text
+    // Also where the text itself runs the other way.
+    horizontalAlignment: Text.AlignLeft
     textFormat: Text.PlainText
     lineHeightMode: Text.FixedHeight
     lineHeight: root.textStyle.lineHeight

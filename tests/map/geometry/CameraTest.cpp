@@ -37,7 +37,9 @@ TEST(Camera, ShowsAllOfARegionAndOfARectangleInThePartThatNothingCovers) {
                                  {579, 568, 52, 0},
                                  {300, 2000, 400, 100},
                                  {4000, 200, 150, 900},
-                                 {2240, 1388, 36, 420}}) {
+                                 {2240, 1388, 36, 420},
+                                 {579, 568, 52, 0, 255},
+                                 {900, 568, 52, 200, 300}}) {
         for (const CameraPosition& wish :
              {CameraPosition(canadaOverview), CameraPosition(wide), CameraPosition(tall)}) {
             const Camera camera(wish, shape);
@@ -49,7 +51,7 @@ TEST(Camera, ShowsAllOfARegionAndOfARectangleInThePartThatNothingCovers) {
             }
             for (const MapPoint corner : corners) {
                 const ScreenPoint point = camera.worldToScreen(corner);
-                EXPECT_GE(point.x, -1e-6);
+                EXPECT_GE(point.x, shape.coveredLeft - 1e-6);
                 EXPECT_GE(point.y, -1e-6);
                 EXPECT_LE(point.x, shape.width - shape.coveredRight + 1e-6);
                 EXPECT_LE(point.y, shape.height - shape.coveredBelow + 1e-6);
@@ -64,10 +66,16 @@ TEST(Camera, ShowsTheWholeWorldInTheNarrowestWindow) {
     EXPECT_NEAR(camera.worldToScreen({worldSize, worldSize}).x, 70, 1e-6);
 }
 
+TEST(Camera, StandsInTheMiddleOfWhatIsFreeBetweenBothEdges) {
+    const Camera camera(canadaOverview, {900, 568, 0, 200, 300});
+    EXPECT_EQ(camera.focus(), (ScreenPoint{500, 284}));
+}
+
 TEST(Camera, MarginsThatCoverEverythingLeaveAPixel) {
     const Camera camera(canadaOverview, {400, 300, 500, 1e9});
     EXPECT_EQ(camera.focus(), (ScreenPoint{0.5, 0.5}));
     EXPECT_GT(camera.scale(), 0);
+    EXPECT_EQ(Camera(canadaOverview, {400, 300, 0, 300, 500}).focus(), (ScreenPoint{99.5, 150}));
 }
 
 TEST(Camera, KeepsARegionsCentreInTheMiddleOfTheWindow) {

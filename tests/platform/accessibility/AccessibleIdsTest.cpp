@@ -54,8 +54,9 @@ class Field : public QObject {
     QString m_text;
 };
 
-// What assistive tools know of an object of the test: a field is an editable text.
-class Control : public QAccessibleObject {
+// What assistive tools know of an object of the test: a field is an editable text, and an object
+// with the property "actions" has those.
+class Control : public QAccessibleObject, public QAccessibleActionInterface {
   public:
     using QAccessibleObject::QAccessibleObject;
     QAccessibleInterface* parent() const override { return nullptr; }
@@ -65,9 +66,20 @@ class Control : public QAccessibleObject {
     QString text(QAccessible::Text) const override { return {}; }
     QAccessible::State state() const override { return {}; }
     QAccessible::Role role() const override {
-        return qobject_cast<Field*>(object()) != nullptr ? QAccessible::EditableText
-                                                         : QAccessible::Button;
+        return object()->property("modal").isValid()       ? QAccessible::Dialog
+               : qobject_cast<Field*>(object()) != nullptr ? QAccessible::EditableText
+                                                           : QAccessible::Button;
     }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface && object()->property("actions").isValid()
+                   ? static_cast<QAccessibleActionInterface*>(this)
+                   : nullptr;
+    }
+    QStringList actionNames() const override {
+        return object()->property("actions").toStringList();
+    }
+    void doAction(const QString& name) override { object()->setProperty("done", name); }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
     static QAccessibleInterface* make(const QString&, QObject* object) {
         return new Control(object);
     }
@@ -180,6 +192,49 @@ TEST_F(AccessibleIdsTest, WhatIsDisabledCannotBePressed) {
     EXPECT_EQ(press(), byBridge);
     button.setProperty("enabled", false);
     EXPECT_EQ(press(), QVariant(false));
+}
+
+TEST_F(AccessibleIdsTest, AnActionIsToldOnce) {
+    takePlace();
+    QObject button;
+    button.setProperty("actions", QStringList{u"Press"_qs, u"SetFocus"_qs, u"Press"_qs});
+    const QString path = pathOf(button);
+    const QString group = QStringLiteral("org.a11y.atspi.Action");
+    const QVariant count = ask(path,
+                               QStringLiteral("org.freedesktop.DBus.Properties"),
+                               QStringLiteral("Get"),
+                               {group, QStringLiteral("NActions")});
+    EXPECT_EQ(count.value<QDBusVariant>().variant(), 2);
+    EXPECT_EQ(ask(path, group, QStringLiteral("GetName"), {1}), QStringLiteral("SetFocus"));
+    EXPECT_EQ(ask(path, group, QStringLiteral("GetName"), {2}), QString());
+    EXPECT_EQ(ask(path, group, QStringLiteral("DoAction"), {2}), false);
+    EXPECT_FALSE(button.property("done").isValid());
+    EXPECT_EQ(ask(path, group, QStringLiteral("DoAction"), {0}), true);
+    EXPECT_EQ(button.property("done"), QStringLiteral("Press"));
+}
+
+TEST_F(AccessibleIdsTest, ActionsThatStandOnceAreTheBridges) {
+    takePlace();
+    QObject button;
+    button.setProperty("actions", QStringList{u"Press"_qs, u"SetFocus"_qs});
+    EXPECT_EQ(ask(pathOf(button),
+                  QStringLiteral("org.a11y.atspi.Action"),
+                  QStringLiteral("GetName"),
+                  {0}),
+              byBridge);
+}
+
+TEST_F(AccessibleIdsTest, ASheetIsModal) {
+    takePlace();
+    QObject sheet;
+    sheet.setProperty("modal", true);
+    const auto states =
+        qdbus_cast<QList<unsigned int>>(ask(pathOf(sheet), accessible, QStringLiteral("GetState")));
+    // Enabled, modal, sensitive, showing, visible.
+    EXPECT_EQ(states,
+              (QList<unsigned int>{1U << 8 | 1U << 16 | 1U << 24 | 1U << 25 | 1U << 30, 0}));
+    sheet.setProperty("modal", false);
+    EXPECT_EQ(ask(pathOf(sheet), accessible, QStringLiteral("GetState")), byBridge);
 }
 
 TEST_F(AccessibleIdsTest, AnObjectThatIsGoneIsTheBridgesToo) {

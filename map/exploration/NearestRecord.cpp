@@ -1,0 +1,48 @@
+#include "map/exploration/NearestRecord.h"
+
+#include "map/exploration/PlaceText.h"
+#include "map/records/Framing.h"
+
+#include <chrono>
+
+namespace vasker {
+
+namespace {
+
+constexpr std::chrono::milliseconds restTime{250};
+
+} // namespace
+
+NearestRecord::NearestRecord(QObject* parent) : QObject(parent) {
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(restTime);
+    connect(&m_rest, &QTimer::timeout, this, &NearestRecord::refresh);
+}
+
+void NearestRecord::setMap(MapView* map) {
+    m_map = map;
+    const auto restart = [this] { m_rest.start(); };
+    connect(map, &MapView::viewChanged, this, restart);
+    connect(map, &MapView::recordsChanged, this, restart);
+    m_rest.start();
+}
+
+void NearestRecord::go() {
+    if (m_record) {
+        Q_EMIT moved(framing(m_map->records().loaded->index.release().assets[*m_record]));
+    }
+}
+
+void NearestRecord::refresh() {
+    const Camera camera = m_map->resolvedCamera();
+    const RecordSet& records = m_map->records();
+    const auto near =
+        recordsInView(records, camera).empty() ? nearestRecord(records, camera) : std::nullopt;
+    m_record = near ? std::optional(near->asset) : std::nullopt;
+    m_text = near ? PlaceText::nearest(records.loaded->index.release().assets[near->asset], *near)
+                  : QString();
+    m_degrees = near ? near->degrees - camera.pose().bearing : 0;
+    Q_EMIT changed();
+}
+
+} // namespace vasker

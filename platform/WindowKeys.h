@@ -1,0 +1,41 @@
+#pragma once
+// The keys of a window that work whatever is open in it: Ctrl+N, Ctrl+W and Ctrl+Q. A menu keeps
+// shortcuts from all that lies below it; these are heard by the window itself.
+
+#include <QObject>
+#include <QQuickWindow>
+#include <QtQmlIntegration>
+
+class QKeyEvent;
+
+namespace vasker {
+
+class WindowKeys : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickWindow* window READ window WRITE setWindow REQUIRED)
+
+  public:
+    using QObject::QObject;
+
+    [[nodiscard]] QQuickWindow* window() const noexcept { return m_window; }
+    /// Set once; `window` outlives this object.
+    void setWindow(QQuickWindow* window);
+
+  Q_SIGNALS:
+    /// Once for each press, however long the key is held.
+    void newWanted();
+    void closeWanted();
+    void quitWanted();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    /// Whether the key is one of them.
+    bool handle(const QKeyEvent& key);
+
+    QQuickWindow* m_window = nullptr;
+};
+
+} // namespace vasker

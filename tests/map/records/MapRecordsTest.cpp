@@ -1,0 +1,58 @@
+#include "map/records/MapRecords.h"
+
+#include "tests/map/records/RecordSetBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <variant>
+#include <vector>
+
+namespace vasker {
+namespace {
+
+const Camera camera(CoordinateRegion{{54, -112}, 4, 4}, {.width = 800, .height = 600});
+
+std::size_t dotCount(const RecordFrame& frame) {
+    for (const MapLayer& layer : frame.linesAndDots) {
+        if (const auto* dots = std::get_if<DotLayer>(&layer)) {
+            return dots->dots.size();
+        }
+    }
+    return 0;
+}
+
+class MapRecordsTest : public testing::Test {
+  protected:
+    MapRecordsTest() {
+        records.setRecords(
+            recordSetOf({facilityAt(54, -112, "refinery"), facilityAt(55, -112, "refinery")}));
+    }
+    [[nodiscard]] RecordFrame compose(const std::vector<ScreenRect>& names) {
+        return records.compose(camera, RecordDrawing::live, nullptr, 1, names);
+    }
+
+    MapRecords records;
+};
+
+TEST_F(MapRecordsTest, PinsStandWhereNoNameDoes) {
+    const RecordFrame frame = compose({{0, 0, 100, 20}});
+    EXPECT_EQ(frame.shownPins.size(), 2U);
+    EXPECT_EQ(dotCount(frame), 0U);
+}
+
+TEST_F(MapRecordsTest, APinThatWouldCoverANameIsADot) {
+    const RecordFrame frame = compose({{395, 280, 80, 15}});
+    ASSERT_EQ(frame.shownPins.size(), 1U);
+    EXPECT_EQ(frame.shownPins[0].asset, 1U);
+    EXPECT_EQ(dotCount(frame), 1U);
+    // It can still be hit.
+    EXPECT_EQ(records.hit(camera.focus(), pointerReach, camera), AssetIndex{0});
+}
+
+TEST_F(MapRecordsTest, TheSelectedPinStandsInAnyCase) {
+    records.setSelection(QStringLiteral("R-0"));
+    EXPECT_EQ(compose({{395, 280, 80, 15}}).shownPins.size(), 2U);
+}
+
+} // namespace
+} // namespace vasker
