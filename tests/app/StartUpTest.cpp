@@ -243,16 +243,5 @@ TEST_F(StartUp, AWindowThatClosesWhileItLoadsDisturbsNobody) {
     EXPECT_EQ(failure(), "");
 }
 
-TEST_F(StartUp, WindowsLoadEachByItself) {
-    writeRelease(m_release);
-    const auto one = root();
-    const auto other = root();
-    one->load();
-    other->load();
-    wait(*one);
-    wait(*other);
-    EXPECT_NE(&one->workspace()->release(), &other->workspace()->release());
-}
-
 } // namespace
 } // namespace vasker

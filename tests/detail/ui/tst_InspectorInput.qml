@@ -88,6 +88,7 @@ TestCase {
     }
     function test_keys_scroll_from_a_text_too(): void {
         const view = open(Releases.withManyFacts());
+        tryVerify(() => Walk.withText(view, "12.5 t").length === 12); // rows come one a frame
         const list = Walk.list(view);
         view.takeFocus();
         verify(!view.scrolled);
