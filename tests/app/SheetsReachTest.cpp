@@ -11,7 +11,7 @@ TEST_F(SheetsReach, NothingBehindASheetIsReachableByAssistiveTools) {
     for (const char* const each : {"open-map-layer", "open-map-records", "open-map-reset"}) {
         ASSERT_NE(item(each), nullptr);
     }
-    ASSERT_NE(named(QAccessible::Graphic, "Canadian energy infrastructure map"), nullptr);
+    ASSERT_NE(named(QAccessible::Canvas, "Canadian energy infrastructure map"), nullptr);
     openInspector("A-7");
     // New rows behind it are out of reach as well.
     workspace().setQuery(QStringLiteral("plant 1"));
@@ -26,7 +26,7 @@ TEST_F(SheetsReach, NothingBehindASheetIsReachableByAssistiveTools) {
     }
     close(QStringLiteral("Escape"));
     waitForNone();
-    EXPECT_NE(named(QAccessible::Graphic, "Canadian energy infrastructure map"), nullptr);
+    EXPECT_NE(named(QAccessible::Canvas, "Canadian energy infrastructure map"), nullptr);
     EXPECT_NE(named(QAccessible::List, "Records"), nullptr);
 }
 
