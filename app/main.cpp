@@ -1,11 +1,11 @@
 #include "app/OpenMapApp.h"
 #include "app/QmlModules.h"
-#include "platform/accessibility/AccessibleIds.h"
 #include "platform/Appearance.h"
 #include "platform/Background.h"
 #include "platform/DesktopActivation.h"
 #include "platform/Locale.h"
 #include "platform/Memory.h"
+#include "platform/accessibility/AccessibleIds.h"
 #include "platform/ui/KeyRepeat.h"
 #include "platform/ui/theme/Fonts.h"
 

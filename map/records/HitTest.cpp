@@ -1,7 +1,7 @@
 #include "map/records/HitTest.h"
 
 #include "map/geometry/Segment.h"
-#include "map/records/PinShape.h"
+#include "map/pins/PinShape.h"
 #include "map/records/RouteStyle.h"
 
 #include <algorithm>

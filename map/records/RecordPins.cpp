@@ -1,6 +1,6 @@
 #include "map/records/RecordPins.h"
 
-#include "map/records/PinShape.h"
+#include "map/pins/PinShape.h"
 
 #include <QPainter>
 

@@ -5,9 +5,9 @@
 #include "map/geometry/ScreenRect.h"
 #include "map/layers/Shape.h"
 #include "map/layers/SpriteLayer.h"
+#include "map/pins/PinAtlas.h"
 #include "map/records/LoadedRelease.h"
 #include "map/records/MarkerFrame.h"
-#include "map/records/PinAtlas.h"
 
 #include <optional>
 #include <span>

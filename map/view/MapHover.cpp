@@ -1,6 +1,6 @@
 #include "map/view/MapHover.h"
 
-#include "map/records/PinShape.h"
+#include "map/pins/PinShape.h"
 #include "presentation/RecordText.h"
 
 namespace vasker {

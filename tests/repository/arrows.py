@@ -27,8 +27,9 @@ ARROWS = {
         "platform/",
     },
     "map/raster/": {"map/geometry/"},
+    "map/pins/": {"map/style/", "map/geometry/", "presentation/", "platform/"},
     "map/records/": {
-        "map/layers/", "map/raster/", "map/style/", "map/geometry/", "presentation/", "data/", "platform/",
+        "map/layers/", "map/pins/", "map/raster/", "map/style/", "map/geometry/", "presentation/", "data/", "platform/",
     },
     "map/frame/": {
         "map/basemap/", "map/records/", "map/labels/", "map/layers/", "map/style/", "map/geometry/",
@@ -37,7 +38,7 @@ ARROWS = {
     "map/input/": {"map/records/", "map/geometry/"},
     "map/controls/": {"platform/"},
     "map/view/": {
-        "map/input/", "map/scene/", "map/frame/", "map/records/", "map/basemap/", "map/style/",
+        "map/input/", "map/scene/", "map/frame/", "map/records/", "map/pins/", "map/basemap/", "map/style/",
         "map/layers/", "map/geometry/", "presentation/", "data/", "platform/",
     },
     "map/exploration/": {

@@ -1,6 +1,6 @@
 #include "map/labels/MapLabels.h"
 
-#include "map/records/PinShape.h"
+#include "map/pins/PinShape.h"
 #include "platform/ui/theme/Fonts.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "map/records/HitTest.h"
 
-#include "map/records/PinShape.h"
+#include "map/pins/PinShape.h"
 #include "tests/map/records/RecordSetBuilder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "map/records/PinAtlas.h"
+#include "map/pins/PinAtlas.h"
 
-#include "map/records/PinShape.h"
+#include "map/pins/PinShape.h"
 #include "map/style/MapTheme.h"
 #include "platform/ui/theme/IconPainter.h"
 #include "presentation/Symbols.h"
