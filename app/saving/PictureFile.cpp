@@ -9,6 +9,8 @@
 #include <QSvgGenerator>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace vasker {
 
@@ -21,12 +23,13 @@ constexpr double pointsPerPixel = 72.0 / dotsPerInch;
 
 QString PictureFile::write(const QString& path) const {
     using Writer = QString (PictureFile::*)(QIODevice&) const;
-    const std::pair<const char*, Writer> writers[] = {{".png", &PictureFile::writePng},
-                                                      {".pdf", &PictureFile::writePdf},
-                                                      {".svg", &PictureFile::writeSvg}};
+    const std::array<std::pair<const char*, Writer>, 3> writers{{{".png", &PictureFile::writePng},
+                                                                 {".pdf", &PictureFile::writePdf},
+                                                                 {".svg", &PictureFile::writeSvg}}};
     for (const auto& [ending, writer] : writers) {
         if (path.endsWith(QLatin1String(ending), Qt::CaseInsensitive)) {
-            return writeWhole(path, [&](QIODevice& file) { return (this->*writer)(file); });
+            return writeWhole(
+                path, [this, write = writer](QIODevice& file) { return (this->*write)(file); });
         }
     }
     return tr("its name has to end in .png, .pdf or .svg.");

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 namespace vasker {
@@ -76,9 +75,9 @@ void BasemapFrameBuilder::add(RasterTile& tile, double offset, double opacity) {
     m_last.push_back(&tile);
     // What is drawn on top is named first.
     std::vector<Attribution>& attributions = m_frame.attributions;
-    for (const Attribution& each : std::views::reverse(tile.attributions)) {
-        std::erase(attributions, each);
-        attributions.insert(attributions.begin(), each);
+    for (auto each = tile.attributions.rbegin(); each != tile.attributions.rend(); ++each) {
+        std::erase(attributions, *each);
+        attributions.insert(attributions.begin(), *each);
     }
 }
 

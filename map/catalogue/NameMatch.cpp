@@ -56,10 +56,11 @@ matchedPart(QStringView name, std::string_view foldedQuery, const TextLocale& lo
         return std::nullopt;
     }
     const std::vector<qsizetype> places = characterBoundaries(name);
-    const auto [first, last] = windowThat(places, foldedQuery.size(), found);
+    const auto window = windowThat(places, foldedQuery.size(), found);
+    const auto first = window.first;
     // A longer text contains what a shorter one does: both ends can be found by halving.
-    const auto end =
-        std::partition_point(first, last, [&](qsizetype place) { return !found(*first, place); });
+    const auto end = std::partition_point(
+        first, window.second, [&](qsizetype place) { return !found(*first, place); });
     const auto afterBegin =
         std::partition_point(first, end, [&](qsizetype place) { return found(place, *end); });
     return TextRange{*std::prev(afterBegin), *end};

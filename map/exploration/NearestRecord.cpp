@@ -9,13 +9,13 @@ namespace vasker {
 
 namespace {
 
-constexpr std::chrono::milliseconds restTime{250};
+constexpr std::chrono::milliseconds viewRestTime{250};
 
 } // namespace
 
 NearestRecord::NearestRecord(QObject* parent) : QObject(parent) {
     m_rest.setSingleShot(true);
-    m_rest.setInterval(restTime);
+    m_rest.setInterval(viewRestTime);
     connect(&m_rest, &QTimer::timeout, this, &NearestRecord::refresh);
 }
 

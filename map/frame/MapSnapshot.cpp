@@ -8,9 +8,9 @@ namespace vasker {
 
 namespace {
 
-constexpr std::chrono::seconds patience{8};
+constexpr std::chrono::seconds tilePatience{8};
 
-TileLayer& tilesOf(MapFrame& frame) {
+TileLayer& tileLayerOf(MapFrame& frame) {
     const auto layer = std::ranges::find_if(
         frame.layers, [](const auto& each) { return std::holds_alternative<TileLayer>(each); });
     return std::get<TileLayer>(*layer);
@@ -36,7 +36,7 @@ MapSnapshot::MapSnapshot(const MapScene& scene, QObject* owner, Use use)
     m_composer.records().setSelection(scene.selection);
     m_next.setSingleShot(true);
     m_patience.setSingleShot(true);
-    m_patience.setInterval(patience);
+    m_patience.setInterval(tilePatience);
     connect(&m_next, &QTimer::timeout, this, &MapSnapshot::compose);
     connect(&m_patience, &QTimer::timeout, this, &MapSnapshot::compose);
     connect(&m_composer, &MapComposer::changed, &m_next, qOverload<>(&QTimer::start));
@@ -47,7 +47,7 @@ void MapSnapshot::compose() {
         return;
     }
     MapFrame frame = m_composer.compose(m_scene.state, m_scene.camera, {});
-    TileLayer& tiles = tilesOf(frame);
+    TileLayer& tiles = tileLayerOf(frame);
     for (TileImage& image : tiles.newImages) {
         m_drawing.tiles.insert_or_assign(image.tile, std::move(image.image));
     }
@@ -61,7 +61,7 @@ void MapSnapshot::compose() {
 }
 
 void MapSnapshot::finish(MapFrame frame) {
-    const TileLayer& tiles = tilesOf(frame);
+    const TileLayer& tiles = tileLayerOf(frame);
     std::erase_if(m_drawing.tiles, [&tiles](const auto& image) {
         return std::ranges::find(tiles.quads, image.first, &TileQuad::tile) == tiles.quads.end();
     });

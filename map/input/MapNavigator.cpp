@@ -13,7 +13,7 @@ namespace {
 constexpr double buttonZoomSeconds = 0.3;
 
 /// A camera that has not moved for so long is at rest.
-constexpr std::chrono::milliseconds restTime{90};
+constexpr std::chrono::milliseconds cameraRestTime{90};
 
 DoubleTap doubleTapOfDesktop() {
     const QStyleHints& hints = *QGuiApplication::styleHints();
@@ -34,7 +34,7 @@ Overloaded(Handlers...) -> Overloaded<Handlers...>; // clang 14 makes no such gu
 MapNavigator::MapNavigator(std::function<Camera()> camera)
     : m_camera(std::move(camera)), m_input(doubleTapOfDesktop()) {
     m_rest.setSingleShot(true);
-    m_rest.setInterval(restTime);
+    m_rest.setInterval(cameraRestTime);
     connect(&m_rest, &QTimer::timeout, this, &MapNavigator::rested);
     connect(&m_motion, &MapMotion::advanced, this, &MapNavigator::move);
 }

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <ranges>
 #include <span>
 
 namespace vasker {
@@ -102,13 +101,13 @@ void RecordOverlay::paintDots(QImage& image, const MapRect& bounds, double scale
     for (const double offset : worldCopyOffsets(bounds.inset(-margin, -margin))) {
         MapRect around = bounds.inset(-margin, -margin);
         around.x -= offset;
-        for (const auto& dot : std::views::reverse(m_layout->dots)) {
-            if (!around.contains(dot.point)) {
+        for (auto dot = m_layout->dots.rbegin(); dot != m_layout->dots.rend(); ++dot) {
+            if (!around.contains(dot->point)) {
                 continue;
             }
-            const QImage& sprite = m_sprites.at({m_colors.records[dot.asset], dot.isQuiet});
-            const double x = (dot.point.x + offset - bounds.x) * scale;
-            const double y = (dot.point.y - bounds.y) * scale;
+            const QImage& sprite = m_sprites.at({m_colors.records[dot->asset], dot->isQuiet});
+            const double x = (dot->point.x + offset - bounds.x) * scale;
+            const double y = (dot->point.y - bounds.y) * scale;
             painter.drawImage(QPoint(static_cast<int>(std::lround(x)) - sprite.width() / 2,
                                      static_cast<int>(std::lround(y)) - sprite.height() / 2),
                               sprite);

@@ -33,7 +33,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, AccessibleAction&
 namespace {
 
 const QString group = QStringLiteral("org.a11y.atspi.Action");
-const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
+const QString actionProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
 AccessibleAction describe(QAccessibleActionInterface& actions, const QString& name) {
     return {actions.localizedActionName(name),
@@ -73,7 +73,7 @@ QVariant answerOfActions(const QDBusMessage& question, QAccessibleInterface& con
         return {};
     }
     const QString method = question.member();
-    if (question.interface() == properties && method == u"Get" &&
+    if (question.interface() == actionProperties && method == u"Get" &&
         question.arguments() == QVariantList{group, QStringLiteral("NActions")}) {
         return QVariant::fromValue(QDBusVariant(static_cast<int>(names.size())));
     }

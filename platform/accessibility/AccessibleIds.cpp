@@ -12,12 +12,12 @@ namespace vasker {
 
 namespace {
 
-const QString connectionName = QStringLiteral("a11y");
+const QString idsConnection = QStringLiteral("a11y");
 const QString tree = QStringLiteral("/org/a11y/atspi/accessible");
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString action = QStringLiteral("org.a11y.atspi.Action");
 const QString editableText = QStringLiteral("org.a11y.atspi.EditableText");
-const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
+const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
 using Attributes = QMap<QString, QString>;
 
@@ -130,7 +130,7 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
     const QString group = question.interface();
     const QString method = question.member();
     const QString id = identifier(control);
-    if (!id.isEmpty() && group == properties && method == u"Get" &&
+    if (!id.isEmpty() && group == propertiesInterface && method == u"Get" &&
         question.arguments() == QVariantList{accessible, QStringLiteral("AccessibleId")}) {
         return QVariant::fromValue(QDBusVariant(id));
     }
@@ -168,7 +168,7 @@ AccessibleIds::AccessibleIds() {
 
 AccessibleIds::~AccessibleIds() {
     QAccessible::removeActivationObserver(this);
-    QDBusConnection bus(connectionName);
+    QDBusConnection bus(idsConnection);
     if (bus.isConnected() && bus.objectRegisteredAt(tree) == this) {
         bus.unregisterObject(tree);
         if (m_bridge != nullptr) {
@@ -185,7 +185,7 @@ void AccessibleIds::accessibilityActiveChanged(bool active) {
 }
 
 void AccessibleIds::takePlace() {
-    QDBusConnection bus(connectionName);
+    QDBusConnection bus(idsConnection);
     auto* found = bus.isConnected()
                       ? qobject_cast<QDBusVirtualObject*>(bus.objectRegisteredAt(tree))
                       : nullptr;

@@ -18,7 +18,7 @@ namespace vasker {
 namespace {
 
 /// Under which Qt's bridge is connected.
-const QString connectionName = QStringLiteral("a11y");
+const QString announcerConnection = QStringLiteral("a11y");
 
 /// ATSPI_LIVE_POLITE.
 constexpr int polite = 1;
@@ -78,7 +78,7 @@ void Announcer::announce(const QString& text) {
 }
 
 void Announcer::send() {
-    const QDBusConnection bus(connectionName);
+    const QDBusConnection bus(announcerConnection);
     if (bus.isConnected() && window() != nullptr) {
         for (const QString& text : std::exchange(m_waiting, {})) {
             if (signal(bus, text)) {

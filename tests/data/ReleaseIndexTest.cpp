@@ -125,10 +125,10 @@ class Draw {
     std::mt19937 m_random;
 };
 
-using Texts = std::vector<std::optional<SearchedText>>; // of each record
+using FoundTexts = std::vector<std::optional<SearchedText>>; // of each record
 
-Texts firstMatches(const ReleaseIndex& index, std::string_view query) {
-    Texts texts;
+FoundTexts firstMatches(const ReleaseIndex& index, std::string_view query) {
+    FoundTexts texts;
     for (AssetIndex record = 0; record < index.release().assets.size(); ++record) {
         texts.push_back(index.firstMatch(folded(query, index.locale()), record));
     }
@@ -136,10 +136,9 @@ Texts firstMatches(const ReleaseIndex& index, std::string_view query) {
 }
 
 /// By definition.
-Texts firstMatches(const OpenMapRelease& release,
-                   std::string_view query,
-                   const TextLocale& locale) {
-    Texts texts;
+FoundTexts
+firstMatches(const OpenMapRelease& release, std::string_view query, const TextLocale& locale) {
+    FoundTexts texts;
     for (const OpenMapRelease::Asset& asset : release.assets) {
         std::optional<SearchedText> first;
         for (const SearchedText& each : searchedTexts(asset)) {

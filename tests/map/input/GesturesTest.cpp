@@ -7,31 +7,31 @@
 namespace vasker {
 namespace {
 
-const Camera camera(canadaOverview, {960, 712});
+const Camera startCamera(canadaOverview, {960, 712});
 
 TEST(Gestures, APressThatHardlyMovesIsAClick) {
     PanDrag drag({100, 100});
-    const Camera after = drag.moved(camera, {102, 101});
+    const Camera after = drag.moved(startCamera, {102, 101});
     EXPECT_TRUE(drag.isClick());
-    EXPECT_EQ(after.center(), camera.center());
+    EXPECT_EQ(after.center(), startCamera.center());
 }
 
 TEST(Gestures, ADragKeepsTheGroundUnderThePointer) {
     PanDrag drag({100, 100});
-    Camera now = drag.moved(camera, {103, 100});
+    Camera now = drag.moved(startCamera, {103, 100});
     now = drag.moved(now, {180, 130});
     EXPECT_FALSE(drag.isClick());
-    const ScreenPoint ground = now.worldToScreen(camera.screenToWorld({100, 100}));
+    const ScreenPoint ground = now.worldToScreen(startCamera.screenToWorld({100, 100}));
     EXPECT_NEAR(ground.x, 180, 1e-6);
     EXPECT_NEAR(ground.y, 130, 1e-6);
 }
 
 TEST(Gestures, ADragThatReturnsToItsPlaceIsStillADrag) {
     PanDrag drag({100, 100});
-    Camera now = drag.moved(camera, {150, 100});
+    Camera now = drag.moved(startCamera, {150, 100});
     now = drag.moved(now, {100, 100});
     EXPECT_FALSE(drag.isClick());
-    EXPECT_NEAR(now.center().x, camera.center().x, 1e-6);
+    EXPECT_NEAR(now.center().x, startCamera.center().x, 1e-6);
 }
 
 TEST(Gestures, TwoNotchesOfTheWheelDoubleTheScale) {
@@ -42,9 +42,9 @@ TEST(Gestures, TwoNotchesOfTheWheelDoubleTheScale) {
 
 TEST(Gestures, APinchKeepsTheGroundUnderBothFingers) {
     Pinch pinch({400, 300}, {500, 300});
-    const MapPoint first = camera.screenToWorld({400, 300});
-    const MapPoint second = camera.screenToWorld({500, 300});
-    const Camera after = pinch.moved(camera, {350, 320}, {600, 320});
+    const MapPoint first = startCamera.screenToWorld({400, 300});
+    const MapPoint second = startCamera.screenToWorld({500, 300});
+    const Camera after = pinch.moved(startCamera, {350, 320}, {600, 320});
     EXPECT_NEAR(after.worldToScreen(first).x, 350, 1e-6);
     EXPECT_NEAR(after.worldToScreen(first).y, 320, 1e-6);
     EXPECT_NEAR(after.worldToScreen(second).x, 600, 1e-6);
@@ -52,16 +52,16 @@ TEST(Gestures, APinchKeepsTheGroundUnderBothFingers) {
 
 TEST(Gestures, AFingerMayTrembleMoreThanAMouse) {
     PanDrag drag({100, 100}, touchDragThreshold);
-    static_cast<void>(drag.moved(camera, {106, 106}));
+    static_cast<void>(drag.moved(startCamera, {106, 106}));
     EXPECT_TRUE(drag.isClick());
-    static_cast<void>(drag.moved(camera, {108, 108}));
+    static_cast<void>(drag.moved(startCamera, {108, 108}));
     EXPECT_FALSE(drag.isClick());
 }
 
 TEST(Gestures, FingersThatHardlyTurnKeepTheBearing) {
     Pinch pinch({400, 300}, {500, 300});
-    const Camera after = pinch.moved(camera, {380, 300}, {540, 315}); // 5 degrees
-    EXPECT_GT(after.scale(), camera.scale());
+    const Camera after = pinch.moved(startCamera, {380, 300}, {540, 315}); // 5 degrees
+    EXPECT_GT(after.scale(), startCamera.scale());
     EXPECT_TRUE(after.isUpright());
 }
 
@@ -71,7 +71,7 @@ TEST(Gestures, TheGroundTurnsWithTheFingersWithoutAJump) {
         const double angle = degrees * std::acos(-1.0) / 180;
         return ScreenPoint{400 + 100 * std::cos(angle), 300 + 100 * std::sin(angle)};
     };
-    Camera now = camera;
+    Camera now = startCamera;
     double before = 0;
     for (int degrees = 1; degrees <= 90; ++degrees) { // clockwise
         now = pinch.moved(now, {400, 300}, onCircle(degrees));
@@ -85,22 +85,22 @@ TEST(Gestures, TheGroundTurnsWithTheFingersWithoutAJump) {
 
 TEST(Gestures, ATurningDragTurnsAcrossAndLeansUpwards) {
     RotateDrag drag({100, 300});
-    Camera now = drag.moved(camera, {102, 300});
+    Camera now = drag.moved(startCamera, {102, 300});
     EXPECT_TRUE(drag.isClick());
     EXPECT_TRUE(now.isUpright());
     now = drag.moved(now, {180, 200});
     EXPECT_FALSE(drag.isClick());
     EXPECT_NEAR(now.pose().bearing, 40, 1e-9);
     EXPECT_NEAR(now.pose().pitch, 40, 1e-9);
-    EXPECT_NEAR(now.center().x, camera.center().x, 1e-3);
-    EXPECT_NEAR(now.center().y, camera.center().y, 1e-3);
+    EXPECT_NEAR(now.center().x, startCamera.center().x, 1e-3);
+    EXPECT_NEAR(now.center().y, startCamera.center().y, 1e-3);
     now = drag.moved(now, {100, -900});
     EXPECT_NEAR(now.pose().bearing, 0, 1e-9);
     EXPECT_EQ(now.pose().pitch, Camera::maximumPitch);
 }
 
 TEST(Gestures, WhatIsNearlyUprightIsMeantToBe) {
-    const CameraPose pose = camera.pose();
+    const CameraPose pose = startCamera.pose();
     EXPECT_EQ(settled({pose.center, pose.scale, 357, 3}), pose);
     EXPECT_EQ(settled({pose.center, pose.scale, 3, 0}), pose);
     const CameraPose turned{pose.center, pose.scale, 20, 30};
@@ -109,7 +109,7 @@ TEST(Gestures, WhatIsNearlyUprightIsMeantToBe) {
 
 TEST(Gestures, FingersInOnePlaceDoNotZoom) {
     Pinch pinch({400, 300}, {400, 300});
-    EXPECT_DOUBLE_EQ(pinch.moved(camera, {390, 300}, {410, 300}).scale(), camera.scale());
+    EXPECT_DOUBLE_EQ(pinch.moved(startCamera, {390, 300}, {410, 300}).scale(), startCamera.scale());
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 namespace vasker {
 namespace {
 
-const Camera camera(CoordinateRegion{{54, -112}, 4, 4}, {.width = 800, .height = 600});
+const Camera nearCamera(CoordinateRegion{{54, -112}, 4, 4}, {.width = 800, .height = 600});
 
 std::size_t dotCount(const RecordFrame& frame) {
     for (const MapLayer& layer : frame.linesAndDots) {
@@ -28,7 +28,7 @@ class MapRecordsTest : public testing::Test {
             recordSetOf({facilityAt(54, -112, "refinery"), facilityAt(55, -112, "refinery")}));
     }
     [[nodiscard]] RecordFrame compose(const std::vector<ScreenRect>& names) {
-        return records.compose(camera, RecordDrawing::live, nullptr, 1, names);
+        return records.compose(nearCamera, RecordDrawing::live, nullptr, 1, names);
     }
 
     MapRecords records;
@@ -46,7 +46,7 @@ TEST_F(MapRecordsTest, APinThatWouldCoverANameIsADot) {
     EXPECT_EQ(frame.shownPins[0].asset, 1U);
     EXPECT_EQ(dotCount(frame), 1U);
     // It can still be hit.
-    EXPECT_EQ(records.hit(camera.focus(), pointerReach, camera), AssetIndex{0});
+    EXPECT_EQ(records.hit(nearCamera.focus(), pointerReach, nearCamera), AssetIndex{0});
 }
 
 TEST_F(MapRecordsTest, TheSelectedPinStandsInAnyCase) {

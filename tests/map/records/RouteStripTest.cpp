@@ -14,7 +14,7 @@ namespace vasker {
 namespace {
 
 constexpr Rgb ink{10, 20, 30};
-constexpr Viewport view{960, 712};
+constexpr Viewport routeView{960, 712};
 
 LineStrip stripOf(const RecordSet& records, const Camera& camera) {
     const RecordGeometry& geometry = records.loaded->geometry;
@@ -69,14 +69,14 @@ TEST(RouteStrip, StaysWithinHalfAPixelOfThePublishedLineAtEveryZoom) {
         bounds = bounds.united(run.bounds);
     }
     for (const double factor : {0.1, 1.0, 10.0}) {
-        const Camera whole(bounds, view);
+        const Camera whole(bounds, routeView);
         const Camera camera = whole.zoomed(factor, whole.focus());
         const auto drawn = middleLine(stripOf(records, camera));
         for (const RouteRun& run : geometry.runs()) {
             for (const MapPoint vertex : geometry.vertices(run)) {
                 const ScreenPoint point = camera.worldToScreen(vertex);
-                const bool isSeen =
-                    point.x >= 0 && point.x <= view.width && point.y >= 0 && point.y <= view.height;
+                const bool isSeen = point.x >= 0 && point.x <= routeView.width && point.y >= 0 &&
+                                    point.y <= routeView.height;
                 if (isSeen) {
                     ASSERT_LE(distanceToLine(point, drawn), routeTolerancePixels + 0.01) << factor;
                 }
@@ -87,7 +87,7 @@ TEST(RouteStrip, StaysWithinHalfAPixelOfThePublishedLineAtEveryZoom) {
 
 TEST(RouteStrip, FarViewsHaveFewerVertices) {
     const RecordSet records = recordSetOf({pipelineAlong({winding(1500)})});
-    const LineStrip far = stripOf(records, Camera(canadaOverview, view).zoomed(0.2, {1, 1}));
+    const LineStrip far = stripOf(records, Camera(canadaOverview, routeView).zoomed(0.2, {1, 1}));
     EXPECT_GT(far.size(), 4U);
     EXPECT_LT(far.size(), 150U);
 }
@@ -97,21 +97,21 @@ TEST(RouteStrip, LinesStayCloseToTheViewHoweverLongTheyAre) {
     const auto ends = records.loaded->geometry.vertices(records.loaded->geometry.runs().front());
     const MapPoint middle{(ends[0].x + ends[1].x) / 2, (ends[0].y + ends[1].y) / 2};
     for (const double pitch : {0.0, 60.0}) {
-        const LineStrip strip =
-            stripOf(records, Camera(CameraPose{middle, Camera::maximumScale, 30, pitch}, view));
+        const LineStrip strip = stripOf(
+            records, Camera(CameraPose{middle, Camera::maximumScale, 30, pitch}, routeView));
         ASSERT_FALSE(strip.empty());
         for (const LineVertex& vertex : strip) {
             EXPECT_GE(vertex.x, -lineReach - 0.01);
-            EXPECT_LE(vertex.x, view.width + lineReach + 0.01);
+            EXPECT_LE(vertex.x, routeView.width + lineReach + 0.01);
             EXPECT_GE(vertex.y, -lineReach - 0.01);
-            EXPECT_LE(vertex.y, view.height + lineReach + 0.01);
+            EXPECT_LE(vertex.y, routeView.height + lineReach + 0.01);
         }
     }
 }
 
 TEST(RouteStrip, ALineOutOfViewIsNotThere) {
     const RecordSet records = recordSetOf({pipelineAlong({{{20, 50}, {30, 55}}})});
-    EXPECT_TRUE(stripOf(records, Camera(canadaOverview, view)).empty());
+    EXPECT_TRUE(stripOf(records, Camera(canadaOverview, routeView)).empty());
 }
 
 TEST(RouteStrip, ALineStandsInEveryCopyOfTheWorldThatIsSeen) {
@@ -124,24 +124,26 @@ TEST(RouteStrip, ALineStandsInEveryCopyOfTheWorldThatIsSeen) {
 TEST(RouteStrip, ALineAcrossTheHorizonIsCutBeforeTheCamera) {
     const RecordSet records = recordSetOf({pipelineAlong({{{-114, -80}, {-114, 84}}})});
     const Camera tilted(
-        CameraPose{coordinateToMapPoint({50, -114}), Camera::maximumScale / 1000, 0, 60}, view);
+        CameraPose{coordinateToMapPoint({50, -114}), Camera::maximumScale / 1000, 0, 60},
+        routeView);
     const auto line = middleLine(stripOf(records, tilted));
     ASSERT_EQ(line.size(), 2U);
-    EXPECT_NEAR(line[0].x, view.width / 2, 0.01);
+    EXPECT_NEAR(line[0].x, routeView.width / 2, 0.01);
     EXPECT_NEAR(std::min(line[0].y, line[1].y), -lineReach, 0.01);
-    EXPECT_NEAR(std::max(line[0].y, line[1].y), view.height + lineReach, 0.01);
+    EXPECT_NEAR(std::max(line[0].y, line[1].y), routeView.height + lineReach, 0.01);
 }
 
 TEST(RouteStrip, ARecordWithoutColorIsNotDrawn) {
     const RecordSet records = recordSetOf({pipelineAlong({{{-120, 50}, {-110, 55}}})});
     const RecordGeometry& geometry = records.loaded->geometry;
-    EXPECT_TRUE(routeStrip(geometry, geometry.runs(), RouteColors(1), Camera(canadaOverview, view))
-                    .empty());
+    EXPECT_TRUE(
+        routeStrip(geometry, geometry.runs(), RouteColors(1), Camera(canadaOverview, routeView))
+            .empty());
 }
 
 TEST(RouteStrip, EveryVertexHasTheColorOfItsRecord) {
     const RecordSet records = recordSetOf({pipelineAlong({{{-120, 50}, {-110, 55}}})});
-    const LineStrip strip = stripOf(records, Camera(canadaOverview, view));
+    const LineStrip strip = stripOf(records, Camera(canadaOverview, routeView));
     ASSERT_FALSE(strip.empty());
     for (const LineVertex& vertex : strip) {
         EXPECT_EQ((Rgb{vertex.red, vertex.green, vertex.blue}), ink);
@@ -151,7 +153,7 @@ TEST(RouteStrip, EveryVertexHasTheColorOfItsRecord) {
 TEST(RouteStrip, ALoopTooSmallToSeeIsStillADot) {
     const RecordSet records =
         recordSetOf({pipelineAlong({{{-120, 50}, {-119.9999, 50}, {-120, 50.0001}, {-120, 50}}})});
-    const LineStrip strip = stripOf(records, Camera(canadaOverview, view));
+    const LineStrip strip = stripOf(records, Camera(canadaOverview, routeView));
     EXPECT_EQ(middleLine(strip).size(), 1U);
     EXPECT_GE(strip.size(), 4U);
 }
@@ -159,7 +161,7 @@ TEST(RouteStrip, ALoopTooSmallToSeeIsStillADot) {
 TEST(RouteStrip, ASharpCornerBecomesTwoRoundEnds) {
     const RecordSet records =
         recordSetOf({pipelineAlong({{{-120, 50}, {-110, 50}, {-120, 50.5}}})});
-    const LineStrip strip = stripOf(records, Camera(canadaOverview, view));
+    const LineStrip strip = stripOf(records, Camera(canadaOverview, routeView));
     const auto tips = std::count_if(strip.begin(), strip.end(), [](const LineVertex& vertex) {
         return vertex.corner >= LineVertex::Corner::leftTip;
     });
