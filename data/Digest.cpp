@@ -13,7 +13,7 @@ namespace vasker {
 
 namespace {
 
-void requireSuccess(int result) {
+void requireDigest(int result) {
     if (result != 1) {
         throw std::runtime_error("SHA-256 is not available from libcrypto");
     }
@@ -31,13 +31,13 @@ std::string sha256(std::string_view bytes, const std::stop_token& stop) {
     if (context == nullptr) {
         throw std::bad_alloc();
     }
-    requireSuccess(EVP_DigestInit_ex(context.get(), EVP_sha256(), nullptr));
+    requireDigest(EVP_DigestInit_ex(context.get(), EVP_sha256(), nullptr));
     for (; !bytes.empty(); bytes.remove_prefix(std::min(step, bytes.size()))) {
         throwIfCancelled(stop);
-        requireSuccess(EVP_DigestUpdate(context.get(), bytes.data(), std::min(step, bytes.size())));
+        requireDigest(EVP_DigestUpdate(context.get(), bytes.data(), std::min(step, bytes.size())));
     }
     std::array<unsigned char, digestSize> digest{};
-    requireSuccess(EVP_DigestFinal_ex(context.get(), digest.data(), nullptr));
+    requireDigest(EVP_DigestFinal_ex(context.get(), digest.data(), nullptr));
 
     std::string text;
     text.reserve(2 * digestSize);
