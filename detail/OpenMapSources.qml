@@ -22,6 +22,21 @@ Item {
 
         promptCount: root.content.promptLimitations
         count: root.content.limitations.length
+        wanted: limitations.y + limitations.height < list.contentY + 2 * list.height
+        onMadeChanged: rows.fill()
+        Component.onCompleted: rows.fill()
+    }
+    ListModel {
+        id: rows
+
+        function fill(): void {
+            const texts = root.content.limitations;
+            while (rows.count < Math.min(limitationSteps.made, limitationSteps.count)) {
+                rows.append({
+                    "text": texts[rows.count]
+                });
+            }
+        }
     }
     GroupedList {
         id: list
@@ -49,22 +64,13 @@ Item {
             }
         }
         Section {
+            id: limitations
+
             title: qsTr("Coverage & limitations")
 
             Repeater {
-                model: root.content.limitations
-                delegate: Loader {
-                    required property int index
-                    required property string modelData
-
-                    width: parent?.width ?? 0
-                    active: index < limitationSteps.made
-                    Component.onCompleted: setSource("NoteRow.qml", {
-                        "text": modelData,
-                        "separated": index > 0,
-                        "width": width
-                    })
-                }
+                model: rows
+                delegate: NoteRow {}
             }
         }
         CreditSection {

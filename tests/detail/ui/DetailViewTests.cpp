@@ -97,6 +97,15 @@ class Releases : public QObject {
         release.assets[0].facts.assign(50, makeFact(value.toStdString()));
         return first(std::move(release));
     }
+    /// "Limit 0" and on.
+    Q_INVOKABLE static vasker::ReleaseRecord withManyLimitations(int count) {
+        OpenMapRelease release = makeRelease();
+        release.limitations.clear();
+        for (int number = 0; number < count; ++number) {
+            release.limitations.push_back("Limit " + std::to_string(number));
+        }
+        return first(std::move(release));
+    }
     Q_INVOKABLE static vasker::ReleaseRecord withManyFacts() {
         OpenMapRelease release = makeRelease();
         release.assets[0].facts.assign(12, makeFact());

@@ -39,6 +39,7 @@ TestCase {
             "packagedFile": file
         });
         waitForRendering(view);
+        view.takeFocus();
         return view;
     }
     function creditOf(view: Item): Item {
@@ -59,6 +60,24 @@ TestCase {
     function test_a_section_without_rows_keeps_its_title(): void {
         const texts = Walk.texts(open(Releases.withoutAnything(), ""));
         compare(texts.slice(5, 9), ["Coverage & limitations", "Sources & reuse", licence, "Privacy"]);
+    }
+    function test_rows_of_a_list_without_end_are_made_as_they_come_into_view(): void {
+        const view = open(Releases.withManyLimitations(100000), "");
+        const rows = () => Walk.texts(view).filter(text => text.startsWith("Limit "));
+        tryVerify(() => rows().length === 100);
+        wait(300);
+        compare(rows().length, 100);
+        compare(rows()[99], "Limit 99");
+        for (let presses = 0; presses < 3; ++presses) {
+            keyClick(Qt.Key_End);
+        }
+        tryVerify(() => rows().length > 100);
+        wait(300);
+        verify(rows().length < 250, rows().length);
+    }
+    function test_every_row_of_a_short_list_is_made(): void {
+        const view = open(Releases.withManyLimitations(90), "");
+        tryVerify(() => Walk.texts(view).filter(text => text.startsWith("Limit ")).length === 90);
     }
     function test_an_empty_text_of_a_credit_keeps_its_place(): void {
         const credit = creditOf(open(Releases.withoutModifications(), ""));
