@@ -107,14 +107,16 @@ void SaveCommands::takePicture(double scale, const Use& use) {
     MapScene scene = sceneOf(*m_map, std::min(pixels, pageDensity));
     const double height = m_map->height() - scene.camera.viewport().coveredBelow;
     scene.state.obstacles = {{0, height - 44, 190, 44}}; // labels keep clear of the scale bar
-    MapSnapshot::take(scene, this, [this, pixels, use](std::shared_ptr<const MapDrawing> map) {
-        m_slow.stop();
-        forget();
-        use(pictureOf(std::move(map), pixels));
-    });
+    MapSnapshot::take(
+        scene, this, [this, pixels, use](const std::shared_ptr<const MapDrawing>& map) {
+            m_slow.stop();
+            forget();
+            use(pictureOf(map, pixels));
+        });
 }
 
-MapPicture SaveCommands::pictureOf(std::shared_ptr<const MapDrawing> map, double scale) const {
+MapPicture SaveCommands::pictureOf(const std::shared_ptr<const MapDrawing>& map,
+                                   double scale) const {
     const OpenMapRelease& release = m_workspace->release();
     QStringList basemap;
     for (const Attribution& each : map->frame.attributions) {
@@ -127,7 +129,7 @@ MapPicture SaveCommands::pictureOf(std::shared_ptr<const MapDrawing> map, double
     publishers.removeDuplicates();
     const Theme& theme = *Theme::create(nullptr, nullptr);
     const ThemeColors& mapColors =
-        m_map->status()->showsImagery() ? theme.darkColors() : theme.colors();
+        m_map->status()->showsImagery() ? Theme::darkColors() : theme.colors();
     const Camera camera = m_map->resolvedCamera();
     const ScaleBar bar = scaleBar(camera, longestBar);
     return {.map = map,

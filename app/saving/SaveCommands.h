@@ -59,7 +59,8 @@ class SaveCommands : public QObject {
     using Use = std::function<void(const MapPicture& picture)>;
     void takePicture(double scale, const Use& use);
     void ask(const QString& title, const QString& suffix, QQuickWindow* window, double scale);
-    [[nodiscard]] MapPicture pictureOf(std::shared_ptr<const MapDrawing> map, double scale) const;
+    [[nodiscard]] MapPicture pictureOf(const std::shared_ptr<const MapDrawing>& map,
+                                       double scale) const;
     /// Which records are shown; empty where all are.
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] QString releaseID() const;

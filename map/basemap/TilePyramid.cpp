@@ -266,13 +266,11 @@ BasemapFrame TilePyramid::show(std::chrono::nanoseconds now) {
         }
     }
     const bool isWhole = m_current && covers(*m_current);
-    if (!isWhole) {
-        if (!m_pending || !covers(*m_pending)) {
-            frame.show(*m_world, 1);
-        }
-        if (m_pending && (!m_current || m_pending->theme == m_current->theme)) {
-            frame.show(*m_pending, 1);
-        }
+    if (!isWhole && (!m_pending || !covers(*m_pending))) {
+        frame.show(*m_world, 1);
+    }
+    if (!isWhole && m_pending && (!m_current || m_pending->theme == m_current->theme)) {
+        frame.show(*m_pending, 1);
     }
     if (m_fade) {
         frame.show(*m_fade->old, 1);
@@ -285,9 +283,9 @@ BasemapFrame TilePyramid::show(std::chrono::nanoseconds now) {
         if (m_current->tiles.size() >= frame.shownLast() + keptOutOfView) {
             m_current->trim(m_view.camera, keptAround);
         }
-        if (m_view.isResting && !m_pending) {
-            m_current->dropBasemapsOutside(cover(*m_current, paintedAhead));
-        }
+    }
+    if (m_current && m_view.isResting && !m_pending) {
+        m_current->dropBasemapsOutside(cover(*m_current, paintedAhead));
     }
     if (m_pending) {
         frame.prepare(*m_pending);

@@ -20,7 +20,7 @@ enum class PinState { plain, hovered, selected };
 
 /// Draws the pin of `kind`, the top-left of its region on the painter's origin. Changes the
 /// painter's state. Any thread.
-void paintPin(QPainter& painter, std::string_view kind, BasemapTheme theme, PinState state);
+void paintPin(QPainter& painter, std::string_view kind, BasemapTheme basemap, PinState state);
 
 class PinAtlas {
   public:

@@ -13,7 +13,7 @@ namespace vasker {
 namespace {
 
 /// Sizes of blocks are multiples of this, so that tiles that differ by some pixels share them.
-constexpr std::size_t step = 128 * 1024;
+constexpr std::size_t step = 131'072;
 
 struct Block {
     std::unique_ptr<uchar[]> bytes; // NOLINT(*-avoid-c-arrays): of a size known at run time only
@@ -38,6 +38,7 @@ class Pool {
                 return block;
             }
         }
+        // NOLINTNEXTLINE(*-avoid-c-arrays)
         return {std::make_unique_for_overwrite<uchar[]>(rounded), rounded};
     }
 

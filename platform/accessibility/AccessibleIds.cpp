@@ -144,7 +144,7 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
     if (group == accessible && method == u"GetState" && isModal(control)) {
         return QVariant::fromValue(statesOfSheet(control));
     }
-    if (const QVariant actions = answerOfActions(question, control); actions.isValid()) {
+    if (QVariant actions = answerOfActions(question, control); actions.isValid()) {
         return actions;
     }
     if (!isTextField(control)) {

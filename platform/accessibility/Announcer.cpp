@@ -28,7 +28,7 @@ constexpr int tries = 20;
 constexpr std::chrono::seconds noticeTime{4};
 
 /// "object:state-changed:showing" as one word, however a program has written it.
-QString plain(QString event) {
+QString plain(const QString& event) {
     return event.toLower().remove(u'-').remove(u':');
 }
 

@@ -129,7 +129,10 @@ TEST_F(Header, TheMainMenuConcernsTheProgram) {
                                         "Save the records shown…",
                                         "Save a picture of the map…",
                                         "Save a picture at twice the size…",
-                                        "Copy picture of the map"}));
+                                        "Save a picture at four times the size…",
+                                        "Save the map as PDF or SVG…",
+                                        "Copy picture of the map",
+                                        "Print the map…"}));
     key(Qt::Key_R);
     key(Qt::Key_Return);
     EXPECT_TRUE(workspace().showingRecords());
@@ -163,7 +166,7 @@ TEST_F(Header, WindowsAreOpenedAndClosedFromTheFailureScreenToo) {
 TEST_F(Header, AWindowIsOpenedAndClosedWhileAMenuIsOpen) {
     openRecords();
     const QPointer<QQuickWindow> first = m_window;
-    EXPECT_EQ(openMenu("open-map-menu").size(), 9U);
+    EXPECT_EQ(openMenu("open-map-menu").size(), 12U);
     key(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(windowCount(), 2);
     activate();

@@ -42,9 +42,9 @@ class PiecedText : public QQuickItem {
     /// is.
     Q_INVOKABLE void setPieceHeight(int piece, double height);
     /// The row of `shown` that stands at `y`, or the nearest one.
-    Q_INVOKABLE int rowAt(double y) const;
+    [[nodiscard]] Q_INVOKABLE int rowAt(double y) const;
     /// Where the piece of a row of `shown` begins in the text, in code units.
-    Q_INVOKABLE int startOf(int row) const;
+    [[nodiscard]] Q_INVOKABLE int startOf(int row) const;
 
     /// Of code units of the text.
     Q_INVOKABLE void select(int anchor, int cursor);

@@ -13,12 +13,13 @@ namespace {
 const Camera nearCamera(CoordinateRegion{{54, -112}, 4, 4}, {.width = 800, .height = 600});
 
 std::size_t dotCount(const RecordFrame& frame) {
+    std::size_t count = 0;
     for (const MapLayer& layer : frame.linesAndDots) {
         if (const auto* dots = std::get_if<DotLayer>(&layer)) {
-            return dots->dots.size();
+            count += dots->dots.size();
         }
     }
-    return 0;
+    return count;
 }
 
 class MapRecordsTest : public testing::Test {
