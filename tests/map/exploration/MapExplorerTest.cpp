@@ -52,7 +52,7 @@ class MapExploration : public MapWindow {
 TEST_F(MapExploration, CtrlAndAnArrowGoToTheNearestRecordThere) {
     key(Qt::Key_Right, Qt::ControlModifier);
     expectSpoken({text("East, gas plant, 131 km east")});
-    expectGroundAt(coordinateToMapPoint({54, -110}), {400, 300});
+    expectPlaceAt(coordinateToMapPoint({54, -110}), {400, 300});
     EXPECT_EQ(m_map->hover()->recordId(), text("R-1"));
     key(Qt::Key_Left, Qt::ControlModifier);
     expectSpoken({text("East, gas plant, 131 km east"), text("Middle, gas plant, 131 km west")});

@@ -22,12 +22,12 @@ class MapKeys : public MapWindow {
 TEST_F(MapKeys, AnArrowPansAStep) {
     const MapPoint center = camera().center();
     key(Qt::Key_Right);
-    expectGroundAt(center, {400 - 100, 300});
+    expectPlaceAt(center, {400 - 100, 300});
     key(Qt::Key_Down);
-    expectGroundAt(center, {300, 200});
+    expectPlaceAt(center, {300, 200});
     key(Qt::Key_Left);
     key(Qt::Key_Up);
-    expectGroundAt(center, {400, 300});
+    expectPlaceAt(center, {400, 300});
 }
 
 TEST_F(MapKeys, PlusAndMinusZoomOnAnyKeyboard) {
@@ -114,9 +114,9 @@ TEST_F(MapKeys, WithReducedMotionEveryPressAndRepeatIsAStepAtOnce) {
     m_map->setProperty("reducedMotion", true);
     const MapPoint center = camera().center();
     QTest::keyPress(&m_window, Qt::Key_Right);
-    expectGroundAt(center, {300, 300});
+    expectPlaceAt(center, {300, 300});
     repeat(Qt::Key_Right);
-    expectGroundAt(center, {200, 300});
+    expectPlaceAt(center, {200, 300});
     EXPECT_FALSE(m_map->isMoving());
 }
 

@@ -33,7 +33,7 @@ TEST_F(MapPointer, TheGroundFollowsTheDragAndStaysWhereThePointerRested) {
     const MapPoint ground = camera().screenToWorld({200, 300});
     drag(Qt::LeftButton, {200, 300}, {320, 340});
     EXPECT_FALSE(m_map->isMoving());
-    expectGroundAt(ground, {320, 340});
+    expectPlaceAt(ground, {320, 340});
 }
 
 TEST_F(MapPointer, AQuickDragGlidesOnAndComesToRest) {
@@ -85,7 +85,7 @@ TEST_F(MapPointer, NotchesOfTheWheelAddUpAtThePointer) {
     EXPECT_TRUE(m_map->isMoving());
     rest();
     EXPECT_NEAR(camera().scale() / scale, 2, 1e-6);
-    expectGroundAt(ground, {650, 150});
+    expectPlaceAt(ground, {650, 150});
 }
 
 TEST_F(MapPointer, WithReducedMotionANotchIsThereAtOnce) {
@@ -102,7 +102,7 @@ TEST_F(MapPointer, ATouchpadZoomsWithTheFingers) {
     wheel({650, 150}, 40, {0, 150}, Qt::ScrollUpdate);
     EXPECT_FALSE(m_map->isMoving());
     EXPECT_NEAR(camera().scale() / scale, 2, 1e-9);
-    expectGroundAt(ground, {650, 150});
+    expectPlaceAt(ground, {650, 150});
 }
 
 TEST_F(MapPointer, APinchOnATouchpadZoomsAndTurns) {
@@ -113,7 +113,7 @@ TEST_F(MapPointer, APinchOnATouchpadZoomsAndTurns) {
     gesture(Qt::RotateNativeGesture, 30, {650, 150});
     EXPECT_NEAR(camera().scale() / scale, 1.5, 1e-9);
     EXPECT_NEAR(camera().pose().bearing, 330, 1e-9);
-    expectGroundAt(ground, {650, 150});
+    expectPlaceAt(ground, {650, 150});
     gesture(Qt::EndNativeGesture, 0, {650, 150});
     EXPECT_FALSE(m_map->isMoving());
 }
@@ -148,7 +148,7 @@ TEST_F(MapPointer, ADoubleClickComesNearerAndGoesAwayWithShiftOrTheSecondButton)
     };
     doubleClick(Qt::LeftButton, {});
     EXPECT_NEAR(camera().scale() / scale, 2, 1e-6);
-    expectGroundAt(ground, {650, 150});
+    expectPlaceAt(ground, {650, 150});
     doubleClick(Qt::LeftButton, Qt::ShiftModifier);
     EXPECT_NEAR(camera().scale() / scale, 1, 1e-6);
     doubleClick(Qt::LeftButton, {});
@@ -195,7 +195,7 @@ TEST_F(MapPointer, ATremblingClickIsAClick) {
 TEST_F(MapPointer, TheRegionIsCentredInThePartThatNothingCovers) {
     m_map->setProperty("coveredBelow", 60);
     m_map->setProperty("coveredRight", 200);
-    expectGroundAt(coordinateToMapPoint({54, -112}), {300, 270});
+    expectPlaceAt(coordinateToMapPoint({54, -112}), {300, 270});
 }
 
 } // namespace

@@ -47,7 +47,7 @@ TEST_F(MapTouch, AFingerDragsTheGround) {
     touch({200, 300});
     slide({240, 310});
     slide({300, 330});
-    expectGroundAt(ground, {300, 330});
+    expectPlaceAt(ground, {300, 330});
     lift({300, 330});
     EXPECT_EQ(picks.size(), 0);
 }
@@ -83,7 +83,7 @@ TEST_F(MapTouch, TwoFingersZoomAndTurnAndOneDragsOn) {
         .release(2, QPoint(400, 500), &m_window);
     const MapPoint ground = camera().screenToWorld({400, 100});
     slide({450, 180});
-    expectGroundAt(ground, {450, 180});
+    expectPlaceAt(ground, {450, 180});
     lift({450, 180});
     EXPECT_EQ(picks.size(), 0);
 }
