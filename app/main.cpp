@@ -32,7 +32,7 @@ bool startedByBus() {
     return started;
 }
 
-int run(int argc, char* argv[]) {
+int run(int argc, char** argv) {
     // Qt asks once, when it starts, whether there is a screen reader: one may be started later.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const bool serves = startedByBus();

@@ -1,6 +1,6 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Vasker.Map
-import Vasker.Platform
 
 // Marks the centre of the map, where Enter picks, for those who steer by keys.
 Item {

@@ -1,6 +1,5 @@
 import QtQuick
 import Vasker.Map
-import Vasker.Platform
 
 // What shows and tells of the map to those who steer by keys, and to all where no record is in view.
 // It fills the free part of the map.

@@ -15,7 +15,7 @@ std::size_t VectorTile::memoryBytes() const noexcept {
     for (const VectorLayer& layer : layers) {
         bytes += layer.features.capacity() * sizeof(VectorFeature);
         for (const VectorFeature& feature : layer.features) {
-            bytes += feature.parts.capacity() * sizeof(feature.parts[0]);
+            bytes += feature.parts.capacity() * sizeof(std::vector<TilePoint>);
             for (const auto& part : feature.parts) {
                 bytes += part.capacity() * sizeof(TilePoint);
             }

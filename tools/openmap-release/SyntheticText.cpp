@@ -107,6 +107,7 @@ std::size_t codePoints(std::string_view text) {
 const std::vector<std::string_view>& syntheticFacilityKinds() {
     static const std::vector<std::string_view> kinds = [] {
         std::vector<std::string_view> keys;
+        keys.reserve(std::size(facilityWords));
         for (const FacilityWords& entry : facilityWords) {
             keys.push_back(entry.kind);
         }
