@@ -1,5 +1,7 @@
 #include "platform/accessibility/AccessibleActions.h"
 
+#include "platform/accessibility/AccessibilityBus.h"
+
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -31,9 +33,6 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, AccessibleAction&
 }
 
 namespace {
-
-const QString group = QStringLiteral("org.a11y.atspi.Action");
-const QString actionProperties = QStringLiteral("org.freedesktop.DBus.Properties");
 
 AccessibleAction describe(QAccessibleActionInterface& actions, const QString& name) {
     return {actions.localizedActionName(name),
@@ -73,11 +72,11 @@ QVariant answerOfActions(const QDBusMessage& question, QAccessibleInterface& con
         return {};
     }
     const QString method = question.member();
-    if (question.interface() == actionProperties && method == u"Get" &&
-        question.arguments() == QVariantList{group, QStringLiteral("NActions")}) {
+    if (question.interface() == propertiesInterface && method == u"Get" &&
+        question.arguments() == QVariantList{actionInterface, QStringLiteral("NActions")}) {
         return QVariant::fromValue(QDBusVariant(static_cast<int>(names.size())));
     }
-    if (question.interface() != group) {
+    if (question.interface() != actionInterface) {
         return {};
     }
     const QString name = names.value(question.arguments().value(0).toInt());

@@ -1,5 +1,6 @@
 #include "platform/accessibility/AccessibleIds.h"
 
+#include "platform/accessibility/AccessibilityBus.h"
 #include "platform/accessibility/AccessibleActions.h"
 
 #include <QDBusMessage>
@@ -12,19 +13,15 @@ namespace vasker {
 
 namespace {
 
-const QString idsConnection = QStringLiteral("a11y");
-const QString tree = QStringLiteral("/org/a11y/atspi/accessible");
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
-const QString action = QStringLiteral("org.a11y.atspi.Action");
 const QString editableText = QStringLiteral("org.a11y.atspi.EditableText");
-const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 
 using Attributes = QMap<QString, QString>;
 
 // The last part of a path in the tree is the number of what it stands for.
 QAccessibleInterface* findControl(const QString& path) {
     bool isNumber = false;
-    const QAccessible::Id number = path.mid(tree.size() + 1).toUInt(&isNumber);
+    const QAccessible::Id number = path.mid(controlTree.size() + 1).toUInt(&isNumber);
     auto* control = isNumber ? QAccessible::accessibleInterface(number) : nullptr;
     return control != nullptr && control->isValid() && control->object() != nullptr ? control
                                                                                     : nullptr;
@@ -43,7 +40,7 @@ bool isTextField(const QAccessibleInterface& control) {
 QStringList interfaces(QAccessibleInterface& field) {
     QStringList names{accessible, QStringLiteral("org.a11y.atspi.Component"), editableText};
     if (field.actionInterface() != nullptr) {
-        names << action;
+        names << actionInterface;
     }
     if (field.textInterface() != nullptr) {
         names << QStringLiteral("org.a11y.atspi.Text");
@@ -138,7 +135,7 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
         const Attributes attributes = attributesOf(control);
         return attributes.isEmpty() ? QVariant() : QVariant::fromValue(attributes);
     }
-    if (group == action && method == u"DoAction" && isOutOfReach(control)) {
+    if (group == actionInterface && method == u"DoAction" && isOutOfReach(control)) {
         return false;
     }
     if (group == accessible && method == u"GetState" && isModal(control)) {
@@ -168,11 +165,11 @@ AccessibleIds::AccessibleIds() {
 
 AccessibleIds::~AccessibleIds() {
     QAccessible::removeActivationObserver(this);
-    QDBusConnection bus(idsConnection);
-    if (bus.isConnected() && bus.objectRegisteredAt(tree) == this) {
-        bus.unregisterObject(tree);
+    QDBusConnection bus(bridgeConnection);
+    if (bus.isConnected() && bus.objectRegisteredAt(controlTree) == this) {
+        bus.unregisterObject(controlTree);
         if (m_bridge != nullptr) {
-            bus.registerVirtualObject(tree, m_bridge, QDBusConnection::SubPath);
+            bus.registerVirtualObject(controlTree, m_bridge, QDBusConnection::SubPath);
         }
     }
 }
@@ -185,14 +182,14 @@ void AccessibleIds::accessibilityActiveChanged(bool active) {
 }
 
 void AccessibleIds::takePlace() {
-    QDBusConnection bus(idsConnection);
+    QDBusConnection bus(bridgeConnection);
     auto* found = bus.isConnected()
-                      ? qobject_cast<QDBusVirtualObject*>(bus.objectRegisteredAt(tree))
+                      ? qobject_cast<QDBusVirtualObject*>(bus.objectRegisteredAt(controlTree))
                       : nullptr;
     if (found != nullptr && found != this) {
         m_bridge = found;
-        bus.unregisterObject(tree);
-        bus.registerVirtualObject(tree, this, QDBusConnection::SubPath);
+        bus.unregisterObject(controlTree);
+        bus.registerVirtualObject(controlTree, this, QDBusConnection::SubPath);
     }
 }
 

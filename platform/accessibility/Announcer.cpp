@@ -1,5 +1,7 @@
 #include "platform/accessibility/Announcer.h"
 
+#include "platform/accessibility/AccessibilityBus.h"
+
 #include <QAccessible>
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -18,7 +20,6 @@ namespace vasker {
 namespace {
 
 /// Under which Qt's bridge is connected.
-const QString announcerConnection = QStringLiteral("a11y");
 
 /// ATSPI_LIVE_POLITE.
 constexpr int polite = 1;
@@ -78,7 +79,7 @@ void Announcer::announce(const QString& text) {
 }
 
 void Announcer::send() {
-    const QDBusConnection bus(announcerConnection);
+    const QDBusConnection bus(bridgeConnection);
     if (bus.isConnected() && window() != nullptr) {
         for (const QString& text : std::exchange(m_waiting, {})) {
             if (signal(bus, text)) {
@@ -97,8 +98,7 @@ bool Announcer::signal(const QDBusConnection& bus, const QString& text) const {
     if (source == nullptr) {
         return false;
     }
-    const QString path =
-        QStringLiteral("/org/a11y/atspi/accessible/%1").arg(QAccessible::uniqueId(source));
+    const QString path = controlTree + u'/' + QString::number(QAccessible::uniqueId(source));
     QDBusMessage message = QDBusMessage::createSignal(
         path, QStringLiteral("org.a11y.atspi.Event.Object"), QStringLiteral("Announcement"));
     message << QString() << polite << 0 << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
