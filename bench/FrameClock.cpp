@@ -4,6 +4,8 @@
 #include <QTimer>
 
 #include <ctime>
+#include <stdexcept>
+#include <string>
 
 namespace vasker {
 
@@ -51,6 +53,14 @@ std::int64_t FrameClock::waitForPicture(const std::function<bool()>& holds) {
     loop.exec();
     m_waiting = false;
     return m_swappedAt;
+}
+
+std::int64_t FrameClock::expectPicture(const std::function<bool()>& holds, const char* what) {
+    const std::int64_t shown = waitForPicture(holds);
+    if (shown == 0) {
+        throw std::runtime_error(std::string("no picture: ") + what);
+    }
+    return shown;
 }
 
 } // namespace vasker

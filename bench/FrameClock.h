@@ -24,6 +24,8 @@ class FrameClock : public QObject {
     /// true. Returns when it was swapped.
     /// `holds` is called while the user-interface thread waits. Returns 0 after ten seconds.
     std::int64_t waitForPicture(const std::function<bool()>& holds);
+    /// The same; throws std::runtime_error with `what` instead of returning 0.
+    std::int64_t expectPicture(const std::function<bool()>& holds, const char* what);
 
   Q_SIGNALS:
     void swapped(qint64 when);

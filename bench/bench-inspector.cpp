@@ -30,12 +30,6 @@ using Sheet = SheetStack::Sheet;
 /// The first openings fill caches of tiles, fonts, glyphs and components.
 constexpr std::size_t openingsToWarmUp = 500;
 
-void expectPicture(std::int64_t shown, const char* what) {
-    if (shown == 0) {
-        throw std::runtime_error(std::string("no picture: ") + what);
-    }
-}
-
 void measure(std::size_t openings) {
     stopMotion();
     const Figures figures("real");
@@ -48,7 +42,7 @@ void measure(std::size_t openings) {
     FrameClock clock(window);
     auto& root = *window.property("root").value<OpenMapRoot*>();
     SheetStack& sheets = *root.sheets();
-    expectPicture(clock.waitForPicture([&] { return root.workspace() != nullptr; }), "the release");
+    clock.expectPicture([&] { return root.workspace() != nullptr; }, "the release");
     OpenMapWorkspace& workspace = *root.workspace();
     const auto& assets = workspace.release().assets;
 
@@ -57,13 +51,11 @@ void measure(std::size_t openings) {
     for (std::size_t opening = 0; opening < openings; ++opening) {
         const std::int64_t start = monotonicNow();
         workspace.setSelection(QString::fromStdString(assets[opening % assets.size()].id));
-        const std::int64_t shown =
-            clock.waitForPicture([&] { return sheets.current() == Sheet::Inspector; });
-        expectPicture(shown, "the inspector");
+        const std::int64_t shown = clock.expectPicture(
+            [&] { return sheets.current() == Sheet::Inspector; }, "the inspector");
         times.push_back(static_cast<double>(shown - start) / 1e6);
         sheets.dismiss(Sheet::Inspector);
-        expectPicture(clock.waitForPicture([&] { return sheets.current() == Sheet::NoSheet; }),
-                      "the map");
+        clock.expectPicture([&] { return sheets.current() == Sheet::NoSheet; }, "the map");
         if (opening == openingsToWarmUp) {
             warm = proportionalMemory();
         }

@@ -66,12 +66,6 @@ void write(const QString& folder, const QString& kind) {
               R"({"VaskerOpenMapSHA256":")" + sha256(json) + R"("})");
 }
 
-void expectPicture(std::int64_t shown, const char* what) {
-    if (shown == 0) {
-        throw std::runtime_error(std::string("no picture: ") + what);
-    }
-}
-
 /// The time from a notch of the wheel over the inspector to the next picture.
 double turnWheel(QQuickWindow& window, FrameClock& clock, int delta) {
     const QPointF place(window.width() - 200, window.height() / 2.0);
@@ -85,8 +79,7 @@ double turnWheel(QQuickWindow& window, FrameClock& clock, int delta) {
                       false);
     const std::int64_t start = monotonicNow();
     QCoreApplication::sendEvent(&window, &event);
-    const std::int64_t shown = clock.waitForPicture([] { return true; });
-    expectPicture(shown, "scrolling");
+    const std::int64_t shown = clock.expectPicture([] { return true; }, "scrolling");
     return static_cast<double>(shown - start) / 1e6;
 }
 
@@ -103,7 +96,7 @@ void measure(const QString& kind, int openings) {
     FrameClock clock(window);
     auto& root = *window.property("root").value<OpenMapRoot*>();
     SheetStack& sheets = *root.sheets();
-    expectPicture(clock.waitForPicture([&] { return root.workspace() != nullptr; }), "the release");
+    clock.expectPicture([&] { return root.workspace() != nullptr; }, "the release");
     OpenMapWorkspace& workspace = *root.workspace();
     QTest::qWait(3000); // the map paints what is ahead
     figures.add("memory before", proportionalMemory(), "MB");
@@ -114,17 +107,15 @@ void measure(const QString& kind, int openings) {
     for (int opening = 0; opening < openings; ++opening) {
         const std::int64_t start = monotonicNow();
         workspace.setSelection(QString::fromStdString(workspace.release().assets.front().id));
-        const std::int64_t shown =
-            clock.waitForPicture([&] { return sheets.current() == Sheet::Inspector; });
-        expectPicture(shown, "the inspector");
+        const std::int64_t shown = clock.expectPicture(
+            [&] { return sheets.current() == Sheet::Inspector; }, "the inspector");
         opened.push_back(static_cast<double>(shown - start) / 1e6);
         QTest::qWait(1500); // all rows are there
         for (int notch = 0; notch < notches; ++notch) {
             scrolled.push_back(turnWheel(window, clock, notch % 20 < 15 ? -120 : 120));
         }
         sheets.dismiss(Sheet::Inspector);
-        expectPicture(clock.waitForPicture([&] { return sheets.current() == Sheet::NoSheet; }),
-                      "the map");
+        clock.expectPicture([&] { return sheets.current() == Sheet::NoSheet; }, "the map");
         QTest::mouseMove(&window, {600, 400 + opening % 2});
         QTest::qWait(2000); // what was freed is given back once the user pauses
         weights.push_back(proportionalMemory());
