@@ -2,7 +2,8 @@
 
     tools/headless /usr/bin/python3 tests/program/endurance.py PROGRAM [SECONDS [SEED]]
 
-It fails where the program ends, says anything on standard error, or keeps descriptors or threads.
+It fails where the program ends by itself, says anything on standard error, or keeps descriptors or
+threads. A user who has closed the last window starts the program again.
 Memory and the longest time without an answer are printed; the same seed does the same again.
 """
 
@@ -51,10 +52,10 @@ class Hand:
         ]
 
     def act(self):
-        """One action in one of the program's windows; its name."""
+        """One action in one of the program's windows; its name, or None where all are closed."""
         windows = self.windows()
         if not windows:
-            raise AssertionError("the program has no window")
+            return None
         self._window = self._random.choice(windows)
         self._display("windowraise", "windowfocus")
         weights = [weight for weight, _ in self._actions]
@@ -194,6 +195,7 @@ def rested_costs(hand, pid):
 
 
 def use(executable, seconds, seed):
+    """Uses the program for that long, or until its user has closed it; the seconds it was used."""
     with Program(executable) as program:
         hand = Hand(program, seed)
         wait(hand.windows, "there is no window")
@@ -205,25 +207,36 @@ def use(executable, seconds, seed):
         first = None
         while time.monotonic() < begin + seconds:
             done.append(hand.act())
-            if program.process.poll() is not None:
+            if done[-1] is None:
+                break
+            if program.process.poll():
                 raise AssertionError(f"it ended with {program.process.poll()} after {done[-20:]}")
             if first is None and time.monotonic() > begin + min(WARM_SECONDS, seconds / 2):
                 first = rested_costs(hand, program.process.pid)
-        last = rested_costs(hand, program.process.pid)
+        used = time.monotonic() - begin
+        if done[-1] is not None:
+            last = rested_costs(hand, program.process.pid)
+            for name in first:
+                print(f"{name}: {first[name]:.0f}, at the end {last[name]:.0f}")
+            assert last["descriptors"] <= first["descriptors"] + 2, "descriptors are kept"
+            assert last["threads"] <= first["threads"] + 2, "threads are kept"
+            hand._keys("ctrl+q")
         watch.end()
-        print(f"seed {seed}: {len(done)} actions in {time.monotonic() - begin:.0f} s")
-        for name in first:
-            print(f"{name}: {first[name]:.0f}, at the end {last[name]:.0f}")
+        print(f"seed {seed}: {len(done)} actions in {used:.0f} s, then {done[-5:]}")
         print(f"longest time without an answer: {1000 * watch.longest:.0f} ms")
-        assert last["descriptors"] <= first["descriptors"] + 2, "descriptors are kept"
-        assert last["threads"] <= first["threads"] + 2, "threads are kept"
-        hand._keys("ctrl+q")
         status = program.process.wait(timeout=30)
         assert status == 0, f"it ended with {status}"
+        return used
+
+
+def use_again_and_again(executable, seconds, seed):
+    while seconds > 0:
+        seconds -= use(executable, seconds, seed)
+        seed += 1
 
 
 if __name__ == "__main__":
-    use(
+    use_again_and_again(
         sys.argv[1],
         float(sys.argv[2]) if len(sys.argv) > 2 else 60,
         int(sys.argv[3]) if len(sys.argv) > 3 else 1,
