@@ -20,7 +20,10 @@ FrameClock::FrameClock(QQuickWindow& window) : m_window(window) {
         &window,
         &QQuickWindow::afterSynchronizing,
         this,
-        [this] { m_taken = m_taken || (m_waiting && m_holds()); },
+        [this] {
+            m_begun = m_begun || m_waiting;
+            m_taken = m_taken || (m_waiting && m_holds());
+        },
         Qt::DirectConnection);
     connect(
         &window,
@@ -28,6 +31,9 @@ FrameClock::FrameClock(QQuickWindow& window) : m_window(window) {
         this,
         [this] {
             const std::int64_t now = monotonicNow();
+            if (m_begun && m_firstSwappedAt == 0) {
+                m_firstSwappedAt = now;
+            }
             if (m_waiting && m_taken) {
                 m_waiting = false;
                 m_swappedAt = now;
@@ -39,7 +45,9 @@ FrameClock::FrameClock(QQuickWindow& window) : m_window(window) {
 
 std::int64_t FrameClock::waitForPicture(const std::function<bool()>& holds) {
     m_holds = holds;
+    m_begun = false;
     m_taken = false;
+    m_firstSwappedAt = 0;
     m_swappedAt = 0;
     m_waiting = true;
     QEventLoop loop;

@@ -27,6 +27,9 @@ class FrameClock : public QObject {
     /// The same; throws std::runtime_error with `what` instead of returning 0.
     std::int64_t expectPicture(const std::function<bool()>& holds, const char* what);
 
+    /// When the first picture of the last wait was swapped, whether it held or not.
+    [[nodiscard]] std::int64_t firstPicture() const noexcept { return m_firstSwappedAt; }
+
   Q_SIGNALS:
     void swapped(qint64 when);
 
@@ -34,7 +37,9 @@ class FrameClock : public QObject {
     QQuickWindow& m_window;
     std::function<bool()> m_holds;
     std::atomic<bool> m_waiting = false;
+    std::atomic<bool> m_begun = false; ///< a picture was taken over since the wait began
     std::atomic<bool> m_taken = false;
+    std::atomic<std::int64_t> m_firstSwappedAt = 0;
     std::atomic<std::int64_t> m_swappedAt = 0;
 };
 
