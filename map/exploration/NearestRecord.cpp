@@ -36,8 +36,7 @@ void NearestRecord::go() {
 void NearestRecord::refresh() {
     const Camera camera = m_map->resolvedCamera();
     const RecordSet& records = m_map->records();
-    const auto near =
-        recordsInView(records, camera).empty() ? nearestRecord(records, camera) : std::nullopt;
+    const auto near = isAnyInView(records, camera) ? std::nullopt : nearestRecord(records, camera);
     m_record = near ? std::optional(near->asset) : std::nullopt;
     m_text = near ? PlaceText::nearest(records.loaded->index.release().assets[near->asset], *near)
                   : QString();

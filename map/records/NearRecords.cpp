@@ -139,6 +139,14 @@ nearest(const RecordSet& records, const Camera& camera, const Accept& accept) {
 
 } // namespace
 
+bool isAnyInView(const RecordSet& records, const Camera& camera) {
+    return records.loaded &&
+           std::ranges::any_of(*records.filtered,
+                               [&camera, search = Search(records, camera)](AssetIndex asset) {
+                                   return isInView(search.placeOf(asset), camera);
+                               });
+}
+
 std::vector<NearRecord> recordsInView(const RecordSet& records, const Camera& camera) {
     std::vector<NearRecord> inView;
     if (!records.loaded) {

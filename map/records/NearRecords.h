@@ -18,6 +18,9 @@ struct NearRecord {
     double degrees; ///< in that direction: clockwise from north, [0, 360)
 };
 
+/// Whether a shown record is in the free part of the view.
+[[nodiscard]] bool isAnyInView(const RecordSet& records, const Camera& camera);
+
 /// A direction on the screen.
 enum class ScreenDirection { up, right, down, left };
 

@@ -39,9 +39,11 @@ TEST(NearRecords, WhatIsCoveredIsNotInView) {
     const RecordSet records = recordSetOf({facilityAt(54, -106, "refinery")});
     const CameraPose pose = cameraAt(54, -112).pose();
     EXPECT_EQ(recordsInView(records, Camera(pose, view)).size(), 1U);
+    EXPECT_TRUE(isAnyInView(records, Camera(pose, view)));
     Viewport covered = view;
     covered.coveredRight = 200;
     EXPECT_TRUE(recordsInView(records, Camera(pose, covered)).empty());
+    EXPECT_FALSE(isAnyInView(records, Camera(pose, covered)));
     const RecordSet western = recordSetOf({facilityAt(54, -118, "refinery")});
     EXPECT_EQ(recordsInView(western, Camera(pose, view)).size(), 1U);
     covered = view;
@@ -68,6 +70,7 @@ TEST(NearRecords, OnlyShownRecordsCount) {
     EXPECT_FALSE(nearestRecord(records, cameraAt(54, -112)));
     EXPECT_FALSE(nearestRecord({}, cameraAt(54, -112)));
     EXPECT_TRUE(recordsInView({}, cameraAt(54, -112)).empty());
+    EXPECT_FALSE(isAnyInView({}, cameraAt(54, -112)));
 }
 
 TEST(NearRecords, ADirectionHasARightAngleOfTheScreen) {
