@@ -51,10 +51,22 @@ TileJob TileGeneration::jobFor(TileKey key, std::shared_ptr<TileProvider> provid
             .bare = known != bare.end() ? known->second : RasterTile()};
 }
 
-void TileGeneration::takeBasemap(const TileGeneration& other) {
+void TileGeneration::takeOver(const TileGeneration& other) {
+    const auto isAlike = [&](const RasterTile& tile) {
+        return tile.isHandedOver && overlay && other.overlay &&
+               overlay->paintsLike(*other.overlay,
+                                   tile.pixels.bounds(tile.devicePixelsPerMapPoint),
+                                   tile.devicePixelsPerMapPoint);
+    };
     for (const auto* painted : {&other.tiles, &other.bare}) {
         for (const auto& [key, tile] : *painted) {
-            if (!tile.basemap.isNull() && !other.outdated.contains(key)) {
+            if (tiles.contains(key) || other.outdated.contains(key)) {
+                continue;
+            }
+            if (isAlike(tile)) {
+                tiles.emplace(key, tile);
+                bare.erase(key);
+            } else if (!tile.basemap.isNull()) {
                 RasterTile& taken = bare.insert_or_assign(key, tile).first->second;
                 taken.image = {};
                 taken.isHandedOver = false;

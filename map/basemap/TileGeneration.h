@@ -44,8 +44,9 @@ struct TileGeneration {
     /// The work of one of its tiles.
     [[nodiscard]] TileJob jobFor(TileKey key, std::shared_ptr<TileProvider> provider) const;
 
-    /// Takes over what `other`, of the same scale and theme, has painted of the basemap.
-    void takeBasemap(const TileGeneration& other);
+    /// Takes over what `other`, of the same scale and theme, has painted: tiles in which both
+    /// overlays are alike, and the basemap of others.
+    void takeOver(const TileGeneration& other);
     /// More is known of `tile` now; whether that concerns a tile of this generation.
     bool markOutdated(const ServiceTile& tile);
     /// Of tiles that are shown, only those of `cover` keep what a new overlay would be painted on.

@@ -94,7 +94,7 @@ void TilePyramid::begin() {
     }
     for (const TileGeneration* const known : {m_current.get(), m_pending.get()}) {
         if (known != nullptr && known->looksLike(m_view) && known->scale == scale) {
-            pending->takeBasemap(*known);
+            pending->takeOver(*known);
         }
     }
     m_pending = std::move(pending);

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <optional>
 #include <span>
+#include <tuple>
 
 namespace vasker {
 
@@ -29,6 +30,23 @@ QImage dotSprite(double radius, const QColor& color, const QColor& casing, doubl
     return sprite;
 }
 
+/// Visits the dots that reach into `bounds` in drawing order, each in every copy of the world.
+template <typename Visit>
+void forDotsIn(const MarkerLayout& layout,
+               const MapRect& bounds,
+               double margin,
+               const Visit& visit) {
+    for (const double offset : worldCopyOffsets(bounds.inset(-margin, -margin))) {
+        MapRect around = bounds.inset(-margin, -margin);
+        around.x -= offset;
+        for (auto dot = layout.dots.rbegin(); dot != layout.dots.rend(); ++dot) {
+            if (around.contains(dot->point)) {
+                visit(*dot, offset);
+            }
+        }
+    }
+}
+
 } // namespace
 
 RecordOverlay::RecordOverlay(std::shared_ptr<const LoadedRelease> loaded,
@@ -45,6 +63,7 @@ RecordOverlay::RecordOverlay(std::shared_ptr<const LoadedRelease> loaded,
             m_lineColors.push_back(*color);
         }
     }
+    std::ranges::sort(m_lineColors); // what lies on top must not depend on what else is shown
     for (const Marker& dot : m_layout->dots) {
         const Rgb color = m_colors.records[dot.asset];
         QImage& sprite = m_sprites[{color, dot.isQuiet}];
@@ -95,24 +114,56 @@ void RecordOverlay::paintRoutes(QImage& image, const MapRect& bounds, double sca
     }
 }
 
+double RecordOverlay::dotMargin(double scale) const {
+    return (dotRadius + dotCasing + 1) * m_devicePixels / scale;
+}
+
 void RecordOverlay::paintDots(QImage& image, const MapRect& bounds, double scale) const {
     QPainter painter(&image);
-    const double margin = (dotRadius + dotCasing + 1) * m_devicePixels / scale;
-    for (const double offset : worldCopyOffsets(bounds.inset(-margin, -margin))) {
-        MapRect around = bounds.inset(-margin, -margin);
-        around.x -= offset;
-        for (auto dot = m_layout->dots.rbegin(); dot != m_layout->dots.rend(); ++dot) {
-            if (!around.contains(dot->point)) {
-                continue;
-            }
-            const QImage& sprite = m_sprites.at({m_colors.records[dot->asset], dot->isQuiet});
-            const double x = (dot->point.x + offset - bounds.x) * scale;
-            const double y = (dot->point.y - bounds.y) * scale;
-            painter.drawImage(QPoint(static_cast<int>(std::lround(x)) - sprite.width() / 2,
-                                     static_cast<int>(std::lround(y)) - sprite.height() / 2),
-                              sprite);
-        }
+    forDotsIn(*m_layout, bounds, dotMargin(scale), [&](const Marker& dot, double offset) {
+        const QImage& sprite = m_sprites.at({m_colors.records[dot.asset], dot.isQuiet});
+        const double x = (dot.point.x + offset - bounds.x) * scale;
+        const double y = (dot.point.y - bounds.y) * scale;
+        painter.drawImage(QPoint(static_cast<int>(std::lround(x)) - sprite.width() / 2,
+                                 static_cast<int>(std::lround(y)) - sprite.height() / 2),
+                          sprite);
+    });
+}
+
+bool RecordOverlay::paintsLike(const TileOverlay& other,
+                               const MapRect& bounds,
+                               double devicePixelsPerMapPoint) const {
+    const auto* const records = dynamic_cast<const RecordOverlay*>(&other);
+    if (records == nullptr || records->m_loaded != m_loaded ||
+        records->m_devicePixels != m_devicePixels ||
+        records->m_colors.dotCasing != m_colors.dotCasing ||
+        records->m_colors.routeCasing != m_colors.routeCasing) {
+        return false;
     }
+    const auto dotsOf = [&](const RecordOverlay& overlay) {
+        std::vector<std::tuple<AssetIndex, bool, Rgb>> dots;
+        forDotsIn(*overlay.m_layout,
+                  bounds,
+                  dotMargin(devicePixelsPerMapPoint),
+                  [&](const Marker& dot, double /*offset*/) {
+                      dots.emplace_back(
+                          dot.asset, dot.isQuiet, overlay.m_colors.records[dot.asset]);
+                  });
+        return dots;
+    };
+    const double reach = lineReach / devicePixelsPerMapPoint;
+    return dotsOf(*this) == dotsOf(*records) && hasRoutesOf(*records, bounds.inset(-reach, -reach));
+}
+
+bool RecordOverlay::hasRoutesOf(const RecordOverlay& other, const MapRect& bounds) const {
+    const std::vector<double> offsets = worldCopyOffsets(bounds);
+    return std::ranges::all_of(m_loaded->geometry.runs(), [&](const RouteRun& run) {
+        return m_routes[run.asset] == other.m_routes[run.asset] ||
+               std::ranges::none_of(offsets, [&](double offset) {
+                   return bounds.intersects(
+                       {run.bounds.x + offset, run.bounds.y, run.bounds.width, run.bounds.height});
+               });
+    });
 }
 
 } // namespace vasker

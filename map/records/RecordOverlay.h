@@ -36,6 +36,10 @@ class RecordOverlay final : public TileOverlay {
 
     void paint(QImage& image, const MapRect& bounds, double devicePixelsPerMapPoint) const override;
 
+    [[nodiscard]] bool paintsLike(const TileOverlay& other,
+                                  const MapRect& bounds,
+                                  double devicePixelsPerMapPoint) const override;
+
     [[nodiscard]] const std::shared_ptr<const LoadedRelease>& loaded() const { return m_loaded; }
     /// Which records are dots of the overlay; the others are pins.
     [[nodiscard]] const MarkerLayout& layout() const noexcept { return *m_layout; }
@@ -43,6 +47,9 @@ class RecordOverlay final : public TileOverlay {
   private:
     void paintRoutes(QImage& image, const MapRect& bounds, double scale) const;
     void paintDots(QImage& image, const MapRect& bounds, double scale) const;
+    /// Whether the routes near `bounds` have the same colors.
+    [[nodiscard]] bool hasRoutesOf(const RecordOverlay& other, const MapRect& bounds) const;
+    [[nodiscard]] double dotMargin(double scale) const;
 
     std::shared_ptr<const LoadedRelease> m_loaded;
     RouteColors m_routes;

@@ -19,6 +19,13 @@ class TileOverlay {
     /// covers them. Any thread, several at once.
     virtual void
     paint(QImage& image, const MapRect& bounds, double devicePixelsPerMapPoint) const = 0;
+
+    /// Whether `other` paints the same there. False where that is not known.
+    [[nodiscard]] virtual bool paintsLike(const TileOverlay& /*other*/,
+                                          const MapRect& /*bounds*/,
+                                          double /*devicePixelsPerMapPoint*/) const {
+        return false;
+    }
 };
 
 } // namespace vasker

@@ -28,7 +28,7 @@ TEST(TileGeneration, OnlyTilesNearTheViewKeepWhatANewOverlayIsPaintedOn) {
     EXPECT_FALSE(generation.tiles[farAndNew].basemap.isNull());
 
     TileGeneration next(2, 1, 3, BasemapView{});
-    next.takeBasemap(generation);
+    next.takeOver(generation);
     EXPECT_TRUE(next.bare.contains(near));
     EXPECT_FALSE(next.bare.contains(far));
 }

@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace vasker {
@@ -333,6 +335,35 @@ TEST_F(TilePyramidTest, ANewOverlayReplacesTheOldOneWithoutPaintingTheBasemapAne
     for (const SeenTile& tile : seen()) {
         EXPECT_EQ(tile.image->pixelColor(5, 0), QColor(Qt::blue));
     }
+}
+
+TEST_F(TilePyramidTest, TilesThatANewOverlayPaintsAlikeAreKept) {
+    struct Western : TileOverlay {
+        void paint(QImage& /*image*/, const MapRect& /*bounds*/, double) const override {}
+        [[nodiscard]] bool
+        paintsLike(const TileOverlay& /*other*/, const MapRect& bounds, double) const override {
+            return bounds.x >= homeTile.bounds().x;
+        }
+    };
+    view.overlay = [](double) { return std::make_shared<Western>(); };
+    openWithoutServices();
+    ASSERT_TRUE(lookUntilComplete());
+    const auto numbers = [this] {
+        std::set<TileNumber> all;
+        for (const TileQuad& quad : frame.tiles.quads) {
+            all.insert(quad.tile);
+        }
+        return all;
+    };
+    const std::set<TileNumber> before = numbers();
+    ++view.overlayRevision;
+    ASSERT_TRUE(lookUntilComplete());
+    const std::set<TileNumber> after = numbers();
+    std::vector<TileNumber> kept;
+    std::ranges::set_intersection(before, after, std::back_inserter(kept));
+    EXPECT_GE(kept.size(), 1U);
+    EXPECT_LT(kept.size(), before.size());
+    EXPECT_EQ(after.size(), before.size());
 }
 
 TEST_F(TilePyramidTest, APyramidMayGoWhileTilesArePainted) {

@@ -45,6 +45,18 @@ OpenMapRelease::Asset facilityOn(const Frame& frame, double x, double y) {
     return facilityAt(place.latitude, place.longitude, "refinery");
 }
 
+/// An overlay of all records as dots, and routes in their colors.
+RecordOverlay overlayOf(const RecordSet& records, std::vector<Rgb> colors, double devicePixels) {
+    RouteColors routes(colors.begin(), colors.end());
+    MarkerLayout layout;
+    layout.dots = markersByPriority(records);
+    return {records.loaded,
+            std::move(routes),
+            std::make_shared<const MarkerLayout>(std::move(layout)),
+            {std::move(colors), casing, casing},
+            devicePixels};
+}
+
 class Painted {
   public:
     Painted(const RecordSet& records,
@@ -52,14 +64,7 @@ class Painted {
             const MapRect& bounds,
             double devicePixels = 1)
         : m_image(pictureSide, pictureSide, QImage::Format_RGB32) {
-        RouteColors routes(colors.begin(), colors.end());
-        MarkerLayout layout;
-        layout.dots = markersByPriority(records);
-        const RecordOverlay overlay(records.loaded,
-                                    std::move(routes),
-                                    std::make_shared<const MarkerLayout>(std::move(layout)),
-                                    {std::move(colors), casing, casing},
-                                    devicePixels);
+        const RecordOverlay overlay = overlayOf(records, std::move(colors), devicePixels);
         m_image.fill(background);
         overlay.paint(m_image, bounds, scale);
     }
@@ -209,6 +214,40 @@ TEST(RecordOverlay, BothSidesOfABorderBetweenTilesShowOneDotAndOneLine) {
             }
         }
     }
+}
+
+TEST(RecordOverlay, WhatLiesElsewhereMakesNoDifference) {
+    const Frame frame = home();
+    const Frame beside = east(frame);
+    RecordSet records = recordSetOf({facilityOn(frame, 100, 60), facilityOn(beside, 100, 60)});
+    const RecordOverlay both = overlayOf(records, {red, red}, 1);
+    const RecordOverlay recolored = overlayOf(records, {red, blue}, 1);
+    EXPECT_TRUE(recolored.paintsLike(both, frame.bounds(), scale));
+    EXPECT_FALSE(recolored.paintsLike(both, beside.bounds(), scale));
+    records.filtered = std::make_shared<const std::vector<AssetIndex>>(1, AssetIndex{0});
+    const RecordOverlay one = overlayOf(records, {red, red}, 1);
+    EXPECT_TRUE(one.paintsLike(both, frame.bounds(), scale));
+    EXPECT_FALSE(one.paintsLike(both, beside.bounds(), scale));
+    EXPECT_FALSE(overlayOf(records, {red, red}, 2).paintsLike(one, frame.bounds(), scale));
+}
+
+TEST(RecordOverlay, ADotAtTheEdgeOfATileBelongsToBothTiles) {
+    const Frame frame = home();
+    RecordSet records = recordSetOf({facilityOn(frame, pictureSide + 3, 60)});
+    const RecordOverlay shown = overlayOf(records, {red}, 1);
+    records.filtered = std::make_shared<const std::vector<AssetIndex>>();
+    EXPECT_FALSE(overlayOf(records, {red}, 1).paintsLike(shown, frame.bounds(), scale));
+    EXPECT_FALSE(overlayOf(records, {red}, 1).paintsLike(shown, east(frame).bounds(), scale));
+}
+
+TEST(RecordOverlay, ARouteMakesADifferenceWhereItRuns) {
+    const Frame frame = home();
+    const RecordSet records =
+        recordSetOf({pipelineAlong({{frame.positionAt(100, 20), frame.positionAt(100, 150)}})});
+    const RecordOverlay one = overlayOf(records, {red}, 1);
+    const RecordOverlay other = overlayOf(records, {blue}, 1);
+    EXPECT_FALSE(other.paintsLike(one, frame.bounds(), scale));
+    EXPECT_TRUE(other.paintsLike(one, east(frame).bounds(), scale));
 }
 
 } // namespace
