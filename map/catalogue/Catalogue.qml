@@ -29,8 +29,7 @@ Item {
     RecordListModel {
         id: recordModel
 
-        records: root.filter.records
-        query: root.filter.query
+        filter: root.filter
         selection: root.selection
     }
     KindListModel {

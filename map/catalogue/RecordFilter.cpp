@@ -20,13 +20,14 @@ void RecordFilter::setQuery(const QString& query) {
     m_query = query;
     const bool otherRecords = updateRecords();
     const bool otherCounts = updateCounts();
+    if (otherRecords) {
+        Q_EMIT recordsChanged();
+    }
     Q_EMIT queryChanged();
     if (otherCounts) {
         Q_EMIT countsChanged();
     }
-    if (otherRecords) {
-        Q_EMIT recordsChanged();
-    }
+    Q_EMIT changed();
 }
 
 void RecordFilter::setKind(const QString& kind) {
@@ -35,10 +36,11 @@ void RecordFilter::setKind(const QString& kind) {
     }
     m_kind = kind;
     const bool otherRecords = updateRecords();
-    Q_EMIT kindChanged();
     if (otherRecords) {
         Q_EMIT recordsChanged();
     }
+    Q_EMIT kindChanged();
+    Q_EMIT changed();
 }
 
 bool RecordFilter::updateRecords() {

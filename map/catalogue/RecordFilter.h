@@ -44,10 +44,13 @@ class RecordFilter : public QObject {
     [[nodiscard]] const QList<int>& counts() const noexcept { return m_counts; }
 
   Q_SIGNALS:
+    /// Comes first: what is slow begins with the records.
+    void recordsChanged();
     void queryChanged();
     void kindChanged();
-    void recordsChanged();
     void countsChanged();
+    /// Comes last, once for all that changed together.
+    void changed();
 
   private:
     /// Returns whether there are others than before.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace vasker {
 
@@ -74,10 +75,40 @@ QHash<int, QByteArray> RecordListModel::roleNames() const {
             {AccessibleRole, "accessibleText"}};
 }
 
-void RecordListModel::setRecords(const RecordSet& records) {
-    if (m_records == records) {
+void RecordListModel::setFilter(RecordFilter* filter) {
+    if (m_filter == filter) {
         return;
     }
+    if (m_filter) {
+        m_filter->disconnect(this);
+    }
+    m_filter = filter;
+    if (filter != nullptr) {
+        connect(filter, &RecordFilter::changed, this, [this, filter] {
+            show(filter->records(), filter->query());
+        });
+        show(filter->records(), filter->query());
+    }
+    Q_EMIT filterChanged();
+}
+
+void RecordListModel::show(const RecordSet& records, const QString& query) {
+    const bool isOtherQuery = std::exchange(m_query, query) != query;
+    if (m_records != records) {
+        replace(records);
+    } else if (isOtherQuery) {
+        foldQuery();
+        if (!isEmpty()) {
+            Q_EMIT dataChanged(
+                index(0), index(rowCount() - 1), {MarkupRole, FoundRole, FoundTextRole});
+        }
+    }
+    if (isOtherQuery) {
+        Q_EMIT queryChanged();
+    }
+}
+
+void RecordListModel::replace(const RecordSet& records) {
     Q_EMIT aboutToBeReplaced();
     if (isEmpty() || m_records.loaded != records.loaded || records.filtered->empty()) {
         beginResetModel();
@@ -94,18 +125,6 @@ void RecordListModel::setRecords(const RecordSet& records) {
     Q_EMIT replaced();
     Q_EMIT recordsChanged();
     Q_EMIT selectedRowChanged();
-}
-
-void RecordListModel::setQuery(const QString& query) {
-    if (m_query == query) {
-        return;
-    }
-    m_query = query;
-    foldQuery();
-    Q_EMIT queryChanged();
-    if (!isEmpty()) {
-        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {MarkupRole, FoundRole, FoundTextRole});
-    }
 }
 
 void RecordListModel::setSelection(const QString& selection) {

@@ -1,9 +1,11 @@
 #pragma once
 // The rows of the catalogue: one per record that passes the filter, in its order.
 
+#include "map/catalogue/RecordFilter.h"
 #include "map/records/RecordSet.h"
 
 #include <QAbstractListModel>
+#include <QPointer>
 #include <QString>
 #include <QtQmlIntegration>
 
@@ -15,6 +17,8 @@ namespace vasker {
 class RecordListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
+    /// Where records and query come from; null: they are set one by one.
+    Q_PROPERTY(vasker::RecordFilter* filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(vasker::RecordSet records READ records WRITE setRecords NOTIFY recordsChanged)
     /// What was searched for; decides which part of a name is set in bold.
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
@@ -46,10 +50,14 @@ class RecordListModel : public QAbstractListModel {
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
+    [[nodiscard]] RecordFilter* filter() const noexcept { return m_filter; }
+    void setFilter(RecordFilter* filter);
     [[nodiscard]] const RecordSet& records() const noexcept { return m_records; }
-    void setRecords(const RecordSet& records);
+    void setRecords(const RecordSet& records) { show(records, m_query); }
     [[nodiscard]] const QString& query() const noexcept { return m_query; }
-    void setQuery(const QString& query);
+    void setQuery(const QString& query) { show(m_records, query); }
+    /// Sets both, and announces each row once.
+    void show(const RecordSet& records, const QString& query);
     [[nodiscard]] const QString& selection() const noexcept { return m_selection; }
     void setSelection(const QString& selection);
     [[nodiscard]] int selectedRow() const noexcept { return m_selectedRow; }
@@ -67,6 +75,7 @@ class RecordListModel : public QAbstractListModel {
     [[nodiscard]] Q_INVOKABLE int rowOf(const QString& id) const;
 
   Q_SIGNALS:
+    void filterChanged();
     void recordsChanged();
     void queryChanged();
     void selectionChanged();
@@ -82,9 +91,11 @@ class RecordListModel : public QAbstractListModel {
     [[nodiscard]] QString markup(const OpenMapRelease::Asset& asset) const;
     /// Adds or removes rows at the end until there are as many as `wanted`.
     void resize(const std::vector<AssetIndex>& wanted);
+    void replace(const RecordSet& records);
     void foldQuery();
     void updateSelectedRow();
 
+    QPointer<RecordFilter> m_filter;
     RecordSet m_records;
     QString m_query;
     std::string m_foldedQuery;

@@ -81,14 +81,17 @@ TEST_F(RecordFilterTest, AChangeIsAnnouncedWhenAllThatFollowsFromItIsInPlace) {
     QObject::connect(&m_filter, &RecordFilter::kindChanged, note("kind"));
     QObject::connect(&m_filter, &RecordFilter::recordsChanged, note("records"));
     QObject::connect(&m_filter, &RecordFilter::countsChanged, note("counts"));
+    QObject::connect(&m_filter, &RecordFilter::changed, note("all"));
     m_filter.setQuery(QStringLiteral("twin"));
     m_filter.setKind(QStringLiteral("refinery"));
     EXPECT_EQ(story,
-              (std::vector<std::string>{"query: twin-b twin-a, 1",
+              (std::vector<std::string>{"records: twin-b twin-a, 1",
+                                        "query: twin-b twin-a, 1",
                                         "counts: twin-b twin-a, 1",
-                                        "records: twin-b twin-a, 1",
+                                        "all: twin-b twin-a, 1",
+                                        "records: twin-a, 1",
                                         "kind: twin-a, 1",
-                                        "records: twin-a, 1"}));
+                                        "all: twin-a, 1"}));
 }
 
 TEST_F(RecordFilterTest, WhatStaysTheSameIsNotAnnounced) {

@@ -136,6 +136,20 @@ TEST_F(RecordList, AQueryTellsTheViewsToShowMarkupAnew) {
               (QList<int>{Role::MarkupRole, Role::FoundRole, Role::FoundTextRole}));
 }
 
+TEST_F(RecordList, AFilterAnnouncesEachRowOnce) {
+    RecordFilter filter(m_loaded);
+    m_model.setFilter(&filter);
+    EXPECT_EQ(m_model.rowCount(), 3);
+    const QSignalSpy spy(&m_model, &RecordListModel::dataChanged);
+    filter.setQuery(QStringLiteral("birch"));
+    EXPECT_EQ(spy.size(), 1);
+    ASSERT_EQ(m_model.rowCount(), 1);
+    EXPECT_EQ(text(0, Role::MarkupRole), "<b>Birch</b>");
+    filter.setQuery(QString());
+    EXPECT_EQ(m_model.rowCount(), 3);
+    EXPECT_EQ(text(0, Role::MarkupRole), "");
+}
+
 TEST_F(RecordList, TheSelectedRowFollowsTheRecord) {
     m_model.setSelection(QStringLiteral("A-2"));
     EXPECT_EQ(m_model.selectedRow(), 2);
