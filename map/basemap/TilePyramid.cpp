@@ -46,12 +46,16 @@ TilePyramid::~TilePyramid() {
     m_library.request(this, {});
 }
 
-BasemapFrame TilePyramid::compose(const BasemapView& view, std::chrono::nanoseconds now) {
+void TilePyramid::prepare(const BasemapView& view) {
     m_view = view;
     m_covers.clear();
     begin();
     promote();
     request();
+}
+
+BasemapFrame TilePyramid::compose(const BasemapView& view, std::chrono::nanoseconds now) {
+    prepare(view);
     if (m_pending && m_pending->number != m_awaited && lacksOnlyOverlay(*m_pending)) {
         m_awaited = m_pending->number;
         m_library.workers().wait(this, overlayPatience);

@@ -23,12 +23,7 @@ void MapComposer::handOverAgain() {
     }
 }
 
-BasemapFrame MapComposer::composeBasemap(const MapState& state,
-                                         const Camera& camera,
-                                         std::chrono::nanoseconds now) {
-    if (!m_pyramid) {
-        return {};
-    }
+BasemapView MapComposer::basemapView(const MapState& state, const Camera& camera) {
     BasemapView view{.camera = camera,
                      .devicePixelsPerPixel = state.devicePixels,
                      .theme = state.theme,
@@ -43,7 +38,16 @@ BasemapFrame MapComposer::composeBasemap(const MapState& state,
             return m_records.overlay(scale, devicePixels);
         };
     }
-    return m_pyramid->compose(view, now);
+    return view;
+}
+
+void MapComposer::setRecords(const RecordSet& records,
+                             const MapState& state,
+                             const Camera& camera) {
+    m_records.setRecords(records);
+    if (m_pyramid && m_hasComposed) {
+        m_pyramid->prepare(basemapView(state, camera));
+    }
 }
 
 std::vector<RecordLabel> MapComposer::recordLabels(const RecordFrame& records,
@@ -69,7 +73,9 @@ std::vector<Shape> MapComposer::shapes() {
 
 MapFrame
 MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::nanoseconds now) {
-    BasemapFrame basemap = composeBasemap(state, camera, now);
+    BasemapFrame basemap =
+        m_pyramid ? m_pyramid->compose(basemapView(state, camera), now) : BasemapFrame{};
+    m_hasComposed = true;
     LabelInput input{.camera = camera,
                      .theme = state.theme,
                      .devicePixels = state.devicePixels,

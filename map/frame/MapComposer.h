@@ -26,6 +26,9 @@ class MapComposer : public QObject {
     /// The library that tiles come from; it outlives the composer. Null: there are no tiles.
     void setTiles(TileLibrary* library);
     [[nodiscard]] TileLibrary* tiles() const noexcept { return m_tiles; }
+    /// Shows other records. Workers begin to paint them, as `camera` will see them, before the next
+    /// frame is composed.
+    void setRecords(const RecordSet& records, const MapState& state, const Camera& camera);
     [[nodiscard]] MapRecords& records() noexcept { return m_records; }
     [[nodiscard]] const MapRecords& records() const noexcept { return m_records; }
 
@@ -44,8 +47,7 @@ class MapComposer : public QObject {
     void changed();
 
   private:
-    [[nodiscard]] BasemapFrame
-    composeBasemap(const MapState& state, const Camera& camera, std::chrono::nanoseconds now);
+    [[nodiscard]] BasemapView basemapView(const MapState& state, const Camera& camera);
     [[nodiscard]] std::vector<RecordLabel> recordLabels(const RecordFrame& records,
                                                         const MapState& state) const;
 
@@ -54,6 +56,7 @@ class MapComposer : public QObject {
     std::unique_ptr<TilePyramid> m_pyramid; ///< null without m_tiles
     MapRecords m_records;
     MapLabels m_labels;
+    bool m_hasComposed = false;
 };
 
 } // namespace vasker

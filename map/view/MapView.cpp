@@ -36,7 +36,7 @@ MapView::MapView(QQuickItem* parent)
 
 void MapView::setRecords(const RecordSet& records) {
     if (records != this->records()) {
-        m_composer.records().setRecords(records);
+        m_composer.setRecords(records, m_state, resolvedCamera());
         redraw();
         Q_EMIT recordsChanged();
     }
