@@ -2,12 +2,10 @@
 // A frame of the map that any painter can draw: on an image at any density, on a page. Immutable;
 // any thread.
 
+#include "map/frame/LayerPainting.h"
 #include "map/frame/MapFrame.h"
 #include "map/layers/Shape.h"
 
-#include <QImage>
-
-#include <map>
 #include <vector>
 
 class QPainter;
@@ -17,7 +15,7 @@ namespace vasker {
 struct MapDrawing {
     MapFrame frame;            ///< with routes and dots live; its sprites are not drawn
     std::vector<Shape> shapes; ///< its labels and pins, in drawing order
-    std::map<TileNumber, QImage> tiles;
+    TileImages tiles;
 
     /// Draws the background and the raster tiles. What is tilted needs an engine that knows
     /// perspective, as that of images does.

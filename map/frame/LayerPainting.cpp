@@ -1,0 +1,125 @@
+#include "map/frame/LayerPainting.h"
+
+#include <QPainter>
+#include <QPen>
+#include <QPolygonF>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace vasker {
+
+namespace {
+
+/// The lines of a strip: a line goes through the left corners between two tips.
+struct ColoredLine {
+    QPolygonF places;
+    QColor color;
+};
+
+std::vector<ColoredLine> linesOf(const LineLayer& layer) {
+    std::vector<ColoredLine> lines;
+    if (layer.strip == nullptr) {
+        return lines;
+    }
+    bool isWithin = false;
+    for (const LineVertex& vertex : *layer.strip) {
+        if (vertex.corner != LineVertex::Corner::left) {
+            isWithin = isWithin && vertex.corner == LineVertex::Corner::right;
+            continue;
+        }
+        if (!isWithin) {
+            lines.push_back({{}, QColor(vertex.red, vertex.green, vertex.blue)});
+            isWithin = true;
+        }
+        lines.back().places << QPointF(double{vertex.x} + layer.offset.x,
+                                       double{vertex.y} + layer.offset.y);
+    }
+    return lines;
+}
+
+} // namespace
+
+void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& images) {
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (const TileQuad& quad : layer.quads) {
+        const auto image = images.find(quad.tile);
+        const bool isSeen =
+            std::ranges::all_of(quad.corners, [](auto& each) { return each.w > 0; });
+        if (image == images.end() || !isSeen) {
+            continue;
+        }
+        QPolygonF corners;
+        for (const PerspectivePoint& each : quad.corners) {
+            corners << QPointF(each.x / each.w, each.y / each.w);
+        }
+        const QRectF whole(image->second.rect());
+        QPolygonF from(whole);
+        from.removeLast(); // it is closed
+        QTransform transform;
+        if (QTransform::quadToQuad(from, corners, transform)) {
+            painter.save();
+            painter.setOpacity(static_cast<double>(quad.opacity));
+            painter.setTransform(transform, true);
+            painter.drawImage(whole, image->second);
+            painter.restore();
+        }
+    }
+    painter.restore();
+}
+
+/// First every casing, then the cores: where a branch meets a trunk, no casing cuts the trunk. One
+/// by one: the time that a raster takes for a path grows with the square of its crossings.
+void paintLines(QPainter& painter, const LineLayer& layer) {
+    const std::vector<ColoredLine> lines = linesOf(layer);
+    const LineStyle& style = layer.style;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    const auto draw = [&](double width, const auto& colorOfLine) {
+        for (const ColoredLine& line : lines) {
+            painter.setPen(
+                QPen(colorOfLine(line), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            painter.drawPolyline(line.places);
+        }
+    };
+    if (style.casing.alpha() > 0) {
+        draw(style.width + 2 * style.casingWidth, [&](const auto&) { return style.casing; });
+    }
+    draw(style.width, [&](const ColoredLine& line) { return style.color.value_or(line.color); });
+    painter.restore();
+}
+
+void paintDots(QPainter& painter, const DotLayer& layer) {
+    const double whole = layer.radius + layer.casingWidth;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    for (const Dot& dot : layer.dots) {
+        const QPointF center(dot.x, dot.y);
+        painter.setBrush(layer.casing);
+        painter.drawEllipse(center, whole, whole);
+        painter.setBrush(colorOf(dot.color));
+        painter.drawEllipse(center, layer.radius, layer.radius);
+    }
+    painter.restore();
+}
+
+void paintSprites(QPainter& painter, const SpriteLayer& layer, double devicePixels) {
+    const auto snapped = [devicePixels](double position) {
+        return std::round(position * devicePixels) / devicePixels;
+    };
+    for (const SpriteSheet& sheet : layer.sheets) {
+        for (const auto& [corner, region] : sheet.sprites) {
+            painter.drawImage(
+                QRectF(QPointF(snapped(corner.x), snapped(corner.y)), region.size()),
+                sheet.atlas,
+                QRectF(region.topLeft() * devicePixels, region.size() * devicePixels));
+        }
+    }
+}
+
+} // namespace vasker

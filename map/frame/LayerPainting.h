@@ -1,0 +1,28 @@
+#pragma once
+// Draws the layers of a frame with any painter, in item pixels, and leaves its state as it was. Any
+// thread.
+
+#include "map/layers/DotLayer.h"
+#include "map/layers/LineLayer.h"
+#include "map/layers/SpriteLayer.h"
+#include "map/layers/TileLayer.h"
+
+#include <QImage>
+
+#include <map>
+
+class QPainter;
+
+namespace vasker {
+
+using TileImages = std::map<TileNumber, QImage>;
+
+/// Tiles that have no image are passed over. What is tilted needs an engine that knows perspective,
+/// as that of images does.
+void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& images);
+void paintLines(QPainter& painter, const LineLayer& layer);
+void paintDots(QPainter& painter, const DotLayer& layer);
+/// On whole device pixels, of which the painter and the atlases have `devicePixels` per item pixel.
+void paintSprites(QPainter& painter, const SpriteLayer& layer, double devicePixels);
+
+} // namespace vasker
