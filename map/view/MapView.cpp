@@ -1,6 +1,6 @@
 #include "map/view/MapView.h"
 
-#include "map/scene/MapNode.h"
+#include "map/scene/RenderedMapNode.h"
 #include "map/scene/Renderer.h"
 #include "platform/Locale.h"
 
@@ -148,9 +148,9 @@ void MapView::updatePolish() {
 }
 
 QSGNode* MapView::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* /*data*/) {
-    auto* node = dynamic_cast<MapNode*>(oldNode);
+    auto* node = dynamic_cast<RenderedMapNode*>(oldNode);
     if (node == nullptr) {
-        node = new MapNode;
+        node = new RenderedMapNode;
         m_composer.handOverAgain();
         if (std::exchange(m_choosesDrawing, false) && !rendersInSoftware()) {
             m_state.drawing = RecordDrawing::live;

@@ -1,10 +1,10 @@
-#include "map/scene/MapNode.h"
+#include "map/scene/RenderedMapNode.h"
 
 #include <QQuickWindow>
 
 namespace vasker {
 
-void MapNode::removeFrom(std::size_t layer) {
+void RenderedMapNode::removeFrom(std::size_t layer) {
     while (m_nodes.size() > layer) {
         std::visit([this](const auto& node) { removeChildNode(node.get()); }, m_nodes.back());
         m_nodes.pop_back();
@@ -12,7 +12,7 @@ void MapNode::removeFrom(std::size_t layer) {
 }
 
 template <typename Node>
-Node& MapNode::node(std::size_t layer) {
+Node& RenderedMapNode::node(std::size_t layer) {
     if (layer < m_nodes.size() && !std::holds_alternative<Owned<Node>>(m_nodes[layer])) {
         removeFrom(layer);
     }
@@ -25,7 +25,7 @@ Node& MapNode::node(std::size_t layer) {
     return *std::get<Owned<Node>>(m_nodes[layer]);
 }
 
-void MapNode::update(MapFrame& frame, QQuickWindow& window) {
+void RenderedMapNode::update(MapFrame& frame, QQuickWindow& window) {
     const auto devicePixels = static_cast<float>(frame.devicePixels);
     for (std::size_t i = 0; i < frame.layers.size(); ++i) {
         MapLayer& layer = frame.layers[i];

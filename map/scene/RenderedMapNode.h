@@ -18,9 +18,9 @@ class QQuickWindow;
 
 namespace vasker {
 
-class MapNode final : public QSGNode {
+class RenderedMapNode final : public QSGNode {
   public:
-    MapNode() = default;
+    RenderedMapNode() = default;
 
     /// Render thread, while the item's thread waits. Makes textures for `window`, and takes the
     /// images of the frame that are new.
