@@ -13,6 +13,10 @@ namespace vasker {
 
 namespace {
 
+/// In pixels of their images, tiles overlap so far where they are turned or scaled: what lies below
+/// would show between edges that are rounded apart.
+constexpr double seamWidth = 1;
+
 /// The lines of a strip: a line goes through the left corners between two tips.
 struct ColoredLine {
     QPolygonF places;
@@ -64,7 +68,9 @@ void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& ima
             painter.save();
             painter.setOpacity(static_cast<double>(quad.opacity));
             painter.setTransform(transform, true);
-            painter.drawImage(whole, image->second);
+            const bool keepsPixels = painter.combinedTransform().type() <= QTransform::TxTranslate;
+            const double edge = keepsPixels ? 0 : seamWidth / 2;
+            painter.drawImage(whole.adjusted(-edge, -edge, edge, edge), image->second);
             painter.restore();
         }
     }
