@@ -1,30 +1,24 @@
 #pragma once
-// A frame of the map as scene-graph nodes, one a layer.
+// A frame of the map drawn by shaders: nodes of the scene graph, one a layer.
 
-#include "map/frame/MapFrame.h"
 #include "map/scene/BackgroundNode.h"
 #include "map/scene/DotNode.h"
 #include "map/scene/LineNode.h"
+#include "map/scene/MapNode.h"
 #include "map/scene/SpriteNode.h"
 #include "map/scene/TileNode.h"
-
-#include <QSGNode>
 
 #include <memory>
 #include <variant>
 #include <vector>
 
-class QQuickWindow;
-
 namespace vasker {
 
-class RenderedMapNode final : public QSGNode {
+class RenderedMapNode final : public MapNode {
   public:
     RenderedMapNode() = default;
 
-    /// Render thread, while the item's thread waits. Makes textures for `window`, and takes the
-    /// images of the frame that are new.
-    void update(MapFrame& frame, QQuickWindow& window);
+    void update(MapFrame& frame, QQuickWindow& window) override;
 
   private:
     template <typename Node>

@@ -3,13 +3,22 @@
 #include <QByteArray>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
 
 #include <algorithm>
 #include <array>
 
 namespace vasker {
 
-bool rendersInSoftware() {
+bool hasShaders(const QQuickWindow& window) {
+    return window.rendererInterface()->graphicsApi() != QSGRendererInterface::Software;
+}
+
+bool rendersInSoftware(const QQuickWindow& window) {
+    if (!hasShaders(window)) {
+        return true;
+    }
     QOpenGLContext* context = QOpenGLContext::currentContext();
     if (context == nullptr) {
         return false;

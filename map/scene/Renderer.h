@@ -1,9 +1,14 @@
 #pragma once
+// What draws the frames of a window. Render thread, while the scene graph is synchronised.
+
+class QQuickWindow;
 
 namespace vasker {
 
-/// Whether frames are drawn by the processor and not by a graphics card. Render thread, while the
-/// scene graph is synchronised.
-[[nodiscard]] bool rendersInSoftware();
+/// Whether the scene graph runs shaders, be it on a graphics card or on the processor.
+[[nodiscard]] bool hasShaders(const QQuickWindow& window);
+
+/// Whether frames are drawn by the processor and not by a graphics card.
+[[nodiscard]] bool rendersInSoftware(const QQuickWindow& window);
 
 } // namespace vasker

@@ -1,6 +1,6 @@
 #include "map/view/MapView.h"
 
-#include "map/scene/RenderedMapNode.h"
+#include "map/scene/MapNode.h"
 #include "map/scene/Renderer.h"
 #include "platform/Locale.h"
 
@@ -148,11 +148,11 @@ void MapView::updatePolish() {
 }
 
 QSGNode* MapView::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* /*data*/) {
-    auto* node = dynamic_cast<RenderedMapNode*>(oldNode);
+    auto* node = dynamic_cast<MapNode*>(oldNode);
     if (node == nullptr) {
-        node = new RenderedMapNode;
+        node = MapNode::make(*window()).release();
         m_composer.handOverAgain();
-        if (std::exchange(m_choosesDrawing, false) && !rendersInSoftware()) {
+        if (std::exchange(m_choosesDrawing, false) && !rendersInSoftware(*window())) {
             m_state.drawing = RecordDrawing::live;
         }
         QMetaObject::invokeMethod(this, &MapView::redraw, Qt::QueuedConnection);

@@ -1,0 +1,71 @@
+#include "map/scene/PaintedMapNode.h"
+
+#include <QPainter>
+#include <QQuickWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace vasker {
+
+namespace {
+
+/// Images that `layer` hands over join `tiles`; those that it needs no longer leave.
+void takeOver(TileLayer& layer, TileImages& tiles) {
+    std::erase_if(tiles, [&layer](const auto& entry) {
+        return !std::ranges::binary_search(layer.kept, entry.first);
+    });
+    for (TileImage& each : layer.newImages) {
+        tiles.insert_or_assign(each.tile, std::move(each.image));
+    }
+    layer.newImages.clear();
+}
+
+void paint(QPainter& painter, MapFrame& frame, TileImages& images) {
+    for (MapLayer& layer : frame.layers) {
+        if (const auto* const background = std::get_if<BackgroundLayer>(&layer)) {
+            painter.fillRect(QRectF({}, frame.size), background->color);
+        } else if (auto* const tiles = std::get_if<TileLayer>(&layer)) {
+            takeOver(*tiles, images);
+            paintTiles(painter, *tiles, images);
+        } else if (const auto* const lines = std::get_if<LineLayer>(&layer)) {
+            paintLines(painter, *lines);
+        } else if (const auto* const dots = std::get_if<DotLayer>(&layer)) {
+            paintDots(painter, *dots);
+        } else if (const auto* const sprites = std::get_if<SpriteLayer>(&layer)) {
+            paintSprites(painter, *sprites, frame.devicePixels);
+        }
+    }
+}
+
+} // namespace
+
+PaintedMapNode::PaintedMapNode(const QQuickWindow& window) : m_shown(window.createImageNode()) {
+    m_shown->setFlag(OwnedByParent, false);
+    m_shown->setOwnsTexture(true);
+    m_shown->setFiltering(QSGTexture::Nearest);
+}
+
+void PaintedMapNode::update(MapFrame& frame, QQuickWindow& window) {
+    const QSize size = (frame.size * frame.devicePixels).toSize();
+    if (size.isEmpty()) {
+        return;
+    }
+    QImage& image = m_images[0];
+    if (image.size() != size) {
+        image = QImage(size, QImage::Format_RGB32);
+    }
+    QPainter painter(&image);
+    painter.scale(frame.devicePixels, frame.devicePixels);
+    paint(painter, frame, m_tiles);
+    painter.end();
+    m_shown->setTexture(window.createTextureFromImage(image, QQuickWindow::TextureIsOpaque));
+    m_shown->setRect(QRectF({}, QSizeF(size) / frame.devicePixels));
+    m_shown->setSourceRect(QRectF({}, QSizeF(size)));
+    std::swap(m_images[0], m_images[1]);
+    if (m_shown->parent() == nullptr) {
+        appendChildNode(m_shown.get());
+    }
+}
+
+} // namespace vasker
