@@ -163,19 +163,21 @@ def ask_display(*words):
 
 
 class Screen:
-    """What the display shows: a picture in the format of xwd, 32 bits a pixel."""
+    """What the display shows: a picture in the format of xwd. A pixel has 32 bits, or 24 where windows
+    of several visuals are on the display."""
 
     def __init__(self):
         data = subprocess.run(["xwd", "-root", "-silent"], capture_output=True, check=True).stdout
         header = struct.unpack(">25I", data[:100])
         self.width, self.height, self._stride = header[4], header[5], header[12]
-        if self._stride != 4 * self.width or header[7] != 0:
-            raise RuntimeError(f"the display has no 32 bits a pixel, lowest first: {header}")
+        self._step = header[11] // 8
+        if self._step not in (3, 4) or header[7] != 0:
+            raise RuntimeError(f"the display has no 24 or 32 bits a pixel, lowest first: {header}")
         self._pixels = data[header[0] + 12 * header[19] :]
 
     def pixel(self, x, y):
         """Red, green and blue."""
-        place = y * self._stride + 4 * x
+        place = y * self._stride + self._step * x
         blue, green, red = self._pixels[place : place + 3]
         return red, green, blue
 
