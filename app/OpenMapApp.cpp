@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
 
 namespace vasker {
@@ -77,6 +78,10 @@ QQuickWindow* OpenMapApp::openWindow() {
     QQmlEngine::setObjectOwnership(window, QQmlEngine::CppOwnership);
     // By name: the event's type is not public.
     connect(window, SIGNAL(closing(QQuickCloseEvent*)), window, SLOT(deleteLater()));
+    connect(window, &QQuickWindow::sceneGraphError, this, [](auto /*error*/, const QString& text) {
+        qCritical("The window cannot be drawn: %s", qUtf8Printable(text));
+        QCoreApplication::exit(EXIT_FAILURE);
+    });
     // What hung on the window goes with it, or just after.
     connect(window, &QObject::destroyed, &m_memory, &MemoryReturn::giveBack, Qt::QueuedConnection);
     m_windows.removeIf([](const QPointer<QQuickWindow>& each) { return each.isNull(); });

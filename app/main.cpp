@@ -1,5 +1,6 @@
 #include "app/OpenMapApp.h"
 #include "app/QmlModules.h"
+#include "map/scene/Graphics.h"
 #include "platform/Appearance.h"
 #include "platform/Background.h"
 #include "platform/DesktopActivation.h"
@@ -14,6 +15,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 
 namespace {
@@ -32,12 +34,25 @@ bool startedByBus() {
     return started;
 }
 
+/// Where there is no display, Qt says so at length and aborts.
+void expectDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::fputs("vasker-open-map: there is no display for a window\n", stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+    if (!QLatin1String(context.category).startsWith(QLatin1String("qt.qpa"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
+}
+
 int run(int argc, char** argv) {
     // Qt asks once, when it starts, whether there is a screen reader: one may be started later.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const bool serves = startedByBus();
     const auto token = vasker::LaunchToken::fromEnvironment();
+    const auto messages = qInstallMessageHandler(expectDisplay);
     QGuiApplication application(argc, argv);
+    qInstallMessageHandler(messages);
     QGuiApplication::setApplicationName(QStringLiteral("vasker-open-map"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vasker Beta"));
     QGuiApplication::setDesktopFileName(QStringLiteral(VASKER_DESKTOP_NAME));
@@ -51,6 +66,7 @@ int run(int argc, char** argv) {
     if (!isNeeded) {
         return 0;
     }
+    vasker::chooseGraphics();
     vasker::installInterfaceFont();
     vasker::installTranslation(application, vasker::messagesLocale());
 

@@ -181,6 +181,13 @@ class Screen:
         blue, green, red = self._pixels[place : place + 3]
         return red, green, blue
 
+    def rows(self, box):
+        """The pixels of a box (left, top, width, height), a list a row."""
+        left, top, width, height = box
+        return [
+            [self.pixel(x, y) for x in range(left, left + width)] for y in range(top, top + height)
+        ]
+
 
 class Program:
     """The running program. Its settings are its own, and gone when it ends. What is given besides

@@ -1,0 +1,109 @@
+"""What the window shows, whatever it can be drawn with: by OpenGL, or by a painter without it."""
+
+import os
+import subprocess
+from collections import Counter
+from contextlib import contextmanager
+from itertools import groupby
+
+from driver import Missed, Program, Screen
+
+LAND = (0xF4, 0xF2, 0xEC)
+WATER = (0xCB, 0xDF, 0xEA)
+GREY = (0x50, 0x56, 0x5F)  # of many kinds, and of no route
+DIMMED_GREY = (0x48, 0x4D, 0x56)  # the same beside a sheet
+
+
+def longest_run(rows, colour):
+    """Of pixels of nearly that colour side by side."""
+    alike = lambda pixel: max(abs(a - b) for a, b in zip(pixel, colour)) <= 2
+    return max((sum(1 for _ in run) for row in rows for same, run in groupby(row, alike) if same), default=0)
+
+
+def shows_a_map(box):
+    """Whether land, water, dots and pins are in it; a pin is wider than a dot."""
+    rows = Screen().rows(box)
+    counted = Counter(pixel for row in rows for pixel in row)
+    total = sum(counted.values())
+    return (
+        counted[LAND] > total / 10
+        and counted[WATER] > total / 20
+        and counted[GREY] > 2000
+        and longest_run(rows, GREY) >= 12
+    )
+
+
+def expect_a_map_and_a_record(executable, **environment):
+    with Program(executable, **environment) as program:
+        box = program.see(id="open-map-canvas").box()
+        program.wait(lambda: shows_a_map(box), "there is no map")
+        first = program.see(id="open-map-records").find(role="list item")
+        first.press()
+        sheet = program.see(id="open-map-inspector", role="dialog")
+        # What the sheet leaves of the map has the record in its middle, as a larger pin.
+        seen = (box[0], box[1], sheet.box()[0] - box[0], box[3])
+        program.wait(lambda: longest_run(Screen().rows(seen), DIMMED_GREY) >= 18, "there is no selected pin")
+        if longest_run(Screen().rows(sheet.box()), (255, 255, 255)) < 200:
+            raise Missed("the inspector is not drawn")
+
+
+def stands_on_the_software_renderer(executable):
+    expect_a_map_and_a_record(executable, QT_QUICK_BACKEND="software")
+
+
+def stands_without_a_driver(executable):
+    expect_a_map_and_a_record(
+        executable, LIBGL_DRIVERS_PATH="/nonexistent", LIBGL_ALWAYS_SOFTWARE="1"
+    )
+
+
+def stands_without_opengl(executable):
+    expect_a_map_and_a_record(executable, QT_XCB_GL_INTEGRATION="none")
+
+
+@contextmanager
+def display_without_opengl():
+    """Another display for this scenario, whose server knows no GLX."""
+    usual = os.environ["DISPLAY"]
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", "1", "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-extension", "GLX"],
+        stdout=subprocess.PIPE,
+        stderr=subprocess.DEVNULL,
+    )
+    try:
+        os.environ["DISPLAY"] = ":" + server.stdout.readline().decode().strip()
+        yield
+    finally:
+        os.environ["DISPLAY"] = usual
+        server.terminate()
+        server.wait()
+
+
+def stands_on_a_display_without_opengl(executable):
+    with display_without_opengl():
+        expect_a_map_and_a_record(executable)
+
+
+def stands_on_opengl_2_0(executable):
+    """Whose shaders are too old for the toolkit."""
+    expect_a_map_and_a_record(executable, MESA_GL_VERSION_OVERRIDE="2.0")
+
+
+def stands_on_opengl_2_1(executable):
+    expect_a_map_and_a_record(executable, MESA_GL_VERSION_OVERRIDE="2.1")
+
+
+def stands_where_vulkan_is_asked_for_in_vain(executable):
+    expect_a_map_and_a_record(executable, QSG_RHI_BACKEND="vulkan")
+
+
+def stands_where_another_systems_graphics_are_asked_for(executable):
+    expect_a_map_and_a_record(executable, QSG_RHI_BACKEND="d3d11")
+
+
+def without_a_display_one_sentence_is_said(executable):
+    hidden = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}
+    environment = {key: value for key, value in os.environ.items() if key not in hidden}
+    ended = subprocess.run([executable], env=environment, capture_output=True, text=True, timeout=30)
+    if ended.returncode != 1 or ended.stderr != "vasker-open-map: there is no display for a window\n":
+        raise Missed(f"{ended.returncode}: {ended.stderr}")
