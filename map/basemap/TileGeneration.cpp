@@ -76,8 +76,8 @@ void TileGeneration::takeOver(const TileGeneration& other) {
 }
 
 bool TileGeneration::markOutdated(const ServiceTile& tile) {
-    const bool isUsed = tile.content == TileContent::imagery ? showsImagery(theme)
-                                                             : theme != BasemapTheme::satellite;
+    const bool isUsed =
+        tile.content == TileContent::imagery ? showsImagery(theme) : showsVectorTiles(theme);
     bool isConcerned = false;
     if (isUsed) {
         std::erase_if(bare, [&](const auto& each) { return isRelated(each.first, tile.key); });

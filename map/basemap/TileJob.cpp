@@ -33,7 +33,7 @@ TileJob::Result TileJob::run(const std::stop_token& stop) && {
         }
         tile.lacksImagery = showsImagery(request.theme) && !found.data.hasFullImagery(request.key);
         tile.lacksSharperImagery = found.lacksSharperImagery;
-        if (request.theme != BasemapTheme::satellite || tile.lacksImagery) {
+        if (showsVectorTiles(request.theme) || tile.lacksImagery) {
             tile.labels = placeLabels(found.data, request, language);
         }
         tile.attributions = std::move(found.attributions);

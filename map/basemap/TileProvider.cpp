@@ -91,8 +91,7 @@ ProvidedTile TileProvider::read(TileKey key, BasemapTheme theme) {
     if (showsImagery(theme)) {
         readImagery(key, found);
     }
-    if (theme != BasemapTheme::satellite || !found.data.hasFullImagery(key) ||
-        found.data.needsWaters(key)) {
+    if (showsVectorTiles(theme) || !found.data.hasFullImagery(key) || found.data.needsWaters(key)) {
         readVector(key, found);
     }
     return found;
@@ -118,7 +117,7 @@ std::vector<ServiceTile> TileProvider::requestsFor(TileKey key, BasemapTheme the
             }
         }
     }
-    if (theme != BasemapTheme::satellite) {
+    if (showsVectorTiles(theme)) {
         const int zoom = std::min(key.zoom, m_sources.lastZoom(TileContent::vector));
         if (m_sources.covering(TileContent::vector, zoom) != nullptr) {
             requests.push_back({TileContent::vector, key.ancestor(key.zoom - zoom)});

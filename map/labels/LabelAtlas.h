@@ -75,7 +75,7 @@ class LabelAtlas {
     std::uint64_t m_frame = 0;
     std::vector<Page> m_pages;
     QHash<Label, Entry> m_entries;
-    std::array<std::optional<Place>, 4> m_marks; ///< by theme
+    std::array<std::optional<Place>, basemapThemeCount> m_marks; ///< by theme
 };
 
 } // namespace vasker

@@ -111,10 +111,10 @@ void paintPin(QPainter& painter, std::string_view kind, BasemapTheme basemap, Pi
     const double ring = state == PinState::selected ? ringWidth / scale : 0;
     strokeOutside(painter, path, theme.markerOutline, casing + ring + outlineWidth / scale);
     if (ring > 0) {
-        strokeOutside(painter, path, colorValue(PaletteColor::blue, theme.records), casing + ring);
+        strokeOutside(painter, path, theme.record(PaletteColor::blue), casing + ring);
     }
     strokeOutside(painter, path, theme.markerCasing, casing);
-    painter.fillPath(path, colorValue(color(kind), theme.records));
+    painter.fillPath(path, theme.record(color(kind)));
     const std::string_view name = symbol(kind);
     const QRectF area(
         pinHeadRadius - symbolSize / 2, pinHeadRadius - symbolSize / 2, symbolSize, symbolSize);

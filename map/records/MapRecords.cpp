@@ -46,9 +46,9 @@ void MapRecords::refreshColors() {
     if (!m_records.loaded) {
         return;
     }
-    const ColorScheme scheme = mapTheme(m_theme).records;
+    const MapTheme& theme = mapTheme(m_theme);
     for (const auto& asset : m_records.loaded->index.release().assets) {
-        m_colors.push_back(rgbOf(colorValue(color(asset.kind), scheme)));
+        m_colors.push_back(rgbOf(theme.record(color(asset.kind))));
     }
     m_routeColors.resize(m_colors.size());
     for (const AssetIndex asset : *m_records.filtered) {
@@ -136,7 +136,7 @@ void MapRecords::placeRoute(LineLayer& layer,
 
 std::vector<MapLayer> MapRecords::linesAndDots(const Camera& camera, RecordDrawing drawing) {
     const MapTheme& theme = mapTheme(m_theme);
-    const QColor blue = colorValue(PaletteColor::blue, theme.records);
+    const QColor blue = theme.record(PaletteColor::blue);
     LineLayer routes{{}, {routeWidth, routeCasing, theme.routeCasing, {}}};
     LineLayer hovered{{}, {routeWidth, hoveredRouteCasing, blue, {}}};
     LineLayer selected{{}, {selectedRouteWidth, selectedRouteCasing, theme.markerCasing, blue}};

@@ -2,7 +2,9 @@
 
 namespace vasker {
 
-BasemapTheme basemapTheme(const QString& basemap, bool dark) noexcept {
+namespace {
+
+BasemapTheme usualTheme(const QString& basemap, bool dark) noexcept {
     if (basemap == QLatin1String("satellite")) {
         return BasemapTheme::satellite;
     }
@@ -10,6 +12,41 @@ BasemapTheme basemapTheme(const QString& basemap, bool dark) noexcept {
         return BasemapTheme::hybrid;
     }
     return dark ? BasemapTheme::dark : BasemapTheme::light;
+}
+
+BasemapTheme withHighContrast(BasemapTheme theme) noexcept {
+    switch (theme) {
+    case BasemapTheme::light:
+        return BasemapTheme::lightHighContrast;
+    case BasemapTheme::dark:
+        return BasemapTheme::darkHighContrast;
+    case BasemapTheme::satellite:
+        return BasemapTheme::satelliteHighContrast;
+    case BasemapTheme::hybrid:
+        return BasemapTheme::hybridHighContrast;
+    default:
+        return theme;
+    }
+}
+
+} // namespace
+
+BasemapTheme basemapTheme(const QString& basemap, bool dark, bool highContrast) noexcept {
+    const BasemapTheme usual = usualTheme(basemap, dark);
+    return highContrast ? withHighContrast(usual) : usual;
+}
+
+BasemapTheme withoutImagery(BasemapTheme theme) noexcept {
+    switch (theme) {
+    case BasemapTheme::satellite:
+    case BasemapTheme::hybrid:
+        return BasemapTheme::dark;
+    case BasemapTheme::satelliteHighContrast:
+    case BasemapTheme::hybridHighContrast:
+        return BasemapTheme::darkHighContrast;
+    default:
+        return theme;
+    }
 }
 
 } // namespace vasker

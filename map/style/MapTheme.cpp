@@ -1,5 +1,8 @@
 #include "map/style/MapTheme.h"
 
+#include <array>
+#include <cstddef>
+
 namespace vasker {
 
 namespace {
@@ -35,7 +38,7 @@ MapTheme lightTheme() {
             .waterLabel = rgb(0x2F6480),
             .recordLabel = rgb(0x1A1D21),
             .labelHalo = rgb(0xFAF9F6, 0.92),
-            .records = ColorScheme::light,
+            .records = themeColors(ColorScheme::light).records,
             .markerCasing = rgb(0xFFFFFF),
             .routeCasing = rgb(0xFFFFFF, 0.85),
             .markerOutline = Qt::transparent,
@@ -65,17 +68,76 @@ MapTheme darkTheme() {
             .waterLabel = rgb(0x7FA9C2),
             .recordLabel = rgb(0xECEEF0),
             .labelHalo = rgb(0x1E2328, 0.92),
-            .records = ColorScheme::dark,
+            .records = themeColors(ColorScheme::dark).records,
             .markerCasing = rgb(nearBlack),
             .routeCasing = rgb(nearBlack, 0.8),
             .markerOutline = Qt::transparent,
             .pinSymbol = rgb(nearBlack)};
 }
 
+MapTheme lightHighContrastTheme() {
+    return {.background = rgb(0xDCEAF2),
+            .land = rgb(0xFFFFFF),
+            .water = rgb(0xDCEAF2),
+            .urban = rgb(0xF0EDE6),
+            .green = rgb(0xF1F5EA),
+            .ice = rgb(0xFFFFFF),
+            .building = rgb(0xEBE6DD),
+            .coast = rgb(0x557A90),
+            .river = rgb(0x5B7F95),
+            .mainRoad = rgb(0xFFFFFF),
+            .minorRoad = rgb(0xFFFFFF),
+            .thinRoad = rgb(0x837B6E),
+            .roadCasing = rgb(0x837B6E),
+            .rail = rgb(0x7C766E),
+            .regionBorder = rgb(0x766B80),
+            .countryBorder = rgb(0x544A5E),
+            .countryHalo = rgb(0x544A5E, 0.16),
+            .placeLabel = rgb(0x1A1D21),
+            .regionLabel = rgb(0x3F3649),
+            .waterLabel = rgb(0x0E415B),
+            .recordLabel = rgb(0x000000),
+            .labelHalo = rgb(0xFFFFFF),
+            .records = themeColors(ColorScheme::light).highContrastRecords,
+            .markerCasing = rgb(0xFFFFFF),
+            .routeCasing = rgb(0xFFFFFF),
+            .markerOutline = rgb(0x1A1D21),
+            .pinSymbol = rgb(0xFFFFFF)};
+}
+
+MapTheme darkHighContrastTheme() {
+    return {.background = rgb(0x000000),
+            .land = rgb(0x14171A),
+            .water = rgb(0x000000),
+            .urban = rgb(0x1E2226),
+            .green = rgb(0x151A1A),
+            .ice = rgb(0x24292E),
+            .building = rgb(0x202529),
+            .coast = rgb(0x6C8795),
+            .river = rgb(0x5F89A0),
+            .mainRoad = rgb(0x2A2F34),
+            .minorRoad = rgb(0x24292E),
+            .thinRoad = rgb(0x757D85),
+            .roadCasing = rgb(0x757D85),
+            .rail = rgb(0x7B828A),
+            .regionBorder = rgb(0x8D8597),
+            .countryBorder = rgb(0xB5ADC0),
+            .countryHalo = rgb(0xB5ADC0, 0.16),
+            .placeLabel = rgb(0xFFFFFF),
+            .regionLabel = rgb(0xD9D2E3),
+            .waterLabel = rgb(0xB9DCF0),
+            .recordLabel = rgb(0xFFFFFF),
+            .labelHalo = rgb(0x000000),
+            .records = themeColors(ColorScheme::dark).highContrastRecords,
+            .markerCasing = rgb(0x000000),
+            .routeCasing = rgb(0x000000),
+            .markerOutline = rgb(0xFFFFFF),
+            .pinSymbol = rgb(0x000000)};
+}
+
 /// Mid-tones of imagery lie between a marker and its casing: a white outline carries the contrast.
 /// Waters have the tint that the built-in imagery gives to shallow seas.
-MapTheme satelliteTheme() {
-    MapTheme theme = darkTheme();
+MapTheme satelliteTheme(MapTheme theme) {
     theme.water = rgb(0x2F5A88, 0.6);
     theme.coast = rgb(0x6E9CC6, 0.9);
     theme.river = rgb(0x4A7DB0, 0.9);
@@ -88,8 +150,7 @@ MapTheme satelliteTheme() {
     return theme;
 }
 
-MapTheme hybridTheme() {
-    MapTheme theme = satelliteTheme();
+MapTheme hybridTheme(MapTheme theme) {
     for (QColor* area : {&theme.land,
                          &theme.water,
                          &theme.urban,
@@ -111,24 +172,32 @@ MapTheme hybridTheme() {
     return theme;
 }
 
+/// What was translucent over imagery no longer is, but for areas and roads.
+MapTheme opaque(MapTheme theme) {
+    for (QColor* color : {&theme.regionBorder,
+                          &theme.regionLabel,
+                          &theme.labelHalo,
+                          &theme.routeCasing,
+                          &theme.markerOutline}) {
+        color->setAlphaF(1);
+    }
+    return theme;
+}
+
 } // namespace
 
 const MapTheme& mapTheme(BasemapTheme theme) noexcept {
-    static const MapTheme light = lightTheme();
-    static const MapTheme dark = darkTheme();
-    static const MapTheme satellite = satelliteTheme();
-    static const MapTheme hybrid = hybridTheme();
-    switch (theme) {
-    case BasemapTheme::light:
-        return light;
-    case BasemapTheme::dark:
-        return dark;
-    case BasemapTheme::satellite:
-        return satellite;
-    case BasemapTheme::hybrid:
-        break;
-    }
-    return hybrid;
+    // In the order of BasemapTheme.
+    static const std::array<MapTheme, basemapThemeCount> themes{
+        lightTheme(),
+        darkTheme(),
+        satelliteTheme(darkTheme()),
+        hybridTheme(satelliteTheme(darkTheme())),
+        lightHighContrastTheme(),
+        darkHighContrastTheme(),
+        opaque(satelliteTheme(darkHighContrastTheme())),
+        opaque(hybridTheme(satelliteTheme(darkHighContrastTheme())))};
+    return themes[static_cast<std::size_t>(theme)];
 }
 
 } // namespace vasker

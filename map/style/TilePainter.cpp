@@ -61,7 +61,7 @@ TileRequest inRange(TileRequest request) {
 QImage paintTile(const TileData& data, const TileRequest& requested) {
     const TileRequest request = inRange(requested);
     const bool hasImagery = showsImagery(request.theme);
-    const BasemapTheme drawn = hasImagery ? BasemapTheme::dark : request.theme;
+    const BasemapTheme drawn = withoutImagery(request.theme);
 
     const PixelRect pixels = request.pixels();
     QImage image = pooledImage(pixels.width, pixels.height, QImage::Format_RGB32);
@@ -81,8 +81,8 @@ QImage paintTile(const TileData& data, const TileRequest& requested) {
                     painter, data, request, BasemapTheme::satellite, waterLayers(), budget);
             }
         }
-        if (request.theme == BasemapTheme::hybrid) {
-            paintVectorTile(painter, data, request, BasemapTheme::hybrid, styleLayers(), budget);
+        if (showsVectorTiles(request.theme)) {
+            paintVectorTile(painter, data, request, request.theme, styleLayers(), budget);
         }
     }
     return budget.isSpent() ? QImage() : image;

@@ -14,6 +14,7 @@ MapView {
     objectName: "open-map-canvas"
     coveredBelow: caption.height
     dark: Theme.dark
+    highContrast: Theme.highContrast
     reducedMotion: Theme.still
     textScale: Theme.textScale
     controls: [bar, attribution, compass, zoom, exploration.pill]

@@ -18,8 +18,7 @@ MapView::MapView(QQuickItem* parent)
     setClip(true);
     m_clock.start();
     connect(&m_composer, &MapComposer::changed, this, &MapView::redraw);
-    connect(this, &MapView::themeChanged, this, &MapView::refreshTheme);
-    connect(this, &MapView::textScaleChanged, this, &MapView::redraw);
+    connect(this, &MapView::appearanceChanged, this, &MapView::refreshAppearance);
     connect(this, &MapView::coverChanged, this, &MapView::changeView);
     connect(&m_interaction.hover(), &MapHover::changed, this, &MapView::redraw);
     connect(&m_interaction, &MapInteraction::picked, this, &MapView::picked);
@@ -83,14 +82,14 @@ void MapView::setDrawing(RecordDrawing drawing) {
     redraw();
 }
 
-void MapView::refreshTheme() {
-    const BasemapTheme theme = basemapTheme(m_basemap, m_dark);
+void MapView::refreshAppearance() {
+    const BasemapTheme theme = basemapTheme(m_basemap, m_dark, m_highContrast);
     if (theme != m_state.theme) {
         m_state.theme = theme;
         m_status.setTheme(theme);
         m_composer.records().setTheme(theme);
-        redraw();
     }
+    redraw();
 }
 
 void MapView::changeView() {

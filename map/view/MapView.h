@@ -25,8 +25,9 @@ class MapView : public vasker::InputItem {
     Q_PROPERTY(QString hovered READ hovered WRITE setHovered NOTIFY hoveredChanged)
     Q_PROPERTY(vasker::CameraPosition camera READ camera WRITE setCamera NOTIFY cameraChanged)
     /// The stored choice: "satellite", "hybrid", anything else the drawn map.
-    Q_PROPERTY(QString basemap MEMBER m_basemap NOTIFY themeChanged)
-    Q_PROPERTY(bool dark MEMBER m_dark NOTIFY themeChanged)
+    Q_PROPERTY(QString basemap MEMBER m_basemap NOTIFY appearanceChanged)
+    Q_PROPERTY(bool dark MEMBER m_dark NOTIFY appearanceChanged)
+    Q_PROPERTY(bool highContrast MEMBER m_highContrast NOTIFY appearanceChanged)
     /// The TileLibrary that tiles come from; it outlives the item. Null: there are no tiles.
     Q_PROPERTY(QObject* tiles READ tiles WRITE setTiles NOTIFY tilesChanged)
     /// The record under the pointer.
@@ -39,7 +40,7 @@ class MapView : public vasker::InputItem {
     Q_PROPERTY(double coveredRight MEMBER m_coveredRight NOTIFY coverChanged)
     Q_PROPERTY(double coveredLeft MEMBER m_coveredLeft NOTIFY coverChanged)
     /// How large the desktop wants texts; 1 is the usual.
-    Q_PROPERTY(double textScale MEMBER m_textScale NOTIFY textScaleChanged)
+    Q_PROPERTY(double textScale MEMBER m_textScale NOTIFY appearanceChanged)
     /// Whether the camera is always at its end at once.
     Q_PROPERTY(bool reducedMotion MEMBER m_reducedMotion NOTIFY motionChanged)
 
@@ -84,10 +85,9 @@ class MapView : public vasker::InputItem {
     void selectionChanged();
     void hoveredChanged();
     void cameraChanged();
-    void themeChanged();
+    void appearanceChanged();
     void tilesChanged();
     void coverChanged();
-    void textScaleChanged();
     void motionChanged();
     /// resolvedCamera() is another one.
     void viewChanged();
@@ -113,7 +113,7 @@ class MapView : public vasker::InputItem {
 
   private:
     void redraw();
-    void refreshTheme();
+    void refreshAppearance();
     void changeView();
 
     MapComposer m_composer;
@@ -123,6 +123,7 @@ class MapView : public vasker::InputItem {
     MapStatus m_status;
     QString m_basemap;
     bool m_dark = false;
+    bool m_highContrast = false;
     CameraPosition m_camera = canadaOverview;
     double m_coveredBelow = 0;
     double m_coveredRight = 0;

@@ -107,13 +107,28 @@ TEST(ThemeColors, HighContrastMakesLinesStandOutAndSecondaryTextsPrimary) {
     }
 }
 
+TEST(ThemeColors, HighContrastMakesRecordColorsStandOutMore) {
+    for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
+        const ThemeColors colors = themeColors(scheme).withHighContrast();
+        for (int number = 0; number < paletteSize; ++number) {
+            expectContrast("record",
+                           colors.record(number),
+                           {{"list", colors.surface}, {"selected row", colors.selected}},
+                           smallestTextContrast);
+        }
+    }
+}
+
 TEST(ThemeColors, NoTwoRecordColorsAreAlike) {
     for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
-        std::set<QRgb> values;
-        for (int number = 0; number < paletteSize; ++number) {
-            values.insert(themeColors(scheme).record(number).rgb());
+        for (const ThemeColors& colors :
+             {themeColors(scheme), themeColors(scheme).withHighContrast()}) {
+            std::set<QRgb> values;
+            for (int number = 0; number < paletteSize; ++number) {
+                values.insert(colors.record(number).rgb());
+            }
+            EXPECT_EQ(values.size(), paletteSize);
         }
-        EXPECT_EQ(values.size(), paletteSize);
     }
 }
 

@@ -37,6 +37,10 @@ bool Theme::isDark() const noexcept {
     return m_appearance.isDark();
 }
 
+bool Theme::hasHighContrast() const noexcept {
+    return m_appearance.highContrast();
+}
+
 bool Theme::isStill() const noexcept {
     return m_appearance.reducedMotion();
 }

@@ -23,6 +23,7 @@ class Theme : public QObject {
     /// Of the dark theme, for what lies on something dark in either theme.
     Q_PROPERTY(vasker::ThemeColors darkColors READ darkColors CONSTANT)
     Q_PROPERTY(bool dark READ isDark NOTIFY changed)
+    Q_PROPERTY(bool highContrast READ hasHighContrast NOTIFY changed)
 
     /// The desktop's text size, 1 to 2. All text and the controls around it follow; widths and gaps
     /// do not.
@@ -71,6 +72,7 @@ class Theme : public QObject {
     [[nodiscard]] const ThemeColors& colors() const noexcept { return m_colors; }
     [[nodiscard]] static const ThemeColors& darkColors() { return themeColors(ColorScheme::dark); }
     [[nodiscard]] bool isDark() const noexcept;
+    [[nodiscard]] bool hasHighContrast() const noexcept;
     [[nodiscard]] double textScale() const noexcept { return m_textScale; }
     [[nodiscard]] const TextStyles& type() const noexcept { return m_type; }
     [[nodiscard]] double iconScale() const noexcept;

@@ -56,6 +56,17 @@ ThemeColors lightTheme() {
                       0xFF018C6D,
                       0xFF967907,
                       0xFF50565F};
+    colors.highContrastRecords = {0xFF0F5BD0,
+                                  0xFF401CA8,
+                                  0xFF0A6678,
+                                  0xFF86278F,
+                                  0xFF653817,
+                                  0xFF9C3200,
+                                  0xFFB8163D,
+                                  0xFF1F6121,
+                                  0xFF006B53,
+                                  0xFF6E5900,
+                                  0xFF42474F};
     colors.elevations = {Elevation{1, 2, withAlpha(lightShadow, 41), withAlpha(lightShadow, 26)},
                          Elevation{8, 24, withAlpha(lightShadow, 46), withAlpha(lightShadow, 36)},
                          Elevation{20, 56, withAlpha(lightShadow, 71), withAlpha(lightShadow, 41)}};
@@ -91,6 +102,17 @@ ThemeColors darkTheme() {
                       0xFF22C29C,
                       0xFFF4D24A,
                       0xFFC0C4CA};
+    colors.highContrastRecords = {0xFF72AFFD,
+                                  0xFF9A98FF,
+                                  0xFF4FE1F5,
+                                  0xFFDB8FD0,
+                                  0xFFC7A086,
+                                  0xFFFF9023,
+                                  0xFFFF7E79,
+                                  0xFFA3E88F,
+                                  0xFF22C29C,
+                                  0xFFF4D24A,
+                                  0xFFC0C4CA};
     colors.elevations = {Elevation{1, 3, withAlpha(black, 128), withAlpha(white, 18)},
                          Elevation{10, 28, withAlpha(black, 140), withAlpha(white, 23)},
                          Elevation{24, 64, withAlpha(black, 153), withAlpha(white, 23)}};
@@ -111,6 +133,7 @@ ThemeColors ThemeColors::withHighContrast() const {
     colors.line = colors.text3;
     colors.controlLine = colors.text3;
     colors.strip = colors.surface;
+    colors.records = highContrastRecords;
     return colors;
 }
 

@@ -29,6 +29,9 @@ enum class PaletteColor {
 
 inline constexpr int paletteSize = 11;
 
+/// By PaletteColor.
+using RecordPalette = std::array<QColor, paletteSize>;
+
 /// What raises a surface above others: the shadow below it and the hairline around it.
 struct Elevation {
     double offset = 0; ///< how far down the shadow falls, in logical pixels
@@ -83,9 +86,11 @@ struct ThemeColors {
     QColor sideScrim; ///< behind a sheet that leaves the map in use to the eye
     QColor thumb;
     QColor strip; ///< the caption over the map
-    /// By PaletteColor. Deep on a light background, bright on a dark one and on imagery: at least
+    /// Deep on a light background, bright on a dark one and on imagery: at least
     /// 3:1 against everything that they are drawn on.
-    std::array<QColor, paletteSize> records;
+    RecordPalette records;
+    /// The same for high contrast: at least 4.5:1.
+    RecordPalette highContrastRecords;
     /// Of controls on the map, of menus and cards, of sheets.
     std::array<Elevation, 3> elevations;
 

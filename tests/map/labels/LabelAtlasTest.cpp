@@ -91,6 +91,7 @@ TEST_F(LabelAtlasTest, TextsOfOtherStylesAndThemesStandApart) {
     }
     places.push_back(atlas.placeMark(BasemapTheme::light));
     places.push_back(atlas.placeMark(BasemapTheme::dark));
+    places.push_back(atlas.placeMark(BasemapTheme::hybridHighContrast));
     for (std::size_t i = 0; i < places.size(); ++i) {
         EXPECT_FALSE(isEmpty(pixelsOf(atlas, places[i]))) << i;
         for (std::size_t k = 0; k < i; ++k) {

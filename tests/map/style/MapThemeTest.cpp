@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace vasker {
@@ -26,17 +27,20 @@ double contrast(const QColor& a, const QColor& b) {
 
 using ColorRole = QColor MapTheme::*;
 
-void expectReadableRecords(BasemapTheme theme) {
+constexpr std::array areas{&MapTheme::land,
+                           &MapTheme::water,
+                           &MapTheme::urban,
+                           &MapTheme::green,
+                           &MapTheme::ice,
+                           &MapTheme::building};
+constexpr std::array labels{
+    &MapTheme::placeLabel, &MapTheme::regionLabel, &MapTheme::waterLabel, &MapTheme::recordLabel};
+
+void expectReadableRecords(BasemapTheme theme, double least = 3) {
     const MapTheme& colors = mapTheme(theme);
-    for (int i = 0; i < paletteSize; ++i) {
-        const QColor record = colorValue(static_cast<PaletteColor>(i), colors.records);
-        for (const ColorRole area : {&MapTheme::land,
-                                     &MapTheme::water,
-                                     &MapTheme::urban,
-                                     &MapTheme::green,
-                                     &MapTheme::ice,
-                                     &MapTheme::building}) {
-            EXPECT_GE(contrast(record, colors.*area), 3)
+    for (const QColor& record : colors.records) {
+        for (const ColorRole area : areas) {
+            EXPECT_GE(contrast(record, colors.*area), least)
                 << record.name().toStdString() << " on " << (colors.*area).name().toStdString();
         }
     }
@@ -69,12 +73,82 @@ TEST(MapTheme, LabelsStandOutFromTheirHalo) {
     for (const BasemapTheme theme :
          {BasemapTheme::light, BasemapTheme::dark, BasemapTheme::satellite, BasemapTheme::hybrid}) {
         const MapTheme& colors = mapTheme(theme);
-        for (const ColorRole label : {&MapTheme::placeLabel,
-                                      &MapTheme::regionLabel,
-                                      &MapTheme::waterLabel,
-                                      &MapTheme::recordLabel}) {
+        for (const ColorRole label : labels) {
             EXPECT_GE(contrast(colors.*label, colors.labelHalo), 4.5)
                 << (colors.*label).name().toStdString();
+        }
+    }
+}
+
+constexpr std::array drawnHighContrast{BasemapTheme::lightHighContrast,
+                                       BasemapTheme::darkHighContrast};
+constexpr std::array everyHighContrast{BasemapTheme::lightHighContrast,
+                                       BasemapTheme::darkHighContrast,
+                                       BasemapTheme::satelliteHighContrast,
+                                       BasemapTheme::hybridHighContrast};
+
+TEST(MapTheme, InHighContrastRecordsStandFourAndAHalfToOneAgainstEveryArea) {
+    for (const BasemapTheme theme : drawnHighContrast) {
+        expectReadableRecords(theme, 4.5);
+    }
+}
+
+TEST(MapTheme, InHighContrastRecordsStandOutFromAnOpaqueCasing) {
+    for (const BasemapTheme theme : everyHighContrast) {
+        const MapTheme& colors = mapTheme(theme);
+        for (const QColor& record : colors.records) {
+            EXPECT_GE(contrast(record, colors.markerCasing), 4.5);
+            EXPECT_GE(contrast(record, colors.routeCasing), 4.5);
+            EXPECT_GE(contrast(record, colors.pinSymbol), 4.5);
+        }
+        EXPECT_EQ(colors.markerCasing.alpha(), 255);
+        EXPECT_EQ(colors.routeCasing.alpha(), 255);
+    }
+}
+
+TEST(MapTheme, InHighContrastAnOutlineOfMarkersStandsOutFromTheirCasing) {
+    for (const BasemapTheme theme : everyHighContrast) {
+        const MapTheme& colors = mapTheme(theme);
+        EXPECT_EQ(colors.markerOutline.alpha(), 255);
+        EXPECT_GE(contrast(colors.markerOutline, colors.markerCasing), 15);
+    }
+}
+
+TEST(MapTheme, InHighContrastLabelsStandSevenToOneAgainstAnOpaqueHaloAndEveryArea) {
+    for (const BasemapTheme theme : everyHighContrast) {
+        const MapTheme& colors = mapTheme(theme);
+        EXPECT_EQ(colors.labelHalo.alpha(), 255);
+        for (const ColorRole label : labels) {
+            EXPECT_GE(contrast(colors.*label, colors.labelHalo), 7)
+                << (colors.*label).name().toStdString();
+            EXPECT_EQ((colors.*label).alpha(), 255);
+        }
+    }
+    for (const BasemapTheme theme : drawnHighContrast) {
+        const MapTheme& colors = mapTheme(theme);
+        for (const ColorRole label : labels) {
+            for (const ColorRole area : areas) {
+                EXPECT_GE(contrast(colors.*label, colors.*area), 7)
+                    << (colors.*label).name().toStdString();
+            }
+        }
+    }
+}
+
+TEST(MapTheme, InHighContrastEveryLineStandsThreeToOneAgainstLandAndWater) {
+    for (const BasemapTheme theme : drawnHighContrast) {
+        const MapTheme& colors = mapTheme(theme);
+        for (const ColorRole line : {&MapTheme::coast,
+                                     &MapTheme::river,
+                                     &MapTheme::thinRoad,
+                                     &MapTheme::roadCasing,
+                                     &MapTheme::rail,
+                                     &MapTheme::regionBorder,
+                                     &MapTheme::countryBorder}) {
+            EXPECT_GE(contrast(colors.*line, colors.land), 3)
+                << (colors.*line).name().toStdString();
+            EXPECT_GE(contrast(colors.*line, colors.water), 3)
+                << (colors.*line).name().toStdString();
         }
     }
 }
