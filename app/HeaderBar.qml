@@ -3,7 +3,7 @@ import Vasker.App
 import Vasker.Platform
 
 // The bar over the map: the title, the toolbar and, apart from it, the primary menu. When room runs
-// out the title goes first, then the labels of the buttons.
+// out the title goes first, then the labels of the buttons, then the buttons into the menu.
 Rectangle {
     id: root
 
@@ -14,6 +14,7 @@ Rectangle {
 
     readonly property real endWidth: 12 + primary.width + 12
     readonly property real toolsWidth: options.fullWidth + reset.fullWidth + sources.fullWidth + 2 * tools.spacing
+    readonly property bool toolsVisible: width >= 12 + 3 * reset.compactWidth + 2 * tools.spacing + endWidth
     readonly property bool labelsVisible: width >= 12 + toolsWidth + endWidth
     readonly property bool titleVisible: width >= 20 + title.implicitWidth + 20 + toolsWidth + endWidth
 
@@ -33,6 +34,7 @@ Rectangle {
     Row {
         id: tools
 
+        visible: root.toolsVisible
         anchors.right: parent.right
         anchors.rightMargin: root.endWidth
         anchors.verticalCenter: parent.verticalCenter
@@ -72,6 +74,7 @@ Rectangle {
         application: root.application
         sheets: root.sheets
         saves: root.saves
+        hidden: root.toolsVisible ? [] : [options, reset, sources]
     }
     Rectangle {
         anchors.bottom: parent.bottom

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Vasker.App
 import Vasker.Platform
@@ -9,6 +10,17 @@ HeaderButton {
     required property OpenMapApp application
     required property SheetStack sheets
     required property SaveCommands saves
+    // Buttons that find no room in the header bar, at most three; the menu begins with them.
+    property list<HeaderButton> hidden
+
+    component Hidden: MenuRow {
+        property HeaderButton button: null
+
+        visible: button !== null
+        height: visible ? implicitHeight : 0
+        label: button?.label ?? ""
+        onPicked: button.menu === null ? button.clicked() : button.menu.openAt(root, Qt.point(0, root.height + 4))
+    }
 
     objectName: "open-map-menu"
     symbol: "line.3.horizontal"
@@ -19,7 +31,17 @@ HeaderButton {
         anchor: root
         title: root.label
 
+        Hidden {
+            button: root.hidden[0] ?? null
+        }
+        Hidden {
+            button: root.hidden[1] ?? null
+        }
+        Hidden {
+            button: root.hidden[2] ?? null
+        }
         MenuRow {
+            startsGroup: root.hidden.length > 0
             label: qsTr("New window")
             note: "Ctrl+N"
             onPicked: root.application.openWindow()

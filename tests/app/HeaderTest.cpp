@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QPointer>
+#include <QQmlProperty>
 
 #include <algorithm>
 #include <string>
@@ -30,7 +31,7 @@ class Header : public OpenWindow {
         m_window->grabWindow(); // a picture is drawn when all in it has its place
         std::vector<QQuickItem*> rows;
         for (QQuickItem* row : m_window->activeFocusItem()->parentItem()->childItems()) {
-            if (row->property("choice").isValid()) {
+            if (row->property("choice").isValid() && row->isVisible()) {
                 rows.push_back(row);
             }
         }
@@ -84,6 +85,28 @@ TEST_F(Header, WithoutRoomTheHeaderShowsIconsAndKeepsTheirNames) {
         EXPECT_GE(item("open-map-options")->mapToItem(header, QPointF()).x(), 12) << width;
         EXPECT_EQ(nameOf(item("open-map-sources")), "Sources & coverage");
     }
+}
+
+TEST_F(Header, ToolsWithoutRoomAreTheFirstRowsOfTheMainMenu) {
+    openRecords();
+    const QQuickItem* const tools = item("open-map-sources")->parentItem();
+    m_window->setMinimumSize({1, 1});
+    m_window->resize(500, 400);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !tools->isVisible(); }));
+    std::vector<QQuickItem*> rows = openMenu("open-map-menu");
+    std::vector<std::string> first = texts(rows);
+    first.resize(4);
+    EXPECT_EQ(
+        first,
+        (std::vector<std::string>{"Map options", "Canada", "Sources & coverage", "New window"}));
+    click(rows[0]);
+    m_window->grabWindow();
+    EXPECT_EQ(QQmlProperty::read(m_window->activeFocusItem(), QStringLiteral("label")).toString(),
+              QStringLiteral("Map"));
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_EQ(workspace().basemap(), QStringLiteral("satellite"));
+    EXPECT_EQ(m_window->activeFocusItem(), item("open-map-menu"));
 }
 
 TEST_F(Header, TheChoicesOfTheBasemapAreStoredAndShownByEveryWindow) {

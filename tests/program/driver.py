@@ -295,6 +295,10 @@ class Program:
         time.sleep(seconds)
         ask_display("keyup", keys)
 
+    def resize(self, width, height):
+        """Makes its first window so large, as a window manager does."""
+        ask_display("windowsize", self._on_display()[0], str(width), str(height))
+
     def _on_display(self):
         found = ask_display("search", "--onlyvisible", "--pid", str(self.process.pid)).split()
         return sorted(found, key=int)

@@ -132,3 +132,19 @@ def without_a_session_bus_every_start_stands_alone(executable):
             for program in (first, second):
                 if program.process.poll() is not None or program.titles() != ["Vasker Beta"]:
                     raise Missed(f"a program has {program.titles()}, {program.process.poll()}")
+
+
+def a_small_window_keeps_every_tool_in_reach(executable):
+    """As small as a compositor may make it, whatever the window asks for."""
+    with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
+        program.see(id="open-map-options")
+        program.resize(500, 400)
+        program.key("F10")
+        program.press(role="menu item", name="Map options")
+        program.press(role="menu item", name="Satellite")
+        program.wait(lambda: program.preference(BASEMAP) == "satellite", "no basemap is chosen")
+        program.key("F10")
+        program.press(role="menu item", name="Canada")
+        program.key("F10")
+        program.press(role="menu item", name="Sources & coverage")
+        program.see(role="dialog", name="Sources & coverage")
