@@ -164,6 +164,17 @@ TEST(Description, NamesTheLineOfWhatIsNoToml) {
     }
 }
 
+TEST(Description, NamesTheLineOfATableWithoutAName) {
+    for (const std::string header : {"[]", "[#]", "[=]", "[[.]]", "[a.]", "[a..b]", "[a.#]"}) {
+        try {
+            (void)readDescription("d.toml", "release = \"a\"\n" + header + "\n");
+            FAIL() << header;
+        } catch (const InputError& error) {
+            EXPECT_TRUE(std::string_view(error.what()).starts_with("d.toml:2: ")) << error.what();
+        }
+    }
+}
+
 TEST(Description, NamesTheLineOfTypographicQuotes) {
     const std::string text = replaced(
         fixture(), "coverage = \"Invented energy infrastructure\"", "coverage = “Invented”");

@@ -3,11 +3,11 @@
 #include "data/ReleaseRules.h"
 #include "data/WebAddress.h"
 #include "tools/openmap-release/Suggestion.h"
+#include "tools/openmap-release/packing/Toml.h"
 #include "tools/openmap-release/packing/TomlText.h"
 #include "tools/openmap-release/packing/tables/InputError.h"
 
 #include <simdjson.h>
-#include <toml++/toml.h>
 
 #include <algorithm>
 #include <array>
