@@ -27,7 +27,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const TileKey key{3, 2, 1};
     const TileRequest request{
         .key = key, .devicePixelsPerMapPoint = 64 / key.side(), .theme = BasemapTheme::satellite};
-    const QImage tile = paintTile({.imagery = {{key.ancestor(1), image}}}, request);
+    TileData shown;
+    shown.imagery = {{key.ancestor(1), image}};
+    const QImage tile = paintTile(shown, request);
     require(!tile.isNull());
     return 0;
 }

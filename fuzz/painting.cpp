@@ -36,7 +36,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                               .theme = themes.at(data[0] % themes.size())};
     const int levels = std::min(data[2] / 16 % 4, key.zoom);
     const TileData shown{.vector = std::make_shared<const VectorTile>(*std::move(tile)),
-                         .vectorKey = key.ancestor(levels)};
+                         .vectorKey = key.ancestor(levels),
+                         .imagery = {}};
     const QImage image = paintTile(shown, request);
     require(image.isNull() ||
             image.size() == QSize(request.pixels().width, request.pixels().height));

@@ -1,8 +1,9 @@
-// Writes what those inputs start from that are no short texts: `fuzz-seeds ARCHIVE CORPORA` writes
-// a few files to each of the folders of CORPORA, which exist; tiles come from ARCHIVE.
+// Writes what the inputs start from: `fuzz-seeds PROJECT CORPORA` writes a few files to a folder of
+// CORPORA for each input. Tiles and datasets come from PROJECT, the folder of the project.
 
 #include "data/ReleaseWriter.h"
 #include "fuzz/support/ForeignDatabase.h"
+#include "fuzz/support/TextSeeds.h"
 #include "map/tiles/TileArchive.h"
 #include "map/tiles/TileInflation.h"
 #include "map/tileservice/TileCache.h"
@@ -109,15 +110,44 @@ void writeReleases(const std::filesystem::path& corpora) {
     write(corpora / "release" / "seed-1", longest);
 }
 
+void writeTexts(const std::filesystem::path& corpora) {
+    int number = 0;
+    for (const TextSeed& seed : textSeeds) {
+        write(corpora / seed.input / ("seed-text-" + std::to_string(++number)),
+              std::string(seed.text));
+    }
+}
+
+void copyFiles(const std::filesystem::path& project, const std::filesystem::path& corpora) {
+    const auto copy = [](const std::filesystem::path& from, const std::filesystem::path& corpus) {
+        std::filesystem::create_directories(corpus);
+        std::filesystem::copy_file(
+            from, corpus / from.filename(), std::filesystem::copy_options::overwrite_existing);
+    };
+    copy(project / "resources/BundleInformation.json", corpora / "bundle");
+    for (const auto& entry :
+         std::filesystem::recursive_directory_iterator(project / "tests/tools/fixtures/datasets")) {
+        const std::filesystem::path& path = entry.path();
+        if (path.extension() == ".csv" || path.extension() == ".geojson") {
+            copy(path, corpora / path.extension().string().substr(1));
+        } else if (path.extension() == ".toml") {
+            copy(path, corpora / "description");
+        }
+    }
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
     const QCoreApplication application(count, arguments); // finds the encoders
-    const auto archive = count == 3 ? TileArchive::open(arguments[1]) : nullptr;
+    const std::filesystem::path project = count == 3 ? arguments[1] : "";
+    const auto archive = TileArchive::open(project / "resources/basemap.mbtiles");
     if (!archive) {
-        std::cerr << "usage: fuzz-seeds ARCHIVE CORPORA\n";
+        std::cerr << "usage: fuzz-seeds PROJECT CORPORA\n";
         return 2;
     }
+    writeTexts(arguments[2]);
+    copyFiles(project, arguments[2]);
     writeReleases(arguments[2]);
     writeTiles(*archive, arguments[2]);
     writeImages(arguments[2]);
