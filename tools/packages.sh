@@ -3,7 +3,7 @@
 
 # To configure and build the programs.
 build_packages=(
-    g++ cmake ninja-build pkg-config
+    g++ cmake ninja-build pkg-config python3
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools
     qt6-shadertools-dev qt6-shader-baker qt6-svg-dev
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools linguist-qt6
@@ -31,7 +31,7 @@ picture_packages=(xvfb dbus-daemon netpbm)
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev qml6-module-qttest
     clang libclang-rt-dev clang-format clang-tidy desktop-file-utils appstream appstream-util
-    poppler-utils xauth x11-utils x11-apps xdotool at-spi2-core python3 python3-gi gir1.2-atspi-2.0
+    poppler-utils xauth x11-utils x11-apps xdotool at-spi2-core python3-gi gir1.2-atspi-2.0
 )
 
 # Installs those of the packages given that are missing, and touches no other package. Where it cannot

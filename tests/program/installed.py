@@ -41,6 +41,8 @@ def names_its_program(prefix):
 def tells_who_made_it(prefix):
     for name in ("LICENSE", "NOTICE", "README.md", "CHANGELOG.md"):
         assert (prefix / "share/doc/vasker-open-map" / name).stat().st_size > 0, name
+    for package in ("vasker-open-map", "vasker-open-map-data"):
+        assert (prefix / "share/doc" / package / f"{package}.spdx.json").stat().st_size > 0, package
 
 
 def manual(prefix, name):
