@@ -1,12 +1,13 @@
 #include "platform/files/PreferenceFile.h"
 
 #include "platform/files/RegularFile.h"
+#include "platform/files/WholeFile.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QIODevice>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -97,10 +98,10 @@ PreferenceFile::set(const QString& key, const QString& value, const Lines& lines
         return std::nullopt; // it would be lost
     }
     const Lines changed = with(held.value_or(lines), key, value);
-    QSaveFile file(m_path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           file.write(changed.join('\n') + '\n') >= 0 && file.commit();
-    return isWritten ? std::optional(changed) : std::nullopt;
+    const QString fault = writeWhole(m_path, [&](QIODevice& file) {
+        return file.write(changed.join('\n') + '\n') < 0 ? file.errorString() : QString();
+    });
+    return fault.isEmpty() ? std::optional(changed) : std::nullopt;
 }
 
 std::optional<QString> PreferenceFile::value(const Lines& lines, const QString& key) {
