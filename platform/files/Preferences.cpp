@@ -4,11 +4,13 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <utility>
+
 namespace vasker {
 
 Preferences::Preferences(QString path, QObject* parent)
     : QObject(parent), m_file(std::move(path)),
-      m_lines(m_file.read().value_or(PreferenceFile::Lines())) {
+      m_held(m_file.read().value_or(PreferenceFile::Lines())), m_lines(m_held) {
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &Preferences::reload);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &Preferences::reload);
     watch();
@@ -29,6 +31,7 @@ void Preferences::setText(const QString& key, const QString& value) {
     const auto written = m_file.set(key, value, m_lines);
     m_lines = written ? *written : PreferenceFile::with(m_lines, key, value);
     if (written) {
+        m_held = m_lines;
         watch();
     }
     if (m_lines != before) {
@@ -38,9 +41,10 @@ void Preferences::setText(const QString& key, const QString& value) {
 
 void Preferences::reload() {
     watch();
-    const PreferenceFile::Lines lines = m_file.read().value_or(PreferenceFile::Lines());
-    if (lines != m_lines) {
-        m_lines = lines;
+    const PreferenceFile::Lines held = m_file.read().value_or(PreferenceFile::Lines());
+    // What could not be written counts until somebody else writes.
+    if (std::exchange(m_held, held) != held && held != m_lines) {
+        m_lines = held;
         Q_EMIT changed();
     }
 }

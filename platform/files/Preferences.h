@@ -40,7 +40,8 @@ class Preferences : public QObject {
     void watch();
 
     PreferenceFile m_file;
-    PreferenceFile::Lines m_lines;
+    PreferenceFile::Lines m_held;  ///< by the file, when it was read or written last
+    PreferenceFile::Lines m_lines; ///< others than those where they could not be written
     QFileSystemWatcher m_watcher;
 };
 
