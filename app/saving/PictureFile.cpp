@@ -2,6 +2,7 @@
 
 #include "platform/files/WholeFile.h"
 
+#include <QBuffer>
 #include <QIODevice>
 #include <QImageWriter>
 #include <QPainter>
@@ -28,8 +29,15 @@ QString PictureFile::write(const QString& path) const {
                                                                  {".svg", &PictureFile::writeSvg}}};
     for (const auto& [ending, writer] : writers) {
         if (path.endsWith(QLatin1String(ending), Qt::CaseInsensitive)) {
-            return writeWhole(
-                path, [this, write = writer](QIODevice& file) { return (this->*write)(file); });
+            // In memory first: what encodes a picture does not know why a device fails.
+            QBuffer bytes;
+            bytes.open(QIODevice::WriteOnly);
+            if (QString fault = (this->*writer)(bytes); !fault.isEmpty()) {
+                return fault;
+            }
+            return writeWhole(path, [&](QIODevice& file) {
+                return file.write(bytes.data()) == bytes.size() ? QString() : file.errorString();
+            });
         }
     }
     return tr("its name has to end in .png, .pdf or .svg.");
