@@ -1,6 +1,7 @@
 #include "app/OpenMapApp.h"
 
 #include "app/OpenMapRoot.h"
+#include "platform/Descriptors.h"
 
 #include <QFile>
 #include <QJsonObject>
@@ -14,6 +15,10 @@
 namespace vasker {
 
 namespace {
+
+/// More than one more window takes, with what it asks of the disk and the bus. Where they run out
+/// while it is made, the libraries below it end the program.
+constexpr int descriptorsForWindow = 48;
 
 /// Where the bundle has no such archive, the path is empty: the map does without.
 std::string archivePath(const Bundle& bundle, const QString& name) {
@@ -60,6 +65,9 @@ QString OpenMapApp::version() {
 }
 
 QQuickWindow* OpenMapApp::openWindow() {
+    if (hasWindows() && !canOpenDescriptors(descriptorsForWindow)) {
+        return nullptr;
+    }
     // Loading starts first: it goes on while the window is being made.
     auto root = std::make_unique<OpenMapRoot>(m_bundle, m_locale, m_preferences);
     root->load();
@@ -91,6 +99,9 @@ QQuickWindow* OpenMapApp::openWindow() {
 
 void OpenMapApp::openWindowInFront(const LaunchToken& token) {
     QQuickWindow* const window = openWindow();
+    if (window == nullptr) {
+        return;
+    }
     const auto request = [window, token] {
         if (!token.activation.isEmpty()) {
             // Where Qt looks for it.

@@ -42,7 +42,8 @@ class OpenMapApp : public QObject {
     /// "vasker-open-map" in the user's XDG cache folder.
     [[nodiscard]] static QString userCachePath();
 
-    /// Opens one more window, which loads the release by itself and goes when it is closed.
+    /// Opens one more window, which loads the release by itself and goes when it is closed. Null
+    /// where there are windows and the system lets the program open too few files for another one.
     Q_INVOKABLE QQuickWindow* openWindow();
     /// The same; once it is seen, the window asks to come to the front, for which `token` is the
     /// permission.
