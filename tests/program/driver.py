@@ -175,6 +175,10 @@ class Screen:
             raise RuntimeError(f"the display has no 24 or 32 bits a pixel, lowest first: {header}")
         self._pixels = data[header[0] + 12 * header[19] :]
 
+    def shows(self, other):
+        """Whether both pictures are the same."""
+        return self._pixels == other._pixels
+
     def pixel(self, x, y):
         """Red, green and blue."""
         place = y * self._stride + self._step * x

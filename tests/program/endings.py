@@ -1,28 +1,128 @@
-"""How the program ends."""
+"""How the program ends, and what it outlives."""
 
-import os
+import signal
+import subprocess
 import time
 
 from bundle import RELEASE, program_with_release
-from driver import Missed, Program
+from disks import BASEMAP
+from driver import Missed, Program, Screen
+from faults import faults
+from portal import Portal
 
 # What a slow machine may need beside the half second that a user may have to wait.
 PATIENCE_SECONDS = 3
+BEFORE = "what was there before\n"
 
 
 def a_load_that_hangs_keeps_nobody(executable):
-    """The file of the release lies on a disk that does not answer: reading it never ends."""
-    dead = {"LD_PRELOAD": os.environ["VASKER_DEAD_MOUNT"]}
-    with program_with_release(executable, RELEASE) as copy, Program(copy, **dead) as program:
-        program.see(name="Opening the bundled map…")
-        program.key("ctrl+n")
-        program.see(window=1, name="Opening the bundled map…")
-        program.key("ctrl+w", window=1)
-        program.wait(lambda: len(program.windows()) == 1, "the second window is still there")
-        program.key("ctrl+w")
-        closed = time.monotonic()
-        status = program.process.wait(timeout=20)
-        seconds = time.monotonic() - closed
-        print(f"ended {seconds:.2f} s after its last window was closed")
-        if status != 0 or seconds > PATIENCE_SECONDS:
-            raise Missed(f"it ended with {status} after {seconds:.2f} s")
+    """The file of the release lies on a disk that does not answer: opening it never ends."""
+    with faults("open wait */OpenMap.json") as dead, program_with_release(executable, RELEASE) as copy:
+        with Program(copy, **dead.environment) as program:
+            program.see(name="Opening the bundled map…")
+            program.key("ctrl+n")
+            program.see(window=1, name="Opening the bundled map…")
+            program.key("ctrl+w", window=1)
+            program.wait(lambda: len(program.windows()) == 1, "the second window is still there")
+            program.key("ctrl+w")
+            closed = time.monotonic()
+            status = program.process.wait(timeout=20)
+            seconds = time.monotonic() - closed
+            print(f"ended {seconds:.2f} s after its last window was closed")
+            if status != 0 or seconds > PATIENCE_SECONDS:
+                raise Missed(f"it ended with {status} after {seconds:.2f} s")
+
+
+# When the program is ended while it writes a file, and whether the file is the new one then.
+MOMENTS = [("write wait", False), ("sync wait", False), ("rename wait", False), ("rename stay", True)]
+SIGNALS = [signal.SIGTERM, signal.SIGKILL]
+
+
+def end_at(moment, folder, present, program, act, how):
+    """Has the program `act`, and ends it when it writes a file in `folder`, at that moment."""
+    fault = f"{moment} {folder}/*"
+    present.set(fault)
+    act()
+    present.expect(fault)
+    program.process.send_signal(how)
+    program.process.wait(timeout=20)
+
+
+def an_end_while_a_file_is_saved_leaves_the_old_or_the_new_one(executable):
+    with faults() as present, program_with_release(executable, RELEASE) as copy:
+        folder = copy.parent / "documents"
+        folder.mkdir()
+        place = folder / "shown.csv"
+        for moment, is_new in MOMENTS:
+            for how in SIGNALS:
+                place.write_text(BEFORE)
+                present.set()
+                with Portal(save_to=place), Program(copy, **present.environment) as program:
+                    program.see(name="2 of 2 records")
+                    save = lambda: program.key("ctrl+s")
+                    end_at(moment, folder, present, program, save, how)
+                found = place.read_text("utf-8")
+                rows = [line.partition(",")[0] for line in found.splitlines()]
+                if (rows == ["id", "A-2", "A-2", "A-10", "A-10"]) != is_new or (found == BEFORE) == is_new:
+                    raise Missed(f"{moment}, {how.name}: {found}")
+
+
+def an_end_while_a_preference_is_written_leaves_the_old_or_the_new_one(executable):
+    before = {BASEMAP: "hybrid", "another": "value"}
+    with faults() as present, program_with_release(executable, RELEASE) as copy:
+        for moment, is_new in MOMENTS:
+            for how in SIGNALS:
+                present.set()
+                with Program(copy, preferences=before, **present.environment) as program:
+                    program.see(name="2 of 2 records")
+
+                    def choose_the_first():
+                        # By keys: a program that hangs answers no screen reader.
+                        program.press(id="open-map-options")
+                        program.see(role="menu item", name="Hybrid", state="focused")
+                        program.key("Home")
+                        program.key("Return")
+
+                    folder = "*/config/vasker-open-map"
+                    end_at(moment, folder, present, program, choose_the_first, how)
+                    stored = program.preference(BASEMAP), program.preference("another")
+                if stored != ("standard" if is_new else "hybrid", "value"):
+                    raise Missed(f"{moment}, {how.name}: {stored}")
+
+
+def picture_at_rest(program, unlike=None):
+    """What the display shows once it stays the same, and is another than `unlike`."""
+
+    def asked():
+        first = Screen()
+        time.sleep(0.3)
+        second = Screen()
+        return second if first.shows(second) and not (unlike and second.shows(unlike)) else None
+
+    return program.wait(asked, "the display does not change, or does not come to rest")
+
+
+def a_session_bus_that_ends_is_not_missed(executable):
+    """Nor is there an accessibility bus then: what shows is on the display."""
+    bus = subprocess.Popen(
+        ["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE, text=True
+    )
+    address = {"DBUS_SESSION_BUS_ADDRESS": bus.stdout.readline().strip()}
+    try:
+        with program_with_release(executable, RELEASE) as copy, Program(copy, **address) as program:
+            program.wait(lambda: len(program.titles()) == 1, "there is no window")
+            workspace = picture_at_rest(program)
+            bus.kill()
+            program.key("ctrl+question")
+            sheet = picture_at_rest(program, unlike=workspace)
+            program.key("Escape")
+            picture_at_rest(program, unlike=sheet)
+            program.key("ctrl+n")
+            program.wait(lambda: len(program.titles()) == 2, "there is no second window")
+            program.key("ctrl+q")
+            status = program.process.wait(timeout=20)
+            if status != 0:
+                raise Missed(f"it ended with {status}")
+    finally:
+        bus.kill()
+        bus.wait()
