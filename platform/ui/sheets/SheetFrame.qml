@@ -56,6 +56,7 @@ Item {
         radius: Theme.sheetRadius
         level: 3
         color: Theme.colors.sheet
+        solid: root.opacity === 1
     }
     MouseArea {
         anchors.fill: parent
