@@ -1,7 +1,7 @@
 import QtQuick
 
-// How many rows of a long list are made: the first at once, then one after each frame; beyond `eager`
-// only while more are wanted, so that a list costs what is seen of it.
+// How many rows of a long list are made: the first at once, then, when a picture of them is drawn, one
+// after each frame; beyond `eager` only while more are wanted, so that a list costs what is seen of it.
 Timer {
     id: root
 
@@ -12,7 +12,7 @@ Timer {
     property int later: 0
     readonly property int made: root.promptCount + root.later
 
-    interval: 1
+    interval: root.later === 0 ? 30 : 1
     repeat: true
     running: root.made < root.count && (root.made < root.eager || root.wanted)
     onTriggered: ++root.later
