@@ -1,6 +1,7 @@
 #include "detail/OpenMapInspector.h"
 
 #include "detail/PromptCount.h"
+#include "presentation/FactLabel.h"
 #include "presentation/RecordText.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
     }
     inspector.facts.reserve(asset.facts.size());
     for (const Fact& fact : asset.facts) {
-        inspector.facts.push_back({.label = toQString(fact.label),
+        inspector.facts.push_back({.label = factLabel(fact.label),
                                    .value = toQString(fact.value),
                                    .link = provenance(release, fact)});
     }

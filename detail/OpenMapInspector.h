@@ -1,6 +1,7 @@
 #pragma once
 // Everything that is told about one record: what its release reports, with the period and the
-// publisher of each value, and what its place means. Texts of the release stand as stored.
+// publisher of each value, and what its place means. Texts of the release stand as stored, but for
+// the labels of facts, which are translated where they are known.
 
 #include "data/OpenMapRelease.h"
 #include "data/SearchedTexts.h"

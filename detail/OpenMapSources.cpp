@@ -30,6 +30,12 @@ QStringList toStringList(const std::vector<std::string>& texts) {
     return list;
 }
 
+/// Nothing in English, the language of the texts in the sources.
+QString translatedOnly(const char* text) {
+    const QString translation = OpenMapSources::tr(text);
+    return translation == QLatin1String(text) ? QString() : translation;
+}
+
 } // namespace
 
 OpenMapSources OpenMapSources::of(const OpenMapRelease& release) {
@@ -43,6 +49,8 @@ OpenMapSources OpenMapSources::of(const OpenMapRelease& release) {
                              dateOf(QString::fromStdString(release.generatedAt))),
         .note = tr("The packaged date is not the observation date. Each record shows its source "
                    "period."),
+        .languageNote = translatedOnly(QT_TR_NOOP("Values and texts of publishers are shown in "
+                                                  "their own language.")),
         .limitations = toStringList(release.limitations),
         .credits = {},
         .licence = tr("The data retain their source licences. Vasker app terms do not restrict "

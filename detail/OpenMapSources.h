@@ -24,6 +24,8 @@ struct OpenMapSources {
     Q_PROPERTY(QString counts MEMBER counts CONSTANT)
     Q_PROPERTY(QString identity MEMBER identity CONSTANT)
     Q_PROPERTY(QString note MEMBER note CONSTANT)
+    /// Empty: there is nothing to say.
+    Q_PROPERTY(QString languageNote MEMBER languageNote CONSTANT)
     Q_PROPERTY(QStringList limitations MEMBER limitations CONSTANT)
     Q_PROPERTY(int promptLimitations READ promptLimitations CONSTANT)
     Q_PROPERTY(QVariantList credits READ creditList CONSTANT)
@@ -36,6 +38,7 @@ struct OpenMapSources {
     QString counts;   ///< of records and of those that are routes
     QString identity; ///< release id and date of packaging
     QString note;
+    QString languageNote; ///< where the program speaks another language than its release
     QStringList limitations;
     std::vector<OpenMapCredit> credits; ///< of every source, in the release's order
     QString licence;

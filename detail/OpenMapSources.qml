@@ -62,6 +62,12 @@ Item {
             NoteRow {
                 text: root.content.note
             }
+            NoteRow {
+                visible: text.length > 0
+                textStyle: Theme.type.caption
+                color: Theme.colors.text2
+                text: root.content.languageNote
+            }
         }
         Section {
             id: limitations

@@ -1,6 +1,7 @@
 #include "map/catalogue/FoundText.h"
 
 #include "map/catalogue/NameMatch.h"
+#include "presentation/FactLabel.h"
 #include "presentation/RecordText.h"
 
 #include <QTextBoundaryFinder>
@@ -96,7 +97,7 @@ QString label(const OpenMapRelease::Asset& asset, const SearchedText& found) {
     case Field::jurisdiction:
         return FoundText::tr("Jurisdiction");
     default:
-        return cut(toQString(asset.facts[found.fact].label), longestLabel);
+        return cut(factLabel(asset.facts[found.fact].label), longestLabel);
     }
 }
 

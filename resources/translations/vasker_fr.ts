@@ -187,6 +187,337 @@
     </message>
 </context>
 <context>
+    <name>FactLabel</name>
+    <message>
+        <source>Location basis</source>
+        <translation>Origine de la position</translation>
+    </message>
+    <message>
+        <source>NPRI ID</source>
+        <translation>Identifiant INRP</translation>
+    </message>
+    <message>
+        <source>Industry code (NAICS)</source>
+        <translation>Code d’industrie (SCIAN)</translation>
+    </message>
+    <message>
+        <source>Last report to the inventory</source>
+        <translation>Dernière déclaration à l’inventaire</translation>
+    </message>
+    <message>
+        <source>Key industrial sector</source>
+        <translation>Secteur industriel clé</translation>
+    </message>
+    <message>
+        <source>Land survey</source>
+        <translation>Arpentage</translation>
+    </message>
+    <message>
+        <source>Total emissions</source>
+        <translation>Émissions totales</translation>
+    </message>
+    <message>
+        <source>Nitrogen oxides to air</source>
+        <translation>Oxydes d’azote dans l’air</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <source>Name in the report for %1</source>
+        <translation>Nom dans la déclaration de %1</translation>
+    </message>
+    <message>
+        <source>Company in the report for %1</source>
+        <translation>Entreprise dans la déclaration de %1</translation>
+    </message>
+    <message>
+        <source>GHGRP ID</source>
+        <translation>Identifiant PDGES</translation>
+    </message>
+    <message>
+        <source>GHGRP facility page</source>
+        <translation>Page PDGES de l’installation</translation>
+    </message>
+    <message>
+        <source>Industry</source>
+        <translation>Industrie</translation>
+    </message>
+    <message>
+        <source>Industry (GHGRP)</source>
+        <translation>Industrie (PDGES)</translation>
+    </message>
+    <message>
+        <source>Industry code (NAICS, GHGRP)</source>
+        <translation>Code d’industrie (SCIAN, PDGES)</translation>
+    </message>
+    <message>
+        <source>Facility name (GHGRP)</source>
+        <translation>Nom de l’installation (PDGES)</translation>
+    </message>
+    <message>
+        <source>Reporting company (GHGRP)</source>
+        <translation>Entreprise déclarante (PDGES)</translation>
+    </message>
+    <message>
+        <source>Petrinex codes</source>
+        <translation>Codes Petrinex</translation>
+    </message>
+    <message>
+        <source>Carbon dioxide (CO2)</source>
+        <translation>Dioxyde de carbone (CO2)</translation>
+    </message>
+    <message>
+        <source>Methane (CH4)</source>
+        <translation>Méthane (CH4)</translation>
+    </message>
+    <message>
+        <source>Nitrous oxide (N2O)</source>
+        <translation>Oxyde nitreux (N2O)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Parent</source>
+        <translation>Société mère</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <translation>Propriétaire</translation>
+    </message>
+    <message>
+        <source>Operator</source>
+        <translation>Exploitant</translation>
+    </message>
+    <message>
+        <source>Last updated</source>
+        <translation>Dernière mise à jour</translation>
+    </message>
+    <message>
+        <source>GEM wiki page</source>
+        <translation>Page du wiki de GEM</translation>
+    </message>
+    <message>
+        <source>GEM project ID</source>
+        <translation>Identifiant GEM du projet</translation>
+    </message>
+    <message>
+        <source>GEM unit ID</source>
+        <translation>Identifiant GEM de l’unité</translation>
+    </message>
+    <message>
+        <source>GEM terminal ID</source>
+        <translation>Identifiant GEM du terminal</translation>
+    </message>
+    <message>
+        <source>Reported unit</source>
+        <translation>Unité déclarée</translation>
+    </message>
+    <message>
+        <source>Also known as</source>
+        <translation>Aussi appelé</translation>
+    </message>
+    <message>
+        <source>Facility type</source>
+        <translation>Type d’installation</translation>
+    </message>
+    <message>
+        <source>Fuel</source>
+        <translation>Combustible</translation>
+    </message>
+    <message>
+        <source>Fuel source</source>
+        <translation>Source du combustible</translation>
+    </message>
+    <message>
+        <source>Capacity</source>
+        <translation>Capacité</translation>
+    </message>
+    <message>
+        <source>Cost</source>
+        <translation>Coût</translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation>Diamètre</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
+        <source>Length, estimated</source>
+        <translation>Longueur estimée</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>Coordinate accuracy</source>
+        <translation>Précision des coordonnées</translation>
+    </message>
+    <message>
+        <source>Route accuracy</source>
+        <translation>Précision du tracé</translation>
+    </message>
+    <message>
+        <source>Route basis</source>
+        <translation>Origine du tracé</translation>
+    </message>
+    <message>
+        <source>Proposal year</source>
+        <translation>Année de la proposition</translation>
+    </message>
+    <message>
+        <source>Investment decision</source>
+        <translation>Décision d’investissement</translation>
+    </message>
+    <message>
+        <source>Construction year</source>
+        <translation>Année de construction</translation>
+    </message>
+    <message>
+        <source>Planned start year</source>
+        <translation>Année de mise en service prévue</translation>
+    </message>
+    <message>
+        <source>Start year</source>
+        <translation>Année de mise en service</translation>
+    </message>
+    <message>
+        <source>Stop year</source>
+        <translation>Année d’arrêt</translation>
+    </message>
+    <message>
+        <source>Shelved year</source>
+        <translation>Année de mise en veilleuse</translation>
+    </message>
+    <message>
+        <source>Cancelled year</source>
+        <translation>Année d’annulation</translation>
+    </message>
+    <message>
+        <source>Released: Nitrogen oxides (expressed as nitrogen dioxide)</source>
+        <translation>Rejeté : oxydes d’azote (exprimés en dioxyde d’azote)</translation>
+    </message>
+    <message>
+        <source>Released: PM2.5 - Particulate Matter &lt;= 2.5 Micrometers</source>
+        <translation>Rejeté : PM2,5 – particules &lt;= 2,5 micromètres</translation>
+    </message>
+    <message>
+        <source>Released: PM10 - Particulate Matter &lt;= 10 Micrometers</source>
+        <translation>Rejeté : PM10 – particules &lt;= 10 micromètres</translation>
+    </message>
+    <message>
+        <source>Released: Carbon monoxide</source>
+        <translation>Rejeté : monoxyde de carbone</translation>
+    </message>
+    <message>
+        <source>Released: Volatile Organic Compounds (VOCs)</source>
+        <translation>Rejeté : composés organiques volatils (COV)</translation>
+    </message>
+    <message>
+        <source>Released: Total particulate matter</source>
+        <translation>Rejeté : particules totales</translation>
+    </message>
+    <message>
+        <source>Released: Sulphur dioxide</source>
+        <translation>Rejeté : dioxyde de soufre</translation>
+    </message>
+    <message>
+        <source>Released: Xylene (all isomers)</source>
+        <translation>Rejeté : xylène (tous les isomères)</translation>
+    </message>
+    <message>
+        <source>Released: Toluene</source>
+        <translation>Rejeté : toluène</translation>
+    </message>
+    <message>
+        <source>Released: n-Hexane</source>
+        <translation>Rejeté : n-hexane</translation>
+    </message>
+    <message>
+        <source>Released: 1,2,4-Trimethylbenzene</source>
+        <translation>Rejeté : 1,2,4-triméthylbenzène</translation>
+    </message>
+    <message>
+        <source>Released: Ethylbenzene</source>
+        <translation>Rejeté : éthylbenzène</translation>
+    </message>
+    <message>
+        <source>Released: Total reduced sulphur (expressed as hydrogen sulphide)</source>
+        <translation>Rejeté : soufre réduit total (exprimé en sulfure d’hydrogène)</translation>
+    </message>
+    <message>
+        <source>Released: Hydrogen sulphide</source>
+        <translation>Rejeté : sulfure d’hydrogène</translation>
+    </message>
+    <message>
+        <source>Released: Benzene</source>
+        <translation>Rejeté : benzène</translation>
+    </message>
+    <message>
+        <source>Released: Formaldehyde</source>
+        <translation>Rejeté : formaldéhyde</translation>
+    </message>
+    <message>
+        <source>Released: Cyclohexane</source>
+        <translation>Rejeté : cyclohexane</translation>
+    </message>
+    <message>
+        <source>Released: Biphenyl</source>
+        <translation>Rejeté : biphényle</translation>
+    </message>
+    <message>
+        <source>Released: Methanol</source>
+        <translation>Rejeté : méthanol</translation>
+    </message>
+    <message>
+        <source>Released: Propylene</source>
+        <translation>Rejeté : propylène</translation>
+    </message>
+    <message>
+        <source>Released: Ammonia (total)</source>
+        <translation>Rejeté : ammoniac (total)</translation>
+    </message>
+    <message>
+        <source>Released: Aluminum (fume or dust only)</source>
+        <translation>Rejeté : aluminium (fumée ou poussière seulement)</translation>
+    </message>
+    <message>
+        <source>Released: Lead (and its compounds)</source>
+        <translation>Rejeté : plomb (et ses composés)</translation>
+    </message>
+    <message>
+        <source>Released: Naphthalene</source>
+        <translation>Rejeté : naphtalène</translation>
+    </message>
+    <message>
+        <source>Released: Phenanthrene</source>
+        <translation>Rejeté : phénanthrène</translation>
+    </message>
+    <message>
+        <source>Released: Pyrene</source>
+        <translation>Rejeté : pyrène</translation>
+    </message>
+    <message>
+        <source>Released: Ethylene</source>
+        <translation>Rejeté : éthylène</translation>
+    </message>
+</context>
+<context>
     <name>FailureScreen</name>
     <message>
         <source>Map unavailable</source>
@@ -509,6 +840,10 @@
         <translation>La date de préparation n’est pas la date d’observation. Chaque fiche indique la période de sa source.</translation>
     </message>
     <message>
+        <source>Values and texts of publishers are shown in their own language.</source>
+        <translation>Les valeurs et les textes des éditeurs sont affichés dans leur propre langue.</translation>
+    </message>
+    <message>
         <source>The data retain their source licences. Vasker app terms do not restrict your rights under OGL-Canada or CC BY 4.0. No government or publisher endorsement is implied.</source>
         <translation>Les données conservent les licences de leurs sources. Les conditions de l’application Vasker ne restreignent pas vos droits selon la LGO – Canada ou CC BY 4.0. Aucune approbation d’un gouvernement ou d’un éditeur n’est sous-entendue.</translation>
     </message>
@@ -781,11 +1116,11 @@
     </message>
     <message>
         <source>%1: </source>
-        <translation>%1 : </translation>
+        <translation>%1 : </translation>
     </message>
     <message>
         <source>Found in %1: %2</source>
-        <translation>Trouvé dans « %1 » : %2</translation>
+        <translation>Trouvé dans « %1 » : %2</translation>
     </message>
 </context>
 <context>
@@ -947,19 +1282,19 @@
     </message>
     <message>
         <source>Search: %1</source>
-        <translation>Recherche : %1</translation>
+        <translation>Recherche : %1</translation>
     </message>
     <message>
         <source>Category: %1</source>
-        <translation>Catégorie : %1</translation>
+        <translation>Catégorie : %1</translation>
     </message>
     <message>
         <source>Basemap: %1</source>
-        <translation>Fond de carte : %1</translation>
+        <translation>Fond de carte : %1</translation>
     </message>
     <message>
         <source>Release: %1</source>
-        <translation>Publication : %1</translation>
+        <translation>Publication : %1</translation>
     </message>
     <message>
         <source>Saving %1…</source>

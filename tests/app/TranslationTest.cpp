@@ -1,8 +1,13 @@
 #include "data/Classification.h"
+#include "data/text/CaseFolding.h"
+#include "detail/OpenMapInspector.h"
+#include "detail/OpenMapSources.h"
+#include "map/catalogue/FoundText.h"
 #include "map/catalogue/KindListModel.h"
 #include "map/catalogue/RecordListModel.h"
 #include "map/view/CameraReadout.h"
 #include "platform/Locale.h"
+#include "presentation/FactLabel.h"
 #include "presentation/RecordText.h"
 #include "tests/support/ReleaseBuilder.h"
 
@@ -37,6 +42,52 @@ TEST(Translation, TheFirstPreferredLanguageThatThereIsGoesBeforeTheLocale) {
     qunsetenv("LANGUAGE");
 }
 
+void expectLabelsOfFactsInFrench() {
+    EXPECT_EQ(factLabel("NPRI ID"), QStringLiteral("Identifiant INRP"));
+    EXPECT_EQ(factLabel("Released: Toluene"), QStringLiteral("Rejeté\u00a0: toluène"));
+    EXPECT_EQ(factLabel("Name in the report for 2031"),
+              QStringLiteral("Nom dans la déclaration de 2031"));
+    EXPECT_EQ(factLabel("Total emissions of G10813"),
+              QStringLiteral("Émissions totales de G10813"));
+    for (const OpenMapRelease::Asset& asset : packagedRelease().assets) {
+        for (const OpenMapRelease::Fact& fact : asset.facts) {
+            ASSERT_NE(factLabel(fact.label), toQString(fact.label)) << asset.id;
+        }
+    }
+}
+
+void expectOtherLabelsAsTheyAre() {
+    const std::string zero("NPRI ID\0", 8);
+    for (const std::string& label : {std::string("NPRI id"),
+                                     std::string("NPRI ID "),
+                                     std::string("Colour of G10813"),
+                                     std::string("Total emissions of Gina"),
+                                     std::string("Total emissions of G"),
+                                     std::string("Total emissions 2022"),
+                                     std::string("2022"),
+                                     std::string(" of G1"),
+                                     std::string(),
+                                     zero}) {
+        EXPECT_EQ(factLabel(label), toQString(label));
+    }
+}
+
+void expectFrenchLabelsWithValuesAsStored() {
+    auto release = std::make_shared<OpenMapRelease>(makeRelease());
+    OpenMapRelease::Asset& asset = release->assets[0];
+    asset.facts = {makeFact("City of Owner")};
+    asset.facts[0].label = "Owner";
+
+    const auto facts = OpenMapInspector::of(*release, asset).facts;
+    EXPECT_EQ(facts.at(0).label, QStringLiteral("Propriétaire"));
+    EXPECT_EQ(facts.at(0).spokenText(), QStringLiteral("Propriétaire, City of Owner"));
+
+    const ReleaseIndex index(release, TextLocale("fr"));
+    const auto found = FoundText::of(index, 0, folded("city of", index.locale()));
+    EXPECT_EQ(found.markup, QStringLiteral("Propriétaire\u00a0: <b>City of</b> Owner"));
+    EXPECT_FALSE(OpenMapSources::of(*release).languageNote.isEmpty());
+}
+
 // One test: a translation stays for the life of the program.
 TEST(Translation, AFrenchDesktopReadsFrench) {
     EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
@@ -67,6 +118,10 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
         QStringLiteral("Plant 0, Usine de traitement du gaz, période de la source\u00a0: 2016"));
     model.setRecords(records({1}));
     EXPECT_EQ(model.countText(), QStringLiteral("1 fiche sur 2"));
+
+    expectLabelsOfFactsInFrench();
+    expectOtherLabelsAsTheyAre();
+    expectFrenchLabelsWithValuesAsStored();
 }
 
 } // namespace

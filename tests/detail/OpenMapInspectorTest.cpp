@@ -127,6 +127,18 @@ TEST(OpenMapInspector, TellsFactsInOrderEachWithItsOwnPeriodAndPublisher) {
     EXPECT_EQ(facts[1].linkTitle(), QStringLiteral("GEM oil/NGL pipelines · March 2025 release"));
 }
 
+TEST(OpenMapInspector, ShowsALabelInEnglishAsStored) {
+    OpenMapRelease release = makeRelease();
+    release.assets[0].facts.assign(3, makeFact());
+    release.assets[0].facts[0].label = "NPRI ID";
+    release.assets[0].facts[1].label = "Name in the report for 2022";
+    release.assets[0].facts[2].label = "Total emissions of G10813";
+    const auto& facts = inspected(release).facts;
+    EXPECT_EQ(facts[0].label, QStringLiteral("NPRI ID"));
+    EXPECT_EQ(facts[1].label, QStringLiteral("Name in the report for 2022"));
+    EXPECT_EQ(facts[2].label, QStringLiteral("Total emissions of G10813"));
+}
+
 TEST(OpenMapInspector, TellsTwoEqualFactsBoth) {
     OpenMapRelease release = makeRelease();
     release.assets[0].facts = {makeFact(), makeFact()};

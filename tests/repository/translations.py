@@ -3,7 +3,8 @@
 
 The context of a text is the QML file it stands in, or the class that a C++ file is named after, or what
 stands with it: Class::tr("text"), translate("Context", "text"). Texts that come from data, such as the
-labels of categories, have contexts of their own: what those hold is tested where they are used.
+labels of categories, are listed with the context they are looked up in:
+QT_TRANSLATE_NOOP("Context", "text").
 """
 
 import re
@@ -11,16 +12,15 @@ import sys
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
-FOLDERS = ("platform", "map", "detail", "app")
-OWN_CONTEXTS = ("Category",)
+FOLDERS = ("platform", "presentation", "map", "detail", "app")
 
 # The table of the language that the texts are written in: it holds those that have to differ.
 CORRECTIONS = "vasker_en"
 
 # A literal, perhaps in several pieces; what stands before it may name the context.
 LITERAL = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
-TEXT = re.compile(r"\b(?:(\w+)::)?(?:qsTr|tr)\(\s*" + LITERAL)
-TEXT_IN_CONTEXT = re.compile(r'\btranslate\(\s*"([^"]+)",\s*' + LITERAL)
+TEXT = re.compile(r"\b(?:(\w+)::)?(?:qsTr|tr|QT_TR_NOOP)\(\s*" + LITERAL)
+TEXT_IN_CONTEXT = re.compile(r'\b(?:translate|QT_TRANSLATE_NOOP)\(\s*"([^"]+)",\s*' + LITERAL)
 PIECE = re.compile(r'"((?:[^"\\]|\\.)*)"')
 
 
@@ -56,7 +56,7 @@ def faults(root):
                 if key in translated:
                     yield f'{name}: {key[0]}: "{key[1]}" stands twice'
                 translated.add(key)
-                if key not in marked and key[0] not in OWN_CONTEXTS:
+                if key not in marked:
                     yield f'{name}: {key[0]}: "{key[1]}" stands in no source'
         for key, file in marked.items():
             if key not in translated and table.stem != CORRECTIONS:

@@ -58,9 +58,10 @@ class Translations(unittest.TestCase):
         self.assertIn("no source", faults(SOURCE, "Hello", self.whole, left)[0])
         self.assertIn("twice", faults(SOURCE, "Hello", self.whole, self.whole)[0])
 
-    def test_labels_from_data_need_no_source(self):
-        label = message("Gas plant", "<translation>Usine à gaz</translation>")
-        self.assertEqual(faults({"app/Hello.cpp": ""}, "Category", label), [])
+    def test_a_listed_text_is_one_of_the_context_beside_it(self):
+        source = {"app/Hello.cpp": 'QT_TRANSLATE_NOOP("Category", "Good day"),\n'}
+        self.assertEqual(faults(source, "Category", self.whole), [])
+        self.assertEqual(len(faults(source, "Hello", self.whole)), 2)
 
 
 if __name__ == "__main__":
