@@ -47,28 +47,6 @@ HeaderButton {
             onPicked: root.application.openWindow()
         }
         MenuRow {
-            label: qsTr("Records…")
-            note: "Ctrl+R"
-            startsGroup: true
-            onPicked: root.sheets.request(SheetStack.Records)
-        }
-        MenuRow {
-            label: qsTr("Keyboard shortcuts")
-            note: "Ctrl+?"
-            startsGroup: true
-            onPicked: root.sheets.request(SheetStack.Shortcuts)
-        }
-        MenuRow {
-            label: qsTr("About Vasker Beta")
-            onPicked: root.sheets.request(SheetStack.About)
-        }
-        MenuRow {
-            label: qsTr("Quit")
-            note: "Ctrl+Q"
-            startsGroup: true
-            onPicked: root.application.closeAllWindows()
-        }
-        MenuRow {
             label: qsTr("Save the records shown…")
             note: "Ctrl+S"
             startsGroup: true
@@ -100,6 +78,28 @@ HeaderButton {
             label: qsTr("Print the map…")
             note: "Ctrl+P"
             onPicked: root.saves.print(root.Window.window)
+        }
+        MenuRow {
+            label: qsTr("Records…")
+            note: "Ctrl+R"
+            startsGroup: true
+            onPicked: root.sheets.request(SheetStack.Records)
+        }
+        MenuRow {
+            label: qsTr("Keyboard shortcuts")
+            note: "Ctrl+?"
+            startsGroup: true
+            onPicked: root.sheets.request(SheetStack.Shortcuts)
+        }
+        MenuRow {
+            label: qsTr("About Vasker Beta")
+            onPicked: root.sheets.request(SheetStack.About)
+        }
+        MenuRow {
+            label: qsTr("Quit")
+            note: "Ctrl+Q"
+            startsGroup: true
+            onPicked: root.application.closeAllWindows()
         }
     }
     Shortcut {
