@@ -33,7 +33,7 @@ Window {
 
     Backdrop {
         anchors.fill: parent
-        covered: about.onScreen || shortcuts.onScreen
+        covered: about.onScreen || shortcuts.onScreen || guide.onScreen
 
         LoadingScreen {
             anchors.fill: parent
@@ -56,6 +56,12 @@ Window {
 
         sheets: window.root.sheets
         version: window.application.version
+    }
+    GuideSheet {
+        id: guide
+
+        sheets: window.root.sheets
+        application: window.application
     }
     ShortcutsSheet {
         id: shortcuts
@@ -88,7 +94,12 @@ Window {
         }
     }
     Shortcut {
-        sequences: ["Ctrl+?", "F1"]
+        sequence: "F1"
+        enabled: window.root.sheets.current === SheetStack.NoSheet
+        onActivated: window.root.sheets.request(SheetStack.Guide)
+    }
+    Shortcut {
+        sequence: "Ctrl+?"
         enabled: window.root.sheets.current === SheetStack.NoSheet
         onActivated: window.root.sheets.request(SheetStack.Shortcuts)
     }

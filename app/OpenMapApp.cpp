@@ -64,6 +64,21 @@ QString OpenMapApp::version() {
     return QStringLiteral(VASKER_VERSION);
 }
 
+std::vector<GuideSection> OpenMapApp::guideSections() {
+    //: The file of the guide in this language, from the folder docs/guide
+    QFile file(tr(":/guide/en.md"));
+    return file.open(QIODevice::ReadOnly) ? GuideSection::allOf(QString::fromUtf8(file.readAll()))
+                                          : std::vector<GuideSection>();
+}
+
+QVariantList OpenMapApp::guide() {
+    QVariantList list;
+    for (const GuideSection& section : guideSections()) {
+        list.append(QVariant::fromValue(section));
+    }
+    return list;
+}
+
 QQuickWindow* OpenMapApp::openWindow() {
     if (hasWindows() && !canOpenDescriptors(descriptorsForWindow)) {
         return nullptr;

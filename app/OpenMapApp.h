@@ -2,6 +2,7 @@
 // The application: a group of windows that share the user's settings and nothing else.
 
 #include "app/MemoryReturn.h"
+#include "app/sheets/GuideSection.h"
 #include "data/text/TextLocale.h"
 #include "map/basemap/TileLibrary.h"
 #include "platform/Bundle.h"
@@ -14,7 +15,10 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QVariantList>
 #include <QtQmlIntegration>
+
+#include <vector>
 
 namespace vasker {
 
@@ -25,6 +29,8 @@ class OpenMapApp : public QObject {
     /// The TileLibrary of all maps.
     Q_PROPERTY(QObject* tiles READ tiles CONSTANT)
     Q_PROPERTY(QString version READ version CONSTANT)
+    /// Values of GuideSection.
+    Q_PROPERTY(QVariantList guide READ guide CONSTANT)
 
   public:
     /// Tiles of services are kept below `cachePath`.
@@ -38,6 +44,10 @@ class OpenMapApp : public QObject {
 
     /// The program's own, as in "1.2.3".
     [[nodiscard]] static QString version();
+
+    /// The user guide in the language of the application's texts, read anew.
+    [[nodiscard]] static std::vector<GuideSection> guideSections();
+    [[nodiscard]] static QVariantList guide();
 
     /// "vasker-open-map" in the user's XDG cache folder.
     [[nodiscard]] static QString userCachePath();

@@ -92,6 +92,11 @@ HeaderButton {
             onPicked: root.sheets.request(SheetStack.Shortcuts)
         }
         MenuRow {
+            label: qsTr("User guide")
+            note: "F1"
+            onPicked: root.sheets.request(SheetStack.Guide)
+        }
+        MenuRow {
             label: qsTr("About Vasker Beta")
             onPicked: root.sheets.request(SheetStack.About)
         }

@@ -9,6 +9,13 @@ qt_add_resources(VaskerApp app_translations
     BASE ${CMAKE_CURRENT_BINARY_DIR}
     FILES ${translations})
 
+# The user guide, likewise.
+set(guide ${PROJECT_SOURCE_DIR}/docs/guide)
+qt_add_resources(VaskerApp app_guide
+    PREFIX /guide
+    BASE ${guide}
+    FILES ${guide}/en.md ${guide}/fr.md)
+
 # The files that travel with the program: beside the executable in the build tree, in
 # share/vasker-open-map of the prefix when installed.
 file(GLOB resources CONFIGURE_DEPENDS

@@ -20,7 +20,7 @@ class SheetStack : public QObject {
 
   public:
     /// In the order in which they have their turn.
-    enum class Sheet { NoSheet, Sources, Records, Inspector, Shortcuts, About };
+    enum class Sheet { NoSheet, Sources, Records, Inspector, Guide, Shortcuts, About };
     Q_ENUM(Sheet)
 
     using QObject::QObject;

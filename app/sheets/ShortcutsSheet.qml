@@ -33,8 +33,12 @@ WindowSheet {
                 value: "Ctrl+Q"
             }
             LabelledRow {
+                label: qsTr("User guide")
+                value: "F1"
+            }
+            LabelledRow {
                 label: qsTr("Keyboard shortcuts")
-                value: "F1, Ctrl+?"
+                value: "Ctrl+?"
             }
             LabelledRow {
                 label: qsTr("Main menu")

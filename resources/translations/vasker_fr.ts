@@ -525,6 +525,17 @@
     </message>
 </context>
 <context>
+    <name>GuideSheet</name>
+    <message>
+        <source>User guide</source>
+        <translation>Guide d’utilisation</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+</context>
+<context>
     <name>HeaderBar</name>
     <message>
         <source>Vasker Beta</source>
@@ -629,6 +640,10 @@
 </context>
 <context>
     <name>PrimaryMenu</name>
+    <message>
+        <source>User guide</source>
+        <translation>Guide d’utilisation</translation>
+    </message>
     <message>
         <source>Save a picture at four times the size…</source>
         <translation>Enregistrer une image quatre fois plus grande…</translation>
@@ -807,6 +822,13 @@
     </message>
 </context>
 <context>
+    <name>vasker::OpenMapApp</name>
+    <message>
+        <source>:/guide/en.md</source>
+        <translation>:/guide/fr.md</translation>
+    </message>
+</context>
+<context>
     <name>vasker::OpenMapInspector</name>
     <message>
         <source>Company and status describe the cited release. They do not establish the current operator or current operation.</source>
@@ -945,6 +967,10 @@
 </context>
 <context>
     <name>ShortcutsSheet</name>
+    <message>
+        <source>User guide</source>
+        <translation>Guide d’utilisation</translation>
+    </message>
     <message>
         <source>Save the records shown</source>
         <translation>Enregistrer les fiches affichées</translation>

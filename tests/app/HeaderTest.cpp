@@ -154,6 +154,7 @@ TEST_F(Header, TheMainMenuConcernsTheProgram) {
                                         "Print the map…",
                                         "Records…",
                                         "Keyboard shortcuts",
+                                        "User guide",
                                         "About Vasker Beta",
                                         "Quit"}));
     key(Qt::Key_R);
@@ -163,7 +164,7 @@ TEST_F(Header, TheMainMenuConcernsTheProgram) {
 
 TEST_F(Header, AboutAndShortcutsAreSheetsNeverTwoAtOnce) {
     openRecords();
-    click(openMenu("open-map-menu")[10]);
+    click(openMenu("open-map-menu")[11]);
     ASSERT_NE(item("open-map-about"), nullptr);
     EXPECT_EQ(nameOf(item("open-map-about")), "About Vasker Beta");
     key(Qt::Key_Question, Qt::ControlModifier);
@@ -189,7 +190,7 @@ TEST_F(Header, WindowsAreOpenedAndClosedFromTheFailureScreenToo) {
 TEST_F(Header, AWindowIsOpenedAndClosedWhileAMenuIsOpen) {
     openRecords();
     const QPointer<QQuickWindow> first = m_window;
-    EXPECT_EQ(openMenu("open-map-menu").size(), 12U);
+    EXPECT_EQ(openMenu("open-map-menu").size(), 13U);
     key(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(windowCount(), 2);
     activate();
@@ -202,7 +203,7 @@ TEST_F(Header, AWindowIsOpenedAndClosedWhileASheetIsOpen) {
     openRecords();
     const QPointer<QQuickWindow> first = m_window;
     key(Qt::Key_F1);
-    ASSERT_NE(item("open-map-shortcuts"), nullptr);
+    ASSERT_NE(item("open-map-guide"), nullptr);
     key(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(windowCount(), 2);
     activate();
@@ -217,15 +218,35 @@ TEST_F(Header, QuittingWorksWhileAMenuIsOpen) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_application->hasWindows(); }));
 }
 
-TEST_F(Header, F1IsHelpAndF10TheMainMenu) {
+TEST_F(Header, F1IsTheGuideAndF10TheMainMenu) {
     openRecords();
     key(Qt::Key_F1);
-    ASSERT_NE(item("open-map-shortcuts"), nullptr);
+    ASSERT_NE(item("open-map-guide"), nullptr);
     key(Qt::Key_Escape);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-shortcuts") == nullptr; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-guide") == nullptr; }));
     key(Qt::Key_F10);
     EXPECT_TRUE(
         QTest::qWaitFor([&] { return item("open-map-menu")->property("opened").toBool(); }));
+}
+
+TEST_F(Header, TheGuideIsThereOnTheFailureScreenToo) {
+    open("{}");
+    key(Qt::Key_F1);
+    EXPECT_NE(item("open-map-guide"), nullptr);
+}
+
+TEST_F(Header, TheGuideLeadsToTheKeys) {
+    openRecords();
+    key(Qt::Key_F1);
+    ASSERT_NE(item("open-map-guide"), nullptr);
+    key(Qt::Key_Tab); // "Done"
+    key(Qt::Key_Tab);
+    key(Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-shortcuts") != nullptr; }));
+    EXPECT_EQ(item("open-map-guide"), nullptr);
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-shortcuts") == nullptr; }));
+    EXPECT_EQ(m_root->sheets()->current(), SheetStack::Sheet::NoSheet);
 }
 
 TEST_F(Header, AtTheStartTheKeyboardIsInTheSearchField) {

@@ -25,7 +25,8 @@ TEST(SheetStack, ARequestedSheetIsShownUntilItIsDismissedAndOnScreenUntilItHasCl
 TEST(SheetStack, ThereIsNeverMoreThanOneAndTheOthersHaveTheirTurnInOrder) {
     SheetStack sheets;
     sheets.request(Sheet::Records);
-    for (const Sheet each : {Sheet::About, Sheet::Inspector, Sheet::Shortcuts, Sheet::Sources}) {
+    for (const Sheet each :
+         {Sheet::About, Sheet::Guide, Sheet::Inspector, Sheet::Shortcuts, Sheet::Sources}) {
         sheets.request(each);
         EXPECT_EQ(sheets.current(), Sheet::Records);
     }
@@ -34,10 +35,13 @@ TEST(SheetStack, ThereIsNeverMoreThanOneAndTheOthersHaveTheirTurnInOrder) {
         turns.push_back(sheets.current());
         sheets.setClosed(sheets.current());
     }
-    EXPECT_EQ(
-        turns,
-        (std::vector{
-            Sheet::Records, Sheet::Sources, Sheet::Inspector, Sheet::Shortcuts, Sheet::About}));
+    EXPECT_EQ(turns,
+              (std::vector{Sheet::Records,
+                           Sheet::Sources,
+                           Sheet::Inspector,
+                           Sheet::Guide,
+                           Sheet::Shortcuts,
+                           Sheet::About}));
 }
 
 TEST(SheetStack, ASheetThatIsDismissedBeforeItsTurnHasNone) {

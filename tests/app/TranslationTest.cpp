@@ -1,3 +1,4 @@
+#include "app/OpenMapApp.h"
 #include "data/Classification.h"
 #include "data/text/CaseFolding.h"
 #include "detail/OpenMapInspector.h"
@@ -119,6 +120,8 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
     model.setRecords(records({1}));
     EXPECT_EQ(model.countText(), QStringLiteral("1 fiche sur 2"));
 
+    EXPECT_EQ(OpenMapApp::guideSections().at(0).title,
+              QStringLiteral("Trouver une usine ou un pipeline"));
     expectLabelsOfFactsInFrench();
     expectOtherLabelsAsTheyAre();
     expectFrenchLabelsWithValuesAsStored();
