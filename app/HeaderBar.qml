@@ -25,7 +25,8 @@ Rectangle {
         id: title
 
         visible: root.titleVisible
-        x: 20
+        anchors.left: parent.left
+        anchors.leftMargin: 20
         anchors.verticalCenter: parent.verticalCenter
         textStyle: Theme.type.headline
         text: qsTr("Vasker Beta")

@@ -17,6 +17,8 @@ Window {
     minimumHeight: 620
     visible: true
     color: Theme.colors.window
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
 
     function showWorkspace(): void {
         if (root.screen === OpenMapRoot.Ready) {

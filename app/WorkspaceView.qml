@@ -3,8 +3,7 @@ import Vasker.App
 import Vasker.Map
 import Vasker.Platform
 
-// The workspace: search field and catalogue, a divider, and the map below its header. The sheets
-// stand over all of it.
+// The workspace: the column, a divider, the map below its header, and the sheets over all of it.
 FocusScope {
     id: view
 
@@ -23,6 +22,7 @@ FocusScope {
         Rectangle {
             id: column
 
+            anchors.left: parent.left
             width: Theme.columnWidth
             height: parent.height
             color: Theme.colors.window
@@ -86,8 +86,8 @@ FocusScope {
             camera: view.workspace.camera
             basemap: view.workspace.basemap
             tiles: view.application.tiles
-            coveredRight: inspector.coveredAtEnd
-            coveredLeft: Math.max(0, inspector.coveredAtStart - divider.x - divider.width)
+            coveredAtEnd: inspector.coveredAtEnd
+            coveredAtStart: Math.max(0, inspector.coveredAtStart - column.width - divider.width)
             hovered: canvas.hover.recordId.length > 0 ? canvas.hover.recordId : catalogue.hovered
             onPicked: id => view.workspace.pickOnMap(id)
             onMoved: camera => view.workspace.camera = camera

@@ -33,6 +33,7 @@ SectionRow {
     }
     LinkText {
         visible: address.length > 0
+        anchors.left: parent.left
         width: Math.min(implicitWidth, parent.width)
         text: root.fact.linkTitle
         address: root.fact.linkAddress

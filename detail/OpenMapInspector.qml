@@ -19,7 +19,7 @@ Item {
     }
     function requestMenuAtFocus(): void {
         const holder = list.holds(list.focused) ? list.focused : name;
-        const place = holder.mapToItem(root, 0, Math.min(holder.height, 24));
+        const place = holder.mapToItem(root, LayoutMirroring.enabled ? holder.width : 0, Math.min(holder.height, 24));
         root.menuRequested(Qt.point(place.x, Math.max(0, Math.min(place.y, root.height))));
     }
 

@@ -54,8 +54,8 @@ SectionRow {
     }
     Label {
         visible: text.length > 0
-        x: icon.width + 10
-        width: parent.width - x
+        anchors.right: parent.right
+        width: parent.width - icon.width - 10
         wrapMode: Text.Wrap
         textStyle: Theme.type.caption
         color: Theme.colors.text2

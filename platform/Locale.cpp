@@ -2,7 +2,9 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 
 namespace vasker {
@@ -57,6 +59,7 @@ void installTranslation(QCoreApplication& application, const QString& locale) {
     install(QStringLiteral("qtbase_") + languageOf(locale),
             QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     install(tableOf(locale), QString());
+    QGuiApplication::setLayoutDirection(QLocale(locale).textDirection());
 }
 
 } // namespace vasker

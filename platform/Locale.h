@@ -13,8 +13,8 @@ namespace vasker {
 [[nodiscard]] QString messagesLocale();
 
 /// Shows the application's texts, and the toolkit's where its catalogue is installed, in the
-/// language of `locale` from here on; English where there is no translation. Called once, before
-/// the first text is shown.
+/// language of `locale` from here on; English where there is no translation. Windows run in the
+/// direction of that language either way. Called once, before the first text is shown.
 void installTranslation(QCoreApplication& application, const QString& locale);
 
 } // namespace vasker

@@ -58,7 +58,8 @@ Item {
         CountLine {
             id: countLine
 
-            x: 8
+            anchors.left: parent.left
+            anchors.leftMargin: 8
             y: picker.y + picker.height + 2
             width: Math.min(implicitWidth, parent.width - 16)
             label: recordModel.countText
@@ -67,7 +68,8 @@ Item {
         }
         Label {
             visible: !root.countOpens
-            x: 16
+            anchors.left: parent.left
+            anchors.leftMargin: 16
             y: countLine.y + 4
             width: countLine.width - 16
             wrapMode: Text.Wrap

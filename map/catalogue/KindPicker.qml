@@ -48,7 +48,7 @@ T.ComboBox {
     Label {
         id: title
 
-        visible: 12 + implicitWidth + 8 + value.anchors.leftMargin + value.implicitWidth < chevron.x
+        visible: 12 + implicitWidth + 8 + value.anchors.leftMargin + value.implicitWidth < root.width - 10 - chevron.width
         anchors.left: parent.left
         anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter

@@ -47,7 +47,7 @@ ListView {
     }
     function offerMenu(): void {
         if (root.currentItem !== null) {
-            root.menuRequested(root.records.idAt(root.currentIndex), root.currentItem, Qt.point(44, root.currentItem.height / 2));
+            root.menuRequested(root.records.idAt(root.currentIndex), root.currentItem, Qt.point(LayoutMirroring.enabled ? root.width - 44 : 44, root.currentItem.height / 2));
         }
     }
     function pageRows(): int {

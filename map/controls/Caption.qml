@@ -21,7 +21,8 @@ Rectangle {
     Icon {
         id: glyph
 
-        x: 10
+        anchors.left: parent.left
+        anchors.leftMargin: 10
         y: 10
         name: "info.circle"
         size: 16 * Theme.iconScale
@@ -30,9 +31,11 @@ Rectangle {
     Label {
         id: label
 
-        x: glyph.x + glyph.width + 8
+        anchors.left: glyph.right
+        anchors.leftMargin: 8
+        anchors.right: parent.right
+        anchors.rightMargin: 10
         y: 10
-        width: parent.width - x - 10
         wrapMode: Text.Wrap
         textStyle: Theme.type.caption
         text: qsTr("Selected reporting records and routes. Dates and reporting boundaries vary; this is not a complete or survey-grade map.")

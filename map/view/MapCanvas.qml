@@ -7,11 +7,17 @@ MapView {
     id: root
 
     readonly property string captionText: caption.text
+    readonly property bool mirrored: LayoutMirroring.enabled
+    // What lies over the map from either edge on, in logical pixels.
+    property real coveredAtStart: 0
+    property real coveredAtEnd: 0
 
     // To screen readers.
     signal spoken(string text)
 
     objectName: "open-map-canvas"
+    coveredLeft: mirrored ? coveredAtEnd : coveredAtStart
+    coveredRight: mirrored ? coveredAtStart : coveredAtEnd
     coveredBelow: caption.height
     dark: Theme.dark
     highContrast: Theme.highContrast
@@ -55,8 +61,8 @@ MapView {
         id: exploration
 
         anchors.fill: parent
-        anchors.leftMargin: root.coveredLeft
-        anchors.rightMargin: root.coveredRight
+        anchors.leftMargin: root.coveredAtStart
+        anchors.rightMargin: root.coveredAtEnd
         anchors.bottomMargin: root.coveredBelow
         map: root
         colors: textColors
@@ -69,7 +75,7 @@ MapView {
         id: bar
 
         anchors.left: parent.left
-        anchors.leftMargin: 14 + root.coveredLeft
+        anchors.leftMargin: 14 + root.coveredAtStart
         anchors.bottom: caption.top
         anchors.bottomMargin: 12
         barLength: readout.barLength
@@ -80,10 +86,10 @@ MapView {
         id: attribution
 
         anchors.right: parent.right
-        anchors.rightMargin: 12 + root.coveredRight
+        anchors.rightMargin: 12 + root.coveredAtEnd
         anchors.bottom: caption.top
         anchors.bottomMargin: 10
-        maximumWidth: parent.width - anchors.rightMargin - bar.x - bar.width - 24
+        maximumWidth: parent.width - anchors.rightMargin - bar.anchors.leftMargin - bar.width - 24
         note: !imageryWait.over ? "" : root.status.lacksImagery ? qsTr("Satellite imagery needs a network connection") : qsTr("Sharper imagery needs a network connection")
         links: root.status.attribution
         colors: textColors

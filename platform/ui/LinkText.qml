@@ -26,6 +26,10 @@ Link {
         anchors.leftMargin: 4
         y: label.height - Theme.type.captionMedium.lineHeight + Math.round((Theme.type.captionMedium.lineHeight - height) / 2)
         name: "link.out"
+        transform: Scale {
+            origin.x: arrow.width / 2
+            xScale: root.LayoutMirroring.enabled ? -1 : 1
+        }
         size: 12 * Theme.iconScale
         color: Theme.colors.accent
     }

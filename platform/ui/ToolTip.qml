@@ -14,8 +14,11 @@ T.ToolTip {
     }
 
     property int place: ToolTip.Below
+    readonly property bool rightToLeft: parent.LayoutMirroring.enabled
+    readonly property real start: rightToLeft ? parent.width - width : 0
+    readonly property real before: rightToLeft ? parent.width + 6 : -width - 6
 
-    x: place === ToolTip.Beside ? -width - 6 : place === ToolTip.AtStart ? 0 : Math.round((parent.width - width) / 2)
+    x: place === ToolTip.Beside ? before : place === ToolTip.AtStart ? start : Math.round((parent.width - width) / 2)
     y: place === ToolTip.Beside ? Math.round((parent.height - height) / 2) : parent.height + 4
     margins: place === ToolTip.AtStart ? 8 : 4
     implicitWidth: Math.min(implicitContentWidth + 20, 480)

@@ -42,6 +42,19 @@ inline QQuickItem* find(QQuickItem* from, const QString& name) {
     return nullptr;
 }
 
+/// The first visible item below `from` that shows exactly `text`.
+inline QQuickItem* withText(QQuickItem* from, const QString& text) {
+    if (from->isVisible() && from->property("text").toString() == text) {
+        return from;
+    }
+    for (QQuickItem* child : from->childItems()) {
+        if (QQuickItem* found = withText(child, text)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
 // The real window, without a screen.
 class OpenWindow : public testing::Test {
   protected:

@@ -148,3 +148,15 @@ def a_small_window_keeps_every_tool_in_reach(executable):
         program.key("F10")
         program.press(role="menu item", name="Sources & coverage")
         program.see(role="dialog", name="Sources & coverage")
+
+
+def a_locale_from_right_to_left_mirrors_the_window(executable):
+    """With a locale that nobody has: the texts stay English."""
+    mirrored = {"LC_ALL": None, "LC_CTYPE": "C.UTF-8", "LC_MESSAGES": "ar_XA.UTF-8"}
+    order = ["open-map-layer", "open-map-options", "open-map-reset", "open-map-sources", "open-map-menu"]
+    for environment, expected in [({}, order), (mirrored, order[::-1])]:
+        with program_with_release(executable, RELEASE) as copy, Program(copy, **environment) as program:
+            program.see(name="2 of 2 records")
+            found = sorted(order, key=lambda id: program.see(id=id).box()[0])
+            if found != expected:
+                raise Missed(f"from left to right: {found}")

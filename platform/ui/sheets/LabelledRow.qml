@@ -28,6 +28,7 @@ SectionRow {
         Label {
             id: labelText
 
+            anchors.left: parent.left
             width: Math.min(implicitWidth, parent.width)
             wrapMode: Text.Wrap
             text: root.label
@@ -36,7 +37,7 @@ SectionRow {
             id: valueText
 
             y: pair.stacked ? labelText.height + 2 : 0
-            x: pair.stacked ? 0 : parent.width - width
+            anchors.right: parent.right
             width: pair.stacked ? parent.width : implicitWidth
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.Wrap

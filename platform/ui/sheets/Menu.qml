@@ -28,13 +28,16 @@ T.Menu {
     // The item at whose `place` it opens; null: at the anchor.
     property Item over: null
     property point place
-    // Where it begins, how far along it may end instead, and how much it leaves free below it.
+    // Where it begins, counted from the edge that lines begin at; how far along it may end instead,
+    // and how much it leaves free below it.
     property point corner
     property real span: 0
     property real gap: 0
     property Item before: null
 
     readonly property MenuList list: contentItem as MenuList
+    readonly property bool rightToLeft: anchor.LayoutMirroring.enabled
+    readonly property real begin: Math.round(Math.max(4, corner.x + width > parent.width - 4 ? corner.x + span - width : corner.x))
     readonly property real wanted: Math.min(Math.min(list.implicitHeight, mostHeight) + topPadding + 6, parent.height - 16)
     readonly property bool goesUp: corner.y + wanted > parent.height - 8 && (span === 0 || corner.y - gap - wanted >= 8)
 
@@ -55,7 +58,7 @@ T.Menu {
     }
 
     parent: anchor.Window.contentItem
-    x: Math.round(Math.max(4, corner.x + width > parent.width - 4 ? corner.x + span - width : corner.x))
+    x: rightToLeft ? parent.width - begin - width : begin
     y: Math.round(goesUp ? Math.max(8, corner.y - gap - wanted) : corner.y)
     width: Math.min(Math.max(216, list.widestRow() + 12), parent.width - 8)
     height: Math.min(wanted, parent.height - y - 8)
@@ -67,7 +70,9 @@ T.Menu {
         root.before = atPoint ? root.parent.Window.activeFocusItem : root.anchor;
         root.span = atPoint ? 0 : root.anchor.width - root.inset;
         root.gap = atPoint ? 0 : root.anchor.height + 8;
-        root.corner = atPoint ? root.over.mapToItem(root.parent, root.place) : root.anchor.mapToItem(root.parent, root.inset, root.anchor.height + 4);
+        const edge = root.rightToLeft ? root.anchor.width - root.inset : root.inset;
+        const corner = atPoint ? root.over.mapToItem(root.parent, root.place) : root.anchor.mapToItem(root.parent, edge, root.anchor.height + 4);
+        root.corner = Qt.point(root.rightToLeft ? root.parent.width - corner.x : corner.x, corner.y);
         root.over = null;
         root.shown = true;
         root.block();

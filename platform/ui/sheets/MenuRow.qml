@@ -71,7 +71,8 @@ T.MenuItem {
             id: mark
 
             visible: root.symbolic && name.length > 0
-            x: root.indented ? 12 + 16 * Theme.iconScale : 10
+            anchors.left: parent.left
+            anchors.leftMargin: root.indented ? 12 + 16 * Theme.iconScale : 10
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
             size: 18 * Theme.iconScale
@@ -81,7 +82,7 @@ T.MenuItem {
             id: title
 
             anchors.left: parent.left
-            anchors.leftMargin: mark.x + (root.symbolic ? Theme.iconColumn + 8 : 0)
+            anchors.leftMargin: mark.anchors.leftMargin + (root.symbolic ? Theme.iconColumn + 8 : 0)
             anchors.right: noteLabel.left
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter

@@ -15,8 +15,10 @@ Item {
 
     Rectangle {
         visible: root.separated
-        x: 14
-        width: parent.width - x - 1
+        anchors.left: parent.left
+        anchors.leftMargin: 14
+        anchors.right: parent.right
+        anchors.rightMargin: 1
         height: 1
         color: Theme.colors.line
     }

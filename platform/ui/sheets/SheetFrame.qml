@@ -19,6 +19,7 @@ Item {
     // For assistive tools.
     readonly property bool modal: true
     readonly property bool atSide: atStart || atEnd
+    readonly property bool atRight: atSide && atStart === LayoutMirroring.enabled
     readonly property real away: 1 - shown
     readonly property real largeHeight: Math.max(0, parent.height - 40)
     readonly property real mediumHeight: Math.min(usualSize.height, atBottom ? largeHeight : parent.height)
@@ -42,7 +43,7 @@ Item {
 
     width: Math.min(parent.width, usualSize.width)
     height: Math.round(mediumHeight + (atBottom ? (largeHeight - mediumHeight) * grabber.reach : 0))
-    x: atEnd ? parent.width - width - 16 + 24 * away : atStart ? 16 - 24 * away : Math.round((parent.width - width) / 2)
+    x: atRight ? parent.width - width - 16 + 24 * away : atSide ? 16 - 24 * away : Math.round((parent.width - width) / 2)
     y: atBottom ? parent.height - height * shown + grabber.pulled : atSide ? 16 : Math.round((parent.height - height) / 2) + 16 * away
     opacity: atBottom ? 1 : shown
     Accessible.role: Accessible.Dialog
