@@ -93,9 +93,7 @@ class NameOfTheOtherDirection : public OpenWindow,
     }
     void TearDown() override { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
     /// "Refinery", in Arabic.
-    [[nodiscard]] static QString name() {
-        return QStringLiteral("\u0645\u0635\u0641\u0627\u0629");
-    }
+    [[nodiscard]] static QString name() { return QStringLiteral("\u0645\u0635\u0641\u0627\u0629"); }
     [[nodiscard]] static int alignment(QQuickItem* shown) {
         return shown == nullptr ? 0 : shown->property("effectiveHorizontalAlignment").toInt();
     }

@@ -3,8 +3,8 @@
 
 namespace vasker {
 
-/// Makes Inter, or the nearest to it that is installed, the application's font. Needs a
-/// QGuiApplication; called before the first window.
+/// Makes Inter, or the nearest to it that is installed, the application's font, in which control
+/// characters show nothing. Needs a QGuiApplication; called before the first window.
 void installInterfaceFont();
 
 } // namespace vasker
