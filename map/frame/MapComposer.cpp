@@ -54,8 +54,8 @@ std::vector<RecordLabel> MapComposer::recordLabels(const RecordFrame& records,
                                                    const MapState& state) const {
     std::vector<RecordLabel> labels;
     for (const ShownPin& pin : records.shownPins) {
-        RecordLabel label{pin.asset, pin.box, {}, pin.isHighlighted};
-        if ((pin.isHighlighted || pin.isAlone) && pin.asset != state.unlabelled) {
+        RecordLabel label{pin.asset, pin.box, {}, pin.isHighlighted, pin.rank};
+        if (pin.asset != state.unlabelled) {
             label.text = QString::fromStdString(m_records.asset(pin.asset).name);
         }
         labels.push_back(std::move(label));
@@ -82,6 +82,7 @@ MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::n
                      .textScale = state.textScale,
                      .places = std::move(basemap.labels),
                      .records = {},
+                     .dots = {},
                      .obstacles = state.obstacles,
                      .isMoving = !state.isResting};
     // Without tiles there is nothing to paint records on.
@@ -91,6 +92,7 @@ MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::n
                                             state.devicePixels,
                                             m_labels.prominentNames(input));
     input.records = recordLabels(records, state);
+    input.dots = std::move(records.dots);
     SpriteLayer labels = m_labels.compose(input);
     MapFrame frame;
     frame.places = std::move(input.places);

@@ -141,7 +141,7 @@ bool LabelPlacement::placeAsItStood(const LabelCandidate& candidate,
     placed.side = side;
     placed.rect = labelRect(candidate, side);
     return candidate.sides.contains(side) && bounds.overlaps(placed.rect) &&
-           m_grid.isFree(grown(placed.rect, labelSpacing));
+           hasRoom(candidate, placed.rect);
 }
 
 bool LabelPlacement::placeAnew(const LabelCandidate& candidate,
@@ -151,8 +151,13 @@ bool LabelPlacement::placeAnew(const LabelCandidate& candidate,
         placed.side = side;
         placed.rect = labelRect(candidate, side);
         return candidate.sides.contains(side) && bounds.contains(placed.rect) &&
-               m_grid.isFree(grown(placed.rect, labelSpacing));
+               hasRoom(candidate, placed.rect);
     });
+}
+
+bool LabelPlacement::hasRoom(const LabelCandidate& candidate, const ScreenRect& rect) const {
+    return m_grid.isFree(grown(rect, labelSpacing)) &&
+           (!candidate.sparesDots || m_dots.isFree(rect));
 }
 
 bool LabelPlacement::repeatsAText(const LabelCandidate& candidate) const {
@@ -165,7 +170,8 @@ bool LabelPlacement::repeatsAText(const LabelCandidate& candidate) const {
 
 const std::vector<PlacedLabel>& LabelPlacement::place(std::span<const LabelCandidate> candidates,
                                                       std::span<const ScreenRect> obstacles,
-                                                      const ScreenRect& bounds) {
+                                                      const ScreenRect& bounds,
+                                                      std::span<const ScreenRect> dots) {
     m_placed.clear();
     m_texts.clear();
     if (!isSound(bounds)) {
@@ -173,23 +179,28 @@ const std::vector<PlacedLabel>& LabelPlacement::place(std::span<const LabelCandi
         return m_placed;
     }
     m_grid.reset(bounds);
-    for (const ScreenRect& obstacle : obstacles) {
-        if (isSound(obstacle)) {
-            m_grid.insert(obstacle);
+    m_dots.reset(bounds);
+    const auto insertAll = [](Grid& grid, std::span<const ScreenRect> rects) {
+        for (const ScreenRect& rect : rects) {
+            if (isSound(rect)) {
+                grid.insert(rect);
+            }
         }
-    }
+    };
+    insertAll(m_grid, obstacles);
+    insertAll(m_dots, dots);
     LastSides sides;
     for (const std::size_t index : inOrder(candidates)) {
         const LabelCandidate& candidate = candidates[index];
         PlacedLabel placed{index, LabelSide::right, {}};
         const auto last = m_lastSides.find(candidate.id);
-        const bool hasRoom = (last != m_lastSides.end() &&
-                              placeAsItStood(candidate, last->second, bounds, placed)) ||
-                             placeAnew(candidate, bounds, placed);
-        if (!candidate.isRequired && (!hasRoom || repeatsAText(candidate))) {
+        const bool fits = (last != m_lastSides.end() &&
+                           placeAsItStood(candidate, last->second, bounds, placed)) ||
+                          placeAnew(candidate, bounds, placed);
+        if (!candidate.isRequired && (!fits || repeatsAText(candidate))) {
             continue;
         }
-        if (!hasRoom) {
+        if (!fits) {
             const auto* const side =
                 std::find_if(allSides.begin(), allSides.end(), [&](LabelSide each) {
                     return candidate.sides.contains(each);

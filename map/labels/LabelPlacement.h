@@ -54,6 +54,7 @@ struct LabelCandidate {
     std::uint64_t text = 0;
     /// Comes before all others and stands in any case: where there is no room, on its first side.
     bool isRequired = false;
+    bool sparesDots = false; ///< covers no dot
 };
 
 struct PlacedLabel {
@@ -73,10 +74,11 @@ class LabelPlacement {
   public:
     /// The labels that find room in `bounds`, in order of priority; equal ones in the order of
     /// the candidates. Candidates with values that are no finite numbers, or of no size, are passed
-    /// over. Valid until the next call.
+    /// over. `dots` are in the way of those that spare them. Valid until the next call.
     const std::vector<PlacedLabel>& place(std::span<const LabelCandidate> candidates,
                                           std::span<const ScreenRect> obstacles,
-                                          const ScreenRect& bounds);
+                                          const ScreenRect& bounds,
+                                          std::span<const ScreenRect> dots = {});
     /// The result of the last call.
     [[nodiscard]] const std::vector<PlacedLabel>& placed() const noexcept { return m_placed; }
 
@@ -91,6 +93,7 @@ class LabelPlacement {
                                       PlacedLabel& placed) const;
     [[nodiscard]] bool
     placeAnew(const LabelCandidate& candidate, const ScreenRect& bounds, PlacedLabel& placed) const;
+    [[nodiscard]] bool hasRoom(const LabelCandidate& candidate, const ScreenRect& rect) const;
     [[nodiscard]] bool repeatsAText(const LabelCandidate& candidate) const;
 
     /// Rectangles in the cells of a grid over the bounds.
@@ -119,6 +122,7 @@ class LabelPlacement {
     };
 
     Grid m_grid;
+    Grid m_dots;
     LastSides m_lastSides; ///< of what stood in the last frame, by id
     std::unordered_multimap<std::uint64_t, ScreenPoint> m_texts; ///< that stand, by text
     std::vector<PlacedLabel> m_placed;

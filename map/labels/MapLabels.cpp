@@ -86,7 +86,7 @@ SpriteLayer MapLabels::compose(const LabelInput& input) {
     for (const RecordLabel& record : input.records) {
         obstacles.push_back(record.pin);
     }
-    m_placement.place(m_placements, obstacles, freePart(input.camera));
+    m_placement.place(m_placements, obstacles, freePart(input.camera), input.dots);
     return sprites();
 }
 
@@ -120,7 +120,6 @@ void MapLabels::addPlaces(const LabelInput& input) {
 }
 
 void MapLabels::addRecords(const LabelInput& input) {
-    double priority = recordPriority;
     for (const RecordLabel& record : input.records) {
         Label label{record.text, LabelStyle::record, input.theme};
         const bool mayCome = !input.isMoving || record.isRequired || m_atlas->knows(label);
@@ -133,7 +132,8 @@ void MapLabels::addRecords(const LabelInput& input) {
                             record.pin.y + record.pin.height / 2};
         placement.gap = record.pin.width / 2 + pinGap;
         placement.sides = LabelSides{LabelSide::right, LabelSide::left};
-        placement.priority = priority++;
+        placement.priority = recordPriority + record.rank;
+        placement.sparesDots = true;
         placement.isRequired = record.isRequired;
         add({std::move(label), std::nullopt}, placement);
     }

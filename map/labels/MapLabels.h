@@ -17,10 +17,11 @@ namespace vasker {
 
 /// The label of a record beside its pin.
 struct RecordLabel {
-    std::uint64_t id; ///< the same in every frame, another for each record
-    ScreenRect pin;   ///< labels keep clear of it
-    QString text;     ///< empty: the pin has no label
-    bool isRequired;  ///< the label stands in any case
+    std::uint64_t id;       ///< the same in every frame, another for each record
+    ScreenRect pin;         ///< labels keep clear of it
+    QString text;           ///< empty: the pin has no label
+    bool isRequired;        ///< the label stands in any case
+    std::uint32_t rank = 0; ///< the smaller comes first
 };
 
 /// What the labels of one frame are made from.
@@ -31,6 +32,7 @@ struct LabelInput {
     double textScale;
     std::vector<PlaceLabel> places;
     std::vector<RecordLabel> records;
+    std::vector<ScreenRect> dots;      ///< labels of records keep clear of them as well
     std::vector<ScreenRect> obstacles; ///< controls over the map
     /// While the map moves few new labels are drawn, and none of records: they would cost frames.
     bool isMoving;

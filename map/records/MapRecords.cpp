@@ -196,6 +196,7 @@ RecordFrame MapRecords::compose(const Camera& camera,
         frame.pins.sheets.push_back(
             m_pins.sprites(m_markerFrame, *m_records.loaded, m_theme, devicePixels));
         frame.shownPins = shownPins(m_markerFrame);
+        frame.dots = dotBoxes(m_markerFrame);
     }
     frame.linesAndDots = linesAndDots(camera, drawing);
     return frame;

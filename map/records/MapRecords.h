@@ -27,6 +27,7 @@ struct RecordFrame {
     std::vector<MapLayer> linesAndDots; ///< below the labels, in drawing order
     SpriteLayer pins;                   ///< above the labels
     std::vector<ShownPin> shownPins;    ///< the selected and the hovered one first
+    std::vector<ScreenRect> dots;       ///< what each dot covers
 };
 
 class MapRecords {

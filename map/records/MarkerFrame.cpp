@@ -29,7 +29,7 @@ class Placing {
             const Viewport view = m_camera.viewport();
             if (place.x >= -markerReach && place.x <= view.width + markerReach &&
                 place.y >= -markerReach && place.y <= view.height + markerReach) {
-                use(PlacedMarker{marker.asset, place, marker.isQuiet, marker.isAlone});
+                use(PlacedMarker{marker.asset, place, marker.isQuiet});
             }
         }
     }
@@ -79,16 +79,16 @@ MarkerFrame markerFrame(const MarkerLayout& layout,
         if (isHighlighted(marker.asset)) {
             continue;
         }
-        placing.place(marker, [&frame](const PlacedMarker& placed) {
+        const auto rank = static_cast<std::uint32_t>(&marker - layout.pins.data());
+        placing.place(marker, [&frame, rank](PlacedMarker placed) {
+            placed.rank = rank;
             const bool hasRoom = frame.pins.size() < maximumPins;
             (hasRoom ? frame.pins : frame.dots).push_back(placed);
         });
     }
-    if (drawing == RecordDrawing::live) {
-        for (const Marker& marker : layout.dots) {
-            placing.place(marker,
-                          [&frame](const PlacedMarker& placed) { frame.dots.push_back(placed); });
-        }
+    auto& dots = drawing == RecordDrawing::live ? frame.dots : frame.paintedDots;
+    for (const Marker& marker : layout.dots) {
+        placing.place(marker, [&dots](const PlacedMarker& placed) { dots.push_back(placed); });
     }
     std::reverse(frame.dots.begin(), frame.dots.end());
     std::stable_sort(frame.pins.begin(), frame.pins.end(), [](const auto& a, const auto& b) {

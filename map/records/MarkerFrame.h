@@ -12,16 +12,17 @@ namespace vasker {
 
 struct PlacedMarker {
     AssetIndex asset;
-    ScreenPoint point;    ///< of the record: the centre of a dot, the tip of a pin
-    bool isQuiet = false; ///< as in the layout
-    bool isAlone = false; ///< as in the layout
+    ScreenPoint point;      ///< of the record: the centre of a dot, the tip of a pin
+    bool isQuiet = false;   ///< as in the layout
+    std::uint32_t rank = 0; ///< of a pin: its place in the layout, the same wherever the map goes
 };
 
 struct MarkerFrame {
-    std::vector<PlacedMarker> dots;       ///< the last drawn on top: rarer kinds
-    std::vector<PlacedMarker> pins;       ///< the last drawn on top: farther down the screen
-    std::optional<PlacedMarker> hovered;  ///< a pin above these; stands in neither list
-    std::optional<PlacedMarker> selected; ///< a pin above all; stands in neither list
+    std::vector<PlacedMarker> dots;        ///< the last drawn on top: rarer kinds
+    std::vector<PlacedMarker> paintedDots; ///< those that the raster tiles show
+    std::vector<PlacedMarker> pins;        ///< the last drawn on top: farther down the screen
+    std::optional<PlacedMarker> hovered;   ///< a pin above these; stands in neither list
+    std::optional<PlacedMarker> selected;  ///< a pin above all; stands in neither list
 };
 
 /// How routes and dots are drawn: for each frame on a graphics card, else into the raster tiles.

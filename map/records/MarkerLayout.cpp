@@ -100,31 +100,6 @@ class DotCover {
     std::vector<Disc> m_near; ///< the drawn dots around the one in question
 };
 
-/// All markers, to ask how many stand near a place.
-class Neighbours {
-  public:
-    Neighbours(const std::vector<Marker>& markers, double scale)
-        : m_distance(aloneDistance / scale), m_grid(m_distance, m_distance, markers.size()) {
-        for (const Marker& marker : markers) {
-            m_grid.insert(marker.point);
-        }
-    }
-    /// Whether only one marker stands near the place of a marker: itself.
-    [[nodiscard]] bool isAlone(MapPoint place) const {
-        int near = 0;
-        return !m_grid.anyNear(place, [&](MapPoint other) {
-            const bool isNear = std::abs(other.x - place.x) < m_distance &&
-                                std::abs(other.y - place.y) < m_distance;
-            near += isNear ? 1 : 0;
-            return near > 1;
-        });
-    }
-
-  private:
-    double m_distance; ///< map points
-    PointGrid m_grid;
-};
-
 } // namespace
 
 std::vector<Marker> markersByPriority(const RecordSet& records) {
@@ -162,11 +137,9 @@ MarkerLayout markerLayout(const std::vector<Marker>& markers, DetailLevel level)
     MarkerLayout layout;
     PinSpacing pins(level.minimumScale(), markers.size());
     DotCover dots(level.maximumScale(), markers.size());
-    const Neighbours neighbours(markers, level.minimumScale());
     for (const Marker& marker : markers) {
         if (pins.place(marker.point)) {
             layout.pins.push_back(marker);
-            layout.pins.back().isAlone = neighbours.isAlone(marker.point);
         } else if (dots.place(marker)) {
             layout.dots.push_back(marker);
         }

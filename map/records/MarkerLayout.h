@@ -33,16 +33,11 @@ struct Marker {
     AssetIndex asset;
     MapPoint point;
     bool isQuiet = false; ///< its kind has no icon of its own
-    bool isAlone = false; ///< of a pin in a layout: no other marker stands near it
 };
 
 [[nodiscard]] inline double dotRadiusOf(const Marker& marker) noexcept {
     return marker.isQuiet ? quietDotRadius : dotRadius;
 }
-
-/// A pin stands alone where no other marker is nearer than this, in logical pixels: its label
-/// covers none.
-inline constexpr double aloneDistance = 64;
 
 struct MarkerLayout {
     std::vector<Marker> pins; ///< in order of priority

@@ -44,7 +44,7 @@ const std::string& kindOf(const PlacedMarker& pin, const LoadedRelease& release)
 std::vector<ShownPin> shownPins(const MarkerFrame& frame) {
     std::vector<ShownPin> pins;
     const auto show = [&](const PlacedMarker& pin, double scale, bool isHighlighted) {
-        pins.push_back({pin.asset, boxOf(pin.point, scale), isHighlighted, pin.isAlone});
+        pins.push_back({pin.asset, boxOf(pin.point, scale), isHighlighted, pin.rank});
     };
     if (frame.selected) {
         show(*frame.selected, selectedPinScale, true);
@@ -56,6 +56,18 @@ std::vector<ShownPin> shownPins(const MarkerFrame& frame) {
         show(pin, 1, false);
     }
     return pins;
+}
+
+std::vector<ScreenRect> dotBoxes(const MarkerFrame& frame) {
+    std::vector<ScreenRect> boxes;
+    boxes.reserve(frame.dots.size() + frame.paintedDots.size());
+    for (const auto* dots : {&frame.dots, &frame.paintedDots}) {
+        for (const PlacedMarker& dot : *dots) {
+            const double reach = (dot.isQuiet ? quietDotRadius : dotRadius) + dotCasing;
+            boxes.push_back({dot.point.x - reach, dot.point.y - reach, 2 * reach, 2 * reach});
+        }
+    }
+    return boxes;
 }
 
 void makeWay(MarkerFrame& frame, std::span<const ScreenRect> names) {

@@ -9,6 +9,7 @@
 #include "map/records/LoadedRelease.h"
 #include "map/records/MarkerFrame.h"
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <vector>
@@ -20,11 +21,14 @@ struct ShownPin {
     AssetIndex asset;
     ScreenRect box;
     bool isHighlighted; ///< selected or hovered
-    bool isAlone;       ///< no other marker stands near it
+    std::uint32_t rank; ///< as in the frame
 };
 
 /// Where the pins stand, the selected and the hovered one first.
 [[nodiscard]] std::vector<ShownPin> shownPins(const MarkerFrame& frame);
+
+/// What the dots cover, those that the raster tiles show as well.
+[[nodiscard]] std::vector<ScreenRect> dotBoxes(const MarkerFrame& frame);
 
 /// Pins that cover one of the `names` become dots.
 void makeWay(MarkerFrame& frame, std::span<const ScreenRect> names);

@@ -105,6 +105,19 @@ TEST_F(MapComposerTest, AControlOverTheMapKeepsLabelsAway) {
     EXPECT_TRUE(layersOf<SpriteLayer>(frame).front()->sheets.empty());
 }
 
+TEST_F(MapComposerTest, EveryPinThatHasRoomBesideItHasItsTitle) {
+    // Pins 44 pixels apart, one above the other.
+    composer.records().setRecords(
+        recordSetOf({facilityAt(54, -112, "refinery"), facilityAt(54.25, -112, "refinery")}));
+    const Camera nearby(CoordinateRegion{{54, -112}, 4, 4}, {.width = 900, .height = 700});
+    const MapFrame frame = composer.compose(state, nearby, {});
+    std::size_t titles = 0;
+    for (const SpriteSheet& sheet : layersOf<SpriteLayer>(frame).front()->sheets) {
+        titles += sheet.sprites.size();
+    }
+    EXPECT_EQ(titles, 2U);
+}
+
 TEST(MapFrame, ImagesThatWereNotYetHandedOverAreNotLost) {
     MapFrame before;
     before.layers.emplace_back(TileLayer{{}, {{1, {}}, {2, {}}}, {1, 2}});

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <utility>
 
 namespace vasker {
 namespace {
@@ -26,6 +27,7 @@ class MapLabelsTest : public testing::Test {
                                 .textScale = textScale,
                                 .places = places,
                                 .records = records,
+                                .dots = dots,
                                 .obstacles = controls,
                                 .isMoving = false});
     }
@@ -68,6 +70,7 @@ class MapLabelsTest : public testing::Test {
     const Camera camera{canadaOverview, viewport};
     std::vector<PlaceLabel> places;
     std::vector<RecordLabel> records;
+    std::vector<ScreenRect> dots;
     std::vector<ScreenRect> controls;
     MapLabels labels;
     SpriteLayer layer;
@@ -153,6 +156,36 @@ TEST_F(MapLabelsTest, TheLabelOfARecordStandsBesideItsPin) {
     EXPECT_NEAR(texts().front().y + texts().front().height / 2, 300 - pinHeight / 2, 3);
 }
 
+TEST_F(MapLabelsTest, TheLabelOfARecordCoversNoDotAndThatOfAPlaceMay) {
+    const QString record = QStringLiteral("Sturgeon Refinery");
+    addPin({400, 300}, record);
+    dots = {{440, 281, 8, 8}};
+    compose();
+    ASSERT_EQ(texts().size(), 1U);
+    EXPECT_LT(texts().front().x, 400); // at the other side
+    dots.push_back({350, 281, 8, 8});
+    compose();
+    EXPECT_TRUE(texts().empty());
+    addPlace(QStringLiteral("Red Deer"), {430, 285});
+    compose();
+    EXPECT_EQ(texts().size(), 1U);
+}
+
+TEST_F(MapLabelsTest, WhereTwoRecordsCompeteTheLowerRankStands) {
+    addPin({400, 300}, QStringLiteral("Plant A"));
+    addPin({500, 300}, QStringLiteral("Plant B"));
+    dots = {{376, 281, 8, 8}, {516, 281, 8, 8}}; // there is room between them only, for one
+    for (const auto& [first, second] : {std::pair(3U, 7U), std::pair(7U, 3U)}) {
+        records[0].rank = first;
+        records[1].rank = second;
+        labels = {};
+        compose();
+        ASSERT_EQ(texts().size(), 1U);
+        const double middle = texts().front().x + texts().front().width / 2;
+        EXPECT_EQ(middle < 450, first < second);
+    }
+}
+
 TEST_F(MapLabelsTest, LabelsOfRecordsGiveWayToThoseOfPlaces) {
     addPin({400, 300}, QStringLiteral("Sturgeon Refinery"));
     compose();
@@ -210,6 +243,7 @@ TEST_F(MapLabelsTest, RegionsAndCitiesArePlacedAsIfThereWereNoPins) {
                                               .textScale = 1,
                                               .places = places,
                                               .records = records,
+                                              .dots = dots,
                                               .obstacles = controls,
                                               .isMoving = false});
     ASSERT_EQ(names.size(), 3U);
