@@ -1,6 +1,7 @@
 #include "platform/WindowKeys.h"
 
 #include <QKeyEvent>
+#include <QQuickItem>
 
 namespace vasker {
 
@@ -10,11 +11,20 @@ void WindowKeys::setWindow(QQuickWindow* window) {
 }
 
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && readsAText()) {
+        event->ignore();
+        return true;
+    }
     if (event->type() == QEvent::KeyPress && handle(*static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;
     }
     return QObject::eventFilter(watched, event);
+}
+
+bool WindowKeys::readsAText() const {
+    const QQuickItem* const item = m_window->activeFocusItem();
+    return item != nullptr && item->property("readOnly").toBool();
 }
 
 bool WindowKeys::handle(const QKeyEvent& key) {

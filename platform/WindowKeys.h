@@ -1,6 +1,9 @@
 #pragma once
 // The keys of a window that work whatever is open in it: Ctrl+N, Ctrl+W and Ctrl+Q. A menu keeps
 // shortcuts from all that lies below it; these are heard by the window itself.
+//
+// It also lets shortcuts through where a text has the keyboard that can only be read: Qt 6.4 would
+// take every key for the text's own.
 
 #include <QObject>
 #include <QQuickWindow>
@@ -32,6 +35,8 @@ class WindowKeys : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    /// Whether a text that can only be read has the keyboard.
+    [[nodiscard]] bool readsAText() const;
     /// Whether the key is one of them.
     bool handle(const QKeyEvent& key);
 

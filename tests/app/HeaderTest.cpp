@@ -235,6 +235,16 @@ TEST_F(Header, TheGuideIsThereOnTheFailureScreenToo) {
     EXPECT_NE(item("open-map-guide"), nullptr);
 }
 
+TEST_F(Header, ShortcutsWorkWhileATextThatIsOnlyReadHasTheKeyboard) {
+    open("{}");
+    key(Qt::Key_Tab);
+    ASSERT_TRUE(m_window->activeFocusItem()->property("readOnly").toBool());
+    key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_FALSE(m_window->activeFocusItem()->property("selectedText").toString().isEmpty());
+    key(Qt::Key_F1);
+    EXPECT_NE(item("open-map-guide"), nullptr);
+}
+
 TEST_F(Header, TheGuideLeadsToTheKeys) {
     openRecords();
     key(Qt::Key_F1);
