@@ -4,7 +4,7 @@ import signal
 import subprocess
 import time
 
-from bundle import RELEASE, program_with_release
+from bundle import RELEASE, encoded, program_with, program_with_release
 from disks import BASEMAP
 from driver import Missed, Program, Screen
 from faults import faults
@@ -31,6 +31,28 @@ def a_load_that_hangs_keeps_nobody(executable):
             print(f"ended {seconds:.2f} s after its last window was closed")
             if status != 0 or seconds > PATIENCE_SECONDS:
                 raise Missed(f"it ended with {status} after {seconds:.2f} s")
+
+
+def the_keys_of_a_window_work_where_the_map_cannot_be_shown(executable):
+    """Also while the text is selected that says why."""
+    information = {"VaskerOpenMapSHA256": "0" * 64}
+    with program_with(executable, encoded(RELEASE), information) as copy, Program(copy) as program:
+        program.see(id="open-map-error")
+        program.key("Tab")
+        program.key("ctrl+a")
+        program.see(starts="The bundled map does not match", state="focused")
+        program.key("ctrl+n")
+        program.see(window=1, id="open-map-error")
+        program.key("ctrl+w")
+        program.wait(lambda: len(program.windows()) == 1, "the first window is still there")
+        program.key("Tab")
+        program.key("ctrl+a")
+        program.key("F1")
+        program.see(id="open-map-guide")
+        program.key("ctrl+q")
+        status = program.process.wait(timeout=20)
+        if status != 0:
+            raise Missed(f"it ended with {status}")
 
 
 # When the program is ended while it writes a file, and whether the file is the new one then.
