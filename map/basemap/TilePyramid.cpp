@@ -208,12 +208,9 @@ TileWorkers::Job TilePyramid::job(TileGeneration& generation,
 }
 
 TileGeneration* TilePyramid::generation(std::uint64_t number) const {
-    for (TileGeneration* const each : generations()) {
-        if (each->number == number) {
-            return each;
-        }
-    }
-    return nullptr;
+    const std::vector<TileGeneration*> all = generations();
+    const auto found = std::ranges::find(all, number, &TileGeneration::number);
+    return found == all.end() ? nullptr : *found;
 }
 
 std::vector<TileGeneration*> TilePyramid::generations() const {
@@ -263,10 +260,9 @@ BasemapFrame TilePyramid::show(std::chrono::nanoseconds now) {
     if (m_fade) {
         const auto since = m_fade->since.value_or(now);
         m_fade->since = since;
-        opacity = std::chrono::duration<double>(now - since) / fadeTime;
+        opacity = std::min(1.0, std::chrono::duration<double>(now - since) / fadeTime);
         if (opacity >= 1) {
             m_fade.reset();
-            opacity = 1;
         }
     }
     const bool isWhole = m_current && covers(*m_current);

@@ -35,7 +35,6 @@ class TilePyramid : public QObject {
 
     /// The basemap as `view` shows it at `now`, any steady time.
     [[nodiscard]] BasemapFrame compose(const BasemapView& view, std::chrono::nanoseconds now);
-
     /// Asks the workers for what `view` will need, before it is composed.
     void prepare(const BasemapView& view);
 
