@@ -79,7 +79,7 @@ void RecordListModel::setFilter(RecordFilter* filter) {
     if (m_filter == filter) {
         return;
     }
-    if (m_filter) {
+    if (m_filter != nullptr) {
         m_filter->disconnect(this);
     }
     m_filter = filter;

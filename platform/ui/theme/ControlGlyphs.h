@@ -8,7 +8,7 @@
 
 namespace vasker {
 
-inline constexpr char controlGlyphsFamily[] = "Vasker Control Glyphs";
+inline constexpr const char* controlGlyphsFamily = "Vasker Control Glyphs";
 
 /// The font's file, in TrueType: one empty glyph of no width for the control characters (U+0000 to
 /// U+001F, U+007F to U+009F) but tabs and line breaks, the fillers of Hangul, the controls of
