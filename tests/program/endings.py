@@ -1,10 +1,10 @@
 """How the program ends, and what it outlives."""
 
 import signal
-import subprocess
 import time
 
 from bundle import RELEASE, encoded, program_with, program_with_release
+from bus import private_bus
 from disks import BASEMAP
 from driver import Missed, Program, Screen
 from faults import faults
@@ -126,11 +126,8 @@ def picture_at_rest(program, unlike=None):
 
 def a_session_bus_that_ends_is_not_missed(executable):
     """Nor is there an accessibility bus then: what shows is on the display."""
-    bus = subprocess.Popen(
-        ["dbus-daemon", "--session", "--nofork", "--print-address"], stdout=subprocess.PIPE, text=True
-    )
-    address = {"DBUS_SESSION_BUS_ADDRESS": bus.stdout.readline().strip()}
-    try:
+    with private_bus() as (bus, place):
+        address = {"DBUS_SESSION_BUS_ADDRESS": place}
         with program_with_release(executable, RELEASE) as copy, Program(copy, **address) as program:
             program.wait(lambda: len(program.titles()) == 1, "there is no window")
             workspace = picture_at_rest(program)
@@ -145,6 +142,3 @@ def a_session_bus_that_ends_is_not_missed(executable):
             status = program.process.wait(timeout=20)
             if status != 0:
                 raise Missed(f"it ended with {status}")
-    finally:
-        bus.kill()
-        bus.wait()

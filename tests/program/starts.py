@@ -18,6 +18,8 @@ from pathlib import Path
 
 from gi.repository import Gio, GLib
 
+from bus import private_bus
+
 PATIENCE_SECONDS = 60
 QUIET_SECONDS = 2
 
@@ -111,8 +113,8 @@ def by_the_bus(_programs):
     expect("the entry's action", [2])
 
 
-def start_bus(home):
-    """A session bus that knows the program and no other service, with its address in the environment."""
+def install_service(home):
+    """The folder with the program's service and no other."""
     services = home / "dbus-1/services"
     services.mkdir(parents=True)
     installed = Path(sys.argv[2]).read_text("utf-8")
@@ -121,30 +123,7 @@ def start_bus(home):
     )
     assert places == 1, installed
     (services / f"{NAME}.service").write_text(service, "utf-8")
-    configuration = home / "bus.conf"
-    configuration.write_text(
-        f"""<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:dir={home}</listen>
-  <servicedir>{services}</servicedir>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-""",
-        "utf-8",
-    )
-    bus = subprocess.Popen(
-        ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address"],
-        stdout=subprocess.PIPE,
-        text=True,
-    )
-    os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
-    return bus
+    return services
 
 
 def main():
@@ -159,19 +138,18 @@ def main():
             XDG_RUNTIME_DIR=folder,
             LC_ALL="C.UTF-8",
         )
-        bus = start_bus(home)
-        programs = Programs()
-        try:
-            for scene in (second_start, starts_at_once, beside_one_that_hangs, without_a_bus):
-                scene(programs)
-                programs.end()
-            # Last: what the bus has started ends with the display.
-            by_the_bus(programs)
-        finally:
-            for process in programs.processes:
-                process.kill()
-            bus.terminate()
-            bus.wait(timeout=10)
+        with private_bus(install_service(home)) as (_, address):
+            os.environ["DBUS_SESSION_BUS_ADDRESS"] = address
+            programs = Programs()
+            try:
+                for scene in (second_start, starts_at_once, beside_one_that_hangs, without_a_bus):
+                    scene(programs)
+                    programs.end()
+                # Last: what the bus has started ends with the display.
+                by_the_bus(programs)
+            finally:
+                for process in programs.processes:
+                    process.kill()
 
 
 if __name__ == "__main__":

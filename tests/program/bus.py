@@ -1,0 +1,38 @@
+"""A session bus of a test's own, which starts no service of the machine."""
+
+import contextlib
+import subprocess
+import tempfile
+from pathlib import Path
+
+CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:dir={folder}</listen>
+{services}  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+"""
+
+
+@contextlib.contextmanager
+def private_bus(services=None):
+    """The running bus and its address. It starts what the folder `services` holds; without one, nothing."""
+    with tempfile.TemporaryDirectory() as folder:
+        known = f"  <servicedir>{services}</servicedir>\n" if services else ""
+        configuration = Path(folder) / "bus.conf"
+        configuration.write_text(CONFIGURATION.format(folder=folder, services=known), "utf-8")
+        process = subprocess.Popen(
+            ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address"],
+            stdout=subprocess.PIPE,
+            text=True,
+        )
+        try:
+            yield process, process.stdout.readline().strip()
+        finally:
+            process.terminate()
+            process.wait(timeout=10)
