@@ -2,6 +2,7 @@
 
 #include "app/OpenMapRoot.h"
 #include "platform/Descriptors.h"
+#include "platform/ValueList.h"
 
 #include <QFile>
 #include <QJsonObject>
@@ -72,11 +73,7 @@ std::vector<GuideSection> OpenMapApp::guideSections() {
 }
 
 QVariantList OpenMapApp::guide() {
-    QVariantList list;
-    for (const GuideSection& section : guideSections()) {
-        list.append(QVariant::fromValue(section));
-    }
-    return list;
+    return valueList(guideSections());
 }
 
 QQuickWindow* OpenMapApp::openWindow() {

@@ -4,7 +4,6 @@
 #include "presentation/RecordText.h"
 
 #include <QUrl>
-#include <QVariant>
 
 namespace vasker {
 
@@ -23,15 +22,6 @@ OpenMapCredit OpenMapCredit::of(const OpenMapRelease::Source& source) {
             .modifications = QString::fromStdString(source.modifications),
             .sourceLink = linkAddress(source.sourceURL),
             .licenceLink = linkAddress(source.licenceURL)};
-}
-
-QVariantList asList(const std::vector<OpenMapCredit>& credits) {
-    QVariantList list;
-    list.reserve(static_cast<qsizetype>(credits.size()));
-    for (const OpenMapCredit& credit : credits) {
-        list.append(QVariant::fromValue(credit));
-    }
-    return list;
 }
 
 int promptCount(const std::vector<OpenMapCredit>& credits) {

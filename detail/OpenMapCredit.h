@@ -44,9 +44,7 @@ struct OpenMapCredit {
     friend bool operator==(const OpenMapCredit&, const OpenMapCredit&) = default;
 };
 
-/// The credits as a list that a view repeats.
-[[nodiscard]] QVariantList asList(const std::vector<OpenMapCredit>& credits);
-/// How many of them a view lays out before it shows anything; see promptCount().
+/// How many of `credits` a view lays out before it shows anything; see promptCount().
 [[nodiscard]] int promptCount(const std::vector<OpenMapCredit>& credits);
 
 } // namespace vasker

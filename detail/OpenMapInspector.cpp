@@ -84,12 +84,7 @@ OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
 }
 
 QVariantList OpenMapInspector::factList() const {
-    QVariantList list;
-    list.reserve(static_cast<qsizetype>(facts.size()));
-    for (const OpenMapFact& fact : facts) {
-        list.append(QVariant::fromValue(fact));
-    }
-    return list;
+    return valueList(facts);
 }
 
 int OpenMapInspector::promptFacts() const {

@@ -6,6 +6,7 @@
 #include "data/OpenMapRelease.h"
 #include "data/SearchedTexts.h"
 #include "detail/OpenMapCredit.h"
+#include "platform/ValueList.h"
 #include "platform/ui/text/TextPieces.h"
 
 #include <QCoreApplication>
@@ -97,7 +98,7 @@ struct OpenMapInspector {
     /// Values of OpenMapFact.
     [[nodiscard]] QVariantList factList() const;
     /// Values of OpenMapCredit.
-    [[nodiscard]] QVariantList creditList() const { return asList(credits); }
+    [[nodiscard]] QVariantList creditList() const { return valueList(credits); }
     /// How many rows of each list a view lays out before it shows anything; see promptCount().
     [[nodiscard]] int promptFacts() const;
     [[nodiscard]] int promptCredits() const;

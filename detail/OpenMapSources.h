@@ -4,6 +4,7 @@
 
 #include "data/OpenMapRelease.h"
 #include "detail/OpenMapCredit.h"
+#include "platform/ValueList.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -47,7 +48,7 @@ struct OpenMapSources {
     [[nodiscard]] static OpenMapSources of(const OpenMapRelease& release);
 
     /// Values of OpenMapCredit.
-    [[nodiscard]] QVariantList creditList() const { return asList(credits); }
+    [[nodiscard]] QVariantList creditList() const { return valueList(credits); }
     /// How many rows of each list a view lays out before it shows anything; see promptCount().
     [[nodiscard]] int promptLimitations() const;
     [[nodiscard]] int promptCredits() const { return promptCount(credits); }

@@ -1,5 +1,7 @@
 #include "app/sheets/GuideSection.h"
 
+#include "platform/ValueList.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -80,12 +82,7 @@ class Rows {
 } // namespace
 
 QVariantList GuideSection::rowList() const {
-    QVariantList list;
-    list.reserve(static_cast<qsizetype>(rows.size()));
-    for (const GuideRow& row : rows) {
-        list.append(QVariant::fromValue(row));
-    }
-    return list;
+    return valueList(rows);
 }
 
 std::vector<GuideSection> GuideSection::allOf(QStringView document) {

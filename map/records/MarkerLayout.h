@@ -35,7 +35,8 @@ struct Marker {
     bool isQuiet = false; ///< its kind has no icon of its own
 };
 
-[[nodiscard]] inline double dotRadiusOf(const Marker& marker) noexcept {
+/// `marker` is a Marker or a PlacedMarker.
+[[nodiscard]] double dotRadiusOf(const auto& marker) noexcept {
     return marker.isQuiet ? quietDotRadius : dotRadius;
 }
 

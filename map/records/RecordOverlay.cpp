@@ -36,8 +36,9 @@ void forDotsIn(const MarkerLayout& layout,
                const MapRect& bounds,
                double margin,
                const Visit& visit) {
-    for (const double offset : worldCopyOffsets(bounds.inset(-margin, -margin))) {
-        MapRect around = bounds.inset(-margin, -margin);
+    const MapRect reached = bounds.inset(-margin, -margin);
+    for (const double offset : worldCopyOffsets(reached)) {
+        MapRect around = reached;
         around.x -= offset;
         for (auto dot = layout.dots.rbegin(); dot != layout.dots.rend(); ++dot) {
             if (around.contains(dot->point)) {

@@ -63,7 +63,7 @@ std::vector<ScreenRect> dotBoxes(const MarkerFrame& frame) {
     boxes.reserve(frame.dots.size() + frame.paintedDots.size());
     for (const auto* dots : {&frame.dots, &frame.paintedDots}) {
         for (const PlacedMarker& dot : *dots) {
-            const double reach = (dot.isQuiet ? quietDotRadius : dotRadius) + dotCasing;
+            const double reach = dotRadiusOf(dot) + dotCasing;
             boxes.push_back({dot.point.x - reach, dot.point.y - reach, 2 * reach, 2 * reach});
         }
     }
