@@ -71,11 +71,10 @@ PRIVATE_HEADERS = (
         "the network",
     ),
     (r"QSGNode$", ("map/scene/", "map/view/MapView", "platform/ui/"), "the scene graph"),
-    # An icon is one picture in one tint: the stock node draws it.
-    (r"QSGImageNode$", ("map/scene/", "platform/ui/theme/Icon"), "the scene graph"),
-    (r"QSGNinePatchNode$", ("platform/ui/theme/Shadow",), "the scene graph"),
+    # Icons and shadows are pictures: the stock node draws them.
+    (r"QSGImageNode$", ("map/scene/", "platform/ui/theme/Icon", "platform/ui/theme/Shadow"), "the scene graph"),
     (
-        r"QSG(?!(Image|NinePatch)?Node$)|QRhi|private/(qsg|qrhi)|rhi/|"
+        r"QSG(?!(Image)?Node$)|QRhi|private/(qsg|qrhi)|rhi/|"
         r"Qt?OpenGL|GL/|GLES|EGL/|vulkan/",
         ("map/scene/",),
         "the GPU",

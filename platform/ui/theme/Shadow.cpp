@@ -6,9 +6,10 @@
 #include <QImage>
 #include <QPainter>
 #include <QQuickWindow>
-#include <QSGNinePatchNode>
+#include <QSGImageNode>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <vector>
@@ -104,6 +105,55 @@ QImage baked(int level, bool dark, double radius, double reach, double pixelRati
     return picture;
 }
 
+/// Three by three patches of one picture: the corners keep their size. The stock node for that is
+/// not right where a painter draws for a screen of more than one device pixel a logical pixel.
+class ShadowNode : public QSGNode {
+  public:
+    explicit ShadowNode(const QQuickWindow& window) {
+        for (auto& patch : m_patches) {
+            patch.reset(window.createImageNode());
+            patch->setFlag(OwnedByParent, false);
+            patch->setFiltering(QSGTexture::Linear);
+        }
+    }
+
+    void setPicture(QSGTexture* picture) {
+        for (auto& patch : m_patches) {
+            patch->setTexture(picture);
+        }
+        m_picture.reset(picture);
+    }
+
+    /// `corner` is the side of a corner.
+    void setGeometry(const QRectF& bounds, double corner, double pixelRatio) {
+        const QSizeF pixels = m_picture->textureSize();
+        const double cut = corner * pixelRatio;
+        const std::array x{
+            bounds.left(), bounds.left() + corner, bounds.right() - corner, bounds.right()};
+        const std::array y{
+            bounds.top(), bounds.top() + corner, bounds.bottom() - corner, bounds.bottom()};
+        const std::array u{0.0, cut, pixels.width() - cut, pixels.width()};
+        const std::array v{0.0, cut, pixels.height() - cut, pixels.height()};
+        for (std::size_t row = 0; row < 3; ++row) {
+            for (std::size_t column = 0; column < 3; ++column) {
+                QSGImageNode& patch = *m_patches[3 * row + column];
+                const QRectF place({x[column], y[row]}, QPointF(x[column + 1], y[row + 1]));
+                patch.setRect(place);
+                patch.setSourceRect({{u[column], v[row]}, QPointF(u[column + 1], v[row + 1])});
+                if (place.isEmpty() && patch.parent() != nullptr) {
+                    removeChildNode(&patch);
+                } else if (!place.isEmpty() && patch.parent() == nullptr) {
+                    appendChildNode(&patch);
+                }
+            }
+        }
+    }
+
+  private:
+    std::unique_ptr<QSGTexture> m_picture;
+    std::array<std::unique_ptr<QSGImageNode>, 9> m_patches;
+};
+
 } // namespace
 
 Shadow::Shadow(QQuickItem* parent) : QQuickItem(parent) {
@@ -128,26 +178,22 @@ void Shadow::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 QSGNode* Shadow::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-    auto* node = static_cast<QSGNinePatchNode*>(old);
+    auto* node = static_cast<ShadowNode*>(old);
     const double pixelRatio = window()->effectiveDevicePixelRatio();
     const Elevation raised = elevation(m_level, m_dark);
     if (node == nullptr) {
-        node = window()->createNinePatchNode();
+        node = new ShadowNode(*window());
         m_pictureIsStale = true;
     }
     const double reach = corner(raised, m_radius, size());
     if (m_pictureIsStale || reach != m_reach) {
         m_pictureIsStale = false;
         m_reach = reach;
-        node->setTexture(
+        node->setPicture(
             window()->createTextureFromImage(baked(m_level, m_dark, m_radius, reach, pixelRatio)));
     }
     const double edge = margin(raised);
-    const double patch = edge + reach;
-    node->setBounds(QRectF(0, 0, width(), height()).adjusted(-edge, -edge, edge, edge));
-    node->setDevicePixelRatio(pixelRatio);
-    node->setPadding(patch, patch, patch, patch);
-    node->update();
+    node->setGeometry(boundingRect().adjusted(-edge, -edge, edge, edge), edge + reach, pixelRatio);
     return node;
 }
 
