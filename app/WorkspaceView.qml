@@ -26,8 +26,8 @@ FocusScope {
             width: Theme.columnWidth
             height: parent.height
             color: Theme.colors.window
-            // One picture while nothing in it changes: the map moves without the texts being drawn anew.
-            layer.enabled: true
+            // One picture while nothing in it changes. A painter draws only what has changed in any case.
+            layer.enabled: GraphicsInfo.shaderType !== GraphicsInfo.UnknownShadingLanguage
 
             SearchField {
                 id: search

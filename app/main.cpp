@@ -48,6 +48,7 @@ void expectDisplay(QtMsgType type, const QMessageLogContext& context, const QStr
 int run(int argc, char** argv) {
     // Qt asks once, when it starts, whether there is a screen reader: one may be started later.
     qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    vasker::shortenFrameDelay();
     const bool serves = startedByBus();
     const auto token = vasker::LaunchToken::fromEnvironment();
     const auto messages = qInstallMessageHandler(expectDisplay);

@@ -10,6 +10,7 @@
 #include "bench/FrameClock.h"
 #include "bench/Process.h"
 #include "bench/Stillness.h"
+#include "map/scene/Graphics.h"
 #include "platform/Memory.h"
 #include "platform/ui/theme/Fonts.h"
 
@@ -72,7 +73,9 @@ void measure(std::size_t openings) {
 
 int main(int argc, char* argv[]) {
     vasker::returnFreedImages();
+    vasker::shortenFrameDelay();
     const QGuiApplication application(argc, argv);
+    vasker::chooseGraphics();
     vasker::installInterfaceFont();
     try {
         vasker::measure(argc > 1 ? std::max(1UL, std::stoul(argv[1])) : 5'000UL);

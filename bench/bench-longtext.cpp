@@ -14,6 +14,7 @@
 #include "bench/Stillness.h"
 #include "data/Digest.h"
 #include "data/ReleaseWriter.h"
+#include "map/scene/Graphics.h"
 #include "platform/Memory.h"
 #include "platform/ui/theme/Fonts.h"
 #include "tools/openmap-release/Synthesis.h"
@@ -131,7 +132,9 @@ void measure(const QString& kind, int openings) {
 
 int main(int argc, char* argv[]) {
     vasker::returnFreedImages();
+    vasker::shortenFrameDelay();
     const QGuiApplication application(argc, argv);
+    vasker::chooseGraphics();
     vasker::installInterfaceFont();
     try {
         vasker::measure(argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("words"),

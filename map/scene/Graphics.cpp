@@ -1,16 +1,24 @@
 #include "map/scene/Graphics.h"
 
+#include "map/scene/Renderer.h"
+
 #include <QByteArray>
+#include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QQuickWindow>
+#include <QScreen>
 #include <QVulkanFunctions>
 #include <QVulkanInstance>
 
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdint>
+#include <filesystem>
 #include <utility>
 
 namespace vasker {
@@ -42,15 +50,54 @@ bool runsShaders(const QOpenGLContext& context) {
     return context.format().version() >= std::pair(2, context.isOpenGLES() ? 0 : 1);
 }
 
-bool openGlWorks() {
+/// Whether there is a device by which any of the drivers for Linux reaches a graphics card. To ask
+/// is cheap: OpenGL on the processor, which is there in any case, takes long to load and much
+/// memory.
+bool hasGraphicsCard() {
+    namespace fs = std::filesystem;
+    constexpr std::array ownDevices{
+        "/dev/nvidiactl", "/dev/dxg", "/dev/mali0", "/dev/kgsl-3d0", "/dev/pvrsrvkm"};
+    std::error_code error;
+    const fs::directory_iterator rendering("/dev/dri", error);
+    return std::any_of(begin(rendering),
+                       end(rendering),
+                       [](const fs::directory_entry& device) {
+                           return device.path().filename().native().starts_with("renderD");
+                       }) ||
+           std::ranges::any_of(ownDevices,
+                               [&error](const char* device) { return fs::exists(device, error); });
+}
+
+enum class OpenGl { none, onProcessor, onCard };
+
+OpenGl tryOpenGl() {
     QOpenGLContext context;
     if (!context.create()) {
-        return false;
+        return OpenGl::none;
     }
     QOffscreenSurface surface;
     surface.setFormat(context.format());
     surface.create();
-    return surface.isValid() && context.makeCurrent(&surface) && runsShaders(context);
+    if (!surface.isValid() || !context.makeCurrent(&surface) || !runsShaders(context)) {
+        return OpenGl::none;
+    }
+    return rendersInSoftware(context) ? OpenGl::onProcessor : OpenGl::onCard;
+}
+
+/// At other scales Qt Quick's painter leaves seams in rounded rectangles.
+bool scalesAreWhole() {
+    return std::ranges::all_of(QGuiApplication::screens(), [](const QScreen* screen) {
+        return screen->devicePixelRatio() == std::round(screen->devicePixelRatio());
+    });
+}
+
+bool openGlIsBest() {
+    const bool isWanted = qgetenv("QSG_RHI_BACKEND") == "opengl" || !scalesAreWhole();
+    if (!isWanted && !hasGraphicsCard()) {
+        return false;
+    }
+    const OpenGl openGl = tryOpenGl();
+    return openGl == OpenGl::onCard || (isWanted && openGl == OpenGl::onProcessor);
 }
 
 bool vulkanWorks() {
@@ -72,8 +119,15 @@ void chooseGraphics() {
     if (qgetenv("QSG_RHI_BACKEND") == "vulkan" && vulkanWorks()) {
         return;
     }
-    QQuickWindow::setGraphicsApi(openGlWorks() ? QSGRendererInterface::OpenGL
-                                               : QSGRendererInterface::Software);
+    QQuickWindow::setGraphicsApi(openGlIsBest() ? QSGRendererInterface::OpenGL
+                                                : QSGRendererInterface::Software);
+}
+
+void shortenFrameDelay() {
+    constexpr auto variable = "QT_QPA_UPDATE_IDLE_TIME";
+    if (!qEnvironmentVariableIsSet(variable)) {
+        qputenv(variable, "1");
+    }
 }
 
 } // namespace vasker

@@ -19,12 +19,13 @@ bool rendersInSoftware(const QQuickWindow& window) {
     if (!hasShaders(window)) {
         return true;
     }
-    QOpenGLContext* context = QOpenGLContext::currentContext();
-    if (context == nullptr) {
-        return false;
-    }
+    QOpenGLContext* const context = QOpenGLContext::currentContext();
+    return context != nullptr && rendersInSoftware(*context);
+}
+
+bool rendersInSoftware(QOpenGLContext& context) {
     const QByteArray renderer(
-        reinterpret_cast<const char*>(context->functions()->glGetString(GL_RENDERER)));
+        reinterpret_cast<const char*>(context.functions()->glGetString(GL_RENDERER)));
     constexpr std::array software{"llvmpipe", "softpipe", "swrast", "SWR", "Software Rasterizer"};
     return std::ranges::any_of(software, [&](const char* name) { return renderer.contains(name); });
 }

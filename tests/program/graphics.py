@@ -1,10 +1,12 @@
-"""What the window shows, whatever it can be drawn with: by OpenGL, or by a painter without it."""
+"""What the window shows, whatever it can be drawn with: by a painter, or by OpenGL where there is a
+graphics card, where the environment asks for it, and at scales between whole numbers."""
 
 import os
 import subprocess
 from collections import Counter
 from contextlib import contextmanager
 from itertools import groupby
+from pathlib import Path
 
 from driver import Missed, Program, Screen
 
@@ -33,7 +35,18 @@ def shows_a_map(box):
     )
 
 
-def expect_a_map_and_a_record(executable, **environment):
+def has_graphics_card():
+    return any(Path("/dev/dri").glob("renderD*"))
+
+
+def has_a_driver(program):
+    """Whether it has loaded what OpenGL is drawn with."""
+    loaded = Path(f"/proc/{program.process.pid}/maps").read_text()
+    return any(name in loaded for name in ("_dri.so", "libgallium", "libLLVM"))
+
+
+def expect_a_map_and_a_record(executable, by_opengl=None, **environment):
+    """`by_opengl`: whether a driver is expected to be loaded; None where that depends."""
     with Program(executable, **environment) as program:
         box = program.see(id="open-map-canvas").box()
         program.wait(lambda: shows_a_map(box), "there is no map")
@@ -45,20 +58,40 @@ def expect_a_map_and_a_record(executable, **environment):
         program.wait(lambda: longest_run(Screen().rows(seen), DIMMED_GREY) >= 18, "there is no selected pin")
         if longest_run(Screen().rows(sheet.box()), (255, 255, 255)) < 200:
             raise Missed("the inspector is not drawn")
+        if by_opengl is not None and by_opengl != has_a_driver(program):
+            raise Missed("OpenGL" if by_opengl else "a painter, and no driver in memory")
 
 
-def stands_on_the_software_renderer(executable):
-    expect_a_map_and_a_record(executable, QT_QUICK_BACKEND="software")
+def is_painted_without_a_graphics_card(executable):
+    expect_a_map_and_a_record(executable, by_opengl=None if has_graphics_card() else False)
+
+
+def is_painted_on_the_software_renderer(executable):
+    expect_a_map_and_a_record(executable, by_opengl=False, QT_QUICK_BACKEND="software")
+
+
+def is_drawn_by_opengl_where_that_is_asked_for(executable):
+    expect_a_map_and_a_record(executable, by_opengl=True, QSG_RHI_BACKEND="opengl")
+
+
+def is_drawn_by_opengl_at_a_scale_between_whole_numbers(executable):
+    expect_a_map_and_a_record(executable, by_opengl=True, QT_SCALE_FACTOR="1.25")
 
 
 def stands_without_a_driver(executable):
     expect_a_map_and_a_record(
-        executable, LIBGL_DRIVERS_PATH="/nonexistent", LIBGL_ALWAYS_SOFTWARE="1"
+        executable,
+        by_opengl=False,
+        QSG_RHI_BACKEND="opengl",
+        LIBGL_DRIVERS_PATH="/nonexistent",
+        LIBGL_ALWAYS_SOFTWARE="1",
     )
 
 
 def stands_without_opengl(executable):
-    expect_a_map_and_a_record(executable, QT_XCB_GL_INTEGRATION="none")
+    expect_a_map_and_a_record(
+        executable, by_opengl=False, QSG_RHI_BACKEND="opengl", QT_XCB_GL_INTEGRATION="none"
+    )
 
 
 @contextmanager
@@ -81,16 +114,16 @@ def display_without_opengl():
 
 def stands_on_a_display_without_opengl(executable):
     with display_without_opengl():
-        expect_a_map_and_a_record(executable)
+        expect_a_map_and_a_record(executable, QSG_RHI_BACKEND="opengl")
 
 
 def stands_on_opengl_2_0(executable):
     """Whose shaders are too old for the toolkit."""
-    expect_a_map_and_a_record(executable, MESA_GL_VERSION_OVERRIDE="2.0")
+    expect_a_map_and_a_record(executable, QSG_RHI_BACKEND="opengl", MESA_GL_VERSION_OVERRIDE="2.0")
 
 
 def stands_on_opengl_2_1(executable):
-    expect_a_map_and_a_record(executable, MESA_GL_VERSION_OVERRIDE="2.1")
+    expect_a_map_and_a_record(executable, QSG_RHI_BACKEND="opengl", MESA_GL_VERSION_OVERRIDE="2.1")
 
 
 def stands_where_vulkan_is_asked_for_in_vain(executable):
