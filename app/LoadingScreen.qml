@@ -31,12 +31,12 @@ Item {
             track: Theme.colors.line
             quarter: Theme.colors.accent
 
-            RotationAnimator on rotation {
+            RotationAnimation on rotation {
                 from: 0
                 to: 360
                 duration: 1100
                 loops: Animation.Infinite
-                running: root.visible && !Theme.still
+                running: root.opacity > 0 && !Theme.still
             }
         }
         Label {

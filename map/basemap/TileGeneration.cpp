@@ -51,6 +51,16 @@ TileJob TileGeneration::jobFor(TileKey key, std::shared_ptr<TileProvider> provid
             .bare = known != bare.end() ? known->second : RasterTile()};
 }
 
+void TileGeneration::take(RasterTile tile, bool isOutdated) {
+    const TileKey key = tile.key;
+    tiles.insert_or_assign(key, std::move(tile));
+    bare.erase(key);
+    outdated.erase(key);
+    if (isOutdated) {
+        outdated.insert(key);
+    }
+}
+
 void TileGeneration::takeOver(const TileGeneration& other) {
     const auto isAlike = [&](const RasterTile& tile) {
         return tile.isHandedOver && overlay && other.overlay &&

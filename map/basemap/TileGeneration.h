@@ -44,6 +44,8 @@ struct TileGeneration {
     /// The work of one of its tiles.
     [[nodiscard]] TileJob jobFor(TileKey key, std::shared_ptr<TileProvider> provider) const;
 
+    /// Has `tile` from here on. `isOutdated`: more is known of it already.
+    void take(RasterTile tile, bool isOutdated);
     /// Takes over what `other`, of the same scale and theme, has painted: tiles in which both
     /// overlays are alike, and the basemap of others.
     void takeOver(const TileGeneration& other);

@@ -65,11 +65,21 @@ void TileLibrary::discard(const std::vector<ServiceTile>& tiles) {
     }
 }
 
-void TileLibrary::request(const void* client, std::vector<ServiceTile> tiles) {
-    if (m_requested[client] == tiles) {
+void TileLibrary::request(const void* client,
+                          const std::vector<TileKey>& tiles,
+                          BasemapTheme theme) {
+    std::vector<ServiceTile> requests;
+    for (const TileKey key : tiles) {
+        for (const ServiceTile& each : m_provider->requestsFor(key, theme)) {
+            if (std::ranges::find(requests, each) == requests.end()) {
+                requests.push_back(each);
+            }
+        }
+    }
+    if (m_requested[client] == requests) {
         return;
     }
-    m_requested[client] = std::move(tiles);
+    m_requested[client] = std::move(requests);
     std::vector<ServiceTile> all;
     for (const auto& [each, requested] : m_requested) {
         all.insert(all.end(), requested.begin(), requested.end());

@@ -35,7 +35,8 @@ class TileLibrary : public QObject {
     [[nodiscard]] TileWorkers& workers() noexcept { return m_workers; }
 
     /// The tiles that `client` has in view now, the most important first, instead of those before.
-    void request(const void* client, std::vector<ServiceTile> tiles);
+    /// Services are asked for what `theme` needs of them.
+    void request(const void* client, const std::vector<TileKey>& tiles, BasemapTheme theme);
     /// What a service sent for these could not be decoded.
     void discard(const std::vector<ServiceTile>& tiles);
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace vasker {
 
@@ -33,17 +34,23 @@ constexpr std::chrono::milliseconds fadeTime{220};
 /// changes in the same frame as the list.
 constexpr std::chrono::milliseconds overlayPatience{25};
 
+/// Tiles that come one by one are shown together so often: each frame costs as much as a tile.
+constexpr std::chrono::milliseconds newsInterval{40};
+
 } // namespace
 
 TilePyramid::TilePyramid(TileLibrary& library, QObject* parent)
     : QObject(parent), m_library(library) {
     connect(&m_library, &TileLibrary::tileArrived, this, &TilePyramid::markOutdated);
     connect(&m_library, &TileLibrary::offlineChanged, this, &TilePyramid::changed);
+    m_news.setSingleShot(true);
+    m_news.setInterval(newsInterval);
+    connect(&m_news, &QTimer::timeout, this, &TilePyramid::changed);
 }
 
 TilePyramid::~TilePyramid() {
     m_library.workers().remove(this);
-    m_library.request(this, {});
+    m_library.request(this, {}, m_view.theme);
 }
 
 void TilePyramid::prepare(const BasemapView& view) {
@@ -159,20 +166,9 @@ void TilePyramid::request() {
         m_hasJobs = !jobs.empty();
         m_library.workers().setJobs(this, std::move(jobs));
     }
-    requestServices(needed);
-}
-
-void TilePyramid::requestServices(const TileGeneration& generation) {
-    std::vector<ServiceTile> requests;
-    for (const CoverTile& tile : cover(generation, 0)) {
-        for (const ServiceTile& each :
-             m_library.provider()->requestsFor(tile.key, generation.theme)) {
-            if (std::ranges::find(requests, each) == requests.end()) {
-                requests.push_back(each);
-            }
-        }
-    }
-    m_library.request(this, std::move(requests));
+    std::vector<TileKey> seen;
+    std::ranges::transform(cover(needed, 0), std::back_inserter(seen), &CoverTile::key);
+    m_library.request(this, seen, needed.theme);
 }
 
 /// Adds a job for each tile that is missing or outdated and not being painted.
@@ -229,15 +225,14 @@ void TilePyramid::takePainted(std::uint64_t generationNumber,
     const bool outdated = request->second.outdated;
     m_requests.erase(request);
     if (TileGeneration* const owner = generation(generationNumber)) {
-        const TileKey key = tile.key;
+        const bool covered = covers(*owner);
         tile.number = ++m_lastTile;
-        owner->tiles.insert_or_assign(key, std::move(tile));
-        owner->bare.erase(key);
-        owner->outdated.erase(key);
-        if (outdated) {
-            owner->outdated.insert(key);
+        owner->take(std::move(tile), outdated);
+        if (!covered && covers(*owner)) {
+            Q_EMIT changed();
+        } else if (!m_news.isActive()) {
+            m_news.start();
         }
-        Q_EMIT changed();
     }
 }
 

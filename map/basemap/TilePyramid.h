@@ -14,6 +14,7 @@
 #include "map/geometry/TileCover.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <atomic>
 #include <chrono>
@@ -65,7 +66,6 @@ class TilePyramid : public QObject {
     [[nodiscard]] bool isReadyToShow(const TileGeneration& generation);
     void promote();
     void request();
-    void requestServices(const TileGeneration& generation);
     void collect(TileGeneration& generation, double margin, std::vector<TileWorkers::Job>& jobs);
     [[nodiscard]] TileWorkers::Job
     job(TileGeneration& generation, TileKey key, std::shared_ptr<std::atomic<bool>> begun);
@@ -89,6 +89,7 @@ class TilePyramid : public QObject {
     std::uint64_t m_awaited = 0; ///< the generation whose overlay a frame has waited for
     std::uint64_t m_lastNumber = 0;
     TileNumber m_lastTile = 0;
+    QTimer m_news; ///< runs while there are tiles that no frame shows
 };
 
 } // namespace vasker
