@@ -78,6 +78,19 @@ def is_drawn_by_opengl_at_a_scale_between_whole_numbers(executable):
     expect_a_map_and_a_record(executable, by_opengl=True, QT_SCALE_FACTOR="1.25")
 
 
+def is_painted_whole_on_a_screen_of_scale_2(executable):
+    with another_display(size="2600x1700"), Program(executable, QT_SCALE_FACTOR="2") as program:
+        box = program.see(id="open-map-canvas").box()
+        program.wait(lambda: shows_a_map(box), "there is no map")
+        program.see(id="open-map-records").find(role="list item").press()
+        left, top, *_ = program.see(id="open-map-inspector", role="dialog").box()
+        # Beside the sheet stands the bar above the map, in one colour, and the sheet's shadow on it.
+        brightness = lambda x: sum(Screen().pixel(x, top + 40))
+        program.wait(lambda: brightness(left - 4) < brightness(left - 120) - 6, "there is no shadow")
+        if sum(Screen().pixel(4, top + 40)) < 300:
+            raise Missed("the column is not drawn")
+
+
 def stands_without_a_driver(executable):
     expect_a_map_and_a_record(
         executable,
@@ -95,11 +108,11 @@ def stands_without_opengl(executable):
 
 
 @contextmanager
-def display_without_opengl():
-    """Another display for this scenario, whose server knows no GLX."""
+def another_display(*options, size="1400x900"):
+    """For this scenario; its server is told the options."""
     usual = os.environ["DISPLAY"]
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", "1", "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-extension", "GLX"],
+        ["Xvfb", "-displayfd", "1", "-screen", "0", f"{size}x24", "-nolisten", "tcp", *options],
         stdout=subprocess.PIPE,
         stderr=subprocess.DEVNULL,
     )
@@ -113,7 +126,7 @@ def display_without_opengl():
 
 
 def stands_on_a_display_without_opengl(executable):
-    with display_without_opengl():
+    with another_display("-extension", "GLX"):
         expect_a_map_and_a_record(executable, QSG_RHI_BACKEND="opengl")
 
 
