@@ -131,10 +131,11 @@ bool TilePyramid::lacksOnlyOverlay(const TileGeneration& generation) {
            generation.coversBare(cover(generation, 0)) && !covers(generation);
 }
 
-/// The images of a generation become textures a few a frame, before it is shown; those of the first
-/// one of all, and those that only have another overlay, at once.
+/// On a card the images of a generation become textures a few a frame, before it is shown; those of
+/// the first one of all, and those that only have another overlay, at once.
 bool TilePyramid::isReadyToShow(const TileGeneration& generation) {
-    if (!m_current || (m_current->looksLike(m_view) && m_current->scale == generation.scale)) {
+    if (!m_view.uploads || !m_current ||
+        (m_current->looksLike(m_view) && m_current->scale == generation.scale)) {
         return true;
     }
     return std::ranges::all_of(cover(generation, 0), [&generation](const CoverTile& tile) {

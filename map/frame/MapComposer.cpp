@@ -30,6 +30,7 @@ BasemapView MapComposer::basemapView(const MapState& state, const Camera& camera
                      .language = m_language,
                      .isResting = state.isResting,
                      .fades = state.fades,
+                     .uploads = state.drawing == RecordDrawing::live,
                      .overlayRevision = 0,
                      .overlay = {}};
     if (state.drawing == RecordDrawing::painted) {

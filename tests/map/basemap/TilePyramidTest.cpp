@@ -293,6 +293,32 @@ TEST_F(TilePyramidTest, ImagesThatAreNotSeenYetAreHandedOverAFewAFrame) {
     EXPECT_GE(handedOver, 4U);
 }
 
+TEST_F(TilePyramidTest, ImagesThatNeedNoTextureAreShownInTheNextFrame) {
+    openWithoutServices();
+    view.uploads = false;
+    ASSERT_TRUE(lookUntilComplete());
+    scaleTo(1.2);
+    look();
+    library->workers().wait(pyramid.get(), milliseconds(10'000));
+    look();
+    EXPECT_EQ(frame.scale, view.camera.scale());
+    EXPECT_GE(frame.tiles.newImages.size(), 4U);
+}
+
+TEST_F(TilePyramidTest, TilesThatComeOneByOneAreToldOfTogether) {
+    openWithoutServices();
+    int told = 0;
+    QObject::connect(pyramid.get(), &TilePyramid::changed, [&told] { ++told; });
+    look();
+    library->workers().wait(pyramid.get(), milliseconds(10'000));
+    EXPECT_GE(told, 1);
+    EXPECT_LE(told, 2) << "when the world is covered, and when the view is";
+    look();
+    EXPECT_GE(frame.tiles.newImages.size(), 4U);
+    const int atOnce = told;
+    EXPECT_TRUE(comesTrue([&] { return told > atOnce; })) << "the rest, a moment later";
+}
+
 TEST_F(TilePyramidTest, AnOverlayIsPaintedInDevicePixels) {
     struct Spot : TileOverlay {
         void paint(QImage& image, const MapRect& bounds, double scale) const override {
