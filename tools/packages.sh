@@ -30,7 +30,7 @@ picture_packages=(xvfb dbus-daemon netpbm)
 # To test without a screen: test libraries, benchmarks, linters, drivers and the accessibility bus.
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev qml6-module-qttest
-    clang libclang-rt-dev clang-format clang-tidy desktop-file-utils appstream appstream-util
+    clang libclang-rt-dev clang-format clang-tidy desktop-file-utils appstream appstream-util lintian
     poppler-utils xauth x11-utils x11-apps xdotool at-spi2-core python3-gi gir1.2-atspi-2.0
 )
 
