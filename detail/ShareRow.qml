@@ -23,7 +23,6 @@ SectionRow {
         radius: Theme.menuRowRadius
         label: qsTr("Share the open-data file")
         opened: menu.shown
-        Accessible.ignored: !visible
         onClicked: menu.toggle()
 
         Icon {

@@ -16,7 +16,6 @@ Button {
     implicitWidth: Math.min(text.implicitWidth + 24, maximumWidth)
     implicitHeight: text.implicitHeight + 14
     Accessible.role: Accessible.AlertMessage
-    Accessible.ignored: !visible
     onClicked: root.saves.forget()
 
     background: RaisedSurface {

@@ -32,7 +32,6 @@ WindowSheet {
                     bottomInset: -6
                     radius: Theme.menuRowRadius
                     label: qsTr("Keyboard shortcuts")
-                    Accessible.ignored: !visible
                     onClicked: {
                         root.sheets.request(SheetStack.Shortcuts);
                         root.dismissed();

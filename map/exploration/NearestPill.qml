@@ -15,7 +15,6 @@ Button {
     radius: 16
     implicitWidth: Math.min(text.implicitWidth + arrow.width + 30, maximumWidth)
     implicitHeight: text.implicitHeight + 14
-    Accessible.ignored: !visible
     onClicked: root.nearest.go()
 
     background: RaisedSurface {

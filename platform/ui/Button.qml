@@ -26,6 +26,7 @@ T.AbstractButton {
     Accessible.role: Accessible.Button
     Accessible.name: root.label
     Accessible.focusable: true
+    Accessible.ignored: !root.visible
     Accessible.onPressAction: root.clicked()
     Keys.forwardTo: PressKeys {
         button: root

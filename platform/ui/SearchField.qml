@@ -89,7 +89,6 @@ Rectangle {
         height: parent.height
         focusPolicy: Qt.NoFocus
         label: qsTr("Clear search")
-        Accessible.ignored: !visible
         onClicked: input.clear()
 
         background: Item {}

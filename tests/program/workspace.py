@@ -136,9 +136,13 @@ def without_a_session_bus_every_start_stands_alone(executable):
 
 def a_small_window_keeps_every_tool_in_reach(executable):
     """As small as a compositor may make it, whatever the window asks for."""
+    tools = ["open-map-options", "open-map-reset", "open-map-sources"]
     with program_with_release(executable, RELEASE) as copy, Program(copy) as program:
-        program.see(id="open-map-options")
+        for tool in tools:
+            program.see(id=tool)
         program.resize(500, 400)
+        for tool in tools:
+            program.miss(id=tool)
         program.key("F10")
         program.press(role="menu item", name="Map options")
         program.press(role="menu item", name="Satellite")
@@ -148,6 +152,10 @@ def a_small_window_keeps_every_tool_in_reach(executable):
         program.key("F10")
         program.press(role="menu item", name="Sources & coverage")
         program.see(role="dialog", name="Sources & coverage")
+        program.press(name="Done")
+        program.resize(1280, 800)
+        for tool in tools:
+            program.see(id=tool)
 
 
 def a_locale_from_right_to_left_mirrors_the_window(executable):

@@ -97,7 +97,6 @@ Item {
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
             label: qsTr("Done")
-            Accessible.ignored: !root.visible
             onClicked: root.dismissed()
         }
         Rectangle {

@@ -25,7 +25,6 @@ Button {
     radius: 2
     ringed: bar
     label: root.large ? qsTr("Make the sheet smaller") : qsTr("Make the sheet larger")
-    Accessible.ignored: !root.visible
     Accessible.onIncreaseAction: root.moved(true)
     Accessible.onDecreaseAction: root.moved(false)
     Keys.onUpPressed: root.moved(true)
