@@ -77,6 +77,7 @@ Item {
                 text: root.note
                 Accessible.role: Accessible.StaticText
                 Accessible.name: root.note
+                Accessible.ignored: !visible
             }
             Separator {
                 visible: noteEntry.separated

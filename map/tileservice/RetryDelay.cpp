@@ -1,6 +1,7 @@
 #include "map/tileservice/RetryDelay.h"
 
 #include <QLocale>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -23,7 +24,7 @@ retryDelay(int failures, std::optional<std::chrono::seconds> asked, const RetryR
 QDateTime httpDate(const QByteArray& text) {
     QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(text.trimmed()),
                                              QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
-    date.setTimeSpec(Qt::UTC);
+    date.setTimeZone(QTimeZone::utc());
     return date;
 }
 

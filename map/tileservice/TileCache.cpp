@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTimeZone>
 
 #include <chrono>
 #include <string_view>
@@ -156,7 +157,7 @@ std::optional<TileCache::Entry> TileCache::find(const QString& address, const QD
     std::optional<Entry> found;
     if (query.run()) {
         found = {.bytes = bytesOf(query.bytes(0)),
-                 .freshUntil = QDateTime::fromSecsSinceEpoch(query.number(1), Qt::UTC),
+                 .freshUntil = QDateTime::fromSecsSinceEpoch(query.number(1), QTimeZone::utc()),
                  .entityTag = bytesOf(query.bytes(2)),
                  .lastModified = bytesOf(query.bytes(3))};
         const qint64 seconds = now.toSecsSinceEpoch();

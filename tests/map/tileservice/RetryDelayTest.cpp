@@ -2,6 +2,8 @@
 
 #include "map/tileservice/TileServiceHosts.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace vasker {
@@ -9,7 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const QDateTime now(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC);
+const QDateTime now(QDate(2026, 3, 4), QTime(5, 6, 7), QTimeZone::utc());
 
 TEST(RetryPause, DoublesWithEachFailureAndStopsAtAMinute) {
     std::vector<std::chrono::milliseconds> pauses;

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QTimeZone>
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>
@@ -18,7 +19,7 @@
 namespace vasker {
 namespace {
 
-const QDateTime lastUse(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC);
+const QDateTime lastUse(QDate(2026, 3, 4), QTime(5, 6, 7), QTimeZone::utc());
 
 class TileCacheTest : public testing::Test {
   protected:

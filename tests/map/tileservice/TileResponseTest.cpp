@@ -2,12 +2,14 @@
 
 #include "map/tileservice/MissingTiles.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace vasker {
 namespace {
 
-const QDateTime received(QDate(2026, 3, 4), QTime(5, 6, 7), Qt::UTC);
+const QDateTime received(QDate(2026, 3, 4), QTime(5, 6, 7), QTimeZone::utc());
 
 TileResponse answer(int status, const QByteArray& body) {
     TileResponse result;
