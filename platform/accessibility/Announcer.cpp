@@ -19,14 +19,14 @@ namespace vasker {
 
 namespace {
 
-/// Under which Qt's bridge is connected.
-
 /// ATSPI_LIVE_POLITE.
 constexpr int polite = 1;
 
 constexpr std::chrono::milliseconds retryTime{250};
 constexpr int tries = 20;
 constexpr std::chrono::seconds noticeTime{4};
+/// What is said within this time is one notice: a reader asks for its text a moment after it shows.
+constexpr std::chrono::milliseconds gatherTime{100};
 
 /// "object:state-changed:showing" as one word, however a program has written it.
 QString plain(const QString& event) {
@@ -65,6 +65,11 @@ Announcer::Announcer(QQuickItem* parent) : QQuickItem(parent) {
     m_retry.setSingleShot(true);
     m_retry.setInterval(retryTime);
     connect(&m_retry, &QTimer::timeout, this, &Announcer::send);
+    m_gather.setSingleShot(true);
+    m_gather.setInterval(gatherTime);
+    connect(&m_gather, &QTimer::timeout, this, [this] {
+        setNotice(std::exchange(m_unheard, {}).join(QStringLiteral(". ")));
+    });
     m_end.setSingleShot(true);
     m_end.setInterval(noticeTime);
     connect(&m_end, &QTimer::timeout, this, [this] { setNotice({}); });
@@ -117,7 +122,8 @@ void Announcer::showUnlessHeard(const QDBusConnection& bus, const QString& text)
         const QStringList registered = registeredEvents(answer->reply());
         if (!isHeard(registered, QStringLiteral("object:announcement")) &&
             isHeard(registered, QStringLiteral("object:state-changed:showing"))) {
-            setNotice(text);
+            m_unheard.append(text);
+            m_gather.start();
         }
     });
 }

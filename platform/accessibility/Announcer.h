@@ -43,7 +43,9 @@ class Announcer : public QQuickItem {
     QStringList m_waiting;
     int m_triesLeft = 0;
     QTimer m_retry;
-    QTimer m_end; ///< of the notification
+    QStringList m_unheard; ///< of the next notice
+    QTimer m_gather;
+    QTimer m_end; ///< of the notice
     QString m_notice;
 };
 

@@ -1,5 +1,7 @@
 """What the program says to a screen reader while its user is elsewhere, as one hears it."""
 
+import re
+
 from bundle import RELEASE, program_with_release
 from driver import Atspi, GLib, Missed, Program
 from portal import Portal
@@ -36,6 +38,11 @@ class Reader:
         while GLib.MainContext.default().iteration(False):
             pass
         return text in self.heard
+
+    def expect_match(self, program, pattern):
+        """Something in which the pattern is found has been said."""
+        said = lambda: not self.hears("") and any(re.search(pattern, each) for each in self.heard)
+        program.wait(said, f"nothing like {pattern!r} is said, but {self.heard}")
 
     def expect(self, program, text):
         program.wait(lambda: self.hears(text), f"{text!r} is not said, but {self.heard}")

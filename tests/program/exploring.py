@@ -25,3 +25,17 @@ def the_map_is_explored_by_ear(executable):
         program.key("Return")
         program.see(id="open-map-inspector")
         reader.expect(program, "Picked: Plant 2, Gas plant")
+
+
+def older_readers_hear_where_the_map_is_and_what_is_there(executable):
+    """Both in one notification: the second would take the place of the first before that is read."""
+    with program_with_release(executable, RELEASE) as copy:
+        with Reader("object:state-changed:showing") as reader, Program(copy) as program:
+            program.see(name="2 of 2 records")
+            canvas = program.see(id="open-map-canvas")
+            canvas.focus()
+            program.see(id="open-map-canvas", state="focused")
+            program.key("ctrl+Up")
+            reader.expect(program, "Plant 2, gas plant, 222 km north")
+            program.key("plus")
+            reader.expect_match(program, r"records? in view\. Plant 2, gas plant, ")
