@@ -21,6 +21,7 @@ SectionRow {
         color: Theme.colors.text2
         text: root.fact.label
         spoken: true
+        Accessible.role: Accessible.Paragraph
     }
     SelectableText {
         width: parent.width

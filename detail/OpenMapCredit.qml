@@ -18,6 +18,7 @@ SectionRow {
         textStyle: Theme.type.publisher
         text: root.credit.publisher
         spoken: true
+        Accessible.role: Accessible.Paragraph
     }
     Label {
         width: parent.width
@@ -26,6 +27,7 @@ SectionRow {
         textStyle: Theme.type.footnote
         text: root.credit.attribution
         spoken: true
+        Accessible.role: Accessible.Paragraph
     }
     Label {
         width: parent.width
@@ -35,6 +37,7 @@ SectionRow {
         color: Theme.colors.text2
         text: root.credit.conditions
         spoken: true
+        Accessible.role: Accessible.Paragraph
     }
     Label {
         width: parent.width
@@ -44,6 +47,7 @@ SectionRow {
         color: Theme.colors.text2
         text: root.credit.modifications
         spoken: true
+        Accessible.role: Accessible.Paragraph
     }
     Flow {
         width: parent.width

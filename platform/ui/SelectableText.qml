@@ -23,7 +23,8 @@ TextEdit {
     activeFocusOnPress: true
     activeFocusOnTab: true
     cursorVisible: activeFocus && FocusVisibility.visible
-    Accessible.role: Accessible.StaticText
+    // Screen readers read all static texts of a sheet as it opens, in view or not.
+    Accessible.role: Accessible.Paragraph
     Accessible.name: root.text
     Accessible.ignored: !root.visible
     Accessible.focusable: root.activeFocusOnTab

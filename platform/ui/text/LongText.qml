@@ -17,7 +17,8 @@ PiecedTextItem {
 
     textStyle: Theme.type.body
     activeFocusOnTab: true
-    Accessible.role: Accessible.StaticText
+    // Screen readers read all static texts of a sheet as it opens, in view or not.
+    Accessible.role: Accessible.Paragraph
     Accessible.name: root.text
     Accessible.ignored: !root.visible
     Accessible.focusable: true
