@@ -128,7 +128,7 @@ void MapExplorer::step(int by) {
 void MapExplorer::stand(const NearRecord& near) {
     m_current = near.asset;
     const Camera camera = m_map->resolvedCamera();
-    m_map->hover()->setRecord(near.asset, camera.worldToScreen(near.place), camera);
+    m_map->hover()->hold(near.asset, camera.worldToScreen(near.place), camera);
     tell(near);
 }
 

@@ -8,6 +8,7 @@ namespace vasker {
 void MapHover::setRecord(std::optional<AssetIndex> record,
                          ScreenPoint pointer,
                          const Camera& camera) {
+    m_isHeld = false;
     if (record == m_record) {
         return;
     }
@@ -18,7 +19,13 @@ void MapHover::setRecord(std::optional<AssetIndex> record,
     Q_EMIT changed();
 }
 
+void MapHover::hold(AssetIndex record, ScreenPoint point, const Camera& camera) {
+    setRecord(record, point, camera);
+    m_isHeld = true;
+}
+
 void MapHover::clear() {
+    m_isHeld = false;
     if (m_record) {
         m_record.reset();
         Q_EMIT changed();

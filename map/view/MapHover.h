@@ -37,6 +37,9 @@ class MapHover : public QObject {
 
     /// The pointer at `pointer` is over `record` now.
     void setRecord(std::optional<AssetIndex> record, ScreenPoint pointer, const Camera& camera);
+    /// Keys have gone to `record` at `point`: it stays when the pointer rests elsewhere.
+    void hold(AssetIndex record, ScreenPoint point, const Camera& camera);
+    [[nodiscard]] bool isHeld() const noexcept { return m_isHeld; }
     void clear();
 
   Q_SIGNALS:
@@ -46,6 +49,7 @@ class MapHover : public QObject {
     const MapRecords& m_records;
     std::optional<AssetIndex> m_record;
     QPointF m_place;
+    bool m_isHeld = false;
 };
 
 } // namespace vasker

@@ -28,6 +28,10 @@ bool MapInteraction::handle(const MapEvent& event) {
 }
 
 void MapInteraction::hoverAt(std::optional<QPointF> place) {
+    const bool rests = std::exchange(m_pointer, place) == place;
+    if (rests && m_hover.isHeld()) {
+        return;
+    }
     const Camera camera = m_camera();
     if (!place || m_navigator.input().isPressed() ||
         !camera.viewport().isFree({place->x(), place->y()}) || m_controls.cover(*place, m_map)) {

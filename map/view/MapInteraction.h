@@ -32,7 +32,8 @@ class MapInteraction : public QObject {
     /// Whether the event means something to the map.
     bool handle(const MapEvent& event);
     /// The pointer is at `place` of the map, without a button; nothing: it has left the map. Below
-    /// controls and in covered margins no record is hovered.
+    /// controls and in covered margins no record is hovered. A pointer that rests takes nothing
+    /// from keys.
     void hoverAt(std::optional<QPointF> place);
 
   Q_SIGNALS:
@@ -54,6 +55,7 @@ class MapInteraction : public QObject {
     std::function<Camera()> m_camera;
     MapNavigator m_navigator;
     MapHover m_hover;
+    std::optional<QPointF> m_pointer; ///< where it was last
     MapControls m_controls;
 };
 

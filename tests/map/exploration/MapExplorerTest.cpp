@@ -58,6 +58,18 @@ TEST_F(MapExploration, CtrlAndAnArrowGoToTheNearestRecordThere) {
     expectSpoken({text("East, gas plant, 131 km east"), text("Middle, gas plant, 131 km west")});
 }
 
+TEST_F(MapExploration, APointerThatRestsTakesNoRecordFromTheKeys) {
+    QTest::mouseMove(&m_window, {200, 200});
+    key(Qt::Key_R);
+    EXPECT_EQ(m_map->hover()->recordId(), text("R-0"));
+    // As the window tells of it with each frame.
+    QHoverEvent rest(QEvent::HoverMove, {200, 200}, {200, 200}, {200, 200});
+    QCoreApplication::sendEvent(m_map, &rest);
+    EXPECT_EQ(m_map->hover()->recordId(), text("R-0"));
+    QTest::mouseMove(&m_window, {210, 200});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_map->hover()->recordId().isEmpty(); }));
+}
+
 TEST_F(MapExploration, WhereThereIsNoneItSaysSo) {
     const CameraPosition before = m_map->camera();
     key(Qt::Key_Down, Qt::ControlModifier);
