@@ -17,6 +17,21 @@ Window {
     minimumHeight: 620
     visible: true
     color: Theme.colors.window
+    // For the toolkit's own dialogs.
+    palette {
+        window: Theme.colors.sheet
+        windowText: Theme.colors.text
+        base: Theme.colors.card
+        text: Theme.colors.text
+        placeholderText: Theme.colors.text2
+        button: Theme.colors.control
+        buttonText: Theme.colors.text
+        light: Theme.colors.raised
+        mid: Theme.colors.controlLine
+        dark: Theme.colors.text2
+        highlight: Theme.colors.accent
+        highlightedText: Theme.colors.onAccent
+    }
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 

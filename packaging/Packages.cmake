@@ -40,7 +40,8 @@ string(JOIN ", " CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS
     qml6-module-qtquick-dialogs qml6-module-qt-labs-folderlistmodel
     qt6-qpa-plugins)
 string(JOIN ", " CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
-    qt6-wayland xdg-desktop-portal libgl1-mesa-dri ca-certificates fonts-inter "fonts-dejavu-core | fonts-noto-core")
+    qt6-wayland qt6-translations-l10n xdg-desktop-portal libgl1-mesa-dri ca-certificates
+    fonts-inter "fonts-dejavu-core | fonts-noto-core")
 set(CPACK_DEBIAN_DATA_PACKAGE_NAME vasker-open-map-data)
 set(CPACK_DEBIAN_DATA_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_DATA_PACKAGE_ARCHITECTURE all)

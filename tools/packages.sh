@@ -18,7 +18,7 @@ run_packages=(
     qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-layouts
     qml6-module-qtquick-controls qml6-module-qtquick-templates
     qml6-module-qtquick-dialogs qml6-module-qt-labs-folderlistmodel
-    qt6-qpa-plugins qt6-wayland
+    qt6-qpa-plugins qt6-wayland qt6-translations-l10n
     libgl1 libegl1 libopengl0 libgl1-mesa-dri
     ca-certificates
     fonts-inter fonts-dejavu-core

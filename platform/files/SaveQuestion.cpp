@@ -1,6 +1,7 @@
 #include "platform/files/SaveQuestion.h"
 
 #include "platform/Portal.h"
+#include "platform/files/FileDialogParts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -69,6 +70,10 @@ QUrl SaveQuestion::fileAt(const QUrl& place) {
     return place.scheme().isEmpty() && !place.isEmpty()
                ? QUrl::fromLocalFile(place.toString(QUrl::PreferLocalFile))
                : place;
+}
+
+void SaveQuestion::completeDialog(const QFont& font) const {
+    completeFileDialog(*m_window, font);
 }
 
 bool SaveQuestion::isTaken(const QUrl& place) const {

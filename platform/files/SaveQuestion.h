@@ -3,6 +3,7 @@
 // dialog of the program. Nothing here waits.
 
 #include <QDBusConnection>
+#include <QFont>
 #include <QObject>
 #include <QPointer>
 #include <QQuickWindow>
@@ -45,6 +46,8 @@ class SaveQuestion : public QObject {
     Q_INVOKABLE void choose(const QUrl& place) { finish(Outcome::chosen, fileAt(place)); }
     /// `place` as the address of a file: of a name that was typed Qt's dialog gives the bare path.
     [[nodiscard]] static QUrl fileAt(const QUrl& place);
+    /// Gives the dialog, which is open now, what it lacks where it is Qt's own.
+    Q_INVOKABLE void completeDialog(const QFont& font) const;
     Q_INVOKABLE void cancel() { finish(Outcome::cancelled, {}); }
 
   private:

@@ -293,6 +293,10 @@ class Program:
         found = self.wait(lambda: self._on_display()[window:], "there is no such window")
         ask_display("windowfocus", "--sync", found[0], "key", "--clearmodifiers", keys)
 
+    def type(self, text):
+        """Types a text in its first window."""
+        ask_display("windowfocus", "--sync", self._on_display()[0], "type", text)
+
     def hold(self, keys, seconds):
         """Holds keys in its first window, so that the display repeats them."""
         ask_display("windowfocus", "--sync", self._on_display()[0], "keydown", keys)

@@ -64,10 +64,12 @@ CANCELLED = 1
 
 
 class Portal:
-    """Serves until it is closed. `save_to`: the path that the user chooses; None: they cancel."""
+    """Serves until it is closed. `save_to`: the path that the user chooses; None: they cancel.
+    `lacks`: the interface that this desktop does not have."""
 
-    def __init__(self, save_to=None):
+    def __init__(self, save_to=None, lacks=None):
         self.save_to = save_to
+        self._lacks = lacks
         self.calls = []
         ready = threading.Event()
         self._thread = threading.Thread(target=self._serve, args=[ready], daemon=True)
@@ -110,6 +112,8 @@ class Portal:
             None,
         )
         for interface in Gio.DBusNodeInfo.new_for_xml(INTERFACES).interfaces:
+            if interface.name == self._lacks:
+                continue
             path = "/org/freedesktop/portal/desktop"
             if interface.name == "org.freedesktop.FileManager1":
                 path = "/org/freedesktop/FileManager1"

@@ -1,7 +1,9 @@
 """The sheets over the workspace: what they tell, their order, and what is out of reach behind."""
 
+from gi.repository import GLib
+
 from bundle import RELEASE, changed, program_with_release
-from driver import Missed, Program
+from driver import Missed, Program, Screen
 from portal import Portal
 
 PROMPT = "Facility, pipeline or reporting company"
@@ -161,6 +163,33 @@ def a_copy_of_the_release_is_saved(executable):
             program.see(name=f"Saved to {place}")
             if place.read_bytes() != original:
                 raise Missed("the copy is not the file")
+
+
+def without_a_portal_the_program_asks_where(executable):
+    """In its own appearance; the name is ready to be typed, and stands where the folder is."""
+    dark = GLib.Variant("u", 1)
+    with program_with_release(executable, RELEASE) as copy:
+        with Portal(lacks="org.freedesktop.portal.FileChooser") as portal, Program(copy) as program:
+            program.see(id="open-map-canvas")
+            portal.asked("ReadAll")
+            portal.change("org.freedesktop.appearance", "color-scheme", dark)
+            program.key("ctrl+s")
+            program.see(role="text", name="File name", state="focused")
+            dialog = program.see(role="dialog")
+            parts = [("push button", "Parent folder"), ("text", "Folder"), ("combo box", "Show")]
+            if not all(dialog.find(role=role, name=name) for role, name in parts):
+                raise Missed(dialog.text())
+            left, top, width, height = dialog.box()
+            shown = Screen().rows((left + 1, top + 1, width - 2, height - 2))
+            bright = sum(sum(pixel) > 3 * 128 for row in shown for pixel in row)
+            if bright > 0.1 * width * height:
+                raise Missed(f"of {width * height} pixels {bright} are bright")
+            program.type("typed")
+            program.key("Return")
+            place = program.home / "typed.csv"
+            program.see(name=f"Saved to {place}")
+            if not place.read_text("utf-8"):
+                raise Missed("nothing is saved")
 
 
 def the_records_shown_are_saved(executable):

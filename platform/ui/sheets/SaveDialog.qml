@@ -16,7 +16,10 @@ FileDialog {
     // Qt's own dialog does not ask: the question below serves all. The linter knows neither the
     // names of its options nor of its buttons.
     options: FileDialog.DontConfirmOverwrite // qmllint disable
-    Component.onCompleted: root.open()
+    Component.onCompleted: {
+        root.open();
+        root.asked.completeDialog(Theme.type.body.font);
+    }
     onAccepted: root.asked.isTaken(root.selectedFile) ? question.open() : root.asked.choose(root.selectedFile)
     onRejected: root.asked.cancel()
 

@@ -1,0 +1,106 @@
+#include "platform/files/FileDialogParts.h"
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QQmlEngine>
+#include <QQmlProperty>
+#include <QQuickItem>
+
+#include <algorithm>
+#include <utility>
+
+namespace vasker {
+
+namespace {
+
+/// In logical pixels; Qt's own width leaves large text no room.
+constexpr int preferredWidth = 760;
+constexpr int margins = 32;
+
+void setName(QObject* part, const QString& name) {
+    if (part != nullptr) {
+        QQmlProperty::write(part, QStringLiteral("Accessible.name"), name, qmlContext(part));
+    }
+}
+
+/// The first item that `isWanted`, of `from` and all below it; null: there is none.
+template <typename IsWanted>
+QQuickItem* findPart(QQuickItem* from, const IsWanted& isWanted) {
+    if (isWanted(*from)) {
+        return from;
+    }
+    for (QQuickItem* const each : from->childItems()) {
+        if (QQuickItem* const found = findPart(each, isWanted)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+/// The popup that holds `part`, or null.
+QObject* popupOf(QObject* part) {
+    while (part != nullptr && !part->inherits("QQuickPopup")) {
+        part = part->parent();
+    }
+    return part;
+}
+
+/// Two rows: the file's name and, below it, which files are listed.
+void completeRows(QQuickItem& field) {
+    const QString name = QCoreApplication::translate("vasker::FileDialogParts", "File name");
+    const QString filter = QCoreApplication::translate("vasker::FileDialogParts", "Show");
+    setName(&field, name);
+    bool isFirst = true;
+    for (QQuickItem* const each : field.parentItem()->childItems()) {
+        if (each->inherits("QQuickLabel")) {
+            each->setProperty("text", std::exchange(isFirst, false) ? name : filter);
+        } else if (each->inherits("QQuickComboBox")) {
+            setName(each, filter);
+        }
+    }
+}
+
+void completeFolders(const QQuickItem& bar) {
+    setName(bar.property("upButton").value<QObject*>(),
+            QCoreApplication::translate("vasker::FileDialogParts", "Parent folder"));
+    setName(bar.property("textField").value<QObject*>(),
+            QCoreApplication::translate("vasker::FileDialogParts", "Folder"));
+    // It is white in every appearance.
+    if (auto* const background = bar.property("background").value<QObject*>()) {
+        background->setProperty("color", QColor(Qt::transparent));
+    }
+}
+
+/// Typing replaces the name and keeps its ending.
+void selectName(QQuickItem& field) {
+    field.forceActiveFocus(Qt::PopupFocusReason);
+    const auto length = QFileInfo(field.property("text").toString()).completeBaseName().size();
+    QMetaObject::invokeMethod(
+        &field, "select", Q_ARG(int, 0), Q_ARG(int, static_cast<int>(length)));
+}
+
+} // namespace
+
+void completeFileDialog(const QQuickWindow& window, const QFont& font) {
+    QQuickItem* const field = findPart(window.contentItem(), [](const QQuickItem& item) {
+        return item.objectName() == u"fileNameTextField";
+    });
+    QObject* const popup = popupOf(field);
+    if (popup == nullptr) {
+        return;
+    }
+    popup->setProperty("font", font);
+    popup->setProperty("width", std::min(preferredWidth, window.width() - margins));
+    completeRows(*field);
+    // Enter saves; queued, because the dialog takes the name over after it.
+    QObject::connect(field, SIGNAL(accepted()), popup, SLOT(accept()), Qt::QueuedConnection);
+    if (const QQuickItem* const bar = findPart(window.contentItem(), [](const QQuickItem& item) {
+            return item.inherits("QQuickFolderBreadcrumbBar");
+        })) {
+        completeFolders(*bar);
+    }
+    selectName(*field);
+}
+
+} // namespace vasker
