@@ -6,8 +6,10 @@
 #include <QQmlEngine>
 #include <QQmlProperty>
 #include <QQuickItem>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace vasker {
@@ -17,6 +19,9 @@ namespace {
 /// In logical pixels; Qt's own width leaves large text no room.
 constexpr int preferredWidth = 760;
 constexpr int margins = 32;
+
+/// By then the dialog has read the folder.
+constexpr std::chrono::seconds openingTime{1};
 
 void setName(QObject* part, const QString& name) {
     if (part != nullptr) {
@@ -80,14 +85,42 @@ void selectName(QQuickItem& field) {
         &field, "select", Q_ARG(int, 0), Q_ARG(int, static_cast<int>(length)));
 }
 
+/// The dialog gives the focus to the file's row once it has read the folder.
+void keepFocus(const QQuickWindow& window, QQuickItem& field, const QQuickItem& files) {
+    selectName(field);
+    auto* const opening = new QTimer(&field);
+    const QVariant offered = field.property("text");
+    QObject::connect(
+        &window,
+        &QQuickWindow::activeFocusItemChanged,
+        opening,
+        [&window, &field, &files, offered] {
+            if (!files.isAncestorOf(window.activeFocusItem())) {
+                return;
+            }
+            if (field.property("text") == offered) {
+                selectName(field);
+            } else {
+                field.forceActiveFocus(Qt::PopupFocusReason);
+            }
+        },
+        Qt::QueuedConnection);
+    QObject::connect(opening, &QTimer::timeout, opening, &QObject::deleteLater);
+    opening->start(openingTime);
+}
+
 } // namespace
 
 void completeFileDialog(const QQuickWindow& window, const QFont& font) {
-    QQuickItem* const field = findPart(window.contentItem(), [](const QQuickItem& item) {
-        return item.objectName() == u"fileNameTextField";
-    });
+    const auto findNamed = [&window](const char* name) {
+        return findPart(window.contentItem(), [name](const QQuickItem& item) {
+            return item.objectName() == QLatin1String(name);
+        });
+    };
+    QQuickItem* const field = findNamed("fileNameTextField");
+    const QQuickItem* const files = findNamed("fileDialogListView");
     QObject* const popup = popupOf(field);
-    if (popup == nullptr) {
+    if (popup == nullptr || files == nullptr) {
         return;
     }
     popup->setProperty("font", font);
@@ -100,7 +133,7 @@ void completeFileDialog(const QQuickWindow& window, const QFont& font) {
         })) {
         completeFolders(*bar);
     }
-    selectName(*field);
+    keepFocus(window, *field, *files);
 }
 
 } // namespace vasker

@@ -184,6 +184,13 @@ def without_a_portal_the_program_asks_where(executable):
             bright = sum(sum(pixel) > 3 * 128 for row in shown for pixel in row)
             if bright > 0.1 * width * height:
                 raise Missed(f"of {width * height} pixels {bright} are bright")
+            program.key("Return")
+            program.see(starts="Saved to ")
+            program.miss(starts="Saved to ")
+            # With a file of that name in the folder, whose row wants the focus.
+            program.key("ctrl+s")
+            program.see(role="label", starts="test-1")
+            program.see(role="text", name="File name", state="focused")
             program.type("typed")
             program.key("Return")
             place = program.home / "typed.csv"
