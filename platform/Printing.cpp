@@ -79,7 +79,9 @@ void Printing::write(const Job& job, const QPageLayout& page, const Write& write
                     return file->errorString();
                 }
                 const QString fault = write(*file, page);
-                const bool isWhole = file->flush() && file->error() == QFileDevice::NoError;
+                // The portal reads on from where the descriptor stands.
+                const bool isWhole =
+                    file->flush() && file->error() == QFileDevice::NoError && file->seek(0);
                 return fault.isEmpty() && !isWhole ? file->errorString() : fault;
             },
             [this, job, file](const QString& fault) {
@@ -105,6 +107,8 @@ void Printing::send(const Job& job, const std::shared_ptr<QTemporaryFile>& file)
                 fail(tr("the desktop did not take it."));
             } else if (outcome == PortalRequest::Outcome::done) {
                 Q_EMIT ended(true, tr("The map is on its way to the printer."));
+            } else {
+                Q_EMIT ended(false, QString());
             }
         });
 }

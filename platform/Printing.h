@@ -36,7 +36,7 @@ class Printing : public QObject {
   Q_SIGNALS:
     /// The page is being written.
     void started();
-    /// How it ended, in one sentence for the user.
+    /// How it ended, in one sentence for the user; empty where they cancelled after started().
     void ended(bool printed, const QString& message);
 
   private:

@@ -55,6 +55,9 @@ class Desktop : public QDBusVirtualObject {
         return bus.send(message.createReply(QVariant::fromValue(QDBusObjectPath(handle))));
     }
 
+    /// What it answers from now on.
+    void answer(Answers answers) { m_answers = answers; }
+
     QDBusMessage asked;
     [[nodiscard]] QVariantMap options() const {
         return qdbus_cast<QVariantMap>(asked.arguments().constLast());

@@ -59,8 +59,7 @@ TEST_F(PrintingTest, ThePageIsWrittenAsTheUserChoseItAndHandedToThePortal) {
     const auto handle = portal.asked.arguments().at(2).value<QDBusUnixFileDescriptor>();
     QFile file;
     ASSERT_TRUE(file.open(handle.fileDescriptor(), QIODevice::ReadOnly));
-    file.seek(0);
-    EXPECT_EQ(file.readAll(), QByteArray("%PDF-1.4"));
+    EXPECT_EQ(file.readAll(), QByteArray("%PDF-1.4")) << "read from where the descriptor stands";
 }
 
 TEST_F(PrintingTest, WithoutAPortalItIsSaidWhatToDoInstead) {
@@ -77,6 +76,16 @@ TEST_F(PrintingTest, ACancelledDialogEndsInSilenceAndNothingIsWritten) {
     EXPECT_FALSE(m_ended.wait(50));
     EXPECT_EQ(portal.asked.member(), QStringLiteral("PreparePrint"));
     EXPECT_FALSE(m_page.isValid());
+}
+
+TEST_F(PrintingTest, NothingIsLeftToSayWhereTheUserCancelsAPageThatIsWritten) {
+    Portal portal(Desktop::Answers::done, chosen);
+    QObject::connect(&m_printing, &Printing::started, &m_printing, [&portal] {
+        portal.answer(Desktop::Answers::cancelled);
+    });
+    print();
+    EXPECT_EQ(ending(false), "");
+    EXPECT_EQ(portal.asked.member(), QStringLiteral("Print"));
 }
 
 TEST_F(PrintingTest, AFaultWhileWritingIsToldAndNothingIsPrinted) {

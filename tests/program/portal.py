@@ -130,11 +130,10 @@ class Portal:
     def _answer(self, bus, sender, path, interface, method, parameters, invocation):
         arguments = list(parameters.unpack())
         if method in ("OpenFile", "Print"):
-            # What it holds counts, not its number.
+            # What it holds counts, not its number; read on from where it stands, as portals do.
             place = 1 if method == "OpenFile" else 2
             files = invocation.get_message().get_unix_fd_list()
             with os.fdopen(files.get(arguments[place]), "rb") as file:
-                file.seek(0)
                 arguments[place] = file.read()
         self.calls.append((method, arguments))
         if method == "ReadAll":
