@@ -3,9 +3,11 @@
 #include "data/export/NumberText.h"
 
 #include <algorithm>
+#include <charconv>
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace vasker {
 namespace {
@@ -23,12 +25,28 @@ constexpr bool isRewritten(char byte) {
     return byte == '"' || byte == '\0';
 }
 
-/// A cell, quoted where it has to be. The character NUL, which no reader of CSV expects, becomes
-/// U+FFFD.
+bool isNumber(std::string_view cell) {
+    double number = 0;
+    const char* const end = cell.data() + cell.size();
+    const auto [stopped, error] = std::from_chars(cell.data(), end, number);
+    return error == std::errc() && stopped == end;
+}
+
+/// Whether a spreadsheet may take the cell for a formula, and follow what somebody published as
+/// one.
+bool mayBeFormula(std::string_view cell) {
+    constexpr std::string_view beginnings = "=+-@\t\r";
+    return !cell.empty() && beginnings.find(cell.front()) != std::string_view::npos &&
+           !isNumber(cell);
+}
+
+/// A cell, quoted where it has to be, with an apostrophe before what may be a formula. The
+/// character NUL, which no reader of CSV expects, becomes U+FFFD.
 void addCell(std::string& text, std::string_view cell) {
     const bool quoted =
         std::ranges::any_of(cell, needsQuotes) || cell.starts_with(' ') || cell.ends_with(' ');
     text += quoted ? "\"" : "";
+    text += mayBeFormula(cell) ? "'" : "";
     for (;;) {
         const auto* const special = std::ranges::find_if(cell, isRewritten);
         text.append(cell.begin(), special);

@@ -7,7 +7,9 @@
 // record in its own row and those of the fact in a fact's row, so that each row can be cited alone.
 // What the header says stands in the names of the last four columns ("release=...", "sha256=...",
 // "query=...", "filter=..."), whose cells are empty: every reader takes the first line for the
-// names of the columns, and none trips over lines before it.
+// names of the columns, and none trips over lines before it. A text that a spreadsheet may take for
+// a formula, because it begins with one of =, +, -, @, a tab or a return and is no number, has an
+// apostrophe before it.
 
 #include "data/OpenMapRelease.h"
 #include "data/ReleaseIndex.h"

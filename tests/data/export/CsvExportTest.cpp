@@ -83,6 +83,24 @@ TEST(CsvExport, HoldsNoCharacterThatReadersRefuse) {
     EXPECT_NE(rows(release, {0}).find("A-0,a\uFFFDb,"), std::string::npos);
 }
 
+TEST(CsvExport, WritesNoTextThatASpreadsheetWouldTakeForAFormula) {
+    OpenMapRelease release = plainRelease();
+    OpenMapRelease::Asset& record = release.assets[0];
+    for (const char* text :
+         {"=1+2", "+1 403 555", "-2+3", "@SUM(A1)", "\t=1", "\r=1", "-5 t", "-"}) {
+        record.facts[0].value = text;
+        EXPECT_NE(rows(release, {0}).find("'" + std::string(text)), std::string::npos) << text;
+    }
+    for (const char* text : {"-5", "-118.25", "5 t", "a=b", "14-05", "'"}) {
+        record.facts[0].value = text;
+        EXPECT_NE(rows(release, {0}).find("Emissions," + std::string(text) + ",2021"),
+                  std::string::npos)
+            << text;
+    }
+    record.facts[0].value = "=\"a\",1";
+    EXPECT_NE(rows(release, {0}).find(R"(Emissions,"'=""a"",1",2021)"), std::string::npos);
+}
+
 TEST(CsvExport, EndsWhereItsSinkWantsNoMore) {
     const OpenMapRelease release = plainRelease();
     const std::vector<AssetIndex> many(10'000, 0);
