@@ -50,6 +50,7 @@ TEST(ToolUsage, ACommandIsNeededAndMustBeKnown) {
     expectWrongUsage({}, "which command?");
     expectWrongUsage({"explode"}, "explode: unknown command");
     expectWrongUsage({"exprt"}, "exprt: unknown command, did you mean export?");
+    expectWrongUsage({"--hlep"}, "--hlep: unknown command, did you mean --help?");
 }
 
 TEST(ToolUsage, OptionsAreKnownGivenOnceAndHaveTheirValue) {

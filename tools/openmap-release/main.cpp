@@ -105,6 +105,7 @@ CommandResult runTool(std::span<const std::string_view> words) {
     if (command == known.end()) {
         std::vector<std::string_view> names;
         std::ranges::transform(known, std::back_inserter(names), &Command::name);
+        names.insert(names.end(), {"--help", "--version"});
         return wrongUsage(std::string(words.front()) + ": unknown command" +
                               vasker::suggestion(words.front(), names),
                           "COMMAND ...");

@@ -113,6 +113,17 @@ TEST_F(CheckCommand, ExplainsOnWhichLineAndColumnAFileIsNoJson) {
     EXPECT_EQ(runTool({"check", file("{\noops")}).errors.find("line"), std::string::npos);
 }
 
+TEST_F(CheckCommand, ExplainsWhatNoReaderOfJsonMinds) {
+    const auto explained = [&](const std::string& text) {
+        return runTool({"check", "--explain", file(text)}).errors;
+    };
+    EXPECT_NE(
+        explained("\xEF\xBB\xBF" + encode(makeRelease())).find("\nline 1, column 1: a byte order "),
+        std::string::npos);
+    EXPECT_NE(explained("[1, 2]").find("\nline 1, column 1: no object\n"), std::string::npos);
+    EXPECT_NE(explained("17").find("\nline 1, column 1: no object\n"), std::string::npos);
+}
+
 TEST_F(CheckCommand, ExplainsInFewWordsHoweverLongTheFaultIs) {
     const ToolOutcome outcome =
         runTool({"check", "--explain", file("{\"a\":\"" + std::string(1'000'000, 'x'))});

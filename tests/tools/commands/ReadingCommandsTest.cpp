@@ -117,6 +117,18 @@ TEST_F(ExportCommand, KnowsItsFormats) {
                                            "nor geojson, did you mean geojson?\n"));
 }
 
+TEST_F(ExportCommand, RefusesASearchThatWouldSpoilTheFile) {
+    for (const std::string option : {"--query", "--kind"}) {
+        const ToolOutcome outcome =
+            runTool({"export", file(), "--format", "csv", option, "gas\xFF"});
+        EXPECT_EQ(outcome.status, 2);
+        EXPECT_EQ(outcome.output, "");
+        EXPECT_TRUE(
+            outcome.errors.starts_with("openmap-release: " + option + ": the text is not UTF-8\n"))
+            << outcome.errors;
+    }
+}
+
 TEST_F(ExportCommand, NotesACategoryThatNoRecordHas) {
     const ToolOutcome outcome = runTool({"export", file(), "--format", "csv", "--kind", "pipelin"});
     EXPECT_EQ(outcome.status, 0);

@@ -7,6 +7,8 @@
 #include "tools/openmap-release/Suggestion.h"
 #include "tools/openmap-release/commands/PackagedRelease.h"
 
+#include <simdjson.h>
+
 #include <array>
 
 namespace vasker {
@@ -26,18 +28,27 @@ Export exportNamed(const std::string& format) {
                      suggestion(format, known));
 }
 
+/// What the option says, as text that may stand in the file.
+std::string
+utf8Value(const Arguments& arguments, std::string_view option, std::string_view otherwise) {
+    std::string text = arguments.value(option).value_or(std::string(otherwise));
+    if (!simdjson::validate_utf8(text)) {
+        throw UsageError(std::string(option) + ": the text is not UTF-8");
+    }
+    return text;
+}
+
 CommandResult runExport(const Arguments& arguments) {
     const std::string file = arguments.onlyOperand("FILE");
     const Export write = exportNamed(arguments.requiredValue("--format"));
+    const std::string query = utf8Value(arguments, "--query", "");
+    const std::string kind = utf8Value(arguments, "--kind", "all");
     auto opened = openRelease(file);
     if (auto* refusal = std::get_if<CommandResult>(&opened)) {
         return std::move(*refusal);
     }
     const auto& [release, digest] = std::get<PackagedRelease>(opened);
-    const ExportHeader header{release.releaseID,
-                              digest,
-                              arguments.value("--query").value_or(""),
-                              arguments.value("--kind").value_or("all")};
+    const ExportHeader header{release.releaseID, digest, query, kind};
     std::string text;
     const ExportOutcome outcome =
         write(release,

@@ -44,8 +44,13 @@ std::string explained(const std::exception& error, std::string_view bytes) {
     if (located != nullptr && !located->place().empty()) {
         return located->place() + "\n";
     }
-    const std::optional<std::string> fault = jsonFault(bytes);
-    return fault ? *fault + "\n" : "";
+    if (bytes.starts_with("\xEF\xBB\xBF")) {
+        return "line 1, column 1: a byte order mark\n";
+    }
+    if (const std::optional<std::string> fault = jsonFault(bytes)) {
+        return *fault + "\n";
+    }
+    return located != nullptr ? "line 1, column 1: no object\n" : "";
 }
 
 } // namespace
