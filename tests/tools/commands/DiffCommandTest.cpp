@@ -79,6 +79,16 @@ TEST_F(DiffCommand, TellsWhichValuesChanged) {
               "  fact \"Status\": 1 new: A-0 Zero\n");
 }
 
+TEST_F(DiffCommand, ShowsValuesThatDifferByAControlCharacterAlone) {
+    OpenMapRelease before = makeRelease();
+    before.assets[0].name = "Ant\tHill\x01";
+    OpenMapRelease after = before;
+    after.assets[0].name = "Ant Hill ";
+    EXPECT_NE(changes(before, after).find(R"("Ant\tHill\u0001" is now "Ant Hill ")"),
+              std::string::npos)
+        << changes(before, after);
+}
+
 TEST_F(DiffCommand, CountsWhatChangedOften) {
     OpenMapRelease before = makeRelease();
     for (std::size_t number = 10; number < 20; ++number) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <string_view>
 #include <utility>
 
 namespace vasker {
@@ -18,8 +19,25 @@ constexpr std::size_t fewTransitions = 4;
 constexpr std::size_t fewFacts = 20;
 constexpr std::size_t longestValue = 60;
 
+/// Control characters as JSON writes them: two values that differ by one look different.
+std::string escaped(std::string_view text) {
+    std::string result;
+    for (const char byte : text) {
+        const auto code = static_cast<unsigned char>(byte);
+        if (byte == '\t') {
+            result += "\\t";
+        } else if (code < 0x20 || code == 0x7F) {
+            constexpr std::string_view digits = "0123456789abcdef";
+            result += {'\\', 'u', '0', '0', digits[code >> 4U], digits[code & 0xFU]};
+        } else {
+            result += byte;
+        }
+    }
+    return result;
+}
+
 std::string shortened(const std::string& full) {
-    std::string text = printedText(full.substr(0, 4 * longestValue));
+    std::string text = printedText(escaped(std::string_view(full).substr(0, 4 * longestValue)));
     if (text.size() <= longestValue) {
         return text;
     }
