@@ -128,6 +128,20 @@ TEST_F(PackagedRelease, HoldsTheFactsThatItsSourcesTellOf) {
               told(npriReports, "records with this table's position, noted"));
 }
 
+TEST_F(PackagedRelease, DatesNamesOfAReportByThatReport) {
+    constexpr std::string_view words = " in the report for ";
+    std::ptrdiff_t dated = 0;
+    for (const OpenMapRelease::Asset& asset : m_release.assets) {
+        for (const OpenMapRelease::Fact& fact : asset.facts) {
+            if (const std::size_t place = fact.label.find(words); place != std::string::npos) {
+                EXPECT_EQ(fact.label.substr(place + words.size()), fact.asOf) << asset.id;
+                ++dated;
+            }
+        }
+    }
+    EXPECT_GT(dated, 2'000);
+}
+
 TEST_F(PackagedRelease, TellsOfEachInventoryFacilityWhenItLastReported) {
     for (const OpenMapRelease::Asset& asset : m_release.assets) {
         const auto last = std::ranges::find(

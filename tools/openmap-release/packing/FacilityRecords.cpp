@@ -134,12 +134,13 @@ void addLastReport(const NpriParts& parts, const std::string& period, const Fact
         }
     }
     if (isUpToDate(parts)) {
-        const std::string ofReport = " in the report for " + std::to_string(parts.report->lastYear);
+        const std::string year = std::to_string(parts.report->lastYear);
         if (hasNewName(parts)) {
-            facts.add(npriReports, "Name" + ofReport, parts.report->name);
+            facts.add(npriReports, year, "Name in the report for " + year, parts.report->name);
         }
         if (hasNewCompany(parts)) {
-            facts.add(npriReports, "Company" + ofReport, parts.report->company);
+            facts.add(
+                npriReports, year, "Company in the report for " + year, parts.report->company);
         }
     }
 }
