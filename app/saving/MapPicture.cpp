@@ -145,8 +145,8 @@ void MapPicture::drawNorth(QPainter& painter) const {
 void MapPicture::draw(QPainter& painter) const {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(QRectF({}, mapSize));
     if (painter.paintEngine()->type() == QPaintEngine::Raster) {
-        painter.setClipRect(QRectF({}, mapSize));
         map->paintBasemap(painter);
     } else {
         painter.drawImage(QRectF({}, mapSize), basemap());
@@ -155,7 +155,7 @@ void MapPicture::draw(QPainter& painter) const {
     drawScaleBar(painter);
     drawNorth(painter);
     painter.restore();
-    // Over what of the map reaches below its end: not every engine clips.
+    // Over what of the map reaches below its end: that of SVG does not clip.
     painter.save();
     painter.translate(0, mapSize.height());
     painter.fillRect(QRectF(0, 0, mapSize.width(), size().height() - mapSize.height()), background);

@@ -94,6 +94,29 @@ TEST_F(PictureFiles, APageIsFilledInItsMiddle) {
     EXPECT_EQ(shown.pixelColor(528, 772), QColor(Qt::white));
 }
 
+TEST_F(PictureFiles, NothingOfTheMapStandsBesideItOnAPage) {
+    MapPicture picture = makePicture();
+    MapDrawing drawing = *picture.map;
+    const auto dotAt = [](float x, float y) { return Dot{x, y, rgbOf(dotColor)}; };
+    drawing.frame.layers.push_back(
+        DotLayer{{dotAt(-20, 100), dotAt(420, 100), dotAt(100, -20)}, 8, 1, Qt::white});
+    picture.map = std::make_shared<const MapDrawing>(std::move(drawing));
+    QFile pdf(path("page.pdf"));
+    ASSERT_TRUE(pdf.open(QIODevice::WriteOnly));
+    const double margin = 72; // points: 96 pixels
+    const QSizeF size = picture.size() * 0.75 + 2 * QSizeF(margin, margin);
+    const QPageLayout page(QPageSize(size, QPageSize::Point, QString(), QPageSize::ExactMatch),
+                           QPageLayout::Portrait,
+                           QMarginsF(margin, margin, margin, margin));
+    EXPECT_EQ(PictureFile{picture}.writePage(pdf, page), QString());
+    pdf.close();
+    const QImage shown = pageOf(pdf.fileName());
+    EXPECT_TRUE(isAbout(shown.pixelColor(96 + 100, 96 + 100), dotColor));
+    for (const QPoint beside : {QPoint(-20, 100), QPoint(420, 100), QPoint(100, -20)}) {
+        EXPECT_EQ(shown.pixelColor(QPoint(96, 96) + beside), QColor(Qt::white)) << beside.x();
+    }
+}
+
 TEST_F(PictureFiles, AnSvgHasTheBasemapAsAnImageAndAllElseAsShapes) {
     const PictureFile file{makePicture()};
     EXPECT_EQ(file.write(path("map.svg")), QString());
