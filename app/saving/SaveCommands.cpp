@@ -28,22 +28,37 @@ constexpr double pageDensity = 3;
 
 constexpr double longestBar = 150; // logical pixels
 
+/// Whom to thank for the basemap of `frame`; empty for nobody.
+QString basemapText(const MapFrame& frame) {
+    QStringList attributions;
+    for (const Attribution& each : frame.attributions) {
+        attributions.append(each.text);
+    }
+    return attributions.isEmpty()
+               ? QString()
+               : SaveCommands::tr("Basemap: %1").arg(attributions.join(QStringLiteral(" · ")));
+}
+
 } // namespace
 
 SaveCommands::SaveCommands(QObject* parent)
     : QObject(parent), m_saving(Appearance::sessionBus()), m_printing(Appearance::sessionBus()) {
     connect(&m_saving, &FileSaving::started, this, [this](const QString& path) {
-        tell(tr("Saving %1…").arg(QFileInfo(path).fileName()));
+        tell(tr("Saving %1…").arg(QFileInfo(path).fileName()), Told::progress);
     });
     connect(&m_saving, &FileSaving::ended, this, [this](bool saved, const QString& message) {
-        tell(message, !saved);
+        tell(message, saved ? Told::success : Told::failure);
     });
     m_slow.setSingleShot(true);
     m_slow.setInterval(400);
-    connect(&m_slow, &QTimer::timeout, this, [this] { tell(tr("Taking the picture…")); });
-    connect(&m_printing, &Printing::started, this, [this] { tell(tr("Printing the map…")); });
+    connect(&m_slow, &QTimer::timeout, this, [this] {
+        tell(tr("Taking the picture…"), Told::progress);
+    });
+    connect(&m_printing, &Printing::started, this, [this] {
+        tell(tr("Printing the map…"), Told::progress);
+    });
     connect(&m_printing, &Printing::ended, this, [this](bool printed, const QString& message) {
-        tell(message, !printed);
+        tell(message, printed ? Told::success : Told::failure);
     });
 }
 
@@ -55,7 +70,7 @@ void SaveCommands::saveRecords(QQuickWindow* window) {
                            m_workspace->query().toStdString(),
                            m_workspace->kind().toStdString()}};
     m_saving.save(tr("Save the records shown, as .csv or .geojson"),
-                  savedName({releaseID(), m_workspace->query()}, QStringLiteral(".csv")),
+                  offeredName(QString(), QStringLiteral(".csv")),
                   window,
                   [file](const QString& path) { return file.write(path); });
 }
@@ -73,12 +88,11 @@ void SaveCommands::ask(const QString& title,
                        QQuickWindow* window,
                        double scale) {
     const QPointer<QQuickWindow> above(window);
-    takePicture(scale, [this, title, suffix, above](const MapPicture& picture) {
-        m_saving.save(
-            title,
-            savedName({releaseID(), m_workspace->query(), QStringLiteral("map")}, suffix),
-            above,
-            [file = PictureFile{picture}](const QString& path) { return file.write(path); });
+    const QString name = offeredName(QStringLiteral("map"), suffix);
+    takePicture(scale, [this, title, name, above](const MapPicture& picture) {
+        m_saving.save(title, name, above, [file = PictureFile{picture}](const QString& path) {
+            return file.write(path);
+        });
     });
 }
 
@@ -96,7 +110,7 @@ void SaveCommands::print(QQuickWindow* window) {
 void SaveCommands::copyPicture() {
     takePicture(1, [this](const MapPicture& picture) {
         QGuiApplication::clipboard()->setImage(picture.composed());
-        tell(tr("The picture of the map is on the clipboard."));
+        tell(tr("The picture of the map is on the clipboard."), Told::success);
     });
 }
 
@@ -107,21 +121,21 @@ void SaveCommands::takePicture(double scale, const Use& use) {
     MapScene scene = sceneOf(*m_map, std::min(pixels, pageDensity));
     const double height = m_map->height() - scene.camera.viewport().coveredBelow;
     scene.state.obstacles = {{0, height - 44, 190, 44}}; // labels keep clear of the scale bar
+    // The user may move the map, or search, before its tiles are there.
+    const MapPicture picture = pictureWithoutMap(pixels);
     MapSnapshot::take(
-        scene, this, [this, pixels, use](const std::shared_ptr<const MapDrawing>& map) {
+        scene, this, [this, picture, use](const std::shared_ptr<const MapDrawing>& map) {
             m_slow.stop();
             forget();
-            use(pictureOf(map, pixels));
+            MapPicture whole = picture;
+            whole.map = map;
+            whole.notes.insert(whole.notes.size() - 1, basemapText(map->frame));
+            use(whole);
         });
 }
 
-MapPicture SaveCommands::pictureOf(const std::shared_ptr<const MapDrawing>& map,
-                                   double scale) const {
+MapPicture SaveCommands::pictureWithoutMap(double scale) const {
     const OpenMapRelease& release = m_workspace->release();
-    QStringList basemap;
-    for (const Attribution& each : map->frame.attributions) {
-        basemap.append(each.text);
-    }
     QStringList publishers;
     for (const OpenMapRelease::Source& source : release.sources) {
         publishers.append(QString::fromStdString(source.attribution));
@@ -132,7 +146,7 @@ MapPicture SaveCommands::pictureOf(const std::shared_ptr<const MapDrawing>& map,
         m_map->status()->showsImagery() ? Theme::darkColors() : theme.colors();
     const Camera camera = m_map->resolvedCamera();
     const ScaleBar bar = scaleBar(camera, longestBar);
-    return {.map = map,
+    return {.map = nullptr,
             // The caption covers the end of the map; its text goes below.
             .mapSize = {m_map->width(), m_map->height() - camera.viewport().coveredBelow},
             .scale = scale,
@@ -146,9 +160,6 @@ MapPicture SaveCommands::pictureOf(const std::shared_ptr<const MapDrawing>& map,
             .notes = {shownText(),
                       m_map->property("captionText").toString(),
                       publishers.join(u' '),
-                      basemap.isEmpty()
-                          ? QString()
-                          : tr("Basemap: %1").arg(basemap.join(QStringLiteral(" · "))),
                       tr("Release: %1").arg(releaseID())},
             .background = theme.colors().window,
             .text = theme.colors().text,
@@ -170,10 +181,14 @@ QString SaveCommands::releaseID() const {
     return QString::fromStdString(m_workspace->release().releaseID);
 }
 
-void SaveCommands::tell(const QString& message, bool failed) {
-    if (m_message != message || m_failed != failed) {
+QString SaveCommands::offeredName(const QString& what, const QString& suffix) const {
+    return savedName({releaseID(), m_workspace->query(), what}, suffix);
+}
+
+void SaveCommands::tell(const QString& message, Told told) {
+    if (m_message != message || m_told != told) {
         m_message = message;
-        m_failed = failed;
+        m_told = told;
         Q_EMIT messageChanged();
     }
 }

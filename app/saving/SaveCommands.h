@@ -26,6 +26,7 @@ class SaveCommands : public QObject {
     Q_PROPERTY(vasker::MapView* map MEMBER m_map REQUIRED)
     Q_PROPERTY(QString message READ message NOTIFY messageChanged)
     Q_PROPERTY(bool failed READ failed NOTIFY messageChanged)
+    Q_PROPERTY(bool underWay READ underWay NOTIFY messageChanged)
 
   public:
     explicit SaveCommands(QObject* parent = nullptr);
@@ -34,9 +35,11 @@ class SaveCommands : public QObject {
     /// where there is nothing to say.
     [[nodiscard]] const QString& message() const noexcept { return m_message; }
     /// Whether the message tells of a failure.
-    [[nodiscard]] bool failed() const noexcept { return m_failed; }
+    [[nodiscard]] bool failed() const noexcept { return m_told == Told::failure; }
+    /// Whether it tells of what has not ended yet.
+    [[nodiscard]] bool underWay() const noexcept { return m_told == Told::progress; }
     /// The message has been read.
-    Q_INVOKABLE void forget() { tell({}); }
+    Q_INVOKABLE void forget() { tell({}, Told::success); }
 
     /// Lets the user say where, above `window`, then saves the records that the list shows now, in
     /// its order.
@@ -56,15 +59,18 @@ class SaveCommands : public QObject {
     void messageChanged();
 
   private:
+    enum class Told { success, progress, failure };
     using Use = std::function<void(const MapPicture& picture)>;
     void takePicture(double scale, const Use& use);
     void ask(const QString& title, const QString& suffix, QQuickWindow* window, double scale);
-    [[nodiscard]] MapPicture pictureOf(const std::shared_ptr<const MapDrawing>& map,
-                                       double scale) const;
+    /// The picture of what is seen now, all but the map itself and whom to thank for it.
+    [[nodiscard]] MapPicture pictureWithoutMap(double scale) const;
     /// Which records are shown; empty where all are.
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] QString releaseID() const;
-    void tell(const QString& message, bool failed = false);
+    /// The name that a file of what is shown now is offered under.
+    [[nodiscard]] QString offeredName(const QString& what, const QString& suffix) const;
+    void tell(const QString& message, Told told);
 
     OpenMapWorkspace* m_workspace = nullptr;
     MapView* m_map = nullptr;
@@ -72,7 +78,7 @@ class SaveCommands : public QObject {
     Printing m_printing;
     QTimer m_slow; ///< runs while a picture is taken and nothing is said of it
     QString m_message;
-    bool m_failed = false;
+    Told m_told = Told::success;
 };
 
 } // namespace vasker

@@ -2,7 +2,7 @@ import QtQuick
 import Vasker.App
 import Vasker.Platform
 
-// How saving ended. Good news goes by itself, bad news when it is pressed.
+// How saving ended, or that it is under way. Good news goes by itself, bad news when it is pressed.
 Button {
     id: root
 
@@ -32,7 +32,7 @@ Button {
         text: root.label
     }
     Timer {
-        running: root.visible && !root.saves.failed
+        running: root.visible && !root.saves.failed && !root.saves.underWay
         interval: 4000
         onTriggered: root.saves.forget()
     }

@@ -5,6 +5,8 @@
 #include <QGuiApplication>
 #include <QImage>
 
+#include <utility>
+
 namespace vasker {
 namespace {
 
@@ -260,6 +262,31 @@ TEST_F(Window, APictureOfTheMapIsCopied) {
     EXPECT_GT(picture.height(), map->height());
     click(item("open-map-save-notice"));
     EXPECT_EQ(item("open-map-save-notice"), nullptr);
+}
+
+TEST_F(Window, ScaleAndTextsOfAPictureAreOfTheMomentAtWhichItWasAskedFor) {
+    openRecords();
+    const QQuickItem* const map = item("open-map-canvas");
+    const auto end = static_cast<int>(map->height() - map->property("coveredBelow").toDouble());
+    // The place of the scale bar, which labels keep clear of, and all below the map.
+    const auto copied = [&](const auto& meanwhile) {
+        QGuiApplication::clipboard()->clear();
+        key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        meanwhile();
+        EXPECT_TRUE(
+            QTest::qWaitFor([] { return !QGuiApplication::clipboard()->image().isNull(); }));
+        const QImage image = QGuiApplication::clipboard()->image();
+        return std::pair(image.copy(0, end - 40, 180, 40),
+                         image.copy(0, end, image.width(), image.height() - end));
+    };
+    const auto before = copied([] {});
+    EXPECT_EQ(copied([&] {
+                  workspace().setCamera(CoordinateRegion{{50, -100}, 2, 4});
+                  workspace().setQuery(QStringLiteral("29"));
+              }),
+              before);
+    EXPECT_NE(copied([] {}).first, before.first);
+    EXPECT_NE(copied([] {}).second, before.second);
 }
 
 TEST_F(Window, ASecondWindowHasItsOwnStateAndClosesByItself) {

@@ -3,12 +3,14 @@
 import contextlib
 import os
 import resource
+import time
 
 from bundle import RELEASE, digest, encoded, program_with, program_with_release
 from driver import Missed, Program
 from failures import KEY, REASSURANCE
 from faults import faults
 from portal import Portal
+from workspace import PROMPT
 
 BASEMAP = "open-map.basemap"
 FULL = "The file could not be saved: No space left on device"
@@ -105,6 +107,23 @@ def a_full_disk_keeps_what_was_there(executable):
 def a_file_is_saved_once_it_is_on_the_disk(executable):
     """Some disks tell only then that something is wrong."""
     fails_to_save(executable, "sync EIO", BROKEN)
+
+
+def a_slow_disk_is_waited_for_in_sight_and_holds_up_nothing(executable):
+    with faults() as present, program_with_release(executable, RELEASE) as copy:
+        place = copy.parent / "shown.csv"
+        fault = f"write wait {copy.parent}/*"
+        with Portal(save_to=place), Program(copy, **present.environment) as program:
+            program.see(name="2 of 2 records")
+            present.set(fault)
+            save_records(program)
+            present.expect(fault)
+            program.see(name="Saving shown.csv…")
+            program.see(name=PROMPT).set_text("plant 1")
+            program.see(name="1 of 2 records")
+            time.sleep(5)  # good news would be gone by then
+            program.see(name="Saving shown.csv…")
+            program.process.kill()  # it would wait for the disk
 
 
 def choose_satellite(program):
