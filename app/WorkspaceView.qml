@@ -97,10 +97,7 @@ FocusScope {
             Keys.onEscapePressed: view.workspace.selection = ""
         }
         SaveNotice {
-            anchors.horizontalCenter: canvas.horizontalCenter
-            anchors.bottom: canvas.bottom
-            anchors.bottomMargin: canvas.coveredBelow + 12
-            maximumWidth: canvas.width - 24
+            map: canvas
             saves: saveCommands
         }
     }

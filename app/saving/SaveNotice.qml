@@ -1,5 +1,6 @@
 import QtQuick
 import Vasker.App
+import Vasker.Map
 import Vasker.Platform
 
 // How saving ended, or that it is under way. Good news goes by itself, bad news when it is pressed.
@@ -7,9 +8,15 @@ Button {
     id: root
 
     required property SaveCommands saves
-    property real maximumWidth: 480
+    // It stands over the free part of it.
+    required property MapCanvas map
+    readonly property real maximumWidth: Math.min(480, map.width - map.coveredLeft - map.coveredRight - 24)
 
     objectName: "open-map-save-notice"
+    anchors.horizontalCenter: map.horizontalCenter
+    anchors.horizontalCenterOffset: (map.coveredLeft - map.coveredRight) / 2
+    anchors.bottom: map.bottom
+    anchors.bottomMargin: map.coveredBelow + map.exploration.clearanceAbovePill(width)
     label: root.saves.message
     visible: label.length > 0
     radius: 16

@@ -10,11 +10,23 @@ Item {
     required property MapTextColors colors
     // Whether the map has the keyboard, and it shows.
     property bool steered: false
-    readonly property Item pill: pill
+    // How wide and high is what stands in the lower corners.
+    property real cornerWidth: 0
+    property real cornerHeight: 0
+    readonly property NearestPill pill: pill
 
     signal spoken(string text)
     signal moved(cameraPosition camera)
     signal picked(string id)
+
+    // How far above the lower edge a pill that wide stands clear of the corners, in the middle.
+    function clearance(width: real): real {
+        return 12 + (width / 2 + 12 > root.width / 2 - root.cornerWidth ? root.cornerHeight + 8 : 0);
+    }
+    // The same of one above the pill of the nearest record.
+    function clearanceAbovePill(width: real): real {
+        return Math.max(root.clearance(width), pill.visible ? pill.anchors.bottomMargin + pill.height + 8 : 0);
+    }
 
     MapExplorer {
         map: root.map
@@ -34,7 +46,7 @@ Item {
 
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 12
+        anchors.bottomMargin: root.clearance(width)
         maximumWidth: root.width - 24
         nearest: NearestRecord {
             map: root.map

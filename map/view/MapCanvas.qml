@@ -8,6 +8,7 @@ MapView {
 
     readonly property string captionText: caption.text
     readonly property bool mirrored: LayoutMirroring.enabled
+    readonly property Exploration exploration: exploring
     // What lies over the map from either edge on, in logical pixels.
     property real coveredAtStart: 0
     property real coveredAtEnd: 0
@@ -23,7 +24,7 @@ MapView {
     highContrast: Theme.highContrast
     reducedMotion: Theme.still
     textScale: Theme.textScale
-    controls: [bar, attribution, compass, zoom, exploration.pill]
+    controls: [bar, attribution, compass, zoom, exploring.pill]
     activeFocusOnTab: true
     Accessible.role: Accessible.Canvas
     Accessible.name: qsTr("Canadian energy infrastructure map")
@@ -58,7 +59,7 @@ MapView {
     }
 
     Exploration {
-        id: exploration
+        id: exploring
 
         anchors.fill: parent
         anchors.leftMargin: root.coveredAtStart
@@ -67,6 +68,8 @@ MapView {
         map: root
         colors: textColors
         steered: ring.shown
+        cornerWidth: Math.max(14 + bar.width, 12 + attribution.width)
+        cornerHeight: Math.max(bar.height, attribution.height)
         onSpoken: text => root.spoken(text)
         onMoved: camera => root.moved(camera)
         onPicked: id => root.picked(id)

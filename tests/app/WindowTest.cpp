@@ -289,6 +289,21 @@ TEST_F(Window, ScaleAndTextsOfAPictureAreOfTheMomentAtWhichItWasAskedFor) {
     EXPECT_NE(copied([] {}).second, before.second);
 }
 
+TEST_F(Window, TheNearestRecordIsNamedClearOfTheCornersOfTheMap) {
+    openRecords();
+    workspace().setCamera(CoordinateRegion{{-40, 20}, 1, 1});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-nearest") != nullptr; }));
+    const QQuickItem* const pill = item("open-map-nearest");
+    auto* const area = item("open-map-canvas")->property("exploration").value<QQuickItem*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_GT(area->property("cornerWidth").toDouble(), 100) << "the scale bar";
+    const auto below = [&] { return area->height() - pill->y() - pill->height(); };
+    area->setProperty("cornerWidth", pill->x() - 20);
+    EXPECT_EQ(below(), 12);
+    area->setProperty("cornerWidth", pill->x() - 5);
+    EXPECT_EQ(below(), 12 + area->property("cornerHeight").toDouble() + 8);
+}
+
 TEST_F(Window, ASecondWindowHasItsOwnStateAndClosesByItself) {
     openRecords();
     const QPointer<QQuickWindow> second = m_application->openWindow();
