@@ -15,11 +15,11 @@ namespace {
 // Ten thousand characters, which a fact may have, of four bytes each.
 constexpr std::size_t longestSearchedValue = 40'000;
 
-// In characters. A line of the list has about 45.
+// In characters. A line of the list has about 38.
 constexpr int longestLabel = 32;
 constexpr int longestLead = 12; ///< before the match
 constexpr int longestMatch = 60;
-constexpr int longestLine = 42;
+constexpr int longestLine = 36;
 constexpr int shortestTail = 4; ///< after the match
 
 struct Line {
@@ -72,6 +72,18 @@ QStringView leadOf(QStringView before) {
     return beginsInAWord && blank + 1 < lead.size() ? lead.sliced(blank + 1) : lead;
 }
 
+/// The beginning of `after` that stands behind a match: whole words, where there are some.
+QString tailOf(QStringView after, int count) {
+    QStringView tail = firstCharacters(after, count);
+    if (tail.size() == after.size()) {
+        return tail.toString();
+    }
+    if (const qsizetype blank = tail.lastIndexOf(u' '); blank != -1 && after[tail.size()] != u' ') {
+        tail = tail.first(blank);
+    }
+    return tail.toString() + u'…';
+}
+
 /// The part of `value` around `match` that fits in a line after `used` characters.
 Line excerpt(QStringView value, const TextRange& match, int used) {
     const QStringView before = value.first(match.begin);
@@ -83,7 +95,7 @@ Line excerpt(QStringView value, const TextRange& match, int used) {
     line.text += cut(value.sliced(match.begin, match.end - match.begin), longestMatch);
     line.match.end = line.text.size();
     const auto left = longestLine - used - static_cast<int>(line.text.size());
-    line.text += cut(after, std::max(left, shortestTail));
+    line.text += tailOf(after, std::max(left, shortestTail));
     return line;
 }
 

@@ -38,7 +38,7 @@ QVariant KindListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return labelAt(index.row());
     case CountRole:
-        return QString::number(countAt(index.row()));
+        return tr("%1").arg(countAt(index.row())); // languages group digits in their own ways
     case CountTextRole:
         return tr("Records: %1").arg(countAt(index.row()));
     case SymbolRole:

@@ -1123,7 +1123,11 @@
     </message>
     <message>
         <source>Records: %1</source>
-        <translation>Fiches : %1</translation>
+        <translation>Fiches : %L1</translation>
+    </message>
+    <message>
+        <source>%1</source>
+        <translation>%L1</translation>
     </message>
 </context>
 <context>

@@ -106,6 +106,11 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
         EXPECT_FALSE(categoryText(kind).contains(u'_')) << kind;
     }
     EXPECT_EQ(KindListModel().currentLabel(), QStringLiteral("Toutes les catégories"));
+    KindListModel legend;
+    legend.setKinds({QStringLiteral("battery")});
+    legend.setCounts({1727});
+    EXPECT_EQ(legend.data(legend.index(1), KindListModel::CountRole).toString(),
+              QLocale().toString(1727)); // not "1727"
 
     const QLocale french(QStringLiteral("fr_CA"));
     EXPECT_EQ(distanceText(400'000, french), QStringLiteral("400\u00a0km"));

@@ -84,10 +84,18 @@ TEST(FoundText, ALongValueIsCutAroundTheMatch) {
                              "TC Energy Corporation of Calgary, Coastal GasLink Limited "
                              "Partnership and twenty communities"),
                    "coastal gaslink"),
-              "Owner: …of Calgary, <b>Coastal GasLink</b> Limite…");
+              "Owner: …of Calgary, <b>Coastal GasLink</b>…");
     EXPECT_EQ(
         line(assetWith("Note", std::string(9'000, 'x') + " oil " + std::string(900, 'y')), "oil"),
-        "Note: …xxxxxxxxxxx <b>oil</b> yyyyyyyyyyyyyyyyyyy…");
+        "Note: …xxxxxxxxxxx <b>oil</b>…");
+}
+
+TEST(FoundText, AValueEndsAfterAWordWhereThereIsOne) {
+    OpenMapRelease::Asset asset = makeAsset();
+    asset.reportedCompany = "Pembina Pipeline Corporation";
+    EXPECT_EQ(line(asset, "pembina"), "Reporting company: <b>Pembina</b> Pipeline…");
+    EXPECT_EQ(line(assetWith("Note", "oil" + std::string(60, 'y')), "oil"),
+              "Note: <b>oil</b>" + std::string(27, 'y') + "…");
 }
 
 TEST(FoundText, AValueIsCutBeforeAWordWhereThereIsOne) {
@@ -119,13 +127,13 @@ TEST(FoundText, ACharacterOfManyMarksLeavesALineOfBoundedLength) {
     for (int each = 0; each < 5'000; ++each) {
         marks += "\u0301";
     }
-    EXPECT_EQ(line(assetWith("A", marks + " oil " + marks), "oil"), "A: … <b>oil</b> …");
+    EXPECT_EQ(line(assetWith("A", marks + " oil " + marks), "oil"), "A: … <b>oil</b>…");
 }
 
 TEST(FoundText, AValueTooLongToSearchIsCutToItsBeginning) {
     OpenMapRelease::Asset asset = makeAsset();
     asset.reportedCompany = "Gas " + std::string(100'000, 'x') + " coal";
-    EXPECT_EQ(line(asset, "coal"), "Reporting company: <b></b>Gas " + std::string(19, 'x') + "…");
+    EXPECT_EQ(line(asset, "coal"), "Reporting company: <b></b>Gas…");
 }
 
 TEST(FoundText, WhatTheReleaseSaysIsShownLiterallyInOneLine) {
