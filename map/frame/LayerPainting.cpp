@@ -89,7 +89,11 @@ void paintLines(QPainter& painter, const LineLayer& layer) {
         for (const ColoredLine& line : lines) {
             painter.setPen(
                 QPen(colorOfLine(line), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            painter.drawPolyline(line.places);
+            if (std::ranges::count(line.places, line.places.front()) == line.places.size()) {
+                painter.drawPoint(line.places.front()); // a path to nowhere is none in a PDF
+            } else {
+                painter.drawPolyline(line.places);
+            }
         }
     };
     if (style.casing.alpha() > 0) {

@@ -64,6 +64,13 @@ TEST(MapDrawing, ARouteIsALineThroughItsPlaces) {
     EXPECT_GT(pixelsOf(image, yellow), 50);
 }
 
+TEST(MapDrawing, ARouteTooShortToBeSeenIsADot) {
+    const Drawing drawing = taken(recordSetOf({pipelineAlong({{{-112, 54}, {-112.000001, 54}}})}));
+    const QImage image = drawn(*drawing, 8);
+    EXPECT_GT(pixelsOf(image, yellow), 50);
+    EXPECT_LT(pixelsOf(image, yellow), 500);
+}
+
 TEST(MapDrawing, RoutesAreNotJoined) {
     const QImage image = drawn(
         *taken(recordSetOf({pipelineAlong({{{-120, 54}, {-116, 54}}, {{-108, 54}, {-104, 54}}})})));
