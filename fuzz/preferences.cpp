@@ -27,10 +27,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto before = file.read();
     require(before.has_value());
     (void)PreferenceFile::value(*before, key);
-    const auto after = file.set(key, QStringLiteral("hybrid"), {});
+    const PreferenceFile::Values values{{key, QStringLiteral("hybrid")}};
+    const auto after = file.set(values);
     require(after && file.read() == after);
     require(PreferenceFile::value(*after, key) == QStringLiteral("hybrid"));
     require(without(*after, "open-map.basemap=") == without(*before, "open-map.basemap="));
-    require(file.set(key, QStringLiteral("hybrid"), {}) == after);
+    require(file.set(values) == after);
     return 0;
 }

@@ -26,7 +26,7 @@ using namespace std::chrono_literals;
 
 // A few settings; a file beyond this is another's.
 constexpr qint64 maximumFileSize = 1'000'000;
-constexpr auto lockPatience = 250ms;
+constexpr auto lockPatience = 1s;
 constexpr auto betweenTries = 2ms;
 
 /// The lock that every change of a file in `folder` takes. It is the folder's, because the file
@@ -83,8 +83,7 @@ std::optional<PreferenceFile::Lines> PreferenceFile::read() const {
     return lines;
 }
 
-std::optional<PreferenceFile::Lines>
-PreferenceFile::set(const QString& key, const QString& value, const Lines& lines) const {
+std::optional<PreferenceFile::Lines> PreferenceFile::set(const Values& values) const {
     const QString folder = QFileInfo(m_path).absolutePath();
     if (!QDir().mkpath(folder)) {
         return std::nullopt;
@@ -97,7 +96,7 @@ PreferenceFile::set(const QString& key, const QString& value, const Lines& lines
     if (!held && QFileInfo::exists(m_path)) {
         return std::nullopt; // it would be lost
     }
-    const Lines changed = with(held.value_or(lines), key, value);
+    const Lines changed = with(held.value_or(Lines()), values);
     const QString fault = writeWhole(m_path, [&](QIODevice& file) {
         return file.write(changed.join('\n') + '\n') < 0 ? file.errorString() : QString();
     });
@@ -113,10 +112,12 @@ std::optional<QString> PreferenceFile::value(const Lines& lines, const QString& 
                                  : std::optional(QString::fromUtf8(line->mid(start.size())));
 }
 
-PreferenceFile::Lines PreferenceFile::with(Lines lines, const QString& key, const QString& value) {
-    const QByteArray start = lineStart(key);
-    lines.removeIf([&](const QByteArray& line) { return line.startsWith(start); });
-    lines.append(start + value.toUtf8());
+PreferenceFile::Lines PreferenceFile::with(Lines lines, const Values& values) {
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        const QByteArray start = lineStart(value.key());
+        lines.removeIf([&](const QByteArray& line) { return line.startsWith(start); });
+        lines.append(start + value->toUtf8());
+    }
     return lines;
 }
 

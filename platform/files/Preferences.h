@@ -7,6 +7,7 @@
 // value is written; so do values that another program writes at the same time.
 
 #include "platform/files/PreferenceFile.h"
+#include "platform/files/PreferenceWriter.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
@@ -27,9 +28,10 @@ class Preferences : public QObject {
 
     /// The text stored under `key`, as it stands in the file, or nothing.
     [[nodiscard]] std::optional<QString> text(const QString& key) const;
-    /// Stores `value` under `key`: other programs see the old file or the new one, never a part.
-    /// Where the file cannot be written, the value still counts until this object ends.
-    /// Neither text may hold a line break, nor the key an equals sign.
+    /// Stores `value` under `key`. It counts at once and is written meanwhile, for which the end of
+    /// the program waits (finishBackgroundWork): other programs see the old file or the new one,
+    /// never a part. Where the file cannot be written, the value counts until this object ends or
+    /// another program writes. Neither text may hold a line break, nor the key an equals sign.
     void setText(const QString& key, const QString& value);
 
   Q_SIGNALS:
@@ -37,11 +39,17 @@ class Preferences : public QObject {
 
   private:
     void reload();
+    void forgetWritten(const PreferenceFile::Values& written);
+    /// From now on these count.
+    void hold(const PreferenceFile::Lines& stored, const PreferenceFile::Values& chosen);
+    [[nodiscard]] PreferenceFile::Lines stored() const;
     void watch();
 
     PreferenceFile m_file;
-    PreferenceFile::Lines m_held;  ///< by the file, when it was read or written last
-    PreferenceFile::Lines m_lines; ///< others than those where they could not be written
+    PreferenceWriter m_writer;
+    PreferenceFile::Lines m_stored;  ///< by the file, when it was read last
+    PreferenceFile::Values m_chosen; ///< what is being written, or could not be
+    PreferenceFile::Lines m_lines;   ///< that count: m_stored with m_chosen
     QFileSystemWatcher m_watcher;
 };
 

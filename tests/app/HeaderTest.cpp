@@ -1,5 +1,6 @@
 // The header bar, its menus, and what the windows of the program have in common.
 
+#include "platform/Background.h"
 #include "platform/files/Preferences.h"
 #include "tests/app/OpenWindow.h"
 
@@ -49,6 +50,7 @@ class Header : public OpenWindow {
     }
     /// As another program finds it in the file.
     [[nodiscard]] QString storedBasemap() const {
+        EXPECT_TRUE(finishBackgroundWork());
         return Preferences(m_folder.filePath(QStringLiteral("preferences")))
             .text(QStringLiteral("open-map.basemap"))
             .value_or(QString());

@@ -1,15 +1,14 @@
 #include "platform/files/PreferenceFile.h"
 
+#include "tests/platform/HeldFolder.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <thread>
 #include <vector>
@@ -28,23 +27,26 @@ class PreferenceFileIn : public testing::Test {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
-    [[nodiscard]] bool set(const char* value, const PreferenceFile::Lines& lines = {}) const {
-        return m_file.set(QStringLiteral("key"), QString::fromLatin1(value), lines).has_value();
+    [[nodiscard]] bool set(const PreferenceFile::Values& values) const {
+        return m_file.set(values).has_value();
+    }
+    [[nodiscard]] bool set(const char* value) const {
+        return set({{QStringLiteral("key"), QString::fromLatin1(value)}});
     }
 
     QTemporaryDir m_folder;
     PreferenceFile m_file{m_folder.filePath(QStringLiteral("preferences"))};
 };
 
-TEST_F(PreferenceFileIn, AMissingFileIsMadeOfTheLinesThatAreKnown) {
-    EXPECT_TRUE(set("1", {"other=2"}));
-    EXPECT_EQ(written(), "other=2\nkey=1\n");
+TEST_F(PreferenceFileIn, AMissingFileIsMade) {
+    EXPECT_TRUE(set("1"));
+    EXPECT_EQ(written(), "key=1\n");
 }
 
-TEST_F(PreferenceFileIn, WhatIsInTheFileCountsMoreThanTheLinesThatAreKnown) {
-    write("other=3\n");
-    EXPECT_TRUE(set("1", {"other=2"}));
-    EXPECT_EQ(written(), "other=3\nkey=1\n");
+TEST_F(PreferenceFileIn, SeveralValuesAreSetAtOnceAndOthersStay) {
+    write("key=1\nother=2\nthird=3\n");
+    EXPECT_TRUE(set({{QStringLiteral("third"), QStringLiteral("5")}, {QStringLiteral("key"), {}}}));
+    EXPECT_EQ(written(), "other=2\nkey=\nthird=5\n");
 }
 
 TEST_F(PreferenceFileIn, NoneOfManyChangesAtOnceIsLost) {
@@ -55,7 +57,7 @@ TEST_F(PreferenceFileIn, NoneOfManyChangesAtOnceIsLost) {
         threads.emplace_back([this, writer] {
             for (int change = 1; change <= changes; ++change) {
                 const QString key = QStringLiteral("key%1").arg(writer);
-                while (!m_file.set(key, QString::number(change), {})) {
+                while (!set({{key, QString::number(change)}})) {
                 }
             }
         });
@@ -73,14 +75,14 @@ TEST_F(PreferenceFileIn, NoneOfManyChangesAtOnceIsLost) {
 
 TEST_F(PreferenceFileIn, ALockThatIsNeverGivenBackIsNotWaitedForLong) {
     write("key=0\n");
-    const int folder = ::open(QFile::encodeName(m_folder.path()).constData(), O_RDONLY);
-    ASSERT_EQ(flock(folder, LOCK_EX), 0);
-    QElapsedTimer time;
-    time.start();
-    EXPECT_FALSE(set("1"));
-    EXPECT_LT(time.elapsed(), 2'000);
-    EXPECT_EQ(written(), "key=0\n");
-    ::close(folder);
+    {
+        const HeldFolder held(m_folder.path());
+        QElapsedTimer time;
+        time.start();
+        EXPECT_FALSE(set("1"));
+        EXPECT_LT(time.elapsed(), 5'000);
+        EXPECT_EQ(written(), "key=0\n");
+    }
     EXPECT_TRUE(set("1")) << "it is free again";
     EXPECT_EQ(written(), "key=1\n");
 }
@@ -107,7 +109,7 @@ TEST_F(PreferenceFileIn, AFifoInPlaceOfTheFileStaysOne) {
 TEST_F(PreferenceFileIn, AFolderThatCannotBeMadeHoldsNothing) {
     write("");
     const PreferenceFile below(m_file.path() + QStringLiteral("/below/preferences"));
-    EXPECT_FALSE(below.set(QStringLiteral("key"), QStringLiteral("1"), {}).has_value());
+    EXPECT_FALSE(below.set({{QStringLiteral("key"), QStringLiteral("1")}}).has_value());
 }
 
 } // namespace

@@ -1,8 +1,12 @@
 #include "platform/files/Preferences.h"
 
+#include "platform/Background.h"
+#include "tests/platform/HeldFolder.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
@@ -36,9 +40,22 @@ class PreferencesIn : public testing::Test {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
+    /// Another program chooses that and ends.
+    void choose(const QString& text) const {
+        Preferences(path()).setText(key, text);
+        EXPECT_TRUE(finishBackgroundWork());
+    }
     [[nodiscard]] QByteArray written() const {
         QFile file(path());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void expectAChoiceThatCannotBeWrittenToCount() const {
+        Preferences preferences(path());
+        EXPECT_EQ(preferences.text(key), std::nullopt);
+        preferences.setText(key, QStringLiteral("hybrid"));
+        EXPECT_TRUE(finishBackgroundWork());
+        QCoreApplication::processEvents();
+        EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
     }
 
     QTemporaryDir m_folder;
@@ -51,7 +68,7 @@ TEST_F(PreferencesIn, NothingIsStoredAndNothingIsMadeAtFirst) {
 }
 
 TEST_F(PreferencesIn, AStoredTextOutlivesTheObject) {
-    Preferences(path()).setText(key, QStringLiteral("hybrid"));
+    choose(QStringLiteral("hybrid"));
     EXPECT_EQ(Preferences(path()).text(key), QStringLiteral("hybrid"));
     EXPECT_EQ(written(), "open-map.basemap=hybrid\n");
 }
@@ -75,34 +92,76 @@ TEST_F(PreferencesIn, ReadingLeavesAnUnknownValueAndADamagedFileAsTheyAre) {
 
 TEST_F(PreferencesIn, WritingLeavesOtherLinesAsTheyAre) {
     write("# mine\nother=1\nopen-map.basemap=globe\n\xFF=\xFE");
-    Preferences(path()).setText(key, QStringLiteral("standard"));
+    choose(QStringLiteral("standard"));
     EXPECT_EQ(written(), "# mine\nother=1\n\xFF=\xFE\nopen-map.basemap=standard\n");
 }
 
 TEST_F(PreferencesIn, AFolderInPlaceOfTheFileIsNoValueAndTheChoiceStillCounts) {
     QDir(m_folder.path()).mkpath(QStringLiteral("vasker-open-map/preferences"));
-    Preferences preferences(path());
-    EXPECT_EQ(preferences.text(key), std::nullopt);
-    preferences.setText(key, QStringLiteral("hybrid"));
-    EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
+    expectAChoiceThatCannotBeWrittenToCount();
 }
 
 TEST_F(PreferencesIn, AFifoInPlaceOfTheFileIsNoValueAndTheChoiceStillCounts) {
     QDir(m_folder.path()).mkpath(QStringLiteral("vasker-open-map"));
     ASSERT_EQ(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    expectAChoiceThatCannotBeWrittenToCount();
+}
+
+TEST_F(PreferencesIn, AChoiceThatCouldNotBeWrittenCountsUntilAnotherProgramWrites) {
+    QDir(m_folder.path()).mkpath(QStringLiteral("vasker-open-map/preferences"));
     Preferences preferences(path());
-    EXPECT_EQ(preferences.text(key), std::nullopt);
     preferences.setText(key, QStringLiteral("hybrid"));
+    EXPECT_TRUE(finishBackgroundWork());
+    QCoreApplication::processEvents();
+    QDir().rmdir(path());
+    write("open-map.basemap=satellite\n");
+    EXPECT_TRUE(comesTrue([&] { return preferences.text(key) == QStringLiteral("satellite"); }));
+}
+
+TEST_F(PreferencesIn, AChoiceCountsAtOnceAndIsWrittenOnceTheDiskLetsIt) {
+    write("other=1\n");
+    Preferences preferences(path());
+    {
+        const HeldFolder held(QFileInfo(path()).path());
+        preferences.setText(key, QStringLiteral("satellite"));
+        preferences.setText(key, QStringLiteral("hybrid"));
+        EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
+        EXPECT_EQ(written(), "other=1\n");
+    }
+    EXPECT_TRUE(finishBackgroundWork());
+    EXPECT_EQ(written(), "other=1\nopen-map.basemap=hybrid\n");
+}
+
+TEST_F(PreferencesIn, AChoiceThatIsBeingWrittenOutlivesAnotherProgramsChange) {
+    write("");
+    Preferences preferences(path());
+    int told = 0;
+    {
+        const HeldFolder held(QFileInfo(path()).path());
+        preferences.setText(key, QStringLiteral("hybrid"));
+        write("other=1\n");
+        EXPECT_TRUE(
+            comesTrue([&] { return preferences.text(QStringLiteral("other")).has_value(); }));
+        EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
+        QObject::connect(&preferences, &Preferences::changed, [&] { ++told; });
+    }
+    EXPECT_TRUE(comesTrue([&] { return written() == "other=1\nopen-map.basemap=hybrid\n"; }));
+    EXPECT_TRUE(finishBackgroundWork());
+    QCoreApplication::processEvents();
     EXPECT_EQ(preferences.text(key), QStringLiteral("hybrid"));
+    EXPECT_EQ(told, 0);
 }
 
 TEST_F(PreferencesIn, AValueThatAnotherProgramWroteJustNowStays) {
     Preferences preferences(path());
-    Preferences other(path());
-    other.setText(QStringLiteral("other"), QStringLiteral("1"));
+    {
+        Preferences other(path());
+        other.setText(QStringLiteral("other"), QStringLiteral("1"));
+    }
+    EXPECT_TRUE(finishBackgroundWork());
     preferences.setText(key, QStringLiteral("hybrid")); // before it is told of the change
-    EXPECT_EQ(written(), "other=1\nopen-map.basemap=hybrid\n");
-    EXPECT_EQ(preferences.text(QStringLiteral("other")), QStringLiteral("1"));
+    EXPECT_TRUE(comesTrue([&] { return written() == "other=1\nopen-map.basemap=hybrid\n"; }));
+    EXPECT_TRUE(comesTrue([&] { return preferences.text(QStringLiteral("other")).has_value(); }));
 }
 
 TEST_F(PreferencesIn, AChangeIsToldOnceAndTheSameTextAgainIsNone) {
