@@ -6,6 +6,7 @@
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QEvent>
 #include <QFileInfo>
 #include <QFontInfo>
@@ -70,6 +71,9 @@ Appearance::Appearance(const QDBusConnection& bus, QObject* parent) : QObject(pa
                        SLOT(apply(QString, QString, QDBusVariant)))) {
         qWarning("The desktop's settings cannot be followed.");
     }
+    const auto* const watcher = new QDBusServiceWatcher(
+        portalService, m_bus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &Appearance::askPortal);
     askPortal();
 }
 

@@ -27,8 +27,8 @@ class Appearance : public QObject {
     Q_PROPERTY(double textScale READ textScale NOTIFY changed)
 
   public:
-    /// Starts with the system palette's answer and asks the portal on `bus` without waiting for it.
-    /// A bus that is not connected is fine.
+    /// Starts with the system palette's answer and asks the portal on `bus` without waiting for it;
+    /// again whenever there is a new one. A bus that is not connected is fine.
     explicit Appearance(const QDBusConnection& bus, QObject* parent = nullptr);
     /// The session's bus if there is one; never starts one.
     [[nodiscard]] static QDBusConnection sessionBus();

@@ -4,6 +4,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QGuiApplication>
 #include <QRandomGenerator>
 #include <QTimer>
@@ -33,7 +34,7 @@ void PortalRequest::send(const QDBusConnection& bus,
                          Answer answer) {
     auto* request = new PortalRequest(bus, owner, std::move(answer));
     if (!bus.isConnected()) {
-        QTimer::singleShot(0, request, [request] { request->finish(Outcome::unavailable, {}); });
+        QTimer::singleShot(0, request, &PortalRequest::giveUp);
         return;
     }
     const QString token =
@@ -42,13 +43,14 @@ void PortalRequest::send(const QDBusConnection& bus,
     QDBusMessage message =
         QDBusMessage::createMethodCall(portalService, portalPath, call.interface, call.method);
     message.setArguments(call.arguments << call.options);
+    request->noticeEnds();
     // The answer may come before the reply to the call: listening starts first.
     request->listenAt(requestPath(bus, token));
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(message), request);
     connect(watcher, &QDBusPendingCallWatcher::finished, request, [request, watcher] {
         const QDBusPendingReply<QDBusObjectPath> reply = *watcher;
         if (reply.isError()) {
-            request->finish(Outcome::unavailable, {});
+            request->giveUp();
         } else {
             request->listenAt(reply.value().path());
         }
@@ -60,6 +62,26 @@ QString PortalRequest::parentName(const QWindow* window) {
         return {};
     }
     return QStringLiteral("x11:%1").arg(window->winId(), 0, 16);
+}
+
+/// With the portal its dialog goes, and no answer comes any more.
+void PortalRequest::noticeEnds() {
+    const auto* const watcher = new QDBusServiceWatcher(
+        portalService, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher,
+            &QDBusServiceWatcher::serviceOwnerChanged,
+            this,
+            [this](const QString&, const QString& before) {
+                if (!before.isEmpty()) { // else the call has started it
+                    giveUp();
+                }
+            });
+    m_bus.connect(QString(),
+                  QStringLiteral("/org/freedesktop/DBus/Local"),
+                  QStringLiteral("org.freedesktop.DBus.Local"),
+                  QStringLiteral("Disconnected"),
+                  this,
+                  SLOT(giveUp()));
 }
 
 void PortalRequest::listenAt(const QString& handle) {
@@ -85,6 +107,10 @@ void PortalRequest::respond(uint code, const QVariantMap& results) {
     default:
         return finish(Outcome::unavailable, results);
     }
+}
+
+void PortalRequest::giveUp() {
+    finish(Outcome::unavailable, {});
 }
 
 void PortalRequest::finish(Outcome outcome, const QVariantMap& results) {

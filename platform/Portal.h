@@ -35,7 +35,8 @@ class PortalRequest : public QObject {
     using Answer = std::function<void(Outcome, const QVariantMap& results)>;
 
     /// Calls `answer` once, later, on the thread of `owner`; never when `owner` is gone by then. A
-    /// bus that is not connected is fine: it has no portal.
+    /// bus that is not connected is fine: it has no portal. A portal or a bus that goes before it
+    /// has answered counts as `unavailable`.
     static void send(const QDBusConnection& bus, PortalCall call, QObject* owner, Answer answer);
 
     /// How a portal is told which window a request belongs to; empty where that cannot be said.
@@ -43,9 +44,11 @@ class PortalRequest : public QObject {
 
   private Q_SLOTS:
     void respond(uint code, const QVariantMap& results);
+    void giveUp();
 
   private:
     PortalRequest(const QDBusConnection& bus, QObject* owner, Answer answer);
+    void noticeEnds();
     void listenAt(const QString& handle);
     void finish(Outcome outcome, const QVariantMap& results);
 

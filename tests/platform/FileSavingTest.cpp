@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace vasker {
 namespace {
 
@@ -77,6 +79,16 @@ TEST_F(Saving, ACancelledQuestionEndsInSilence) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return !portal.asked.member().isEmpty(); }));
     EXPECT_EQ(m_ended.wait(50), false);
     EXPECT_EQ(QDir(m_folder.path()).count(), 2U);
+}
+
+TEST_F(Saving, APortalThatGoesBeforeTheUserHasDecidedIsNone) {
+    auto portal = std::make_unique<const Portal>(Desktop::Answers::undecided);
+    m_saving.save({}, QStringLiteral("table.csv"), nullptr, writing("a"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !portal->asked.member().isEmpty(); }));
+    EXPECT_EQ(m_ended.wait(50), false);
+    portal.reset();
+    EXPECT_EQ(ending(false),
+              "The file could not be saved: this desktop has no dialog to ask where.");
 }
 
 TEST_F(Saving, AFaultWhileWritingIsToldAndLeavesWhatWasThereAndNothingElse) {

@@ -20,7 +20,7 @@ inline const QString filesService = QStringLiteral("org.freedesktop.FileManager1
 // and answers as it is told.
 class Desktop : public QDBusVirtualObject {
   public:
-    enum class Answers { done, cancelled, failed, unknownMethod };
+    enum class Answers { done, cancelled, failed, unknownMethod, undecided };
 
     Desktop(QString service, const QString& path, Answers answers, QVariantMap results = {})
         : m_service(std::move(service)), m_answers(answers), m_results(std::move(results)),
@@ -47,12 +47,17 @@ class Desktop : public QDBusVirtualObject {
                                   .toString();
         const QString handle = portalPath + QStringLiteral("/request/") +
                                message.service().mid(1).replace(u'.', u'_') + u'/' + token;
+        const QDBusMessage reply =
+            message.createReply(QVariant::fromValue(QDBusObjectPath(handle)));
+        if (m_answers == Answers::undecided) {
+            return bus.send(reply);
+        }
         // The answer may overtake the reply.
         QDBusMessage answer = QDBusMessage::createSignal(
             handle, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
         answer << static_cast<uint>(m_answers) << m_results;
         bus.send(answer);
-        return bus.send(message.createReply(QVariant::fromValue(QDBusObjectPath(handle))));
+        return bus.send(reply);
     }
 
     /// What it answers from now on.

@@ -9,7 +9,7 @@ CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Con
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <type>session</type>
-  <listen>unix:dir={folder}</listen>
+  <listen>{listen}</listen>
 {services}  <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
     <allow eavesdrop="true"/>
@@ -20,12 +20,14 @@ CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Con
 
 
 @contextlib.contextmanager
-def private_bus(services=None):
-    """The running bus and its address. It starts what the folder `services` holds; without one, nothing."""
+def private_bus(services=None, at=None):
+    """The running bus and its address, at the path `at` where that is told. It starts what the folder
+    `services` holds; without one, nothing."""
     with tempfile.TemporaryDirectory() as folder:
         known = f"  <servicedir>{services}</servicedir>\n" if services else ""
+        listen = f"unix:path={at}" if at else f"unix:dir={folder}"
         configuration = Path(folder) / "bus.conf"
-        configuration.write_text(CONFIGURATION.format(folder=folder, services=known), "utf-8")
+        configuration.write_text(CONFIGURATION.format(listen=listen, services=known), "utf-8")
         process = subprocess.Popen(
             ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address"],
             stdout=subprocess.PIPE,

@@ -5,8 +5,8 @@ import time
 
 from bundle import RELEASE, encoded, program_with, program_with_release
 from bus import private_bus
-from disks import BASEMAP
-from driver import Missed, Program, Screen
+from disks import BASEMAP, choose_satellite
+from driver import Missed, Program, Screen, wait
 from faults import faults
 from portal import Portal
 
@@ -110,6 +110,33 @@ def an_end_while_a_preference_is_written_leaves_the_old_or_the_new_one(executabl
                     stored = program.preference(BASEMAP), program.preference("another")
                 if stored != ("standard" if is_new else "hybrid", "value"):
                     raise Missed(f"{moment}, {how.name}: {stored}")
+
+
+def a_hanging_disk_holds_no_window_up(executable):
+    """A choice is written to a disk that never answers: the window goes on, and so does its closing; the
+    program waits some seconds for the disk, out of sight."""
+    fault = "sync wait */config/vasker-open-map/*"
+    with faults(fault) as present, program_with_release(executable, RELEASE) as copy:
+        with Program(copy, **present.environment) as program:
+            program.see(name="2 of 2 records")
+            choose_satellite(program)
+            present.expect(fault)
+            program.press(id="open-map-record-A-10")
+            program.see(id="open-map-inspector")
+            program.press(name="Done")
+            program.miss(id="open-map-inspector")
+            program.press(id="open-map-options")
+            program.see(role="menu item", name="Satellite", state="checked")
+            program.key("Escape")
+            program.miss(role="menu item", name="Satellite")
+            program.key("ctrl+q")
+            closed = time.monotonic()
+            wait(lambda: not program.titles(), "the window stays")
+            print(f"the window was gone after {time.monotonic() - closed:.2f} s")
+            status = program.process.wait(timeout=10 + 2 * PATIENCE_SECONDS)
+            print(f"the program ended after {time.monotonic() - closed:.2f} s")
+            if status != 0:
+                raise Missed(f"it ended with {status}")
 
 
 def picture_at_rest(program, unlike=None):

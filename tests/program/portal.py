@@ -65,12 +65,15 @@ CANCELLED = 1
 
 class Portal:
     """Serves until it is closed. `save_to`: the path that the user chooses; None: they cancel.
-    `lacks`: the interface that this desktop does not have."""
+    `lacks`: the interface that this desktop does not have. `settings`: the desktop's, by group and
+    key. What is asked by a method of `open` is kept open."""
 
-    def __init__(self, save_to=None, lacks=None):
+    def __init__(self, save_to=None, lacks=None, settings=None, open=()):
         self.save_to = save_to
         self._lacks = lacks
         self.calls = []
+        self._settings = settings or {}
+        self._open = open
         ready = threading.Event()
         self._thread = threading.Thread(target=self._serve, args=[ready], daemon=True)
         self._thread.start()
@@ -81,6 +84,10 @@ class Portal:
         return self
 
     def __exit__(self, *fault):
+        self.go()
+
+    def go(self):
+        """Leaves the bus, and with that whatever is open."""
         self._context.invoke_full(GLib.PRIORITY_DEFAULT, self._loop.quit)
         self._thread.join(10)
 
@@ -137,12 +144,16 @@ class Portal:
                 arguments[place] = file.read()
         self.calls.append((method, arguments))
         if method == "ReadAll":
-            return invocation.return_value(GLib.Variant("(a{sa{sv}})", ({},)))
+            if method not in self._open:
+                invocation.return_value(GLib.Variant("(a{sa{sv}})", (self._settings,)))
+            return
         if method == "ShowItems":
             return invocation.return_value(None)
         token = arguments[-1]["handle_token"]
         handle = f"/org/freedesktop/portal/desktop/request/{sender[1:].replace('.', '_')}/{token}"
         invocation.return_value(GLib.Variant("(o)", (handle,)))
+        if method in self._open:
+            return
         code, results = DONE, {}
         if method == "SaveFile" and self.save_to is None:
             code = CANCELLED
