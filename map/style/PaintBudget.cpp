@@ -1,31 +1,41 @@
 #include "map/style/PaintBudget.h"
 
-#include <QLineF>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 namespace vasker {
 
 namespace {
 
-/// Of each ring or line, beside its length.
-constexpr double pieceCost = 40;
-/// Of two outlines that cross the same row of pixels: the painter sorts them.
-constexpr double pairCost = 0.15;
-/// A line of so many pixels costs twice as much as one of the thinnest that have two edges.
-constexpr double doubleCostWidth = 8;
-/// Up to this width, in device pixels, a line is drawn without an outline.
-constexpr double widthWithoutOutline = 1;
+// What takes how long was fitted to the paintings of 130 tiles, invented ones and the built-in
+// basemap's: of those that take longest none costs less than three quarters of its time.
 
-struct Outline {
+/// Of each ring or line that is drawn.
+constexpr double pieceCost = 17;
+constexpr double pointCost = 2.5;
+/// The painter keeps the pixels of an outline in a list for each row, and looks through it for each
+/// one. With longer lists it works in more bands of fewer rows, until its memory grows.
+constexpr double neighbourCost = 0.075;
+constexpr double mostNeighbours = 120;
+/// An outline of a line has two sides.
+constexpr double sides = 2;
+/// Of a pixel of a line that is drawn without an outline, up to a device pixel wide.
+constexpr double thinPixelCost = 0.28;
+constexpr double thinWidth = 1;
+/// Of a point where a line this wide turns, or ends, with a curve.
+constexpr double roundPointCost = 33;
+constexpr double roundWidth = 3.5;
+
+struct Measure {
+    double points = 0;
     double length = 0;
-    double pairs = 0; ///< of crossings, in all rows
+    std::vector<double> pixels; ///< of the outline, row by row
 };
 
-Outline measured(std::span<const QPolygonF> lines) {
+Measure measured(std::span<const QPolygonF> lines) {
     constexpr double infinite = std::numeric_limits<double>::infinity();
     double top = infinite;
     double bottom = -infinite;
@@ -35,44 +45,54 @@ Outline measured(std::span<const QPolygonF> lines) {
             bottom = std::max(bottom, point.y());
         }
     }
-    Outline outline;
+    Measure measure;
     if (!(bottom >= top)) {
-        return outline;
+        return measure;
     }
     const auto rowOf = [top](double y) { return static_cast<std::size_t>(y - top); };
-    std::vector<int> changes(rowOf(bottom) + 2); // of the number of crossings, row by row
+    std::vector<double>& pixels = measure.pixels; // first the differences from row to row
+    pixels.resize(rowOf(bottom) + 2);
     for (const QPolygonF& line : lines) {
+        measure.points += static_cast<double>(line.size());
         for (qsizetype i = 1; i < line.size(); ++i) {
-            outline.length += QLineF(line[i - 1], line[i]).length();
-            ++changes[rowOf(std::min(line[i - 1].y(), line[i].y()))];
-            --changes[rowOf(std::max(line[i - 1].y(), line[i].y())) + 1];
+            const QPointF step = line[i] - line[i - 1];
+            measure.length += std::hypot(step.x(), step.y());
+            const std::size_t first = rowOf(std::min(line[i - 1].y(), line[i].y()));
+            const std::size_t end = rowOf(std::max(line[i - 1].y(), line[i].y())) + 1;
+            const double ofRow =
+                (std::abs(step.x()) + std::abs(step.y()) + 0.5) / static_cast<double>(end - first);
+            pixels[first] += ofRow;
+            pixels[end] -= ofRow;
         }
     }
-    double crossings = 0;
-    for (const int change : changes) {
-        crossings += change;
-        outline.pairs += crossings * crossings;
+    std::partial_sum(pixels.cbegin(), pixels.cend(), pixels.begin());
+    return measure;
+}
+
+/// Of an outline with `times` as many pixels in each row.
+double outlineCost(const Measure& measure, double times) {
+    double cost = times * pointCost * measure.points;
+    for (const double pixels : measure.pixels) {
+        const double ofRow = times * pixels;
+        cost += ofRow * (1 + neighbourCost * std::min(ofRow, mostNeighbours));
     }
-    return outline;
+    return cost;
 }
 
 } // namespace
 
 double fillCost(std::span<const QPolygonF> rings) {
-    const Outline outline = measured(rings);
-    return pieceCost * static_cast<double>(rings.size()) + outline.length +
-           pairCost * outline.pairs;
+    return pieceCost * static_cast<double>(rings.size()) + outlineCost(measured(rings), 1);
 }
 
 double strokeCost(std::span<const QPolygonF> lines, double width) {
-    const Outline outline = measured(lines);
-    const double own = pieceCost * static_cast<double>(lines.size()) + outline.length;
-    if (width <= widthWithoutOutline) {
-        return own;
+    const Measure measure = measured(lines);
+    const auto pieces = static_cast<double>(lines.size());
+    if (width <= thinWidth) {
+        return pointCost * (pieces + measure.points) + thinPixelCost * measure.length;
     }
-    constexpr double edges = 2;
-    return own + edges * outline.length * (1 + width / doubleCostWidth) +
-           edges * edges * pairCost * outline.pairs;
+    return pieceCost * pieces + outlineCost(measure, sides) +
+           (width > roundWidth ? roundPointCost * measure.points : 0);
 }
 
 } // namespace vasker

@@ -1,6 +1,6 @@
 #pragma once
 // What painting may cost. A few bytes of a vector tile can ask for minutes: the painter's time
-// grows with the length of outlines, and with the square of how often they cross one row of pixels.
+// grows with the length of outlines, and with how many of their pixels lie in one row.
 
 #include <QPolygonF>
 
@@ -8,8 +8,8 @@
 
 namespace vasker {
 
-/// What filling these rings at once takes, in pixels of outline: a quarter to half a microsecond
-/// each. The rings are in device pixels and lie in or near a raster tile.
+/// What filling these rings at once takes, in pixels of a lonely outline, which take some 60
+/// nanoseconds each. The rings are in device pixels and lie in or near a raster tile.
 [[nodiscard]] double fillCost(std::span<const QPolygonF> rings);
 /// What drawing these lines at once takes, `width` device pixels wide.
 [[nodiscard]] double strokeCost(std::span<const QPolygonF> lines, double width);
@@ -24,6 +24,8 @@ class PaintBudget {
         m_left -= cost;
         return m_left >= 0;
     }
+    /// Below zero once a spend() asked for more.
+    [[nodiscard]] double left() const noexcept { return m_left; }
     [[nodiscard]] bool isSpent() const noexcept { return m_left < 0; }
 
   private:

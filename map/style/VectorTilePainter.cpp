@@ -1,6 +1,7 @@
 #include "map/style/VectorTilePainter.h"
 
 #include "map/style/Dashes.h"
+#include "map/style/HalfPlane.h"
 #include "map/style/TileClip.h"
 
 #include <QLineF>
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -34,6 +36,31 @@ QPen penOf(const QColor& color, double width, Qt::PenCapStyle cap) {
 /// The painter's time for a line grows with the square of how often it crosses a row of pixels:
 /// long lines are drawn in pieces, in sides of the raster tile.
 constexpr double longestPiece = 4;
+
+/// In device pixels. The painter fills an outline band by band, a few rows each, and walks every
+/// step that it meets there through all rows of that step: tall ones are taken in parts.
+constexpr double tallestStep = 16;
+
+bool isTall(QPointF from, QPointF to) {
+    return std::abs(to.y() - from.y()) > tallestStep;
+}
+
+/// The same line, with more points on its tall steps.
+QPolygonF inShortSteps(const QPolygonF& line) {
+    if (std::adjacent_find(line.cbegin(), line.cend(), isTall) == line.cend()) {
+        return line;
+    }
+    QPolygonF steps{line.front()};
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        const QPointF from = line[i - 1];
+        const double count = std::ceil(std::abs(line[i].y() - from.y()) / tallestStep);
+        for (double step = 1; step < count; ++step) {
+            steps.append(between(from, line[i], step / count));
+        }
+        steps.append(line[i]);
+    }
+    return steps;
+}
 
 QColor faded(QColor color, double opacity) {
     color.setAlphaF(static_cast<float>(static_cast<double>(color.alphaF()) * opacity));
@@ -122,11 +149,15 @@ class VectorTilePainter {
         for (const std::vector<TilePoint>& part : feature.parts) {
             QPolygonF ring = m_clip.ring(part);
             if (!ring.empty()) {
+                ring.append(ring.front());
                 rings.push_back(std::move(ring));
             }
         }
         if (rings.empty() || !m_budget.spend(fillCost(rings))) {
             return;
+        }
+        for (QPolygonF& ring : rings) {
+            ring = inShortSteps(ring);
         }
         if (rings.size() == 1) {
             m_painter.drawPolygon(rings.front(), Qt::OddEvenFill);
@@ -178,7 +209,7 @@ class VectorTilePainter {
             if (m_budget.spend(strokeCost(pieces, pen.widthF()))) {
                 QPainterPath path;
                 for (const QPolygonF& piece : pieces) {
-                    path.addPolygon(piece);
+                    path.addPolygon(inShortSteps(piece));
                 }
                 m_painter.strokePath(path, pen);
             }
@@ -186,11 +217,13 @@ class VectorTilePainter {
             length = 0;
         };
         for (Feature& feature : features) {
-            for (const QPolygonF& piece : lines(feature)) {
-                pieces.push_back(piece);
-                length += lengthOf(piece);
-                if (length > longestPiece * m_side) {
-                    stroke();
+            for (const QPolygonF& line : lines(feature)) {
+                for (QPolygonF& piece : inPieces(line)) {
+                    length += lengthOf(piece);
+                    pieces.push_back(std::move(piece));
+                    if (length > longestPiece * m_side) {
+                        stroke();
+                    }
                 }
             }
         }
@@ -199,23 +232,33 @@ class VectorTilePainter {
 
     void draw(const std::vector<QPolygonF>& lines) {
         for (const QPolygonF& line : lines) {
-            qsizetype first = 0;
-            double length = 0;
-            for (qsizetype i = 1; i < line.size(); ++i) {
-                length += QLineF(line[i - 1], line[i]).length();
-                if (length > longestPiece * m_side && i + 1 < line.size()) {
-                    drawPiece(line.mid(first, i - first + 1));
-                    first = i;
-                    length = 0;
-                }
+            for (const QPolygonF& piece : inPieces(line)) {
+                drawPiece(piece);
             }
-            drawPiece(first == 0 ? line : QPolygonF(line.mid(first)));
         }
     }
 
+    /// Whole where it is not too long.
+    [[nodiscard]] std::vector<QPolygonF> inPieces(const QPolygonF& line) const {
+        std::vector<QPolygonF> pieces;
+        qsizetype first = 0;
+        double length = 0;
+        for (qsizetype i = 1; i + 1 < line.size(); ++i) {
+            length += QLineF(line[i - 1], line[i]).length();
+            if (length > longestPiece * m_side) {
+                pieces.push_back(line.mid(first, i - first + 1));
+                first = i;
+                length = 0;
+            }
+        }
+        pieces.push_back(first == 0 ? line : QPolygonF(line.mid(first)));
+        return pieces;
+    }
+
     void drawPiece(const QPolygonF& line) {
-        if (m_budget.spend(strokeCost({&line, 1}, m_painter.pen().widthF()))) {
-            m_painter.drawPolyline(line);
+        const double width = m_painter.pen().widthF();
+        if (m_budget.spend(strokeCost({&line, 1}, width))) {
+            m_painter.drawPolyline(width > fastWidth ? inShortSteps(line) : line);
         }
     }
 

@@ -11,35 +11,49 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace vasker {
 namespace {
 
-/// So many lines from the top to the bottom of a tile.
-std::vector<QPolygonF> lines(int count) {
+/// So many lines from the top to the bottom of a tile, or from side to side.
+std::vector<QPolygonF> lines(int count, bool areUpright = true) {
     std::vector<QPolygonF> all;
     for (int i = 0; i < count; ++i) {
-        all.push_back({QPointF(i, 0), QPointF(i, 512)});
+        all.push_back(areUpright ? QPolygonF{QPointF(i, 0), QPointF(i, 512)}
+                                 : QPolygonF{QPointF(0, i), QPointF(512, i)});
     }
     return all;
 }
 
-TEST(PaintBudget, ALineCostsItsLengthAndSomething) {
-    const double cost = strokeCost(lines(1), 1);
-    EXPECT_GT(cost, 512);
-    EXPECT_LT(cost, 2 * 512);
+TEST(PaintBudget, AnOutlineCostsItsLengthAndSomething) {
+    EXPECT_GT(fillCost(lines(1)), 512);
+    EXPECT_LT(fillCost(lines(1)), 2 * 512);
 }
 
-TEST(PaintBudget, AWiderLineCostsMore) {
-    EXPECT_GT(strokeCost(lines(1), 2), 2 * strokeCost(lines(1), 1));
-    EXPECT_GT(strokeCost(lines(1), 20), 2 * strokeCost(lines(1), 2));
+TEST(PaintBudget, ALineWithAnOutlineCostsBothSidesAndOneWithoutLessThanItsLength) {
+    EXPECT_LT(strokeCost(lines(1), 1), 512);
+    EXPECT_GT(strokeCost(lines(1), 2), 2 * 512);
+    EXPECT_GT(strokeCost(lines(1), 20), strokeCost(lines(1), 2)) << "it has round ends";
 }
 
-TEST(PaintBudget, WhatCrossesTheSameRowsCostsTheirSquare) {
-    EXPECT_GT(fillCost(lines(1'000)), 50 * fillCost(lines(100)));
-    // Drawn one by one they cost no more than their sum.
-    EXPECT_GT(fillCost(lines(1'000)), 10 * 1'000 * fillCost(lines(1)));
+TEST(PaintBudget, WhatCrossesTheSameRowsCostsSeveralTimesWhatItCostsOneByOne) {
+    EXPECT_GT(fillCost(lines(100)), 5 * 100 * fillCost(lines(1)));
+    EXPECT_LT(fillCost(lines(1'000)), 12 * 1'000 * fillCost(lines(1)));
+}
+
+TEST(PaintBudget, AnOutlineInOneRowCostsMoreThanOneThroughMany) {
+    EXPECT_GT(fillCost(lines(1, false)), 5 * fillCost(lines(1)));
+}
+
+TEST(PaintBudget, ManyShortStepsCostLittleMoreThanALongOne) {
+    QPolygonF steps;
+    for (int i = 0; i <= 128; ++i) {
+        steps.append(QPointF(0, 4 * i));
+    }
+    EXPECT_LT(fillCost(std::vector{steps}), 3 * fillCost(lines(1)));
 }
 
 TEST(PaintBudget, NothingAndAPointCostNextToNothing) {
@@ -57,12 +71,12 @@ TEST(PaintBudget, WhatIsSpentStaysSpent) {
     EXPECT_FALSE(budget.spend(0));
 }
 
-TEST(PaintBudget, NoTileOfTheBuiltInBasemapTakesAQuarterOfTheBudget) {
+TEST(PaintBudget, NoTileOfTheBuiltInBasemapTakesAThirdOfTheBudget) {
     const auto archive = TileArchive::open(VASKER_RESOURCES "/basemap.mbtiles");
     ASSERT_NE(archive, nullptr);
     const Camera canada(canadaOverview, {1280, 800});
     int painted = 0;
-    for (int zoom = 1; zoom <= 6; ++zoom) {
+    for (int zoom = 0; zoom <= 6; ++zoom) {
         for (const CoverTile& each : tileCover(canada, zoom, 0)) {
             const auto stored = archive->nearestTile(each.key);
             ASSERT_TRUE(stored);
@@ -73,7 +87,7 @@ TEST(PaintBudget, NoTileOfTheBuiltInBasemapTakesAQuarterOfTheBudget) {
             QImage image(512, 512, QImage::Format_RGB32);
             QPainter painter(&image);
             painter.setRenderHint(QPainter::Antialiasing);
-            PaintBudget budget(outlineBudget * 512 / 4);
+            PaintBudget budget(outlineBudget * 512 / 3);
             TileRequest request;
             request.key = each.key;
             request.devicePixelsPerMapPoint = 512 / each.key.side();
@@ -83,6 +97,103 @@ TEST(PaintBudget, NoTileOfTheBuiltInBasemapTakesAQuarterOfTheBudget) {
         }
     }
     EXPECT_GT(painted, 50);
+}
+
+VectorFeature
+onePart(VectorFeature::Geometry geometry, const char* kind, std::vector<TilePoint> part) {
+    VectorFeature feature;
+    feature.geometry = geometry;
+    feature.kind = kind;
+    feature.parts = {std::move(part)};
+    return feature;
+}
+
+struct PaintedTile {
+    TileData data;
+    TileRequest request;
+
+    PaintedTile(TileKey key, std::vector<VectorLayer> layers) {
+        data.vector = std::make_shared<VectorTile>(VectorTile{std::move(layers)});
+        data.vectorKey = key;
+        request.key = key;
+        request.devicePixelsPerMapPoint = 512 / key.side();
+    }
+    [[nodiscard]] bool isRefused() const { return paintTile(data, request).isNull(); }
+    /// What painting it takes of a budget.
+    [[nodiscard]] double cost() const {
+        constexpr double plenty = 1e12;
+        QImage image(512, 512, QImage::Format_RGB32);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        PaintBudget budget(plenty);
+        paintVectorTile(painter, data, request, request.theme, styleLayers(), budget);
+        return plenty - budget.left();
+    }
+};
+
+/// A sea whose shore crosses the whole tile so often.
+PaintedTile zigzagSea(int crossings) {
+    std::vector<TilePoint> shore;
+    for (int i = 0; i <= crossings; ++i) {
+        shore.push_back(
+            {static_cast<float>(i) / static_cast<float>(crossings), i % 2 == 0 ? 0.0F : 1.0F});
+    }
+    return {{6, 12, 20}, {{"ocean", {onePart(VectorFeature::Geometry::polygon, "", shore)}}}};
+}
+
+TEST(PaintBudget, ATileIsPaintedUpToItsBudgetAndNotBeyond) {
+    int painted = 1;
+    int refused = 3'000;
+    while (refused - painted > 1) {
+        const int middle = (painted + refused) / 2;
+        (zigzagSea(middle).isRefused() ? refused : painted) = middle;
+    }
+    EXPECT_GT(painted, 100);
+    EXPECT_LE(zigzagSea(painted).cost(), outlineBudget * 512);
+    EXPECT_GT(zigzagSea(refused).cost(), outlineBudget * 512);
+}
+
+/// Houses, streets and footways, each somewhere.
+PaintedTile denseCity(int houses, int streets, int paths) {
+    const auto somewhere = [](int i) {
+        return TilePoint{static_cast<float>(i * 379 % 1'000) / 1'000,
+                         static_cast<float>(i * 617 % 1'009) / 1'009};
+    };
+    const auto way = [&](int i, const char* kind) {
+        std::vector<TilePoint> points;
+        for (int step = 0; step < 6; ++step) {
+            const auto along = static_cast<float>(12 * step) / 512;
+            const auto across = static_cast<float>(step * step) / 512;
+            const auto [x, y] = somewhere(i);
+            points.push_back(i % 2 == 0 ? TilePoint{x + along, y + across}
+                                        : TilePoint{x + across, y + along});
+        }
+        return onePart(VectorFeature::Geometry::lines, kind, points);
+    };
+    VectorLayer buildings{"buildings", {}};
+    VectorLayer roads{"streets", {}};
+    for (int i = 0; i < houses; ++i) {
+        const auto [x, y] = somewhere(i);
+        const float w = static_cast<float>(4 + i % 8) / 512;
+        const float h = static_cast<float>(4 + i % 7) / 512;
+        buildings.features.push_back(
+            onePart(VectorFeature::Geometry::polygon,
+                    "",
+                    {{x, y}, {x + w, y + 0.2F * h}, {x + w, y + h}, {x, y + h}, {x, y}}));
+    }
+    for (int i = 0; i < streets; ++i) {
+        roads.features.push_back(way(i, i % 10 == 0 ? "secondary" : "residential"));
+    }
+    for (int i = 0; i < paths; ++i) {
+        roads.features.push_back(way(i, "footway"));
+    }
+    return {{14, 4'500, 6'000}, {buildings, roads}};
+}
+
+TEST(PaintBudget, TheTileOfADenseCityTakesLessThanHalfOfTheBudget) {
+    const PaintedTile downtown = denseCity(2'000, 400, 300);
+    EXPECT_LT(downtown.cost(), outlineBudget * 512 / 2);
+    EXPECT_FALSE(downtown.isRefused());
 }
 
 } // namespace
