@@ -22,11 +22,18 @@ Item {
     enabled: false
     Accessible.ignored: true
 
-    onWantedChanged: wanted ? delay.restart() : hide()
-    onNameChanged: if (wanted && !visible) {
-        delay.restart();
+    onWantedChanged: if (!wanted) {
+        hide();
     }
+    // Later: where a timer starts, all that is animated takes a step, and a map that moves under the
+    // pointer may have another record there. The linter takes the function for a property.
+    onNameChanged: Qt.callLater(root.prepare) // qmllint disable
 
+    function prepare(): void {
+        if (wanted && !visible) {
+            delay.restart();
+        }
+    }
     function hide(): void {
         delay.stop();
         visible = false;
