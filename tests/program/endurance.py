@@ -4,7 +4,9 @@
 
 It fails where the program ends by itself, says anything on standard error, or keeps descriptors or
 threads. A user who has closed the last window starts the program again.
-Memory and the longest time without an answer are printed; the same seed does the same again.
+Memory at rest and the longest times without an answer are printed, with what of them the program's first
+thread computed, and how long it could have and got no processor. In the rest it waited for the display. The
+same seed does the same again.
 """
 
 import os
@@ -24,6 +26,10 @@ NAME = "ca.vasker.OpenMap"
 MOST_WINDOWS = 3
 # After this time what is made once is there, and memory is to stay.
 WARM_SECONDS = 120
+# How often memory is measured from then on.
+REST_SECONDS = 300
+# A user interface that does not answer for so long stalls.
+STALL_SECONDS = 0.1
 WORDS = ["gas", "pipeline", "alberta", "usine", "é", "42", "  ", "coast", "zzzz", "compressor station", "Σ"]
 SIZES = [(900, 620), (1000, 700), (1280, 800), (1400, 900)]
 
@@ -153,29 +159,48 @@ class Hand:
 
 
 class Watch(threading.Thread):
-    """Asks the program again and again, and keeps the longest time until it answered."""
+    """Asks the program again and again, and keeps the times until it answered that were long."""
 
-    def __init__(self):
+    def __init__(self, pid):
         super().__init__(daemon=True)
-        self.longest = 0.0
+        self.answers = 0
+        self.stalls = []  # (seconds until the answer, computing, without a processor; when)
+        self._schedule = Path(f"/proc/{pid}/schedstat")
         self._over = threading.Event()
 
     def run(self):
         bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        start = time.monotonic()
         while not self._over.wait(0.02):
-            begin = time.monotonic()
             try:
+                computed, waited = self._processor_times()
+                begin = time.monotonic()
                 bus.call_sync(
                     NAME, "/" + NAME.replace(".", "/"), "org.freedesktop.DBus.Introspectable",
                     "Introspect", None, None, Gio.DBusCallFlags.NO_AUTO_START, 10_000,
                 )
-            except GLib.Error:
+                seconds = time.monotonic() - begin
+                self.answers += 1
+                if seconds > STALL_SECONDS:
+                    computing, waiting = self._processor_times()
+                    self.stalls.append((seconds, computing - computed, waiting - waited, begin - start))
+            except (GLib.Error, OSError):
                 continue  # the program has ended, which its user sees
-            self.longest = max(self.longest, time.monotonic() - begin)
+
+    def _processor_times(self):
+        """How many seconds the program's first thread has run, and how many it could have run and did not."""
+        ran, waited = self._schedule.read_text().split()[:2]
+        return int(ran) / 1e9, int(waited) / 1e9
 
     def end(self):
         self._over.set()
         self.join()
+
+    def tell(self):
+        print(f"{self.answers} answers, {len(self.stalls)} of them after more than {1000 * STALL_SECONDS:.0f} ms")
+        for seconds, computing, waiting, when in sorted(self.stalls, reverse=True)[:10]:
+            print(f"  {1000 * seconds:.0f} ms after {when:.0f} s: {1000 * computing:.0f} ms computing,"
+                  f" {1000 * waiting:.0f} ms without a processor")
 
 
 def links(folder):
@@ -232,29 +257,32 @@ def use(executable, seconds, seed):
         if hand.windows() is None:
             raise AssertionError(f"it ended with {program.process.poll()} before it had a window")
         time.sleep(3)
-        watch = Watch()
+        watch = Watch(program.process.pid)
         watch.start()
         done = []
         begin = time.monotonic()
-        first = None
-        while time.monotonic() < begin + seconds and hand.windows() is not None:
+        rests = []
+        next_rest = min(WARM_SECONDS, seconds / 2)
+        while (used := time.monotonic() - begin) < seconds and hand.windows() is not None:
             done.append(hand.act())
             if program.process.poll():
                 raise AssertionError(f"it ended with {program.process.poll()} after {done[-20:]}")
-            if first is None and time.monotonic() > begin + min(WARM_SECONDS, seconds / 2):
-                first = rested_costs(hand, program.process.pid)
-        used = time.monotonic() - begin
-        last = rested_costs(hand, program.process.pid)
-        if first is not None and last is not None:
-            print(f"memory: {first['memory']:.0f}, at the end {last['memory']:.0f}")
-            for what in ("descriptors", "threads"):
-                print(f"{what}: {first[what].total()}, at the end {last[what].total()}")
-                expect_none_kept(what, first[what], last[what])
-        if last is not None:
+            if used > next_rest:
+                next_rest += REST_SECONDS
+                rests.append((used, rested_costs(hand, program.process.pid)))
+        rests.append((used, rested_costs(hand, program.process.pid)))
+        rests = [(when, found) for when, found in rests if found is not None]
+        for when, found in rests:
+            print(f"after {when:.0f} s: {found['memory']:.1f} MB, {found['descriptors'].total()} descriptors,"
+                  f" {found['threads'].total()} threads")
+        for what in ("descriptors", "threads"):
+            for _, found in rests[1:]:
+                expect_none_kept(what, rests[0][1][what], found[what])
+        if hand.windows() is not None:
             hand._keys("ctrl+q")
         watch.end()
         print(f"seed {seed}: {len(done)} actions in {used:.0f} s, then {done[-5:]}")
-        print(f"longest time without an answer: {1000 * watch.longest:.0f} ms")
+        watch.tell()
         status = program.process.wait(timeout=30)
         assert status == 0, f"it ended with {status}"
         return used
