@@ -1,6 +1,7 @@
 #include "map/style/PaintBudget.h"
 
 #include "map/geometry/TileCover.h"
+#include "map/style/MapTheme.h"
 #include "map/style/TilePainter.h"
 #include "map/style/VectorTilePainter.h"
 #include "map/tiles/TileArchive.h"
@@ -151,6 +152,26 @@ TEST(PaintBudget, ATileIsPaintedUpToItsBudgetAndNotBeyond) {
     EXPECT_GT(painted, 100);
     EXPECT_LE(zigzagSea(painted).cost(), outlineBudget * 512);
     EXPECT_GT(zigzagSea(refused).cost(), outlineBudget * 512);
+}
+
+TEST(PaintBudget, ALineThatIsDrawnInPiecesHasNoGap) {
+    constexpr int crossings = 20;
+    std::vector<TilePoint> way;
+    for (int i = 0; i <= crossings; ++i) {
+        way.push_back({i % 2 == 0 ? 0.05F : 0.95F, static_cast<float>(i + 1) / (crossings + 2)});
+    }
+    const PaintedTile painted(
+        {10, 200, 300}, {{"streets", {onePart(VectorFeature::Geometry::lines, "motorway", way)}}});
+    const QImage image = paintTile(painted.data, painted.request);
+    const QRgb land = mapTheme(BasemapTheme::light).land.rgb();
+    for (std::size_t i = 1; i < way.size(); ++i) {
+        for (const float part : {0.1F, 0.5F, 0.9F}) {
+            const float x = way[i - 1].x + part * (way[i].x - way[i - 1].x);
+            const float y = way[i - 1].y + part * (way[i].y - way[i - 1].y);
+            EXPECT_NE(image.pixel(static_cast<int>(512 * x), static_cast<int>(512 * y)), land)
+                << i << ' ' << part;
+        }
+    }
 }
 
 /// Houses, streets and footways, each somewhere.

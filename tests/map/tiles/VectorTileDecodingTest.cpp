@@ -315,6 +315,17 @@ TEST(VectorTile, ALayerIsFoundByItsName) {
     EXPECT_EQ(tile->layer("c"), nullptr);
 }
 
+TEST(VectorTile, ItsMemoryIsThatOfItsFeaturesPartsPointsAndTexts) {
+    VectorFeature feature;
+    feature.parts.assign(1'000, {{0, 0}, {1, 1}});
+    feature.name = std::string(5'000, 'a');
+    const VectorTile tile{{{"ocean", {feature}}}};
+    const std::size_t least =
+        sizeof(VectorFeature) + 1'000 * (sizeof(std::vector<TilePoint>) + 2 * sizeof(TilePoint));
+    EXPECT_EQ(tile.memoryBytes(), least + 5'000);
+    EXPECT_EQ(VectorTile().memoryBytes(), 0U);
+}
+
 TEST(VectorTile, TruncatedBytesAreRefusedOrLoseLayers) {
     const std::string bytes = bytesOf({{"a", {aPoint}, {"name"}, {textValue("Banff")}}});
     for (std::size_t size = 1; size < bytes.size(); ++size) {
