@@ -61,6 +61,15 @@ TEST(NearRecords, ARouteIsWhereItComesNearest) {
     EXPECT_NEAR(place.latitude, 55, 1e-6);
 }
 
+TEST(NearRecords, OfSeveralRoutesTheNearestCounts) {
+    const RecordSet records =
+        recordSetOf({pipelineAlong({{{-112.2, 57}, {-111.8, 57}}, {{-112.8, 54}, {-112.4, 54}}})});
+    const auto inView = recordsInView(records, cameraAt(54, -112));
+    ASSERT_EQ(inView.size(), 1U);
+    EXPECT_NEAR(mapPointToCoordinate(inView[0].place).longitude, -112.4, 1e-6);
+    EXPECT_NEAR(inView[0].metres, 26'145, 100);
+}
+
 TEST(NearRecords, OnlyShownRecordsCount) {
     RecordSet records =
         recordSetOf({facilityAt(54, -112, "refinery"), facilityAt(54.1, -112, "refinery")});
