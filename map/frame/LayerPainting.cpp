@@ -23,23 +23,44 @@ struct ColoredLine {
     QColor color;
 };
 
-std::vector<ColoredLine> linesOf(const LineLayer& layer) {
+/// What `painter` can reach of the item, and `margin` around it.
+QRectF reachOf(const QPainter& painter, double margin) {
+    const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
+    return painter.combinedTransform().inverted().mapRect(device).adjusted(
+        -margin, -margin, margin, margin);
+}
+
+bool mayTouch(const QRectF& area, QPointF a, QPointF b) {
+    return std::max(a.x(), b.x()) >= area.left() && std::min(a.x(), b.x()) <= area.right() &&
+           std::max(a.y(), b.y()) >= area.top() && std::min(a.y(), b.y()) <= area.bottom();
+}
+
+/// The lines of a layer as far as they touch `area`: to stroke the rest takes as long as if it were
+/// seen.
+std::vector<ColoredLine> linesOf(const LineLayer& layer, const QRectF& area) {
     std::vector<ColoredLine> lines;
     if (layer.strip == nullptr) {
         return lines;
     }
-    bool isWithin = false;
+    bool isWithin = false; // a line of the strip, whose place before is `last`
+    bool isOpen = false;   // the last of `lines` ends there
+    QPointF last;
     for (const LineVertex& vertex : *layer.strip) {
         if (vertex.corner != LineVertex::Corner::left) {
             isWithin = isWithin && vertex.corner == LineVertex::Corner::right;
             continue;
         }
-        if (!isWithin) {
-            lines.push_back({{}, QColor(vertex.red, vertex.green, vertex.blue)});
-            isWithin = true;
+        const QPointF place(double{vertex.x} + layer.offset.x, double{vertex.y} + layer.offset.y);
+        const bool isSeen = isWithin && mayTouch(area, last, place);
+        if (isSeen && !isOpen) {
+            lines.push_back({{last}, QColor(vertex.red, vertex.green, vertex.blue)});
         }
-        lines.back().places << QPointF(double{vertex.x} + layer.offset.x,
-                                       double{vertex.y} + layer.offset.y);
+        if (isSeen) {
+            lines.back().places << place;
+        }
+        isOpen = isSeen;
+        isWithin = true;
+        last = place;
     }
     return lines;
 }
@@ -80,8 +101,9 @@ void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& ima
 /// First every casing, then the cores: where a branch meets a trunk, no casing cuts the trunk. One
 /// by one: the time that a raster takes for a path grows with the square of its crossings.
 void paintLines(QPainter& painter, const LineLayer& layer) {
-    const std::vector<ColoredLine> lines = linesOf(layer);
     const LineStyle& style = layer.style;
+    const double whole = style.width + 2 * style.casingWidth;
+    const std::vector<ColoredLine> lines = linesOf(layer, reachOf(painter, whole));
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
@@ -97,7 +119,7 @@ void paintLines(QPainter& painter, const LineLayer& layer) {
         }
     };
     if (style.casing.alpha() > 0) {
-        draw(style.width + 2 * style.casingWidth, [&](const auto&) { return style.casing; });
+        draw(whole, [&](const auto&) { return style.casing; });
     }
     draw(style.width, [&](const ColoredLine& line) { return style.color.value_or(line.color); });
     painter.restore();
