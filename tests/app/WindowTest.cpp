@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QImage>
 
+#include <cstdlib>
 #include <utility>
 
 namespace vasker {
@@ -264,6 +265,21 @@ TEST_F(Window, APictureOfTheMapIsCopied) {
     EXPECT_EQ(item("open-map-save-notice"), nullptr);
 }
 
+/// Whether two pictures are of the same texts: their edges may be smoothed in other ways.
+bool areAlike(const QImage& one, const QImage& other) {
+    if (one.size() != other.size()) {
+        return false;
+    }
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            if (std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))) > 100) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 TEST_F(Window, ScaleAndTextsOfAPictureAreOfTheMomentAtWhichItWasAskedFor) {
     openRecords();
     const QQuickItem* const map = item("open-map-canvas");
@@ -280,13 +296,15 @@ TEST_F(Window, ScaleAndTextsOfAPictureAreOfTheMomentAtWhichItWasAskedFor) {
                          image.copy(0, end, image.width(), image.height() - end));
     };
     const auto before = copied([] {});
-    EXPECT_EQ(copied([&] {
-                  workspace().setCamera(CoordinateRegion{{50, -100}, 2, 4});
-                  workspace().setQuery(QStringLiteral("29"));
-              }),
-              before);
-    EXPECT_NE(copied([] {}).first, before.first);
-    EXPECT_NE(copied([] {}).second, before.second);
+    const auto asked = copied([&] {
+        workspace().setCamera(CoordinateRegion{{50, -100}, 2, 4});
+        workspace().setQuery(QStringLiteral("29"));
+    });
+    EXPECT_TRUE(areAlike(asked.first, before.first));
+    EXPECT_TRUE(areAlike(asked.second, before.second));
+    const auto after = copied([] {});
+    EXPECT_FALSE(areAlike(after.first, before.first));
+    EXPECT_FALSE(areAlike(after.second, before.second));
 }
 
 TEST_F(Window, TheNearestRecordIsNamedClearOfTheCornersOfTheMap) {
