@@ -13,9 +13,6 @@
 namespace vasker {
 namespace {
 
-const QString key = QStringLiteral("key");
-const QString other = QStringLiteral("other");
-
 class PreferenceWriterIn : public testing::Test {
   protected:
     [[nodiscard]] QByteArray written() const {
@@ -28,6 +25,8 @@ class PreferenceWriterIn : public testing::Test {
         return m_ended.takeFirst().at(0).value<PreferenceFile::Values>();
     }
 
+    const QString key = QStringLiteral("key");
+    const QString other = QStringLiteral("other");
     QTemporaryDir m_folder;
     PreferenceFile m_file{m_folder.filePath(QStringLiteral("preferences"))};
     PreferenceWriter m_writer{m_file};
