@@ -117,7 +117,7 @@ TEST_F(TilePyramidFaultTest, ADamagedTileIsNotKeptForTheNextTime) {
     server.setAnswer(path, {.body = sea});
     int frames = 0;
     ASSERT_TRUE(lookUntil([&] {
-        if (++frames % 20 == 0) { // the program is started again
+        if (frame.isComplete && ++frames % 20 == 0) { // the program is started again
             close();
             openWithServices();
         }
@@ -136,7 +136,7 @@ TEST_F(TilePyramidFaultTest, ATileThatTakesTooLongToPaintLeavesTheArchivesAndIsN
     server.setAnswer(path, {.body = sea});
     int frames = 0;
     ASSERT_TRUE(lookUntil([&] {
-        if (++frames % 20 == 0) { // the program is started again
+        if (frame.isComplete && ++frames % 20 == 0) { // the program is started again
             close();
             openWithServices();
         }
