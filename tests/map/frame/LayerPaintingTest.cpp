@@ -12,11 +12,11 @@
 namespace vasker {
 namespace {
 
-constexpr int width = 300;
-constexpr int height = 200;
+constexpr int pictureWidth = 300;
+constexpr int pictureHeight = 200;
 
 /// A line in the colour of a route.
-void append(LineStrip& strip, const std::vector<QPointF>& places) {
+void appendLine(LineStrip& strip, const std::vector<QPointF>& places) {
     const auto vertex = [](QPointF place, LineVertex::Corner corner) {
         return LineVertex{static_cast<float>(place.x()),
                           static_cast<float>(place.y()),
@@ -40,19 +40,19 @@ LineLayer wideLines() {
     LineStrip strip;
     std::vector<QPointF> zigzag;
     for (int i = 0; i < 60; ++i) {
-        zigzag.emplace_back(-200 + 12 * i, i % 2 == 0 ? -150 - i : height + 140 + i);
+        zigzag.emplace_back(-200 + 12 * i, i % 2 == 0 ? -150 - i : pictureHeight + 140 + i);
     }
-    append(strip, zigzag);
-    append(strip, {{-400, 60}, {150, 90}, {900, 20}, {900, 500}, {120, 150}, {-50, -600}});
-    append(strip, {{-60, -60}, {-50, 700}});
+    appendLine(strip, zigzag);
+    appendLine(strip, {{-400, 60}, {150, 90}, {900, 20}, {900, 500}, {120, 150}, {-50, -600}});
+    appendLine(strip, {{-60, -60}, {-50, 700}});
     return {.strip = std::make_shared<const LineStrip>(std::move(strip)),
             .style = {.width = 5, .casingWidth = 2, .casing = Qt::white, .color = {}},
             .offset = {3.5, -2.25}};
 }
 
 /// The rows of the picture from `from` to before `to`.
-QImage painted(const LineLayer& lines, int from, int to) {
-    QImage image(width, to - from, QImage::Format_RGB32);
+QImage bandOf(const LineLayer& lines, int from, int to) {
+    QImage image(pictureWidth, to - from, QImage::Format_RGB32);
     image.fill(Qt::gray);
     QPainter painter(&image);
     painter.translate(0, -from);
@@ -77,21 +77,23 @@ int largestDifference(const QImage& one, const QImage& other) {
 
 TEST(LayerPainting, LinesArePaintedAlikeInAWholePictureAndInBands) {
     const LineLayer lines = wideLines();
-    const QImage whole = painted(lines, 0, height);
-    for (int from = 0; from < height; from += 25) {
-        EXPECT_LE(
-            largestDifference(painted(lines, from, from + 25), whole.copy(0, from, width, 25)), 2)
+    const QImage whole = bandOf(lines, 0, pictureHeight);
+    for (int from = 0; from < pictureHeight; from += 25) {
+        EXPECT_LE(largestDifference(bandOf(lines, from, from + 25),
+                                    whole.copy(0, from, pictureWidth, 25)),
+                  2)
             << from;
     }
 }
 
 TEST(LayerPainting, ALineThatOnlyCrossesThePictureIsSeen) {
     LineStrip strip;
-    append(strip, {{-5000, 100}, {5000, 100}});
+    appendLine(strip, {{-5000, 100}, {5000, 100}});
     const LineLayer line{.strip = std::make_shared<const LineStrip>(std::move(strip)),
                          .style = {.width = 5, .casingWidth = 2, .casing = Qt::white, .color = {}},
                          .offset = {}};
-    EXPECT_EQ(painted(line, 0, height).pixelColor(width / 2, 100), QColor(200, 30, 30));
+    EXPECT_EQ(bandOf(line, 0, pictureHeight).pixelColor(pictureWidth / 2, 100),
+              QColor(200, 30, 30));
 }
 
 } // namespace
