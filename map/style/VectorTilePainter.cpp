@@ -53,9 +53,10 @@ QPolygonF inShortSteps(const QPolygonF& line) {
     QPolygonF steps{line.front()};
     for (qsizetype i = 1; i < line.size(); ++i) {
         const QPointF from = line[i - 1];
-        const double count = std::ceil(std::abs(line[i].y() - from.y()) / tallestStep);
-        for (double step = 1; step < count; ++step) {
-            steps.append(between(from, line[i], step / count));
+        const double height = std::abs(line[i].y() - from.y());
+        const int count = static_cast<int>(std::ceil(height / tallestStep));
+        for (int step = 1; step < count; ++step) {
+            steps.append(between(from, line[i], static_cast<double>(step) / count));
         }
         steps.append(line[i]);
     }
@@ -246,7 +247,7 @@ class VectorTilePainter {
         for (qsizetype i = 1; i + 1 < line.size(); ++i) {
             length += QLineF(line[i - 1], line[i]).length();
             if (length > longestPiece * m_side) {
-                pieces.push_back(line.mid(first, i - first + 1));
+                pieces.emplace_back(line.mid(first, i - first + 1));
                 first = i;
                 length = 0;
             }

@@ -1,0 +1,93 @@
+// When the images of raster tiles are handed over, and when it is told that there are new ones.
+
+#include "map/basemap/TilePyramid.h"
+#include "map/style/MapTheme.h"
+#include "tests/map/basemap/TilePyramidFixture.h"
+
+#include <set>
+
+namespace vasker {
+namespace {
+
+class TilePyramidImagesTest : public TilePyramidFixture {
+  protected:
+    TilePyramidImagesTest() { writeLand(); }
+    ~TilePyramidImagesTest() override { close(); }
+
+    void scaleTo(double factor) { view.camera = cameraAt(homeTile, factor * homeScale); }
+
+    const QColor land = mapTheme(BasemapTheme::light).land;
+};
+
+TEST_F(TilePyramidImagesTest, AfterTexturesWereLostTheirImagesAreHandedOverAgain) {
+    openWithoutServices();
+    ASSERT_TRUE(lookUntilComplete());
+    look();
+    EXPECT_TRUE(frame.isComplete);
+    textures.clear();
+    pyramid->handOverAgain();
+    look();
+    EXPECT_FALSE(frame.isComplete);
+    ASSERT_TRUE(lookUntilComplete());
+    EXPECT_TRUE(hasNoHole());
+    EXPECT_EQ(middleColor(), land);
+}
+
+TEST_F(TilePyramidImagesTest, AnImageIsHandedOverOnce) {
+    openWithoutServices();
+    std::set<TileNumber> handedOver;
+    ASSERT_TRUE(lookUntil([&] {
+        for (const TileImage& each : frame.tiles.newImages) {
+            EXPECT_TRUE(handedOver.insert(each.tile).second);
+            EXPECT_FALSE(each.image.isNull());
+        }
+        return frame.isComplete;
+    }));
+    EXPECT_GE(handedOver.size(), 4U);
+    look();
+    EXPECT_TRUE(frame.tiles.newImages.empty());
+}
+
+TEST_F(TilePyramidImagesTest, ImagesThatAreNotSeenYetAreHandedOverAFewAFrame) {
+    openWithoutServices();
+    ASSERT_TRUE(lookUntilComplete());
+    scaleTo(1.2);
+    look();
+    library->workers().wait(pyramid.get(), std::chrono::milliseconds(10'000));
+    std::size_t handedOver = 0;
+    ASSERT_TRUE(lookUntil([&] {
+        EXPECT_LE(frame.tiles.newImages.size(), 3U);
+        handedOver += frame.tiles.newImages.size();
+        return frame.scale == view.camera.scale();
+    }));
+    EXPECT_GE(handedOver, 4U);
+}
+
+TEST_F(TilePyramidImagesTest, ImagesThatNeedNoTextureAreShownInTheNextFrame) {
+    openWithoutServices();
+    view.uploads = false;
+    ASSERT_TRUE(lookUntilComplete());
+    scaleTo(1.2);
+    look();
+    library->workers().wait(pyramid.get(), std::chrono::milliseconds(10'000));
+    look();
+    EXPECT_EQ(frame.scale, view.camera.scale());
+    EXPECT_GE(frame.tiles.newImages.size(), 4U);
+}
+
+TEST_F(TilePyramidImagesTest, TilesThatComeOneByOneAreToldOfTogether) {
+    openWithoutServices();
+    int told = 0;
+    QObject::connect(pyramid.get(), &TilePyramid::changed, [&told] { ++told; });
+    look();
+    library->workers().wait(pyramid.get(), std::chrono::milliseconds(10'000));
+    EXPECT_GE(told, 1);
+    EXPECT_LE(told, 2) << "when the world is covered, and when the view is";
+    look();
+    EXPECT_GE(frame.tiles.newImages.size(), 4U);
+    const int atOnce = told;
+    EXPECT_TRUE(comesTrue([&] { return told > atOnce; })) << "the rest, a moment later";
+}
+
+} // namespace
+} // namespace vasker
