@@ -1,5 +1,6 @@
 #include "platform/files/PreferenceFile.h"
 
+#include "tests/platform/FileBytes.h"
 #include "tests/platform/HeldFolder.h"
 
 #include <QDir>
@@ -18,10 +19,7 @@ namespace {
 
 class PreferenceFileIn : public testing::Test {
   protected:
-    [[nodiscard]] QByteArray written() const {
-        QFile file(m_file.path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray written() const { return fileBytes(m_file.path()); }
     void write(const QByteArray& bytes) const {
         QFile file(m_file.path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -1,10 +1,10 @@
 #include "platform/files/PreferenceWriter.h"
 
 #include "platform/Background.h"
+#include "tests/platform/FileBytes.h"
 #include "tests/platform/HeldFolder.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -15,10 +15,7 @@ namespace {
 
 class PreferenceWriterIn : public testing::Test {
   protected:
-    [[nodiscard]] QByteArray written() const {
-        QFile file(m_file.path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray written() const { return fileBytes(m_file.path()); }
     /// What the writer says next that it wrote.
     PreferenceFile::Values told() {
         EXPECT_TRUE(!m_ended.isEmpty() || m_ended.wait(5'000));

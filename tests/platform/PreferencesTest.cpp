@@ -1,6 +1,7 @@
 #include "platform/files/Preferences.h"
 
 #include "platform/Background.h"
+#include "tests/platform/FileBytes.h"
 #include "tests/platform/HeldFolder.h"
 
 #include <QDir>
@@ -45,10 +46,7 @@ class PreferencesIn : public testing::Test {
         Preferences(path()).setText(key, text);
         EXPECT_TRUE(finishBackgroundWork());
     }
-    [[nodiscard]] QByteArray written() const {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray written() const { return fileBytes(path()); }
     void expectAChoiceThatCannotBeWrittenToCount() const {
         Preferences preferences(path());
         EXPECT_EQ(preferences.text(key), std::nullopt);

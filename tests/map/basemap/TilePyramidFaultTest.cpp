@@ -28,9 +28,7 @@ class TilePyramidFaultTest : public TilePyramidFixture {
         EXPECT_EQ(credits(), std::vector{archiveCredit});
     }
 
-    const QColor land = mapTheme(BasemapTheme::light).land;
     const QColor darkLand = mapTheme(BasemapTheme::dark).land;
-    const QColor water = mapTheme(BasemapTheme::light).water;
     const QByteArray sea = QByteArray::fromStdString(seaTile());
 };
 

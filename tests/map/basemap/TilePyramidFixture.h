@@ -3,6 +3,7 @@
 // and what the scene graph would have of it.
 
 #include "map/basemap/TilePyramid.h"
+#include "map/style/MapTheme.h"
 #include "tests/map/style/TileDataBuilder.h"
 #include "tests/map/tileservice/ServiceFixture.h"
 
@@ -37,6 +38,8 @@ class TilePyramidFixture : public ServiceFixture {
         const MapRect bounds = corner.bounds();
         return {CameraPose{{bounds.x, bounds.y}, scale, 0, 0}, viewport};
     }
+
+    void scaleTo(double factor) { view.camera = cameraAt(homeTile, factor * homeScale); }
 
     /// The archive: the whole world is land.
     void writeLand() { write({{{0, 0, 0}, landTile()}}); }
@@ -150,6 +153,8 @@ class TilePyramidFixture : public ServiceFixture {
         return texts;
     }
 
+    const QColor land = mapTheme(BasemapTheme::light).land;
+    const QColor water = mapTheme(BasemapTheme::light).water;
     TileArchivePaths archives;
     BasemapView view;
     std::chrono::nanoseconds now{0};

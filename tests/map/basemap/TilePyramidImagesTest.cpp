@@ -1,7 +1,6 @@
 // When the images of raster tiles are handed over, and when it is told that there are new ones.
 
 #include "map/basemap/TilePyramid.h"
-#include "map/style/MapTheme.h"
 #include "tests/map/basemap/TilePyramidFixture.h"
 
 #include <set>
@@ -12,11 +11,6 @@ namespace {
 class TilePyramidImagesTest : public TilePyramidFixture {
   protected:
     TilePyramidImagesTest() { writeLand(); }
-    ~TilePyramidImagesTest() override { close(); }
-
-    void scaleTo(double factor) { view.camera = cameraAt(homeTile, factor * homeScale); }
-
-    const QColor land = mapTheme(BasemapTheme::light).land;
 };
 
 TEST_F(TilePyramidImagesTest, AfterTexturesWereLostTheirImagesAreHandedOverAgain) {

@@ -33,11 +33,8 @@ class TilePyramidTest : public TilePyramidFixture {
     [[nodiscard]] bool isFading() const {
         return std::ranges::any_of(seen(), [](const SeenTile& tile) { return tile.opacity < 1; });
     }
-    void scaleTo(double factor) { view.camera = cameraAt(homeTile, factor * homeScale); }
 
     const std::shared_ptr<GatedOverlay> overlay = std::make_shared<GatedOverlay>();
-    const QColor land = mapTheme(BasemapTheme::light).land;
-    const QColor water = mapTheme(BasemapTheme::light).water;
 };
 
 TEST_F(TilePyramidTest, ShowsTheBasemapAtTheScaleOfTheView) {
