@@ -10,7 +10,7 @@
 namespace vasker {
 
 /// Surrounds a text whose line begins `Halo.reach` right of its left edge, and stands on
-/// `baseline`.
+/// `textBaseline`.
 class Halo : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

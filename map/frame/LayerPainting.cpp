@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace vasker {
@@ -66,6 +67,16 @@ std::vector<ColoredLine> linesOf(const LineLayer& layer, const QRectF& area) {
 }
 
 } // namespace
+
+void takeImages(TileLayer& layer, TileImages& images) {
+    std::erase_if(images, [&layer](const auto& entry) {
+        return !std::ranges::binary_search(layer.kept, entry.first);
+    });
+    for (TileImage& each : layer.newImages) {
+        images.insert_or_assign(each.tile, std::move(each.image));
+    }
+    layer.newImages.clear();
+}
 
 void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& images) {
     painter.save();

@@ -17,6 +17,9 @@ namespace vasker {
 
 using TileImages = std::map<TileNumber, QImage>;
 
+/// Images that `layer` hands over join `images`; those that it needs no longer leave.
+void takeImages(TileLayer& layer, TileImages& images);
+
 /// Tiles that have no image are passed over. What is tilted needs an engine that knows perspective,
 /// as that of images does.
 void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& images);

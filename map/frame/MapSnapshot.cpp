@@ -47,11 +47,7 @@ void MapSnapshot::compose() {
         return;
     }
     MapFrame frame = m_composer.compose(m_scene.state, m_scene.camera, {});
-    TileLayer& tiles = tileLayerOf(frame);
-    for (TileImage& image : tiles.newImages) {
-        m_drawing.tiles.insert_or_assign(image.tile, std::move(image.image));
-    }
-    tiles.newImages.clear();
+    takeImages(tileLayerOf(frame), m_drawing.tiles);
     const bool isComplete = frame.isComplete || m_scene.tiles == nullptr || !m_patience.isActive();
     if (isComplete && !frame.isUnfinished) {
         finish(std::move(frame));

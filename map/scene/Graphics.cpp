@@ -3,6 +3,8 @@
 #include "map/scene/Renderer.h"
 
 #include <QByteArray>
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -18,7 +20,6 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <filesystem>
 #include <utility>
 
 namespace vasker {
@@ -54,18 +55,14 @@ bool runsShaders(const QOpenGLContext& context) {
 /// is cheap: OpenGL on the processor, which is there in any case, takes long to load and much
 /// memory.
 bool hasGraphicsCard() {
-    namespace fs = std::filesystem;
     constexpr std::array ownDevices{
         "/dev/nvidiactl", "/dev/dxg", "/dev/mali0", "/dev/kgsl-3d0", "/dev/pvrsrvkm"};
-    std::error_code error;
-    const fs::directory_iterator rendering("/dev/dri", error);
-    return std::any_of(begin(rendering),
-                       end(rendering),
-                       [](const fs::directory_entry& device) {
-                           return device.path().filename().native().starts_with("renderD");
-                       }) ||
-           std::ranges::any_of(ownDevices,
-                               [&error](const char* device) { return fs::exists(device, error); });
+    return !QDir(QStringLiteral("/dev/dri"))
+                .entryList({QStringLiteral("renderD*")}, QDir::System)
+                .isEmpty() ||
+           std::ranges::any_of(ownDevices, [](const char* device) {
+               return QFile::exists(QString::fromLatin1(device));
+           });
 }
 
 enum class OpenGl { none, onProcessor, onCard };

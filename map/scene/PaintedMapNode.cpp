@@ -13,17 +13,6 @@ namespace vasker {
 
 namespace {
 
-/// Images that `layer` hands over join `tiles`; those that it needs no longer leave.
-void takeOver(TileLayer& layer, TileImages& tiles) {
-    std::erase_if(tiles, [&layer](const auto& entry) {
-        return !std::ranges::binary_search(layer.kept, entry.first);
-    });
-    for (TileImage& each : layer.newImages) {
-        tiles.insert_or_assign(each.tile, std::move(each.image));
-    }
-    layer.newImages.clear();
-}
-
 void paint(QPainter& painter, const MapFrame& frame, const TileImages& images) {
     for (const MapLayer& layer : frame.layers) {
         if (const auto* const background = std::get_if<BackgroundLayer>(&layer)) {
@@ -40,32 +29,38 @@ void paint(QPainter& painter, const MapFrame& frame, const TileImages& images) {
     }
 }
 
-/// Paints the rows of `image` from `from` to before `to`, of which nobody else touches any.
-void paintBand(QImage& image, int from, int to, const MapFrame& frame, const TileImages& images) {
-    uchar* const first = image.scanLine(from);
-    QImage band(first, image.width(), to - from, image.bytesPerLine(), image.format());
+/// Paints `band`, whose first row is row `top` of the map.
+void paintBand(QImage band, int top, const MapFrame& frame, const TileImages& images) {
     QPainter painter(&band);
-    painter.translate(0, -from);
+    painter.translate(0, -top);
     painter.scale(frame.devicePixels, frame.devicePixels);
     paint(painter, frame, images);
 }
 
 /// In bands side by side, one for each processor; it is not worth more than four.
 void paintInBands(QImage& image, const MapFrame& frame, const TileImages& images) {
-    const int count = std::clamp(QThread::idealThreadCount(), 1, 4);
-    const auto edge = [&image, count](int band) { return image.height() * band / count; };
+    const int count = std::clamp(QThread::idealThreadCount(), 1, std::min(4, image.height()));
+    uchar* const pixels = image.bits(); // once: the image counts such calls, and guards nothing
+    const auto paintOne = [&, pixels](int band) {
+        const int top = image.height() * band / count;
+        const int end = image.height() * (band + 1) / count;
+        const qsizetype stride = image.bytesPerLine();
+        paintBand(QImage(pixels + top * stride, image.width(), end - top, stride, image.format()),
+                  top,
+                  frame,
+                  images);
+    };
     QSemaphore painted;
-    image.bits(); // nothing is shared from here on
     for (int band = 1; band < count; ++band) {
         const auto work = [&, band] {
-            paintBand(image, edge(band), edge(band + 1), frame, images);
+            paintOne(band);
             painted.release();
         };
         if (!QThreadPool::globalInstance()->tryStart(work)) {
             work();
         }
     }
-    paintBand(image, 0, edge(1), frame, images);
+    paintOne(0);
     painted.acquire(count - 1);
 }
 
@@ -88,7 +83,7 @@ void PaintedMapNode::update(MapFrame& frame, QQuickWindow& window) {
     }
     for (MapLayer& layer : frame.layers) {
         if (auto* const tiles = std::get_if<TileLayer>(&layer)) {
-            takeOver(*tiles, m_tiles);
+            takeImages(*tiles, m_tiles);
         }
     }
     paintInBands(image, frame, m_tiles);
