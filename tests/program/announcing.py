@@ -34,18 +34,25 @@ class Reader:
         except GLib.Error:
             pass  # what it came from is gone
 
-    def hears(self, text):
-        while GLib.MainContext.default().iteration(False):
-            pass
-        return text in self.heard
-
     def expect_match(self, program, pattern):
-        """Something in which the pattern is found has been said."""
-        said = lambda: not self.hears("") and any(re.search(pattern, each) for each in self.heard)
-        program.wait(said, f"nothing like {pattern!r} is said, but {self.heard}")
+        """Something in which the pattern is found is said, after what was expected before."""
+
+        def said():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            for place, each in enumerate(self.heard):
+                if re.search(pattern, each):
+                    del self.heard[: place + 1]
+                    return True
+            return False
+
+        try:
+            program.wait(said, f"{pattern!r} is not said")
+        except Missed as missed:
+            raise Missed(f"{missed}, but {self.heard}") from None
 
     def expect(self, program, text):
-        program.wait(lambda: self.hears(text), f"{text!r} is not said, but {self.heard}")
+        self.expect_match(program, f"^{re.escape(text)}$")
 
 
 def a_reader_hears_what_happens(executable):
@@ -74,7 +81,7 @@ def a_release_that_cannot_be_shown_is_said(executable):
 def a_reader_that_knows_no_announcements_hears_a_notification(executable):
     with program_with_release(executable, RELEASE) as copy:
         with Reader("object:state-changed:showing") as reader, Program(copy) as program:
-            program.see(name="2 of 2 records")
+            reader.expect(program, "The map is open: 2 records")
             program.see(name=PROMPT).set_text("plant 1")
             reader.expect(program, "1 of 2 records")
             program.miss(role="notification")

@@ -31,7 +31,7 @@ def older_readers_hear_where_the_map_is_and_what_is_there(executable):
     """Both in one notification: the second would take the place of the first before that is read."""
     with program_with_release(executable, RELEASE) as copy:
         with Reader("object:state-changed:showing") as reader, Program(copy) as program:
-            program.see(name="2 of 2 records")
+            reader.expect(program, "The map is open: 2 records")
             canvas = program.see(id="open-map-canvas")
             canvas.focus()
             program.see(id="open-map-canvas", state="focused")
