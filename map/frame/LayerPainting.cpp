@@ -1,5 +1,7 @@
 #include "map/frame/LayerPainting.h"
 
+#include "map/frame/FlatPieces.h"
+
 #include <QPainter>
 #include <QPen>
 #include <QPolygonF>
@@ -24,11 +26,16 @@ struct ColoredLine {
     QColor color;
 };
 
+QRectF deviceArea(const QPainter& painter) {
+    return {0, 0, double(painter.device()->width()), double(painter.device()->height())};
+}
+
 /// What `painter` can reach of the item, and `margin` around it.
 QRectF reachOf(const QPainter& painter, double margin) {
-    const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
-    return painter.combinedTransform().inverted().mapRect(device).adjusted(
-        -margin, -margin, margin, margin);
+    return painter.combinedTransform()
+        .inverted()
+        .mapRect(deviceArea(painter))
+        .adjusted(-margin, -margin, margin, margin);
 }
 
 bool mayTouch(const QRectF& area, QPointF a, QPointF b) {
@@ -66,6 +73,37 @@ std::vector<ColoredLine> linesOf(const LineLayer& layer, const QRectF& area) {
     return lines;
 }
 
+/// Paints a part of `image`, its edges a little wider; `transform` leads to item pixels.
+void paintPart(QPainter& painter,
+               const QTransform& transform,
+               const QImage& image,
+               const QRectF& part) {
+    painter.save();
+    painter.setTransform(transform, true);
+    const bool keepsPixels = painter.combinedTransform().type() <= QTransform::TxTranslate;
+    const double edge = keepsPixels ? 0 : seamWidth / 2;
+    const QRectF target = part.adjusted(-edge, -edge, edge, edge);
+    painter.drawImage(target, image, target & QRectF(image.rect()));
+    painter.restore();
+}
+
+void paintTile(QPainter& painter, const QTransform& transform, const QImage& image) {
+    const QTransform toDevice = painter.combinedTransform();
+    std::vector<FlatPiece> pieces;
+    // Where pieces overlap, what fades would be seen twice.
+    if (!transform.isAffine() && painter.opacity() == 1) {
+        pieces = flatPieces(transform * toDevice, image.rect(), deviceArea(painter));
+    }
+    if (pieces.empty()) {
+        paintPart(painter, transform, image, image.rect());
+        return;
+    }
+    const QTransform fromDevice = toDevice.inverted();
+    for (const FlatPiece& piece : pieces) {
+        paintPart(painter, piece.transform * fromDevice, image, piece.part);
+    }
+}
+
 } // namespace
 
 void takeImages(TileLayer& layer, TileImages& images) {
@@ -97,13 +135,8 @@ void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& ima
         from.removeLast(); // it is closed
         QTransform transform;
         if (QTransform::quadToQuad(from, corners, transform)) {
-            painter.save();
             painter.setOpacity(static_cast<double>(quad.opacity));
-            painter.setTransform(transform, true);
-            const bool keepsPixels = painter.combinedTransform().type() <= QTransform::TxTranslate;
-            const double edge = keepsPixels ? 0 : seamWidth / 2;
-            painter.drawImage(whole.adjusted(-edge, -edge, edge, edge), image->second);
-            painter.restore();
+            paintTile(painter, transform, image->second);
         }
     }
     painter.restore();

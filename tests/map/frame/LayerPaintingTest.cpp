@@ -2,10 +2,12 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTransform>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <vector>
 
@@ -83,6 +85,81 @@ TEST(LayerPainting, LinesArePaintedAlikeInAWholePictureAndInBands) {
                                     whole.copy(0, from, pictureWidth, 25)),
                   2)
             << from;
+    }
+}
+
+/// Four raster tiles of 128 pixels around a corner, tilted and rotated by degrees.
+TileLayer tiltedTiles(double tilt) {
+    QTransform transform;
+    transform.translate(pictureWidth / 2, pictureHeight / 2);
+    transform.rotate(tilt, Qt::XAxis);
+    transform.rotate(30);
+    TileLayer layer;
+    for (const QPointF corner : {QPointF(-128, -128), {0, -128}, {-128, 0}, {0, 0}}) {
+        TileQuad quad{.tile = layer.quads.size() + 1};
+        const std::array offsets = {
+            QPointF(0, 0), QPointF(128, 0), QPointF(128, 128), QPointF(0, 128)};
+        for (std::size_t i = 0; i < offsets.size(); ++i) {
+            const QPointF place = transform.map(corner + offsets.at(i));
+            quad.corners.at(i) = {place.x(), place.y(), 1};
+        }
+        layer.quads.push_back(quad);
+    }
+    return layer;
+}
+
+/// The same image for each of them.
+QImage paintedTiles(const TileLayer& layer, const QImage& image) {
+    TileImages images;
+    for (const TileQuad& quad : layer.quads) {
+        images.emplace(quad.tile, image);
+    }
+    QImage picture(pictureWidth, pictureHeight, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QPainter painter(&picture);
+    paintTiles(painter, layer, images);
+    return picture;
+}
+
+TEST(LayerPainting, NothingShowsBetweenTiltedTiles) {
+    QImage tile(128, 128, QImage::Format_RGB32);
+    tile.fill(Qt::blue);
+    for (const double tilt : {0.5, 4.0, 20.0, 45.0, 60.0}) {
+        const QImage picture = paintedTiles(tiltedTiles(tilt), tile);
+        for (int y = 70; y < 130; ++y) {
+            for (int x = 90; x < 210; ++x) {
+                ASSERT_EQ(picture.pixelColor(x, y), Qt::blue) << tilt << ": " << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST(LayerPainting, ATiltedTileLooksAsInPerspective) {
+    QImage tile(128, 128, QImage::Format_RGB32);
+    for (int y = 0; y < tile.height(); ++y) {
+        for (int x = 0; x < tile.width(); ++x) {
+            tile.setPixel(x, y, qRgb(2 * x, 2 * y, 0)); // two steps of colour a pixel
+        }
+    }
+    for (const double tilt : {4.0, 20.0, 45.0}) {
+        TileLayer layer = tiltedTiles(tilt);
+        const QImage inPieces = paintedTiles(layer, tile);
+        for (TileQuad& quad : layer.quads) {
+            quad.opacity = 0.999F; // as one, because it fades
+        }
+        const QImage asOne = paintedTiles(layer, tile);
+        for (int y = 70; y < 130; ++y) {
+            for (int x = 90; x < 210; ++x) {
+                const QRgb a = inPieces.pixel(x, y);
+                const QRgb b = asOne.pixel(x, y);
+                const bool isAtAnEdge = std::max({qRed(a), qRed(b), qGreen(a), qGreen(b)}) > 240 ||
+                                        std::min({qRed(a), qRed(b), qGreen(a), qGreen(b)}) < 14;
+                if (!isAtAnEdge) {
+                    ASSERT_NEAR(qRed(a), qRed(b), 5) << tilt << ": " << x << ", " << y;
+                    ASSERT_NEAR(qGreen(a), qGreen(b), 5) << tilt << ": " << x << ", " << y;
+                }
+            }
+        }
     }
 }
 
