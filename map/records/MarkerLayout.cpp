@@ -1,15 +1,11 @@
 #include "map/records/MarkerLayout.h"
 
 #include "map/geometry/PointGrid.h"
-#include "presentation/Symbols.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
-#include <string_view>
-#include <unordered_map>
-#include <utility>
 
 namespace vasker {
 
@@ -85,12 +81,18 @@ class DotCover {
             return false;
         }));
     }
-    [[nodiscard]] bool isCovered(MapPoint place) const {
-        return std::any_of(m_near.begin(), m_near.end(), [&](const Disc& dot) {
+    [[nodiscard]] bool isCovered(MapPoint place) {
+        const auto covers = [&](const Disc& dot) {
             const double dx = place.x - dot.center.x;
             const double dy = place.y - dot.center.y;
             return dx * dx + dy * dy <= dot.radius * dot.radius;
-        });
+        };
+        const auto found = std::find_if(m_near.begin(), m_near.end(), covers);
+        if (found == m_near.end()) {
+            return false;
+        }
+        std::iter_swap(m_near.begin(), found); // what is asked next lies beside this place
+        return true;
     }
 
     double m_scale; ///< logical pixels per map point
@@ -103,32 +105,20 @@ class DotCover {
 } // namespace
 
 std::vector<Marker> markersByPriority(const RecordSet& records) {
-    const auto& assets = records.loaded->index.release().assets;
-    std::unordered_map<std::string_view, std::size_t> frequency;
-    for (const auto& asset : assets) {
-        frequency[asset.kind] += asset.hasRoute() ? 0U : 1U;
-    }
-    struct Candidate {
-        Marker marker;
-        std::size_t frequency;
-    };
-    std::vector<Candidate> candidates;
-    candidates.reserve(records.filtered->size());
+    const LoadedRelease& loaded = *records.loaded;
+    const auto& assets = loaded.index.release().assets;
+    std::vector<std::vector<Marker>> ofRank(loaded.ranks.count());
     for (const AssetIndex index : *records.filtered) {
         if (!assets[index].hasRoute()) {
-            candidates.push_back({{index,
-                                   records.loaded->geometry.points()[index],
-                                   !hasOwnSymbol(assets[index].kind)},
-                                  frequency[assets[index].kind]});
+            const std::size_t rank = loaded.ranks.rank(index);
+            ofRank[rank].push_back(
+                {index, loaded.geometry.points()[index], loaded.ranks.isQuiet(rank)});
         }
     }
-    std::stable_sort(candidates.begin(), candidates.end(), [](const auto& a, const auto& b) {
-        return std::pair(a.marker.isQuiet, a.frequency) < std::pair(b.marker.isQuiet, b.frequency);
-    });
     std::vector<Marker> markers;
-    markers.reserve(candidates.size());
-    for (const Candidate& candidate : candidates) {
-        markers.push_back(candidate.marker);
+    markers.reserve(records.filtered->size());
+    for (const std::vector<Marker>& each : ofRank) {
+        markers.insert(markers.end(), each.begin(), each.end());
     }
     return markers;
 }

@@ -40,6 +40,24 @@ TEST(MarkerLayout, RarerKindsComeFirstThenTheOrderOfTheList) {
     EXPECT_EQ(assetsOf(markersByPriority(records)), (std::vector<AssetIndex>{2, 0, 1}));
 }
 
+TEST(MarkerLayout, EquallyRareKindsKeepTheOrderOfTheList) {
+    const RecordSet records = recordSetOf({facilityAt(50, -110, "storage"),
+                                           facilityAt(51, -111, "terminal"),
+                                           facilityAt(52, -112, "storage"),
+                                           facilityAt(53, -113, "terminal"),
+                                           facilityAt(54, -114, "lng_plant")});
+    EXPECT_EQ(assetsOf(markersByPriority(records)), (std::vector<AssetIndex>{4, 0, 1, 2, 3}));
+}
+
+TEST(MarkerLayout, RarityIsCountedInTheWholeRelease) {
+    RecordSet records = recordSetOf({facilityAt(50, -110, "storage"),
+                                     facilityAt(51, -111, "storage"),
+                                     facilityAt(52, -112, "terminal")});
+    records.filtered =
+        std::make_shared<const std::vector<AssetIndex>>(std::vector<AssetIndex>{0, 2});
+    EXPECT_EQ(assetsOf(markersByPriority(records)), (std::vector<AssetIndex>{2, 0}));
+}
+
 TEST(MarkerLayout, AKindWithoutAnIconComesLastAndIsQuiet) {
     const RecordSet records = recordSetOf({facilityAt(50, -110, "battery"),
                                            facilityAt(51, -111, "gas_plant"),
