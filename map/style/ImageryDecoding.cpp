@@ -19,22 +19,24 @@ bool hasItsEnd(QByteArrayView bytes, QByteArrayView format) {
                              : true;
 }
 
+std::string_view asView(const QByteArray& bytes) {
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
 bool hasTooManyScans(const QByteArray& bytes, QByteArrayView format) {
-    return format == "jpeg" &&
-           jpegScans({bytes.constData(), static_cast<std::size_t>(bytes.size())},
-                     maximumImageryScans) > maximumImageryScans;
+    return format == "jpeg" && jpegScans(asView(bytes), maximumImageryScans) > maximumImageryScans;
 }
 
 } // namespace
 
 QImage decodedImagery(const QByteArray& bytes) {
-    const char* const format =
-        imageryFormat({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    const char* const format = imageryFormat(asView(bytes));
     if (format == nullptr || !hasItsEnd(bytes, format) || hasTooManyScans(bytes, format)) {
         return {};
     }
+    const bool isPng = format == QByteArrayView("png");
     QBuffer buffer;
-    buffer.setData(bytes);
+    buffer.setData(isPng ? QByteArray::fromStdString(pngPixels(asView(bytes))) : bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);

@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QImageWriter>
+#include <QtEndian>
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,25 @@ TEST(ImageryDecoding, AHeaderThatLiesOfItsSizeCostsThePicture) {
         jpeg[frame + i] = '\xff';
     }
     EXPECT_TRUE(decodedImagery(jpeg).isNull());
+}
+
+/// A chunk of a PNG image.
+QByteArray chunk(const QByteArray& type, const QByteArray& data) {
+    QByteArray bytes(8, '\0');
+    qToBigEndian(static_cast<quint32>(data.size()), bytes.data());
+    qToBigEndian(checksumOf(type + data), bytes.data() + 4);
+    return bytes.first(4) + type + data + bytes.last(4);
+}
+
+TEST(ImageryDecoding, TextsInAPngImageTakeNoMemory) {
+    const QByteArray deflated = qCompress(QByteArray(1'000'000, 'a')).mid(4);
+    const QByteArray text = chunk("zTXt", QByteArray("key\0\0", 5) + deflated);
+    QByteArray png = encoded(gradient(64, 64), "png");
+    png.insert(png.indexOf("IDAT") - 4, text.repeated(100));
+    png.insert(png.size() - 12, text.repeated(100));
+    const QImage image = decodedImagery(png);
+    EXPECT_EQ(image, gradient(64, 64));
+    EXPECT_TRUE(image.textKeys().isEmpty());
 }
 
 TEST(ImageryDecoding, HalfAPictureIsNone) {

@@ -34,5 +34,32 @@ TEST(ImageryFormat, ScansAreCountedUpToTheirBound) {
     EXPECT_EQ(jpegScans(scan + scan + scan, 1), 2);
 }
 
+/// A chunk of a PNG image, with a checksum that nobody checks here.
+std::string chunk(std::string_view type, std::string_view data = "") {
+    return std::string(3, '\0') + static_cast<char>(data.size()) + std::string(type) +
+           std::string(data) + "sum.";
+}
+
+TEST(ImageryFormat, OfAPngImageThePixelsAreTaken) {
+    const std::string start = "\x89PNG\r\n\x1a\n" + chunk("IHDR", "head");
+    const std::string pixels = chunk("PLTE", "rgb") + chunk("tRNS", "a") + chunk("IDAT", "pixels");
+    const std::string end = chunk("IEND");
+    const std::string texts = chunk("zTXt", "text") + chunk("iTXt") + chunk("tEXt", "t") +
+                              chunk("iCCP", "profile") + chunk("sPLT") + chunk("gAMA");
+    EXPECT_EQ(pngPixels(start + pixels + end), start + pixels + end);
+    EXPECT_EQ(pngPixels(start + texts + pixels + texts + end + texts), start + pixels + end);
+}
+
+TEST(ImageryFormat, APngImageThatBreaksOffEndsWithItsLastWholeChunk) {
+    const std::string start = "\x89PNG\r\n\x1a\n" + chunk("IHDR", "head");
+    const std::string last = chunk("IDAT", "pixels");
+    for (std::size_t size = 0; size < last.size(); ++size) {
+        EXPECT_EQ(pngPixels(start + last.substr(0, size)), start) << size;
+    }
+    EXPECT_EQ(pngPixels(start + "\xff\xff\xff\xffIDAT...."), start);
+    EXPECT_EQ(pngPixels(""), "");
+    EXPECT_EQ(pngPixels("\x89PNG"), "\x89PNG");
+}
+
 } // namespace
 } // namespace vasker
