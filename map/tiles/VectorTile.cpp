@@ -10,19 +10,23 @@ const VectorLayer* VectorTile::layer(std::string_view name) const noexcept {
     return found == layers.end() ? nullptr : &*found;
 }
 
+std::size_t VectorFeature::memoryBytes() const noexcept {
+    std::size_t bytes = sizeof(VectorFeature) + parts.capacity() * sizeof(std::vector<TilePoint>);
+    for (const auto& part : parts) {
+        bytes += part.capacity() * sizeof(TilePoint);
+    }
+    for (const std::string* text : {&kind, &name, &nameEnglish, &nameFrench}) {
+        bytes += text->size();
+    }
+    return bytes;
+}
+
 std::size_t VectorTile::memoryBytes() const noexcept {
     std::size_t bytes = 0;
     for (const VectorLayer& layer : layers) {
-        bytes += layer.features.capacity() * sizeof(VectorFeature);
+        bytes += (layer.features.capacity() - layer.features.size()) * sizeof(VectorFeature);
         for (const VectorFeature& feature : layer.features) {
-            bytes += feature.parts.capacity() * sizeof(std::vector<TilePoint>);
-            for (const auto& part : feature.parts) {
-                bytes += part.capacity() * sizeof(TilePoint);
-            }
-            for (const std::string* text :
-                 {&feature.kind, &feature.name, &feature.nameEnglish, &feature.nameFrench}) {
-                bytes += text->size();
-            }
+            bytes += feature.memoryBytes();
         }
     }
     return bytes;

@@ -39,6 +39,9 @@ struct VectorFeature {
     bool rail = false;
     bool link = false;
     bool tunnel = false;
+
+    /// About what the feature takes of memory.
+    [[nodiscard]] std::size_t memoryBytes() const noexcept;
 };
 
 struct VectorLayer {

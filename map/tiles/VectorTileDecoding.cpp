@@ -143,6 +143,19 @@ Integer integerOf(const Value& value) {
     return static_cast<Integer>(std::clamp(realOf(value), -largest, largest));
 }
 
+void spend(std::size_t& left, std::size_t cost) {
+    if (cost > left) {
+        throw protozero::invalid_length_exception{};
+    }
+    left -= cost;
+}
+
+/// What a tile may take, in bytes: its texts, and all of it.
+struct Allowance {
+    std::size_t texts;
+    std::size_t memory;
+};
+
 /// What a layer says before its features can be read; keys and values may follow them.
 struct LayerHead {
     std::string_view name;
@@ -152,8 +165,9 @@ struct LayerHead {
     std::size_t featureCount = 0;
 };
 
-LayerHead readHead(protozero::data_view bytes) {
+LayerHead readHead(protozero::data_view bytes, Allowance& allowance) {
     LayerHead head;
+    spend(allowance.memory, sizeof(VectorLayer));
     protozero::pbf_message<LayerField> message(bytes);
     while (message.next()) {
         switch (message.tag_and_type()) {
@@ -167,6 +181,7 @@ LayerHead readHead(protozero::data_view bytes) {
             head.keys.push_back(attributeOf(textOf(message.get_view())));
             break;
         case field(LayerField::values, Wire::length_delimited):
+            spend(allowance.memory, sizeof(Value));
             head.values.push_back(readValue(message.get_view()));
             break;
         case field(LayerField::features, Wire::length_delimited):
@@ -182,8 +197,8 @@ LayerHead readHead(protozero::data_view bytes) {
 
 class FeatureReader {
   public:
-    FeatureReader(const LayerHead& head, std::size_t& textBytesLeft)
-        : m_head(head), m_textBytesLeft(textBytesLeft) {}
+    FeatureReader(const LayerHead& head, Allowance& allowance)
+        : m_head(head), m_allowance(allowance) {}
 
     /// Nothing where the feature is passed over.
     std::optional<VectorFeature> read(protozero::data_view bytes) {
@@ -215,6 +230,7 @@ class FeatureReader {
         if (feature.parts.empty()) {
             return std::nullopt;
         }
+        spend(m_allowance.memory, feature.memoryBytes());
         readAttributes(tags, feature);
         return feature;
     }
@@ -286,27 +302,26 @@ class FeatureReader {
         if (text == nullptr || text->size() > longestText) {
             return;
         }
-        if (text->size() > m_textBytesLeft) {
-            throw protozero::invalid_length_exception{};
-        }
-        m_textBytesLeft -= text->size();
+        spend(m_allowance.texts, text->size());
         field = *text;
     }
 
     const LayerHead& m_head;
-    std::size_t& m_textBytesLeft;
+    Allowance& m_allowance;
 };
 
 /// Nothing where the layer is passed over.
-std::optional<VectorLayer> readLayer(protozero::data_view bytes, std::size_t& textBytesLeft) {
-    const LayerHead head = readHead(bytes);
+std::optional<VectorLayer> readLayer(protozero::data_view bytes, Allowance& allowance) {
+    const LayerHead head = readHead(bytes, allowance);
     if (head.name.empty() || head.name.size() > longestText || head.extent == 0 ||
         head.extent > maximumExtent) {
         return std::nullopt;
     }
     VectorLayer layer{std::string(head.name), {}};
-    layer.features.reserve(std::min(head.featureCount, bytes.size() / smallestFeatureBytes));
-    FeatureReader reader(head, textBytesLeft);
+    layer.features.reserve(std::min({head.featureCount,
+                                     bytes.size() / smallestFeatureBytes,
+                                     allowance.memory / sizeof(VectorFeature)}));
+    FeatureReader reader(head, allowance);
     protozero::pbf_message<LayerField> message(bytes);
     while (message.next(LayerField::features, Wire::length_delimited)) {
         if (auto feature = reader.read(message.get_view())) {
@@ -322,13 +337,13 @@ std::optional<VectorTile> decodeVectorTile(std::string_view inflated) {
     if (inflated.size() > maximumTileBytes) {
         return std::nullopt;
     }
-    std::size_t textBytesLeft = textBytesPerByte * inflated.size();
+    Allowance allowance{.texts = textBytesPerByte * inflated.size(), .memory = maximumDecodedBytes};
     VectorTile tile;
     try {
         protozero::pbf_message<TileField> message(inflated.data(), inflated.size());
         while (message.next()) {
             if (message.tag_and_type() == field(TileField::layers, Wire::length_delimited)) {
-                if (auto layer = readLayer(message.get_view(), textBytesLeft)) {
+                if (auto layer = readLayer(message.get_view(), allowance)) {
                     tile.layers.push_back(std::move(*layer));
                 }
             } else {

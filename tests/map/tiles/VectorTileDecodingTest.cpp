@@ -252,6 +252,32 @@ TEST(VectorTile, ATileThatRepeatsOneTextToFillMemoryIsRefused) {
     EXPECT_FALSE(decodeVectorTile(bytesOf(std::vector{layer})).has_value());
 }
 
+std::string repeated(std::uint32_t field, const std::string& message, std::size_t times) {
+    std::string bytes;
+    pbf_writer writer(bytes);
+    for (; times > 0; --times) {
+        writer.add_message(field, message);
+    }
+    return bytes;
+}
+
+TEST(VectorTile, ATileIsDecodedUpToItsMemoryAndNotBeyond) {
+    const auto decoded = [](std::size_t features) {
+        return decodeVectorTile(
+            bytesOf(std::vector{Layer{"x", std::vector<Feature>(features, aPoint)}}));
+    };
+    const std::size_t most = maximumDecodedBytes / decoded(1).value().memoryBytes();
+    EXPECT_LE(decoded(most - 1).value().memoryBytes(), maximumDecodedBytes);
+    EXPECT_FALSE(decoded(most + 1).has_value());
+}
+
+TEST(VectorTile, ValuesAndLayersCountAsMemoryOfATile) {
+    const std::string name = "\x0a\x01x";
+    EXPECT_FALSE(decodeVectorTile(repeated(3, name + repeated(4, "", 3'000'000), 1)).has_value());
+    EXPECT_FALSE(decodeVectorTile(repeated(3, name, 1'300'000)).has_value());
+    EXPECT_TRUE(decodeVectorTile(repeated(3, name + repeated(4, "", 1'000), 1'000)).has_value());
+}
+
 TEST(VectorTile, GeometryThatBreaksOffCostsTheFeature) {
     const std::vector<Numbers> broken{
         {},
@@ -362,14 +388,7 @@ TEST(VectorTile, FieldsOfAnotherTypeArePassedOver) {
 }
 
 TEST(VectorTile, AMillionEmptyFeaturesAreNone) {
-    std::string layer;
-    pbf_writer writer(layer);
-    writer.add_string(1, "x");
-    for (int i = 0; i < 1'000'000; ++i) {
-        writer.add_message(2, std::string());
-    }
-    std::string bytes;
-    pbf_writer(bytes).add_message(3, layer);
+    const std::string bytes = repeated(3, "\x0a\x01x" + repeated(2, "", 1'000'000), 1);
     const auto tile = decodeVectorTile(bytes);
     ASSERT_TRUE(tile.has_value());
     EXPECT_TRUE(tile->layer("x")->features.empty());
