@@ -14,6 +14,8 @@ namespace {
 
 /// Sources cut long lakes in two and name both: within this many pixels one label is enough.
 constexpr double sameTextPixels = 300;
+/// Of these the labels are taken: others repeat them, or have no name.
+constexpr std::ptrdiff_t mostCandidates = 3'000;
 /// A water without rank is labelled when it is about this many pixels across.
 constexpr double labelledWaterPixels = 48;
 constexpr double never = 99; ///< a zoom that no map reaches
@@ -153,31 +155,62 @@ std::optional<MapPoint> pointIn(TileKey key, TileKey dataKey, const VectorFeatur
     return isInside ? std::optional(point) : std::nullopt;
 }
 
-/// Without the later of two equal texts near each other.
-std::vector<PlaceLabel> withoutRepetition(std::vector<PlaceLabel> labels, double distance) {
-    QHash<std::pair<QString, std::pair<qint64, qint64>>, std::vector<MapPoint>> kept;
-    const auto isRepeated = [&](const PlaceLabel& label, qint64 column, qint64 row) {
-        for (qint64 y = row - 1; y <= row + 1; ++y) {
-            for (qint64 x = column - 1; x <= column + 1; ++x) {
-                for (const MapPoint& point : kept.value({label.text, {x, y}})) {
-                    if (std::hypot(point.x - label.point.x, point.y - label.point.y) < distance) {
-                        return true;
+/// The texts that were kept, each with its places, and whether another one is near.
+class KeptTexts {
+  public:
+    explicit KeptTexts(double distance) noexcept : m_distance(distance) {}
+
+    /// Keeps the text; whether there was no equal one near it.
+    bool keep(const QString& text, MapPoint point) {
+        const Cell own{static_cast<qint64>(point.x / m_distance),
+                       static_cast<qint64>(point.y / m_distance)};
+        for (qint64 y = own.second - 1; y <= own.second + 1; ++y) {
+            for (qint64 x = own.first - 1; x <= own.first + 1; ++x) {
+                for (const MapPoint& other : m_kept.value({text, {x, y}})) {
+                    if (std::hypot(other.x - point.x, other.y - point.y) < m_distance) {
+                        return false;
                     }
                 }
             }
         }
-        return false;
-    };
-    std::erase_if(labels, [&](const PlaceLabel& label) {
-        const auto column = static_cast<qint64>(label.point.x / distance);
-        const auto row = static_cast<qint64>(label.point.y / distance);
-        if (isRepeated(label, column, row)) {
-            return true;
+        m_kept[{text, own}].push_back(point);
+        return true;
+    }
+
+  private:
+    using Cell = std::pair<qint64, qint64>;
+
+    double m_distance;
+    QHash<std::pair<QString, Cell>, std::vector<MapPoint>> m_kept;
+};
+
+/// A place that may get a label.
+struct PlaceCandidate {
+    const VectorFeature* feature;
+    MapPoint point;
+    Kind kind;
+    double priority;
+};
+
+std::vector<PlaceCandidate> placeCandidates(const TileData& data, const TileRequest& request) {
+    std::vector<PlaceCandidate> found;
+    const double zoom = request.zoom();
+    for (const VectorLayer& layer : data.vector->layers) {
+        for (const VectorFeature& feature : layer.features) {
+            const std::optional<Appearance> appearance = appearanceOf(layer.name, feature);
+            if (!appearance || zoom < appearance->firstZoom || zoom >= appearance->lastZoom) {
+                continue;
+            }
+            if (const auto point = pointIn(request.key, data.vectorKey, feature)) {
+                found.push_back({&feature, *point, appearance->kind, appearance->priority});
+            }
         }
-        kept[{label.text, {column, row}}].push_back(label.point);
-        return false;
-    });
-    return labels;
+    }
+    std::ranges::stable_sort(found, {}, &PlaceCandidate::priority);
+    if (std::ssize(found) > mostCandidates) {
+        found.erase(found.begin() + mostCandidates, found.end());
+    }
+    return found;
 }
 
 } // namespace
@@ -185,26 +218,21 @@ std::vector<PlaceLabel> withoutRepetition(std::vector<PlaceLabel> labels, double
 std::vector<PlaceLabel>
 placeLabels(const TileData& data, const TileRequest& request, MapLanguage language) {
     std::vector<PlaceLabel> labels;
-    const double zoom = request.zoom();
-    if (!data.vector || !std::isfinite(zoom)) {
+    if (!data.vector || !std::isfinite(request.zoom())) {
         return labels;
     }
-    for (const VectorLayer& layer : data.vector->layers) {
-        for (const VectorFeature& feature : layer.features) {
-            const std::optional<Appearance> appearance = appearanceOf(layer.name, feature);
-            if (!appearance || zoom < appearance->firstZoom || zoom >= appearance->lastZoom) {
-                continue;
-            }
-            const std::optional<MapPoint> point = pointIn(request.key, data.vectorKey, feature);
-            QString text = point ? textOf(feature, language) : QString();
-            if (!text.isEmpty()) {
-                labels.push_back({std::move(text), *point, appearance->kind, appearance->priority});
-            }
+    const double pixelsPerMapPoint = request.devicePixelsPerMapPoint / request.devicePixelsPerPixel;
+    KeptTexts kept(sameTextPixels / pixelsPerMapPoint);
+    for (const PlaceCandidate& place : placeCandidates(data, request)) {
+        QString text = textOf(*place.feature, language);
+        if (!text.isEmpty() && kept.keep(text, place.point)) {
+            labels.push_back({std::move(text), place.point, place.kind, place.priority});
+        }
+        if (labels.size() == mostPlaceLabels) {
+            break;
         }
     }
-    std::ranges::stable_sort(labels, {}, &PlaceLabel::priority);
-    const double pixelsPerMapPoint = request.devicePixelsPerMapPoint / request.devicePixelsPerPixel;
-    return withoutRepetition(std::move(labels), sameTextPixels / pixelsPerMapPoint);
+    return labels;
 }
 
 } // namespace vasker

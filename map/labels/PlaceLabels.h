@@ -6,12 +6,16 @@
 #include "map/style/TileData.h"
 #include "map/style/TileRequest.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace vasker {
 
+/// Of a tile. More do not find room in it: the smallest label takes some 40 by 14 pixels.
+inline constexpr std::size_t mostPlaceLabels = 300;
+
 /// The labels of the places whose points lie in the request's tile and that its zoom shows, by
-/// priority. Any thread.
+/// priority, mostPlaceLabels at most. Any thread.
 [[nodiscard]] std::vector<PlaceLabel>
 placeLabels(const TileData& data, const TileRequest& request, MapLanguage language);
 

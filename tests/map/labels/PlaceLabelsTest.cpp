@@ -140,6 +140,23 @@ TEST(PlaceLabels, ALabelIsNotRepeatedNearByButFarAway) {
     EXPECT_EQ(textsOf(data, requestFor(tile, 5)).size(), 2U);
 }
 
+TEST(PlaceLabels, TheMostImportantOfAsManyAsFindRoomAreTaken) {
+    std::vector<VectorFeature> places;
+    for (int i = 0; i < 5'000; ++i) {
+        const auto x = static_cast<float>(i) / 5'000;
+        places.push_back(place(std::to_string(i).c_str(), {x, 0.5F}, "city", i < 4'000 ? 2 : 1));
+    }
+    const std::vector<QString> texts = textsOf(dataOf(places), requestFor(tile, 5));
+    ASSERT_EQ(texts.size(), mostPlaceLabels);
+    EXPECT_EQ(texts.front(), QStringLiteral("4000"));
+    EXPECT_EQ(texts.back(), QStringLiteral("4299"));
+}
+
+TEST(PlaceLabels, OfVeryManyThatRepeatOneTextOneIsTaken) {
+    const std::vector<VectorFeature> places(200'000, place("again", {0.5F, 0.5F}));
+    EXPECT_EQ(textsOf(dataOf(places), requestFor(tile, 5)).size(), 1U);
+}
+
 TEST(PlaceLabels, WhatHasNoNameNoPlaceOrAnUnknownKindIsPassedOver) {
     constexpr float nan = std::numeric_limits<float>::quiet_NaN();
     VectorFeature nowhere = place("nowhere", {0.5F, 0.5F});
