@@ -81,6 +81,12 @@ double outlineCost(const Measure& measure, double times) {
 
 } // namespace
 
+double clipCost(std::size_t points) noexcept {
+    constexpr double partCost = 1;
+    constexpr double clippedPointCost = 0.25;
+    return partCost + clippedPointCost * static_cast<double>(points);
+}
+
 double fillCost(std::span<const QPolygonF> rings) {
     return pieceCost * static_cast<double>(rings.size()) + outlineCost(measured(rings), 1);
 }

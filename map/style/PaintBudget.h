@@ -4,6 +4,7 @@
 
 #include <QPolygonF>
 
+#include <cstddef>
 #include <span>
 
 namespace vasker {
@@ -13,6 +14,9 @@ namespace vasker {
 [[nodiscard]] double fillCost(std::span<const QPolygonF> rings);
 /// What drawing these lines at once takes, `width` device pixels wide.
 [[nodiscard]] double strokeCost(std::span<const QPolygonF> lines, double width);
+
+/// What finding the part of a ring or line takes that lies in a raster tile, wherever it runs.
+[[nodiscard]] double clipCost(std::size_t points) noexcept;
 
 class PaintBudget {
   public:

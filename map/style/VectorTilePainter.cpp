@@ -107,7 +107,9 @@ class VectorTilePainter {
             m_painter.setPen(penOf(color, widthOf(layer), Qt::RoundCap));
             for (const Feature& feature : features) {
                 for (const std::vector<TilePoint>& part : feature.data->parts) {
-                    draw(m_clip.outline(part));
+                    if (mayClip(part)) {
+                        draw(m_clip.outline(part));
+                    }
                 }
             }
             break;
@@ -134,9 +136,17 @@ class VectorTilePainter {
         return (width + 2 * layer.casing) * m_density;
     }
 
+    /// Whether the budget holds it.
+    bool mayClip(const std::vector<TilePoint>& part) {
+        return m_budget.spend(clipCost(part.size()));
+    }
+
     const std::vector<QPolygonF>& lines(Feature& feature) {
         if (feature.lines.empty()) {
             for (const std::vector<TilePoint>& part : feature.data->parts) {
+                if (!mayClip(part)) {
+                    break;
+                }
                 for (QPolygonF& piece : m_clip.line(part)) {
                     feature.lines.push_back(std::move(piece));
                 }
@@ -148,6 +158,9 @@ class VectorTilePainter {
     void fill(const VectorFeature& feature) {
         std::vector<QPolygonF> rings;
         for (const std::vector<TilePoint>& part : feature.parts) {
+            if (!mayClip(part)) {
+                return;
+            }
             QPolygonF ring = m_clip.ring(part);
             if (!ring.empty()) {
                 ring.append(ring.front());

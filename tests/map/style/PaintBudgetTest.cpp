@@ -154,6 +154,21 @@ TEST(PaintBudget, ATileIsPaintedUpToItsBudgetAndNotBeyond) {
     EXPECT_GT(zigzagSea(refused).cost(), outlineBudget * 512);
 }
 
+/// A sea whose shore runs up and down so often, west of the tile but for one corner beyond it.
+PaintedTile seaBeside(int points) {
+    std::vector<TilePoint> shore{{-20, -20}, {20, -20}};
+    for (int i = 0; i < points; ++i) {
+        shore.push_back({i % 2 == 0 ? -20.0F : -10.0F, static_cast<float>(i % 3)});
+    }
+    return {{6, 12, 20}, {{"ocean", {onePart(VectorFeature::Geometry::polygon, "", shore)}}}};
+}
+
+TEST(PaintBudget, WhatRunsBesideATileIsCountedToo) {
+    EXPECT_GT(seaBeside(100'000).cost(), 20'000);
+    EXPECT_FALSE(seaBeside(100'000).isRefused());
+    EXPECT_TRUE(seaBeside(4'000'000).isRefused());
+}
+
 TEST(PaintBudget, ALineThatIsDrawnInPiecesHasNoGap) {
     constexpr int crossings = 20;
     std::vector<TilePoint> way;
