@@ -6,6 +6,7 @@
 #include <QTimeZone>
 
 #include <chrono>
+#include <cstdlib>
 #include <string_view>
 
 namespace vasker {
@@ -161,10 +162,16 @@ std::optional<TileCache::Entry> TileCache::find(const QString& address, const QD
                  .entityTag = bytesOf(query.bytes(2)),
                  .lastModified = bytesOf(query.bytes(3))};
         const qint64 seconds = now.toSecsSinceEpoch();
-        if (m_isWritable && seconds - query.number(4) > secondsBetweenLooks) {
+        const qint64 sinceLook = seconds - query.number(4);
+        if (sinceLook < -secondsBetweenLooks) { // nobody knows how old it is
+            found->freshUntil = now;
+        }
+        if (m_isWritable && std::abs(sinceLook) > secondsBetweenLooks) {
             SqliteStatement update =
-                m_database.prepare("UPDATE tile SET looked_at=? WHERE address=?");
-            update.bind(1, seconds).bindBytes(2, viewOf(key));
+                m_database.prepare("UPDATE tile SET looked_at=?, fresh_until=? WHERE address=?");
+            update.bind(1, seconds)
+                .bind(2, found->freshUntil.toSecsSinceEpoch())
+                .bindBytes(3, viewOf(key));
             (void)update.run();
         }
     }

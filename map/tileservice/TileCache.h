@@ -29,7 +29,8 @@ class TileCache {
     TileCache(const TileCache&) = delete;
     TileCache& operator=(const TileCache&) = delete;
 
-    /// What is kept for `address`, fresh or not.
+    /// What is kept for `address`, fresh or not; not fresh where it was kept or seen in the future,
+    /// while the clock was wrong.
     [[nodiscard]] std::optional<Entry> find(const QString& address, const QDateTime& now);
     void keep(const QString& address, const Entry& entry, const QDateTime& now);
     /// The service says that the tile has not changed.

@@ -59,6 +59,23 @@ TEST_F(TileCacheTest, TheLatestHolds) {
     EXPECT_FALSE(cache.find(address(1), lastUse).has_value());
 }
 
+TEST_F(TileCacheTest, ATileFromTheFutureIsNotFresh) {
+    TileCache cache(folder.path(), 1'000'000);
+    TileCache::Entry ahead = entry("bytes");
+    ahead.freshUntil = lastUse.addYears(1).addDays(7);
+    cache.keep(address(1), ahead, lastUse.addYears(1)); // then the clock was set right
+    EXPECT_LE(cache.find(address(1), lastUse)->freshUntil, lastUse);
+    EXPECT_LE(cache.find(address(1), lastUse.addDays(2))->freshUntil, lastUse);
+    cache.refresh(address(1), lastUse.addDays(7));
+    EXPECT_EQ(cache.find(address(1), lastUse.addDays(3))->freshUntil, lastUse.addDays(7));
+}
+
+TEST_F(TileCacheTest, AClockThatIsSetBackALittleChangesNothing) {
+    TileCache cache(folder.path(), 1'000'000);
+    cache.keep(address(1), entry("bytes"), lastUse.addSecs(3'600));
+    EXPECT_EQ(cache.find(address(1), lastUse)->freshUntil, lastUse.addDays(7));
+}
+
 TEST_F(TileCacheTest, NeverGrowsBeyondItsBoundAndLosesWhatWasNotLookedAtLongest) {
     TileCache cache(folder.path(), 1'000'000);
     const QByteArray tile(30'000, 'x');
