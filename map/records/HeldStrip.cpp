@@ -14,7 +14,7 @@ HeldStrip::Placed HeldStrip::shown(const RecordGeometry& geometry,
     auto moved = shift(camera);
     if (!moved) {
         m_strip = std::make_shared<const LineStrip>(
-            routeStrip(geometry, runs, colors, camera, camera.isFlat() ? margin : 0));
+            routeStrip(geometry, runs, colors, camera, camera.isFlat() ? margin : 0, mostPixels));
         m_camera = camera;
         moved = ScreenPoint{0, 0};
     }

@@ -18,6 +18,10 @@ class HeldStrip {
     /// How far beyond the view of a map that is not tilted, in pixels, lines are held.
     static constexpr double margin = 256;
 
+    /// What its lines cost at most: a painter draws them anew in each frame. Twice what a network
+    /// of 1,500 lines costs that fills the view.
+    static constexpr double mostPixels = 200'000;
+
     struct Placed {
         std::shared_ptr<const LineStrip> strip;
         ScreenPoint offset; ///< of the strip in the item, in pixels

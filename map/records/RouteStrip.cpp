@@ -94,6 +94,14 @@ void drawPoint(Pen& pen, Vector point) {
     pen.end(point, east);
 }
 
+double screenLengthOf(std::span<const ScreenPoint> line) {
+    double length = 0;
+    for (std::size_t i = 1; i < line.size(); ++i) {
+        length += std::hypot(line[i].x - line[i - 1].x, line[i].y - line[i - 1].y);
+    }
+    return length;
+}
+
 void drawLine(Pen& pen, std::span<const ScreenPoint> line) {
     const auto at = [line](std::size_t i) { return Vector{line[i].x, line[i].y}; };
     if (line.size() == 1) {
@@ -120,7 +128,8 @@ LineStrip routeStrip(const RecordGeometry& geometry,
                      std::span<const RouteRun> runs,
                      const RouteColors& colors,
                      const Camera& camera,
-                     double margin) {
+                     double margin,
+                     double mostPixels) {
     LineStrip strip;
     const Viewport view = camera.viewport();
     const LineView screen{.project =
@@ -135,9 +144,12 @@ LineStrip routeStrip(const RecordGeometry& geometry,
                           .seen = camera.visibleRect(margin + lineReach),
                           .scale = camera.scale()};
     drawRouteLines(
-        geometry, runs, colors, screen, [&strip](Rgb color, std::span<const ScreenPoint> line) {
-            Pen pen(strip, color);
-            drawLine(pen, line);
+        geometry, runs, colors, screen, [&](Rgb color, std::span<const ScreenPoint> line) {
+            mostPixels -= lineCost + screenLengthOf(line);
+            if (mostPixels >= 0) {
+                Pen pen(strip, color);
+                drawLine(pen, line);
+            }
         });
     for (LineVertex& vertex : strip) {
         vertex.x -= static_cast<float>(margin);

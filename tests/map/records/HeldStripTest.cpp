@@ -88,5 +88,28 @@ TEST_F(HeldStripTest, WhatWasDroppedIsMadeAnew) {
     EXPECT_NE(shown(home).strip, first.strip);
 }
 
+/// A record of so many routes from west to east through the view, each of two points.
+RecordSet pipelineOf(int routes) {
+    std::vector<OpenMapRelease::Route> all;
+    for (int i = 0; i < routes; ++i) {
+        const double latitude = 51 + 2.0 * i / routes;
+        all.push_back({{-113, latitude}, {-111, latitude}});
+    }
+    return recordSetOf({pipelineAlong(all)});
+}
+
+TEST_F(HeldStripTest, OfARecordWithMoreLinesThanAFrameMayPaintTheFirstAreHeld) {
+    const auto lengthOf = [this](int routes) {
+        const RecordSet set = pipelineOf(routes);
+        const RecordGeometry& geometry = set.loaded->geometry;
+        return HeldStrip().shown(geometry, geometry.runs(), colors, home).strip->size();
+    };
+    const std::size_t one = lengthOf(1);
+    const std::size_t joint = lengthOf(2) - 2 * one;
+    EXPECT_EQ(lengthOf(500), 500 * one + 499 * joint);
+    EXPECT_LT(lengthOf(10'000), 2'000 * (one + joint));
+    EXPECT_EQ(lengthOf(20'000), lengthOf(10'000));
+}
+
 } // namespace
 } // namespace vasker
