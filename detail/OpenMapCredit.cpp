@@ -16,10 +16,10 @@ std::optional<QString> linkAddress(std::string_view text) {
 }
 
 OpenMapCredit OpenMapCredit::of(const OpenMapRelease::Source& source) {
-    return {.publisher = QString::fromStdString(source.publisher),
-            .attribution = QString::fromStdString(source.attribution),
-            .conditions = QString::fromStdString(source.conditions),
-            .modifications = QString::fromStdString(source.modifications),
+    return {.publisher = paragraphText(source.publisher),
+            .attribution = paragraphText(source.attribution),
+            .conditions = paragraphText(source.conditions),
+            .modifications = paragraphText(source.modifications),
             .sourceLink = linkAddress(source.sourceURL),
             .licenceLink = linkAddress(source.licenceURL)};
 }

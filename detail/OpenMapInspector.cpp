@@ -50,10 +50,10 @@ OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
                                       const std::optional<SearchedText>& found) {
     using Field = SearchedText::Field;
     const auto isFoundBy = [&](Field field) { return found && found->field == field; };
-    OpenMapInspector inspector{.name = toQString(asset.name),
+    OpenMapInspector inspector{.name = paragraphText(asset.name),
                                .subtitle = recordSubtitle(asset),
-                               .period = toQString(asset.asOf),
-                               .status = toQString(asset.status),
+                               .period = lineText(asset.asOf),
+                               .status = lineText(asset.status),
                                .company = {},
                                .idFound = isFoundBy(Field::id),
                                .companyFound = isFoundBy(Field::company),
@@ -64,7 +64,7 @@ OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
                                .credits = {},
                                .location = locationText(asset)};
     if (asset.reportedCompany) {
-        inspector.company = toQString(*asset.reportedCompany);
+        inspector.company = lineText(*asset.reportedCompany);
     }
     inspector.facts.reserve(asset.facts.size());
     for (const Fact& fact : asset.facts) {

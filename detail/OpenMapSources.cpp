@@ -1,6 +1,7 @@
 #include "detail/OpenMapSources.h"
 
 #include "detail/PromptCount.h"
+#include "presentation/RecordText.h"
 
 #include <QTextBoundaryFinder>
 
@@ -25,7 +26,7 @@ QStringList toStringList(const std::vector<std::string>& texts) {
     QStringList list;
     list.reserve(static_cast<qsizetype>(texts.size()));
     for (const std::string& text : texts) {
-        list.append(QString::fromStdString(text));
+        list.append(paragraphText(text));
     }
     return list;
 }
@@ -41,11 +42,11 @@ QString translatedOnly(const char* text) {
 OpenMapSources OpenMapSources::of(const OpenMapRelease& release) {
     const auto routes = std::ranges::count_if(release.assets, &OpenMapRelease::Asset::hasRoute);
     OpenMapSources sources{
-        .coverageName = QString::fromStdString(release.coverageName),
+        .coverageName = paragraphText(release.coverageName),
         .counts = tr("%1 records · %2 routes")
                       .arg(QString::number(release.assets.size()), QString::number(routes)),
         .identity = tr("%1 · packaged %2")
-                        .arg(QString::fromStdString(release.releaseID),
+                        .arg(lineText(release.releaseID),
                              dateOf(QString::fromStdString(release.generatedAt))),
         .note = tr("The packaged date is not the observation date. Each record shows its source "
                    "period."),

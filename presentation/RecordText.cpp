@@ -41,10 +41,30 @@ namespace {
     QT_TRANSLATE_NOOP("Category", "Well_site"),
 };
 
+QString upTo(std::size_t most, std::string_view utf8) {
+    if (utf8.size() <= most) {
+        return toQString(utf8);
+    }
+    const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) >> 6U) == 2; };
+    std::size_t end = most;
+    while (end > 0 && continues(utf8[end])) {
+        --end;
+    }
+    return toQString(utf8.substr(0, end)) + QChar(u'…');
+}
+
 } // namespace
 
 QString toQString(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QString lineText(std::string_view utf8) {
+    return upTo(mostLineBytes, utf8);
+}
+
+QString paragraphText(std::string_view utf8) {
+    return upTo(mostParagraphBytes, utf8);
 }
 
 QString joined(const QString& first, const QString& second) {
@@ -52,6 +72,9 @@ QString joined(const QString& first, const QString& second) {
 }
 
 QString categoryText(std::string_view kind) {
+    if (kind.size() > mostLineBytes) {
+        return lineText(kind);
+    }
     const std::string label = OpenMapRelease::Asset::categoryLabel(kind);
     // A text with a zero character is none of ours, and translate() would cut it there.
     const bool isOurs = label.find('\0') == std::string::npos;
@@ -59,15 +82,15 @@ QString categoryText(std::string_view kind) {
 }
 
 QString categoryLine(const OpenMapRelease::Asset& asset) {
-    return joined(categoryText(asset.kind), toQString(asset.asOf));
+    return joined(categoryText(asset.kind), lineText(asset.asOf));
 }
 
 QString recordSubtitle(const OpenMapRelease::Asset& asset) {
-    return joined(categoryText(asset.kind), toQString(asset.id));
+    return joined(categoryText(asset.kind), lineText(asset.id));
 }
 
 QString sourceLine(const OpenMapRelease::Source& source, const OpenMapRelease::Fact& fact) {
-    return joined(toQString(source.shortName()), toQString(fact.asOf));
+    return joined(lineText(source.shortName()), lineText(fact.asOf));
 }
 
 } // namespace vasker

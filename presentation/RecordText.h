@@ -6,17 +6,28 @@
 
 #include <QString>
 
+#include <cstddef>
 #include <string_view>
 
 namespace vasker {
 
 [[nodiscard]] QString toQString(std::string_view utf8);
 
+/// What a part of a line shows at most, in bytes: a screenful. Texts of a release that have no bound
+/// of their own would take minutes to set.
+inline constexpr std::size_t mostLineBytes = 4'000;
+/// The same of a paragraph, or of a name, which may have a thousand characters.
+inline constexpr std::size_t mostParagraphBytes = 40'000;
+
+/// `utf8`, or as much of it as a line or a paragraph shows, and an ellipsis.
+[[nodiscard]] QString lineText(std::string_view utf8);
+[[nodiscard]] QString paragraphText(std::string_view utf8);
+
 /// Both parts, separated by a dot in the middle of the line.
 [[nodiscard]] QString joined(const QString& first, const QString& second);
 
 /// OpenMapRelease::Asset::categoryLabel() of `kind`, translated if it is one of the application's
-/// own; a label that comes from the release stays as it is.
+/// own; a label that comes from the release stays as it is, as far as a line holds it.
 [[nodiscard]] QString categoryText(std::string_view kind);
 
 /// The category and the source period: "Gas plant · 2016".

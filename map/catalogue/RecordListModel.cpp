@@ -17,7 +17,7 @@ constexpr std::string_view unitLabel = "Reported unit";
 
 QString unit(const OpenMapRelease::Asset& asset) {
     const auto fact = std::ranges::find(asset.facts, unitLabel, &OpenMapRelease::Fact::label);
-    return fact == asset.facts.end() ? QString() : toQString(fact->value);
+    return fact == asset.facts.end() ? QString() : lineText(fact->value);
 }
 
 } // namespace
@@ -39,7 +39,7 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
         return toQString(record.id);
     case NameRole:
     case Qt::DisplayRole:
-        return toQString(record.name);
+        return paragraphText(record.name);
     case MarkupRole:
         return markup(record);
     case UnitRole:
@@ -56,7 +56,7 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
         return FoundText::of(m_records.loaded->index, recordIn(index.row()), m_foldedQuery).spoken;
     case AccessibleRole:
         return tr("%1, %2, source period %3")
-            .arg(toQString(record.name), categoryText(record.kind), toQString(record.asOf));
+            .arg(paragraphText(record.name), categoryText(record.kind), lineText(record.asOf));
     default:
         return {};
     }
@@ -176,7 +176,7 @@ QString RecordListModel::markup(const OpenMapRelease::Asset& asset) const {
     if (m_foldedQuery.empty()) {
         return {};
     }
-    const QString name = toQString(asset.name);
+    const QString name = paragraphText(asset.name);
     const auto part = matchedPart(name, m_foldedQuery, m_records.loaded->index.locale());
     return part ? nameMarkup(name, *part) : QString();
 }

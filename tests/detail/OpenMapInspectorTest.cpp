@@ -94,6 +94,24 @@ TEST(OpenMapInspector, ShowsTextsOfTheReleaseAsStored) {
     EXPECT_EQ(inspector.facts[0].linkTitle(), QStringLiteral("NPRI · ") + same);
 }
 
+TEST(OpenMapInspector, ShowsAScreenfulOfTextsWithoutABound) {
+    OpenMapRelease release = makeRelease();
+    OpenMapRelease::Asset& asset = release.assets[0];
+    asset.id = asset.status = asset.asOf = std::string(1'000'000, 'x');
+    asset.reportedCompany = asset.id;
+    asset.name = "a"; // one character
+    for (int marks = 0; marks < 500'000; ++marks) {
+        asset.name += "\u0301";
+    }
+    const OpenMapInspector inspector = inspected(release);
+    for (const QString& text :
+         {inspector.subtitle, inspector.period, inspector.status, *inspector.company}) {
+        EXPECT_LT(text.size(), 5'000);
+    }
+    EXPECT_LT(inspector.name.size(), 50'000);
+    EXPECT_TRUE(inspector.name.startsWith(QStringLiteral("a\u0301\u0301")));
+}
+
 TEST(OpenMapInspector, KeepsATextBeyondAZeroCharacter) {
     OpenMapRelease release = makeRelease();
     release.assets[0].kind = std::string("a\0b", 3);

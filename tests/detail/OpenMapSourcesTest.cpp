@@ -63,6 +63,20 @@ TEST(OpenMapSources, ListsLimitationsInOrderAndAsStored) {
     EXPECT_TRUE(OpenMapSources::of(release).limitations.isEmpty());
 }
 
+TEST(OpenMapSources, ShowsAScreenfulOfTextsWithoutABound) {
+    const std::string endless(1'000'000, 'x');
+    OpenMapRelease release = makeRelease();
+    release.coverageName = release.releaseID = endless;
+    release.limitations = {endless};
+    release.sources[0].publisher = release.sources[0].attribution = endless;
+    const OpenMapSources sources = OpenMapSources::of(release);
+    EXPECT_EQ(sources.coverageName.size(), 40'001);
+    EXPECT_LT(sources.identity.size(), 5'000);
+    EXPECT_EQ(sources.limitations.front().size(), 40'001);
+    EXPECT_EQ(sources.credits.front().publisher.size(), 40'001);
+    EXPECT_EQ(sources.credits.front().attribution.size(), 40'001);
+}
+
 TEST(OpenMapSources, CreditsEverySourceInOrderAlsoThoseThatNoRecordCites) {
     OpenMapRelease release = makeRelease();
     release.sources = {makeSource(2), makeSource(0), makeSource(1)};

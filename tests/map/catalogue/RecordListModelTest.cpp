@@ -61,6 +61,18 @@ TEST(RecordListBeforeLoading, IsEmptyAndCountsNothing) {
     EXPECT_EQ(model.idAt(0), QString());
 }
 
+TEST_F(RecordList, ARowShowsAScreenfulOfTextsWithoutABound) {
+    OpenMapRelease release = makeRelease();
+    release.assets[0].kind = release.assets[0].asOf = std::string(1'000'000, 'x');
+    release.assets[0].facts = {fact("Reported unit", std::string(1'000'000, 'y'))};
+    m_loaded = std::make_shared<const LoadedRelease>(
+        std::make_shared<const OpenMapRelease>(std::move(release)), TextLocale("en"));
+    show({0});
+    for (const Role role : {Role::CategoryRole, Role::UnitRole, Role::AccessibleRole}) {
+        EXPECT_LT(text(0, role).size(), 10'000U);
+    }
+}
+
 TEST_F(RecordList, RowsAreTheFilteredRecordsInTheirOrder) {
     show({2, 0});
     EXPECT_EQ(m_model.rowCount(), 2);
