@@ -71,7 +71,7 @@ TEST(OpenMapSources, ShowsAScreenfulOfTextsWithoutABound) {
     release.sources[0].publisher = release.sources[0].attribution = endless;
     const OpenMapSources sources = OpenMapSources::of(release);
     EXPECT_EQ(sources.coverageName.size(), 40'001);
-    EXPECT_LT(sources.identity.size(), 5'000);
+    EXPECT_LT(sources.identity.size(), 11'000);
     EXPECT_EQ(sources.limitations.front().size(), 40'001);
     EXPECT_EQ(sources.credits.front().publisher.size(), 40'001);
     EXPECT_EQ(sources.credits.front().attribution.size(), 40'001);
