@@ -28,6 +28,20 @@ bool isSound(const ScreenRect& rect) {
            std::isfinite(rect.height) && rect.width > 0 && rect.height > 0;
 }
 
+/// Where a label stands that has no room: on its first side within `bounds`, else on its first.
+LabelSide sideWithoutRoom(const LabelCandidate& candidate, const ScreenRect& bounds) {
+    LabelSide first = LabelSide::centred;
+    for (const LabelSide side : allSides) {
+        if (candidate.sides.contains(side)) {
+            if (bounds.contains(labelRect(candidate, side))) {
+                return side;
+            }
+            first = std::min(first, side);
+        }
+    }
+    return first;
+}
+
 ScreenRect grown(const ScreenRect& rect, double by) {
     return {rect.x - by, rect.y - by, rect.width + 2 * by, rect.height + 2 * by};
 }
@@ -49,6 +63,7 @@ ScreenRect labelRect(const LabelCandidate& candidate, LabelSide side) noexcept {
     const double width = candidate.width;
     const double height = candidate.height;
     const ScreenPoint anchor = candidate.anchor;
+    const double gapDown = candidate.gapDown > 0 ? candidate.gapDown : candidate.gap;
     ScreenRect rect{anchor.x - width / 2, anchor.y - height / 2, width, height};
     switch (side) {
     case LabelSide::right:
@@ -58,10 +73,10 @@ ScreenRect labelRect(const LabelCandidate& candidate, LabelSide side) noexcept {
         rect.x = anchor.x - candidate.gap - width;
         break;
     case LabelSide::above:
-        rect.y = anchor.y - candidate.gap - height;
+        rect.y = anchor.y - gapDown - height;
         break;
     case LabelSide::below:
-        rect.y = anchor.y + candidate.gap;
+        rect.y = anchor.y + gapDown;
         break;
     case LabelSide::centred:
         break;
@@ -137,11 +152,13 @@ std::vector<std::size_t> LabelPlacement::inOrder(std::span<const LabelCandidate>
 bool LabelPlacement::placeAsItStood(const LabelCandidate& candidate,
                                     LabelSide side,
                                     const ScreenRect& bounds,
+                                    LabelMotion motion,
                                     PlacedLabel& placed) const {
     placed.side = side;
     placed.rect = labelRect(candidate, side);
-    return candidate.sides.contains(side) && bounds.overlaps(placed.rect) &&
-           hasRoom(candidate, placed.rect);
+    const bool isWithin =
+        motion == LabelMotion::moving ? bounds.overlaps(placed.rect) : bounds.contains(placed.rect);
+    return candidate.sides.contains(side) && isWithin && hasRoom(candidate, placed.rect);
 }
 
 bool LabelPlacement::placeAnew(const LabelCandidate& candidate,
@@ -171,7 +188,8 @@ bool LabelPlacement::repeatsAText(const LabelCandidate& candidate) const {
 const std::vector<PlacedLabel>& LabelPlacement::place(std::span<const LabelCandidate> candidates,
                                                       std::span<const ScreenRect> obstacles,
                                                       const ScreenRect& bounds,
-                                                      std::span<const ScreenRect> dots) {
+                                                      std::span<const ScreenRect> dots,
+                                                      LabelMotion motion) {
     m_placed.clear();
     m_texts.clear();
     if (!isSound(bounds)) {
@@ -195,17 +213,13 @@ const std::vector<PlacedLabel>& LabelPlacement::place(std::span<const LabelCandi
         PlacedLabel placed{index, LabelSide::right, {}};
         const auto last = m_lastSides.find(candidate.id);
         const bool fits = (last != m_lastSides.end() &&
-                           placeAsItStood(candidate, last->second, bounds, placed)) ||
+                           placeAsItStood(candidate, last->second, bounds, motion, placed)) ||
                           placeAnew(candidate, bounds, placed);
         if (!candidate.isRequired && (!fits || repeatsAText(candidate))) {
             continue;
         }
         if (!fits) {
-            const auto* const side =
-                std::find_if(allSides.begin(), allSides.end(), [&](LabelSide each) {
-                    return candidate.sides.contains(each);
-                });
-            placed.side = side == allSides.end() ? LabelSide::centred : *side;
+            placed.side = sideWithoutRoom(candidate, bounds);
             placed.rect = labelRect(candidate, placed.side);
         }
         m_grid.insert(placed.rect);

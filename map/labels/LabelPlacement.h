@@ -42,17 +42,22 @@ inline constexpr LabelSides aroundThePoint{
     LabelSide::right, LabelSide::left, LabelSide::above, LabelSide::below};
 inline constexpr LabelSides onThePoint{LabelSide::centred};
 
+/// Whether the map moves under its labels.
+enum class LabelMotion : std::uint8_t { moving, atRest };
+
 struct LabelCandidate {
     std::uint64_t id = 0; ///< the same in every frame, another for each label
     ScreenPoint anchor{};
     double width = 0; ///< of the label, in logical pixels
     double height = 0;
-    double gap = 0; ///< from the anchor to the label's nearest edge; centred: none
+    double gap = 0;     ///< from the anchor to the label's nearest edge; centred: none
+    double gapDown = 0; ///< the same above and below; 0: as at the sides
     LabelSides sides = aroundThePoint;
     double priority = 0; ///< the smaller comes first
     /// Equal for labels of which one is enough where they stand near each other; 0: never.
     std::uint64_t text = 0;
-    /// Comes before all others and stands in any case: where there is no room, on its first side.
+    /// Comes before all others and stands in any case: where there is no room, on the first side
+    /// that is within the bounds.
     bool isRequired = false;
     bool sparesDots = false; ///< covers no dot
 };
@@ -78,7 +83,8 @@ class LabelPlacement {
     const std::vector<PlacedLabel>& place(std::span<const LabelCandidate> candidates,
                                           std::span<const ScreenRect> obstacles,
                                           const ScreenRect& bounds,
-                                          std::span<const ScreenRect> dots = {});
+                                          std::span<const ScreenRect> dots = {},
+                                          LabelMotion motion = LabelMotion::moving);
     /// The result of the last call.
     [[nodiscard]] const std::vector<PlacedLabel>& placed() const noexcept { return m_placed; }
 
@@ -90,6 +96,7 @@ class LabelPlacement {
     [[nodiscard]] bool placeAsItStood(const LabelCandidate& candidate,
                                       LabelSide side,
                                       const ScreenRect& bounds,
+                                      LabelMotion motion,
                                       PlacedLabel& placed) const;
     [[nodiscard]] bool
     placeAnew(const LabelCandidate& candidate, const ScreenRect& bounds, PlacedLabel& placed) const;

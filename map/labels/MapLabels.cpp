@@ -48,6 +48,10 @@ ScreenRect freePart(const Camera& camera) {
             view.height - view.coveredBelow};
 }
 
+LabelMotion motionOf(const LabelInput& input) {
+    return input.isMoving ? LabelMotion::moving : LabelMotion::atRest;
+}
+
 } // namespace
 
 void MapLabels::begin(const LabelInput& input) {
@@ -65,8 +69,8 @@ void MapLabels::begin(const LabelInput& input) {
 std::vector<ScreenRect> MapLabels::prominentNames(const LabelInput& input) {
     begin(input);
     std::vector<ScreenRect> names;
-    for (const PlacedLabel& placed :
-         m_names.place(m_placements, input.obstacles, freePart(input.camera))) {
+    for (const PlacedLabel& placed : m_names.place(
+             m_placements, input.obstacles, freePart(input.camera), {}, motionOf(input))) {
         if (m_candidates[placed.candidate].isProminent) {
             const ScreenRect& name = placed.rect;
             names.push_back({name.x - nameMargin,
@@ -86,7 +90,7 @@ SpriteLayer MapLabels::compose(const LabelInput& input) {
     for (const RecordLabel& record : input.records) {
         obstacles.push_back(record.pin);
     }
-    m_placement.place(m_placements, obstacles, freePart(input.camera), input.dots);
+    m_placement.place(m_placements, obstacles, freePart(input.camera), input.dots, motionOf(input));
     return sprites();
 }
 
@@ -131,7 +135,9 @@ void MapLabels::addRecords(const LabelInput& input) {
         placement.anchor = {record.pin.x + record.pin.width / 2,
                             record.pin.y + record.pin.height / 2};
         placement.gap = record.pin.width / 2 + pinGap;
-        placement.sides = LabelSides{LabelSide::right, LabelSide::left};
+        placement.gapDown = record.pin.height / 2 + pinGap;
+        placement.sides =
+            record.isRequired ? aroundThePoint : LabelSides{LabelSide::right, LabelSide::left};
         placement.priority = recordPriority + record.rank;
         placement.sparesDots = true;
         placement.isRequired = record.isRequired;

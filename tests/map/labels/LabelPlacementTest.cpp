@@ -73,6 +73,17 @@ TEST(LabelPlacement, WhereTheRightIsTakenItGoesLeftThenAboveThenBelow) {
     EXPECT_TRUE(LabelPlacement().place(candidates, obstacles, screen).empty());
 }
 
+TEST(LabelPlacement, ALabelKeepsItsOwnDistanceAboveAndBelow) {
+    std::vector<LabelCandidate> candidates{label(1, {200, 100})};
+    candidates[0].gapDown = 20;
+    candidates[0].sides = LabelSides(LabelSide::above);
+    EXPECT_EQ(LabelPlacement().place(candidates, {}, screen)[0].rect,
+              (ScreenRect{160, 64, 80, 16}));
+    candidates[0].sides = LabelSides(LabelSide::below);
+    EXPECT_EQ(LabelPlacement().place(candidates, {}, screen)[0].rect,
+              (ScreenRect{160, 120, 80, 16}));
+}
+
 TEST(LabelPlacement, TheLabelOfAnAreaStandsOnItsPointOnly) {
     std::vector<LabelCandidate> candidates{label(1, {200, 100})};
     candidates[0].sides = onThePoint;
@@ -199,6 +210,35 @@ TEST(LabelPlacement, AStandingLabelIsPushedOutOfTheBoundsBitByBitButNoneAppearsS
     EXPECT_TRUE(LabelPlacement().place(candidates, {}, screen).empty());
     candidates[0].anchor.x = 970;
     EXPECT_TRUE(layout.place(candidates, {}, screen).empty());
+}
+
+TEST(LabelPlacement, WhereTheMapIsAtRestNoLabelIsCut) {
+    std::vector<LabelCandidate> candidates{label(1, {850, 100}), label(2, {850, 300})};
+    candidates[1].sides = LabelSides(LabelSide::right);
+    LabelPlacement layout;
+    ASSERT_EQ(layout.place(candidates, {}, screen).size(), 2U);
+    candidates[0].anchor.x = 920;
+    candidates[1].anchor.x = 920;
+    EXPECT_EQ(layout.place(candidates, {}, screen).size(), 2U);
+    const auto& placed = layout.place(candidates, {}, screen, {}, LabelMotion::atRest);
+    ASSERT_EQ(placed.size(), 1U);
+    EXPECT_EQ(candidates[placed[0].candidate].id, 1U);
+    EXPECT_EQ(placed[0].side, LabelSide::left);
+}
+
+TEST(LabelPlacement, ARequiredLabelWithoutRoomStandsWhereItIsNotCut) {
+    std::vector<LabelCandidate> candidates{label(1, {920, 100})};
+    candidates[0].isRequired = true;
+    const std::vector<ScreenRect> everywhere{screen};
+    const auto sideOf = [&] {
+        return LabelPlacement()
+            .place(candidates, everywhere, screen, {}, LabelMotion::atRest)
+            .at(0)
+            .side;
+    };
+    EXPECT_EQ(sideOf(), LabelSide::left);
+    candidates[0].sides = LabelSides(LabelSide::right);
+    EXPECT_EQ(sideOf(), LabelSide::right);
 }
 
 TEST(LabelPlacement, OfOneTextOnlyOneStandsNearBy) {

@@ -125,6 +125,18 @@ TEST_F(MapLabelsTest, LabelsOverlapNeitherEachOtherNorPinsNorControls) {
     }
 }
 
+TEST_F(MapLabelsTest, ARequiredLabelStandsAboveItsPinWhereBothSidesAreTaken) {
+    addPin({400, 300}, QStringLiteral("Glen Ewen"), true);
+    const ScreenRect pin = records.front().pin;
+    const double middle = pin.y + pin.height / 2;
+    controls = {{0, middle - 5, pin.x, 10}, {pin.x + pin.width, middle - 5, 300, 10}};
+    compose();
+    ASSERT_EQ(texts().size(), 1U);
+    const ScreenRect text = texts().front();
+    EXPECT_LT(text.y + text.height / 2, pin.y);
+    EXPECT_NEAR(text.x + text.width / 2, 400, 2);
+}
+
 TEST_F(MapLabelsTest, WhereTwoLabelsCompeteTheMoreImportantStands) {
     addPlace(QStringLiteral("Village"), {401, 300}, 9);
     addPlace(QStringLiteral("Metropolis"), {400, 300}, 1, PlaceLabel::Kind::country);
