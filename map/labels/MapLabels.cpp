@@ -66,20 +66,20 @@ void MapLabels::begin(const LabelInput& input) {
     addPlaces(input);
 }
 
-std::vector<ScreenRect> MapLabels::prominentNames(const LabelInput& input) {
+std::vector<ScreenRect> MapLabels::keptFreeOfPins(const LabelInput& input) {
     begin(input);
-    std::vector<ScreenRect> names;
+    std::vector<ScreenRect> rects = input.obstacles;
     for (const PlacedLabel& placed : m_names.place(
              m_placements, input.obstacles, freePart(input.camera), {}, motionOf(input))) {
         if (m_candidates[placed.candidate].isProminent) {
             const ScreenRect& name = placed.rect;
-            names.push_back({name.x - nameMargin,
+            rects.push_back({name.x - nameMargin,
                              name.y - nameMargin,
                              name.width + 2 * nameMargin,
                              name.height + 2 * nameMargin});
         }
     }
-    return names;
+    return rects;
 }
 
 SpriteLayer MapLabels::compose(const LabelInput& input) {

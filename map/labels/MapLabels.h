@@ -40,9 +40,9 @@ struct LabelInput {
 
 class MapLabels {
   public:
-    /// Where the names of regions and cities stand that pins make way for: one tells from them what
-    /// part of the world one sees. The records of `input` do not matter.
-    [[nodiscard]] std::vector<ScreenRect> prominentNames(const LabelInput& input);
+    /// What pins make way for: the obstacles, and the names of regions and cities, from which one
+    /// tells what part of the world one sees. The records of `input` do not matter.
+    [[nodiscard]] std::vector<ScreenRect> keptFreeOfPins(const LabelInput& input);
     [[nodiscard]] SpriteLayer compose(const LabelInput& input);
 
     /// The labels of the last frame and the rings of their places, drawn instead of cut out.

@@ -243,25 +243,27 @@ TEST_F(MapLabelsTest, InTheFarViewAPlaceIsLabelledInEveryCopyOfTheWorldThatIsFar
     }
 }
 
-TEST_F(MapLabelsTest, RegionsAndCitiesArePlacedAsIfThereWereNoPins) {
+TEST_F(MapLabelsTest, PinsMakeWayForControlsAndForRegionsAndCitiesPlacedAsIfThereWereNoPins) {
     addPlace(QStringLiteral("Edmonton"), {300, 300}, 3, PlaceLabel::Kind::city);
     addPlace(QStringLiteral("ALBERTA"), {600, 200}, 1, PlaceLabel::Kind::region);
     addPlace(QStringLiteral("Regina"), {600, 500}, 5, PlaceLabel::Kind::town);
     addPlace(QStringLiteral("Fairview"), {300, 500}, 7, PlaceLabel::Kind::town);
     addPin({330, 310}, {});
-    const auto names = labels.prominentNames({.camera = camera,
-                                              .theme = BasemapTheme::light,
-                                              .devicePixels = 1,
-                                              .textScale = 1,
-                                              .places = places,
-                                              .records = records,
-                                              .dots = dots,
-                                              .obstacles = controls,
-                                              .isMoving = false});
-    ASSERT_EQ(names.size(), 3U);
-    EXPECT_TRUE(names[0].overlaps({590, 195, 20, 10}));
-    EXPECT_TRUE(names[1].overlaps({315, 295, 20, 10}));
-    EXPECT_TRUE(names[2].overlaps({615, 495, 20, 10}));
+    controls = {{10, 600, 150, 30}};
+    const auto kept = labels.keptFreeOfPins({.camera = camera,
+                                             .theme = BasemapTheme::light,
+                                             .devicePixels = 1,
+                                             .textScale = 1,
+                                             .places = places,
+                                             .records = records,
+                                             .dots = dots,
+                                             .obstacles = controls,
+                                             .isMoving = false});
+    ASSERT_EQ(kept.size(), 4U);
+    EXPECT_EQ(kept[0], controls[0]);
+    EXPECT_TRUE(kept[1].overlaps({590, 195, 20, 10}));
+    EXPECT_TRUE(kept[2].overlaps({315, 295, 20, 10}));
+    EXPECT_TRUE(kept[3].overlaps({615, 495, 20, 10}));
 }
 
 } // namespace
