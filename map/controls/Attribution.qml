@@ -10,10 +10,14 @@ Item {
     // Of { text, address }; one without an address is read only.
     property var links: []
     property string note: ""
-    property real maximumWidth: 1000
+    // The room from edge to edge, and what the scale leaves of it.
+    property real room: 1000
+    property real roomBesideScale: room
+    // Whether it is too long to stand beside the scale: then it stands above it.
+    readonly property bool lifted: measure.implicitWidth > roomBesideScale
     required property MapTextColors colors
 
-    implicitWidth: Math.min(Math.ceil(measure.implicitWidth), maximumWidth)
+    implicitWidth: Math.min(Math.ceil(measure.implicitWidth), lifted ? room : roomBesideScale)
     implicitHeight: flow.implicitHeight
 
     component Piece: HaloText {

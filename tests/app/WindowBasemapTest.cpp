@@ -7,6 +7,7 @@
 #include "data/Digest.h"
 #include "data/ReleaseWriter.h"
 #include "map/view/MapView.h"
+#include "tests/app/OpenWindow.h"
 #include "tests/support/ReleaseBuilder.h"
 
 #include <QDir>
@@ -167,6 +168,22 @@ TEST_F(WindowBasemap, WithoutANetworkShowsTheBuiltInImageryAndSaysWhereItIsOnlyC
     EXPECT_EQ(attribution(), QStringList({imagery, QStringLiteral("Made with Natural Earth")}));
     EXPECT_FALSE(m_map->status()->lacksImagery());
     EXPECT_TRUE(QTest::qWaitFor([&] { return says(note); }, 10'000));
+}
+
+TEST_F(WindowBasemap, InANarrowWindowTheAttributionStandsWholeBesideTheInspector) {
+    write("basemap.mbtiles", archive());
+    open(path("cache"));
+    ASSERT_NE(m_map, nullptr);
+    m_window->resize(900, 620);
+    m_workspace->setSelection(QStringLiteral("A-0"));
+    const QQuickItem* const credit = find(m_map, QStringLiteral("open-map-credit-0"));
+    ASSERT_NE(credit, nullptr);
+    const auto isWhole = [&] {
+        const QRectF place = credit->mapRectToItem(m_map, credit->boundingRect());
+        const double covered = m_map->resolvedCamera().viewport().coveredLeft;
+        return covered > 0 && place.left() >= covered && place.right() <= m_map->width();
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isWhole));
 }
 
 TEST_F(WindowBasemap, NeedsNoCacheThatCanBeWritten) {
