@@ -54,7 +54,7 @@ HeaderButton {
         }
         MenuRow {
             label: qsTr("Save a picture of the map…")
-            note: "Ctrl+Shift+S"
+            note: qsTr("Ctrl+Shift+S")
             onPicked: root.saves.savePicture(root.Window.window)
         }
         MenuRow {
@@ -71,7 +71,7 @@ HeaderButton {
         }
         MenuRow {
             label: qsTr("Copy picture of the map")
-            note: "Ctrl+Shift+C"
+            note: qsTr("Ctrl+Shift+C")
             onPicked: root.saves.copyPicture()
         }
         MenuRow {

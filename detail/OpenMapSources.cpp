@@ -43,8 +43,7 @@ OpenMapSources OpenMapSources::of(const OpenMapRelease& release) {
     const auto routes = std::ranges::count_if(release.assets, &OpenMapRelease::Asset::hasRoute);
     OpenMapSources sources{
         .coverageName = paragraphText(release.coverageName),
-        .counts = tr("%1 records · %2 routes")
-                      .arg(QString::number(release.assets.size()), QString::number(routes)),
+        .counts = tr("%1 records · %2 routes").arg(release.assets.size()).arg(routes),
         .identity = tr("%1 · packaged %2")
                         .arg(lineText(release.releaseID),
                              dateOf(QString::fromStdString(release.generatedAt))),

@@ -35,15 +35,15 @@ Section {
     }
     LabelledRow {
         label: qsTr("Next, previous record in view")
-        value: "R, Shift+R"
+        value: qsTr("R, Shift+R")
     }
     LabelledRow {
         label: qsTr("Save a picture of the map")
-        value: "Ctrl+Shift+S"
+        value: qsTr("Ctrl+Shift+S")
     }
     LabelledRow {
         label: qsTr("Copy picture of the map")
-        value: "Ctrl+Shift+C"
+        value: qsTr("Ctrl+Shift+C")
     }
     LabelledRow {
         label: qsTr("Print the map")

@@ -641,6 +641,14 @@
 <context>
     <name>PrimaryMenu</name>
     <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Maj+S</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Maj+C</translation>
+    </message>
+    <message>
         <source>User guide</source>
         <translation>Guide d’utilisation</translation>
     </message>
@@ -701,7 +709,7 @@
     <name>OpenMapCredit</name>
     <message>
         <source>Source data</source>
-        <translation>Données source</translation>
+        <translation>Données sources</translation>
     </message>
     <message>
         <source>Licence</source>
@@ -814,7 +822,7 @@
     </message>
     <message>
         <source>Source data: %1</source>
-        <translation>Données source : %1</translation>
+        <translation>Données sources : %1</translation>
     </message>
     <message>
         <source>Licence: %1</source>
@@ -851,7 +859,7 @@
     <name>vasker::OpenMapSources</name>
     <message>
         <source>%1 records · %2 routes</source>
-        <translation>%1 fiches · %2 tracés</translation>
+        <translation>%L1 fiches · %L2 tracés</translation>
     </message>
     <message>
         <source>%1 · packaged %2</source>
@@ -880,6 +888,18 @@
 </context>
 <context>
     <name>MapShortcuts</name>
+    <message>
+        <source>R, Shift+R</source>
+        <translation>R, Maj+R</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Maj+S</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Maj+C</translation>
+    </message>
     <message>
         <source>Print the map</source>
         <translation>Imprimer la carte</translation>
@@ -1214,8 +1234,8 @@
     <message numerus="yes">
         <source>%n records at this place</source>
         <translation>
-            <numerusform>%n fiche à cet endroit</numerusform>
-            <numerusform>%n fiches à cet endroit</numerusform>
+            <numerusform>%Ln fiche à cet endroit</numerusform>
+            <numerusform>%Ln fiches à cet endroit</numerusform>
         </translation>
     </message>
 </context>
@@ -1304,7 +1324,7 @@
     </message>
     <message>
         <source>it would be larger than %1 MiB.</source>
-        <translation>il dépasserait %1 Mio.</translation>
+        <translation>il dépasserait %1 Mio.</translation>
     </message>
 </context>
 <context>
@@ -1343,7 +1363,7 @@
     </message>
     <message>
         <source>Release: %1</source>
-        <translation>Publication : %1</translation>
+        <translation>Édition : %1</translation>
     </message>
     <message>
         <source>Saving %1…</source>
@@ -1455,8 +1475,8 @@
     <message numerus="yes">
         <source>The map is open: %n records</source>
         <translation>
-            <numerusform>La carte est ouverte : %n fiche</numerusform>
-            <numerusform>La carte est ouverte : %n fiches</numerusform>
+            <numerusform>La carte est ouverte : %Ln fiche</numerusform>
+            <numerusform>La carte est ouverte : %Ln fiches</numerusform>
         </translation>
     </message>
     <message>
@@ -1536,11 +1556,11 @@
     </message>
     <message>
         <source>Nearest: %1, %2</source>
-        <translation>Le plus proche : %1, %2</translation>
+        <translation>Au plus près : %1, %2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%1 de %2</translation>
+        <translation>%1 depuis %2</translation>
     </message>
     <message>
         <source>no record in view</source>
@@ -1549,8 +1569,8 @@
     <message numerus="yes">
         <source>%n records in view</source>
         <translation>
-            <numerusform>%n fiche en vue</numerusform>
-            <numerusform>%n fiches en vue</numerusform>
+            <numerusform>%Ln fiche en vue</numerusform>
+            <numerusform>%Ln fiches en vue</numerusform>
         </translation>
     </message>
 </context>

@@ -6,6 +6,7 @@
 #include "map/catalogue/FoundText.h"
 #include "map/catalogue/KindListModel.h"
 #include "map/catalogue/RecordListModel.h"
+#include "map/exploration/PlaceText.h"
 #include "map/view/CameraReadout.h"
 #include "platform/Locale.h"
 #include "presentation/FactLabel.h"
@@ -89,6 +90,14 @@ void expectFrenchLabelsWithValuesAsStored() {
     EXPECT_FALSE(OpenMapSources::of(*release).languageNote.isEmpty());
 }
 
+void expectNumbersInGroups() {
+    OpenMapRelease release = makeRelease();
+    release.assets.resize(1204, release.assets[0]);
+    EXPECT_EQ(OpenMapSources::of(release).counts,
+              QLocale().toString(1204) + QStringLiteral(" fiches · 1 tracés"));
+    EXPECT_EQ(PlaceText::inView(1204), QLocale().toString(1204) + QStringLiteral(" fiches en vue"));
+}
+
 // One test: a translation stays for the life of the program.
 TEST(Translation, AFrenchDesktopReadsFrench) {
     EXPECT_EQ(categoryText("gas_plant"), QStringLiteral("Gas plant"));
@@ -130,6 +139,7 @@ TEST(Translation, AFrenchDesktopReadsFrench) {
     expectLabelsOfFactsInFrench();
     expectOtherLabelsAsTheyAre();
     expectFrenchLabelsWithValuesAsStored();
+    expectNumbersInGroups();
 }
 
 } // namespace
