@@ -1,6 +1,7 @@
 """A session bus of a test's own, which starts no service of the machine."""
 
 import contextlib
+import os
 import subprocess
 import tempfile
 from pathlib import Path
@@ -20,9 +21,9 @@ CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Con
 
 
 @contextlib.contextmanager
-def private_bus(services=None, at=None):
+def private_bus(services=None, at=None, **environment):
     """The running bus and its address, at the path `at` where that is told. It starts what the folder
-    `services` holds; without one, nothing."""
+    `services` holds; without one, nothing. What is given besides is in its environment."""
     with tempfile.TemporaryDirectory() as folder:
         known = f"  <servicedir>{services}</servicedir>\n" if services else ""
         listen = f"unix:path={at}" if at else f"unix:dir={folder}"
@@ -31,6 +32,7 @@ def private_bus(services=None, at=None):
         process = subprocess.Popen(
             ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address"],
             stdout=subprocess.PIPE,
+            env=dict(os.environ, **environment),
             text=True,
         )
         try:

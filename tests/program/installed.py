@@ -7,12 +7,17 @@ tools/picture.
 """
 
 import gzip
+import os
 import re
+import signal
 import shlex
 import subprocess
 import sys
 import tempfile
 from pathlib import Path
+
+from bus import private_bus
+from gi.repository import Gio, GLib
 
 NAME = "ca.vasker.OpenMap"
 OPTION = re.compile(r"--[a-z][a-z0-9-]+")
@@ -36,6 +41,25 @@ def names_its_program(prefix):
     assert command[-1] == str(prefix / "bin/vasker-open-map"), command
     entry = (prefix / f"share/applications/{NAME}.desktop").read_text("utf-8")
     assert set(re.findall("^Exec=(.*)$", entry, re.MULTILINE)) == {"vasker-open-map"}, entry
+
+
+def is_started_by_the_bus(prefix, **environment):
+    with private_bus(prefix / "share/dbus-1/services", **environment) as (_, address):
+        flags = Gio.DBusConnectionFlags
+        bus = Gio.DBusConnection.new_for_address_sync(
+            address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None
+        )
+
+        def ask(name, path, interface, method, arguments):
+            return bus.call_sync(name, path, interface, method, arguments, None, 0, -1).unpack()
+
+        path = "/" + NAME.replace(".", "/")
+        activation = GLib.Variant("(a{sv})", ({},))
+        ask(NAME, path, "org.freedesktop.Application", "Activate", activation)
+        own = "org.freedesktop.DBus"
+        (process,) = ask(own, "/", own, "GetConnectionUnixProcessID", GLib.Variant("(s)", (NAME,)))
+        assert Path(f"/proc/{process}/exe").resolve() == (prefix / "bin/vasker-open-map").resolve()
+        os.kill(process, signal.SIGTERM)
 
 
 def tells_who_made_it(prefix):
@@ -94,8 +118,11 @@ def main():
         tells_who_made_it(prefix)
         tells_the_same_everywhere(prefix)
         opens_its_release(prefix, picture)
+        is_started_by_the_bus(prefix)
         moved = prefix.rename(Path(folder) / "moved")
         opens_its_release(moved, picture)
+        # By its name, as the desktop's own entry.
+        is_started_by_the_bus(moved, PATH=f"{moved / 'bin'}:{os.environ['PATH']}")
 
 
 if __name__ == "__main__":
