@@ -2,6 +2,7 @@
 
 #include "platform/accessibility/AccessibilityBus.h"
 #include "platform/accessibility/AccessibleActions.h"
+#include "platform/accessibility/AccessibleExtents.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -199,13 +200,18 @@ QString AccessibleIds::introspect(const QString& path) const {
 }
 
 bool AccessibleIds::handleMessage(const QDBusMessage& message, const QDBusConnection& bus) {
+    QDBusMessage question = message;
     if (QAccessibleInterface* control = findControl(message.path())) {
+        if (const auto extents = answerOfExtents(message, *control)) {
+            return bus.send(message.createReply(*extents));
+        }
+        question = withLogicalPoint(message, *control);
         if (const QVariant known = answer(message, *control); known.isValid()) {
             return bus.send(message.createReply(known));
         }
     }
     QDBusVirtualObject* const bridge = m_bridge;
-    return bridge != nullptr && bridge->handleMessage(message, bus);
+    return bridge != nullptr && bridge->handleMessage(question, bus);
 }
 
 } // namespace vasker

@@ -1,7 +1,8 @@
 #pragma once
 // Gives controls their identifiers on the accessibility bus, and rows their place in a list that
-// has only made those in view; tells that a sheet is modal, and each action once; lets assistive
-// tools set texts, and keeps them from pressing what is disabled.
+// has only made those in view; tells that a sheet is modal, each action once, and where controls
+// are in pixels of the screen; lets assistive tools set texts, and keeps them from pressing what is
+// disabled.
 //
 // Qt's bridge to that bus does none of it. This object takes the bridge's place there, answers
 // what the bridge does not know, and hands all else on to it. It relies on the names under which

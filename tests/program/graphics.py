@@ -75,7 +75,8 @@ def is_drawn_by_opengl_where_that_is_asked_for(executable):
 
 
 def is_drawn_by_opengl_at_a_scale_between_whole_numbers(executable):
-    expect_a_map_and_a_record(executable, by_opengl=True, QT_SCALE_FACTOR="1.25")
+    with another_display(size="1700x1100"):
+        expect_a_map_and_a_record(executable, by_opengl=True, QT_SCALE_FACTOR="1.25")
 
 
 def is_painted_whole_on_a_screen_of_scale_2(executable):

@@ -1,7 +1,7 @@
 """The names under which tests and assistive tools find a control, each on exactly one."""
 
 from bundle import RELEASE, program_with_release
-from driver import Missed, Program, switch_accessibility
+from driver import Atspi, Missed, Program, switch_accessibility
 
 # Identifier: role, name, whether it can be pressed.
 CONTROLS = {
@@ -32,6 +32,25 @@ def stand_on_their_controls(executable):
         others = [each for each in program.windows()[0].below() if each.id and "open-map-" not in each.id]
         if others:
             raise Missed(f"names that nobody asked for: {others}")
+
+
+def stand_where_the_screen_has_them(executable):
+    """In its pixels, whatever the scale."""
+    with program_with_release(executable, RELEASE) as copy, Program(copy, QT_SCALE_FACTOR="2") as program:
+        program.see(name="2 of 2 records")
+        program.resize(1400, 900)
+
+        def edges():
+            left, _, width, _ = program.find(id="open-map-canvas").box()
+            return left, left + width
+
+        program.wait(lambda: edges() == (642, 1400), f"the map is at {edges()}")
+        left, top, width, height = program.see(id="open-map-menu").box()
+        found = Atspi.Component.get_accessible_at_point(
+            program.windows()[0].node, left + width // 2, top + height // 2, Atspi.CoordType.SCREEN
+        )
+        if found is None or found.get_accessible_id() != "open-map-menu":
+            raise Missed(f"at the menu's place is {found and found.get_role_name()}")
 
 
 def stand_on_the_controls_of_every_window(executable):
