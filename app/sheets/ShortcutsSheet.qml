@@ -73,6 +73,10 @@ WindowSheet {
                 value: qsTr("Down, Up")
             }
             LabelledRow {
+                label: qsTr("A record by its name")
+                value: qsTr("First letters")
+            }
+            LabelledRow {
                 label: qsTr("A page further, back")
                 value: qsTr("Page Down, Page Up")
             }

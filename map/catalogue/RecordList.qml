@@ -45,6 +45,12 @@ ListView {
     function go(row: int): void {
         root.currentIndex = Math.max(0, Math.min(root.count - 1, row));
     }
+    function goTo(beginning: string): void {
+        const row = root.records.rowBeginning(beginning);
+        if (row >= 0) {
+            root.go(row);
+        }
+    }
     function offerMenu(): void {
         if (root.currentItem !== null) {
             root.menuRequested(root.records.idAt(root.currentIndex), root.currentItem, Qt.point(LayoutMirroring.enabled ? root.width - 44 : 44, root.currentItem.height / 2));
@@ -75,7 +81,10 @@ ListView {
                 return root.offerMenu();
             }
         }
-        event.accepted = false;
+        event.accepted = search.takes(event.text);
+        if (event.accepted) {
+            root.goTo(search.typed);
+        }
     }
 
     delegate: RecordRow {
@@ -102,6 +111,9 @@ ListView {
         onMenuRequested: place => root.menuRequested(recordId, this, place)
     }
 
+    TypeAhead {
+        id: search
+    }
     RowOrder {
         id: order
 

@@ -20,6 +20,12 @@ QString unit(const OpenMapRelease::Asset& asset) {
     return fact == asset.facts.end() ? QString() : lineText(fact->value);
 }
 
+QString unaccented(const QString& text) {
+    QString letters = text.normalized(QString::NormalizationForm_D);
+    letters.removeIf([](QChar each) { return each.isMark(); });
+    return letters.toCaseFolded();
+}
+
 } // namespace
 
 RecordListModel::RecordListModel(QObject* parent) : QAbstractListModel(parent) {}
@@ -162,6 +168,16 @@ int RecordListModel::rowOf(const QString& id) const {
     const auto& filtered = *m_records.filtered;
     const auto place = std::ranges::find(filtered, *record);
     return place == filtered.end() ? -1 : static_cast<int>(place - filtered.begin());
+}
+
+int RecordListModel::rowBeginning(const QString& text) const {
+    const QString wanted = unaccented(text);
+    for (int row = 0; row < rowCount(); ++row) {
+        if (unaccented(toQString(asset(row).name)).startsWith(wanted)) {
+            return row;
+        }
+    }
+    return -1;
 }
 
 AssetIndex RecordListModel::recordIn(int row) const {

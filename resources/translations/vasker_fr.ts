@@ -988,6 +988,14 @@
 <context>
     <name>ShortcutsSheet</name>
     <message>
+        <source>First letters</source>
+        <translation>Premières lettres</translation>
+    </message>
+    <message>
+        <source>A record by its name</source>
+        <translation>Une fiche par son nom</translation>
+    </message>
+    <message>
         <source>User guide</source>
         <translation>Guide d’utilisation</translation>
     </message>

@@ -54,9 +54,19 @@ class RecordList : public testing::Test {
                                       QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
+TEST_F(RecordList, FindsARowByTheBeginningOfItsNameWithoutAccentsAndCapitals) {
+    EXPECT_EQ(m_model.rowBeginning(QStringLiteral("b")), 1);
+    EXPECT_EQ(m_model.rowBeginning(QStringLiteral("\u00c7ed")), 2);
+    EXPECT_EQ(m_model.rowBeginning(QStringLiteral("edar")), -1);
+    show({2});
+    EXPECT_EQ(m_model.rowBeginning(QStringLiteral("c")), 0);
+    EXPECT_EQ(m_model.rowBeginning(QStringLiteral("b")), -1);
+}
+
 TEST(RecordListBeforeLoading, IsEmptyAndCountsNothing) {
     const RecordListModel model;
     EXPECT_TRUE(model.isEmpty());
+    EXPECT_EQ(model.rowBeginning(QStringLiteral("a")), -1);
     EXPECT_EQ(model.countText(), QStringLiteral("0 of 0 records"));
     EXPECT_EQ(model.idAt(0), QString());
 }
