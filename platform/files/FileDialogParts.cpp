@@ -16,9 +16,9 @@ namespace vasker {
 
 namespace {
 
-/// In logical pixels; Qt's own width leaves large text no room.
-constexpr int preferredWidth = 760;
-constexpr int margins = 32;
+/// In sizes of the font; Qt's own width leaves large text no room.
+constexpr int preferredWidth = 50;
+constexpr int margins = 32; ///< logical pixels
 
 /// By then the dialog has read the folder.
 constexpr std::chrono::seconds openingTime{1};
@@ -62,6 +62,8 @@ void completeRows(QQuickItem& field) {
             each->setProperty("text", std::exchange(isFirst, false) ? name : filter);
         } else if (each->inherits("QQuickComboBox")) {
             setName(each, filter);
+            // Its own height cuts large text.
+            QQmlProperty::write(each, QStringLiteral("implicitHeight"), field.implicitHeight());
         }
     }
 }
@@ -124,7 +126,8 @@ void completeFileDialog(const QQuickWindow& window, const QFont& font) {
         return;
     }
     popup->setProperty("font", font);
-    popup->setProperty("width", std::min(preferredWidth, window.width() - margins));
+    popup->setProperty("width",
+                       std::min(preferredWidth * font.pixelSize(), window.width() - margins));
     completeRows(*field);
     // Enter saves; queued, because the dialog takes the name over after it.
     QObject::connect(field, SIGNAL(accepted()), popup, SLOT(accept()), Qt::QueuedConnection);

@@ -67,9 +67,12 @@ QUrl SaveQuestion::offered() const {
 }
 
 QUrl SaveQuestion::fileAt(const QUrl& place) {
-    return place.scheme().isEmpty() && !place.isEmpty()
-               ? QUrl::fromLocalFile(place.toString(QUrl::PreferLocalFile))
-               : place;
+    if (!place.scheme().isEmpty() || place.isEmpty()) {
+        return place;
+    }
+    const QString path = place.toString(QUrl::PreferLocalFile);
+    // A whole path that was typed stands behind the folder and its stroke.
+    return QUrl::fromLocalFile(path.sliced(path.lastIndexOf(QLatin1String("//")) + 1));
 }
 
 void SaveQuestion::completeDialog(const QFont& font) const {

@@ -122,6 +122,8 @@ TEST(SaveQuestion, ABarePathIsAFileToo) {
     };
     EXPECT_EQ(path("/home/ann/other name.json"), QStringLiteral("/home/ann/other name.json"));
     EXPECT_EQ(path("/home/ann/a#1?.json"), QStringLiteral("/home/ann/a#1?.json"));
+    // A whole path, typed while the dialog shows the folder /home/ann.
+    EXPECT_EQ(path("/home/ann//tmp/a.json"), QStringLiteral("/tmp/a.json"));
     EXPECT_EQ(path("file:///home/ann/a.json"), QStringLiteral("/home/ann/a.json"));
     EXPECT_EQ(SaveQuestion::fileAt(QUrl(QStringLiteral("https://example.org/a"))),
               QUrl(QStringLiteral("https://example.org/a")));

@@ -176,9 +176,13 @@ def without_a_portal_the_program_asks_where(executable):
             program.key("ctrl+s")
             program.see(role="text", name="File name", state="focused")
             dialog = program.see(role="dialog")
-            parts = [("push button", "Parent folder"), ("text", "Folder"), ("combo box", "Show")]
+            fields = [("combo box", "Show"), ("text", "File name")]
+            parts = [("push button", "Parent folder"), ("text", "Folder"), *fields]
             if not all(dialog.find(role=role, name=name) for role, name in parts):
                 raise Missed(dialog.text())
+            heights = [dialog.find(role=role, name=name).box()[3] for role, name in fields]
+            if heights[0] < heights[1]:
+                raise Missed(f"which files are shown is cut: {heights}")
             left, top, width, height = dialog.box()
             shown = Screen().rows((left + 1, top + 1, width - 2, height - 2))
             bright = sum(sum(pixel) > 3 * 128 for row in shown for pixel in row)
