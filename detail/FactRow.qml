@@ -24,7 +24,9 @@ SectionRow {
         Accessible.role: Accessible.Paragraph
     }
     SelectableText {
-        width: parent.width
+        // A number has no direction: Qt would align it at the far edge of a mirrored window.
+        anchors.left: parent.left
+        width: Math.min(Math.ceil(implicitWidth), parent.width)
         horizontalAlignment: TextEdit.AlignLeft
         textStyle: root.fact.found ? Theme.type.headline : Theme.type.body
         text: root.fact.value

@@ -88,6 +88,7 @@ class NameOfTheOtherDirection : public OpenWindow,
         QGuiApplication::setLayoutDirection(GetParam());
         OpenMapRelease release = makeRelease();
         release.assets[0].name = name().toStdString();
+        release.assets[0].facts = {makeFact("21252")};
         open(encode(release));
         ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-record-A-0") != nullptr; }));
     }
@@ -109,6 +110,27 @@ TEST_P(NameOfTheOtherDirection, IsAlignedWithTheWindowInRowAndInspector) {
     workspace().setSelection(QStringLiteral("A-0"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-inspector") != nullptr; }));
     EXPECT_EQ(alignment(withText(item("open-map-inspector"), name())), expected);
+}
+
+TEST_P(NameOfTheOtherDirection, LeavesDigitsBelowTheirLabel) {
+    workspace().setSelection(QStringLiteral("A-0"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-inspector") != nullptr; }));
+    const auto shown = [this](const char* text) {
+        return withText(item("open-map-inspector"), QString::fromLatin1(text));
+    };
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shown("21252") != nullptr; }));
+    m_window->grabWindow(); // a picture is drawn when all in it has its place
+    const QQuickItem* const label = shown("Sulphur dioxide");
+    const QQuickItem* const digits = shown("21252");
+    ASSERT_NE(label, nullptr);
+    const QRectF above = label->mapRectToScene(label->boundingRect());
+    const QRectF below = digits->mapRectToScene(digits->boundingRect());
+    EXPECT_LT(below.width(), 100);
+    if (GetParam() == Qt::RightToLeft) {
+        EXPECT_NEAR(below.right(), above.right(), 0.01);
+    } else {
+        EXPECT_NEAR(below.left(), above.left(), 0.01);
+    }
 }
 
 } // namespace
