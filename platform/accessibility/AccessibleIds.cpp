@@ -3,6 +3,7 @@
 #include "platform/accessibility/AccessibilityBus.h"
 #include "platform/accessibility/AccessibleActions.h"
 #include "platform/accessibility/AccessibleExtents.h"
+#include "platform/accessibility/AssistiveTools.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -202,6 +203,7 @@ QString AccessibleIds::introspect(const QString& path) const {
 bool AccessibleIds::handleMessage(const QDBusMessage& message, const QDBusConnection& bus) {
     QDBusMessage question = message;
     if (QAccessibleInterface* control = findControl(message.path())) {
+        AssistiveTools::shared().notice();
         if (const auto extents = answerOfExtents(message, *control)) {
             return bus.send(message.createReply(*extents));
         }

@@ -66,6 +66,17 @@ def places(program):
     return found
 
 
+def a_short_list_has_all_its_rows(executable):
+    """In view or not: some screen readers count them."""
+    assets = [
+        dict(RELEASE["assets"][0], id=f"A-{number}", name=f"Plant {number}") for number in range(60)
+    ]
+    with program_with_release(executable, changed("assets", to=assets)) as copy, Program(copy) as program:
+        program.see(name="60 of 60 records")
+        told = [(place, 60) for place in range(1, 61)]
+        program.wait(lambda: places(program) == told, f"the rows tell {places(program)}")
+
+
 def the_rows_of_a_long_list_tell_their_places(executable):
     """Though only those in view have been made."""
     assets = [
