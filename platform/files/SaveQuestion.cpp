@@ -50,6 +50,7 @@ void SaveQuestion::askByPortal(const QDBusConnection& bus) {
 void SaveQuestion::askByDialog() {
     QQmlEngine* const engine = m_window == nullptr ? nullptr : qmlEngine(m_window);
     if (engine != nullptr) {
+        m_focus = m_window->activeFocusItem();
         QQmlComponent component(engine,
                                 QUrl(QStringLiteral("qrc:/qt/qml/Vasker/Platform/SaveDialog.qml")));
         m_dialog.reset(component.createWithInitialProperties(
@@ -86,6 +87,12 @@ bool SaveQuestion::isTaken(const QUrl& place) const {
 
 void SaveQuestion::finish(Outcome outcome, const QUrl& place) {
     deleteLater();
+    if (m_focus != nullptr) { // Qt's dialog leaves the focus nowhere
+        QMetaObject::invokeMethod(
+            m_focus,
+            [focus = m_focus.data()] { focus->forceActiveFocus(Qt::PopupFocusReason); },
+            Qt::QueuedConnection);
+    }
     if (const Answer answer = std::exchange(m_answer, nullptr)) {
         answer(outcome, place);
     }

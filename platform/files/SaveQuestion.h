@@ -6,6 +6,7 @@
 #include <QFont>
 #include <QObject>
 #include <QPointer>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QUrl>
 #include <QtQmlIntegration>
@@ -59,6 +60,7 @@ class SaveQuestion : public QObject {
     QString m_title;
     QString m_name;
     QPointer<QQuickWindow> m_window;
+    QPointer<QQuickItem> m_focus; ///< has the focus before the dialog, and after it
     Answer m_answer;
     std::unique_ptr<QObject> m_dialog; ///< goes before the question that it shows
 };

@@ -191,6 +191,7 @@ def without_a_portal_the_program_asks_where(executable):
             program.key("Return")
             program.see(starts="Saved to ")
             program.miss(starts="Saved to ")
+            program.see(role="text", name=PROMPT, state="focused")
             # With a file of that name in the folder, whose row wants the focus.
             program.key("ctrl+s")
             program.see(role="label", starts="test-1")
