@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <string>
 
 namespace vasker {
 namespace {
@@ -34,6 +35,18 @@ std::vector<ScreenPoint> middleLine(const LineStrip& strip) {
         }
     }
     return line;
+}
+
+/// Where each corner lies from its point, in halves of the line's width: "T" for the round tips.
+std::string cornersOf(const LineStrip& strip) {
+    std::string text;
+    for (const LineVertex& vertex : strip) {
+        text += (text.empty() ? "" : " ");
+        text += vertex.corner >= LineVertex::Corner::leftTip ? "T" : "";
+        text += std::to_string(std::lround(vertex.offsetX)) + ',' +
+                std::to_string(std::lround(vertex.offsetY));
+    }
+    return text;
 }
 
 double distanceToLine(ScreenPoint point, const std::vector<ScreenPoint>& line) {
@@ -155,7 +168,21 @@ TEST(RouteStrip, ALoopTooSmallToSeeIsStillADot) {
         recordSetOf({pipelineAlong({{{-120, 50}, {-119.9999, 50}, {-120, 50.0001}, {-120, 50}}})});
     const LineStrip strip = stripOf(records, Camera(canadaOverview, routeView));
     EXPECT_EQ(middleLine(strip).size(), 1U);
-    EXPECT_GE(strip.size(), 4U);
+    EXPECT_EQ(cornersOf(strip), "T-1,1 T-1,-1 0,1 0,-1 0,1 0,-1 T1,1 T1,-1");
+}
+
+TEST(RouteStrip, ALineHasAnEdgeOnEitherSideAndARoundTipAtEitherEnd) {
+    const Camera camera(canadaOverview, routeView);
+    EXPECT_EQ(cornersOf(stripOf(recordSetOf({pipelineAlong({{{-120, 50}, {-110, 50}}})}), camera)),
+              "T-1,1 T-1,-1 0,1 0,-1 0,1 0,-1 T1,1 T1,-1");
+    EXPECT_EQ(cornersOf(stripOf(recordSetOf({pipelineAlong({{{-110, 50}, {-120, 50}}})}), camera)),
+              "T1,-1 T1,1 0,-1 0,1 0,-1 0,1 T-1,-1 T-1,1");
+}
+
+TEST(RouteStrip, TheEdgesOfABendMeetOnItsMitre) {
+    const RecordSet records = recordSetOf({pipelineAlong({{{-120, 50}, {-110, 50}, {-110, 45}}})});
+    EXPECT_EQ(cornersOf(stripOf(records, Camera(canadaOverview, routeView))),
+              "T-1,1 T-1,-1 0,1 0,-1 -1,1 1,-1 -1,0 1,0 T-1,1 T1,1");
 }
 
 TEST(RouteStrip, ASharpCornerBecomesTwoRoundEnds) {
