@@ -36,6 +36,8 @@ TEST(FeatureClass, ComesFromSourceLayerAndKind) {
     VectorFeature border = lineOf("");
     border.adminLevel = 2;
     EXPECT_EQ(featureClass("boundaries", border), FeatureClass::country);
+    border.adminLevel = 3;
+    EXPECT_EQ(featureClass("boundaries", border), FeatureClass::region);
     border.adminLevel = 4;
     EXPECT_EQ(featureClass("boundaries", border), FeatureClass::region);
 }
@@ -53,12 +55,19 @@ TEST(FeatureClass, WhatTheStyleDoesNotKnowHasNone) {
     EXPECT_EQ(featureClass("streets", areaOf("motorway")), std::nullopt);
     EXPECT_EQ(featureClass("place_labels", VectorFeature()), std::nullopt);
     VectorFeature county = lineOf("");
-    county.adminLevel = 6;
+    county.adminLevel = 5;
     EXPECT_EQ(featureClass("boundaries", county), std::nullopt);
     VectorFeature atSea = lineOf("");
     atSea.adminLevel = 2;
     atSea.maritime = true;
     EXPECT_EQ(featureClass("boundaries", atSea), std::nullopt);
+}
+
+TEST(FeatureClass, SmallWatersAreStreamsAndOthersRivers) {
+    for (const char* kind : {"stream", "ditch", "drain"}) {
+        EXPECT_EQ(featureClass("water_lines", lineOf(kind)), FeatureClass::stream) << kind;
+    }
+    EXPECT_EQ(featureClass("water_lines", lineOf("canal")), FeatureClass::river);
 }
 
 } // namespace
