@@ -112,5 +112,13 @@ TEST(Gestures, FingersInOnePlaceDoNotZoom) {
     EXPECT_DOUBLE_EQ(pinch.moved(startCamera, {390, 300}, {410, 300}).scale(), startCamera.scale());
 }
 
+TEST(Gestures, TheGroundTurnsByWhatFingersTurnBeyondTheThreshold) {
+    Pinch pinch({400, 300}, {500, 300});
+    const double angle = 8.5 * std::acos(-1.0) / 180;
+    const ScreenPoint second{400 + 100 * std::cos(angle), 300 + 100 * std::sin(angle)};
+    const Camera after = pinch.moved(startCamera, {400, 300}, second);
+    EXPECT_NEAR(std::remainder(after.pose().bearing, 360), -0.5, 1e-6);
+}
+
 } // namespace
 } // namespace vasker

@@ -243,17 +243,29 @@ TEST_F(MapInputTest, ArrowsMoveAndWithShiftRotateAndTilt) {
         return std::pair(press->axis, press->direction);
     };
     EXPECT_EQ(axis(Qt::Key_Right, false), std::pair(NavigationAxis::right, 1));
+    EXPECT_EQ(axis(Qt::Key_Left, false), std::pair(NavigationAxis::right, -1));
+    EXPECT_EQ(axis(Qt::Key_Down, false), std::pair(NavigationAxis::down, 1));
     EXPECT_EQ(axis(Qt::Key_Up, false), std::pair(NavigationAxis::down, -1));
     EXPECT_EQ(axis(Qt::Key_Right, true), std::pair(NavigationAxis::clockwise, 1));
+    EXPECT_EQ(axis(Qt::Key_Left, true), std::pair(NavigationAxis::clockwise, -1));
     EXPECT_EQ(axis(Qt::Key_Up, true), std::pair(NavigationAxis::back, 1));
-    EXPECT_EQ(axis(Qt::Key_Plus, true), std::pair(NavigationAxis::nearer, 1));
-    EXPECT_EQ(axis(Qt::Key_Minus, false), std::pair(NavigationAxis::nearer, -1));
+    EXPECT_EQ(axis(Qt::Key_Down, true), std::pair(NavigationAxis::back, -1));
+    for (const bool withShift : {false, true}) {
+        EXPECT_EQ(axis(Qt::Key_Plus, withShift), std::pair(NavigationAxis::nearer, 1));
+        EXPECT_EQ(axis(Qt::Key_Equal, withShift), std::pair(NavigationAxis::nearer, 1));
+        EXPECT_EQ(axis(Qt::Key_Minus, withShift), std::pair(NavigationAxis::nearer, -1));
+    }
 }
 
 TEST_F(MapInputTest, AReleasedKeyEndsWhatItDidWithAndWithoutShift) {
     const MapCommands commands = send(KeyRelease{Qt::Key_Left, false});
-    EXPECT_EQ(commands.size(), 2U);
-    EXPECT_TRUE(contains<ReleaseAxis>(commands));
+    ASSERT_EQ(commands.size(), 2U);
+    const auto axis = [&](std::size_t index) {
+        const auto& release = std::get<ReleaseAxis>(commands[index]);
+        return std::pair(release.axis, release.direction);
+    };
+    EXPECT_EQ(axis(0), std::pair(NavigationAxis::right, -1));
+    EXPECT_EQ(axis(1), std::pair(NavigationAxis::clockwise, -1));
     EXPECT_TRUE(send(KeyRelease{Qt::Key_Left, true}).empty());
 }
 
@@ -266,7 +278,11 @@ TEST_F(MapInputTest, EnterPicksInTheMiddleOnceHoweverLongItIsHeld) {
 }
 
 TEST_F(MapInputTest, KeysResetNorthShowTheOverviewAndOpenTheMenu) {
-    EXPECT_TRUE(contains<StartRotation>(send(KeyPress{Qt::Key_N, false, false})));
+    const MapCommands upright = send(KeyPress{Qt::Key_N, false, false});
+    const auto* const rotation = only<StartRotation>(upright);
+    ASSERT_NE(rotation, nullptr);
+    EXPECT_EQ(rotation->bearing, 0);
+    EXPECT_EQ(rotation->pitch, 0);
     EXPECT_TRUE(contains<ShowOverview>(send(KeyPress{Qt::Key_Home, false, false})));
     EXPECT_TRUE(contains<OpenMenu>(send(KeyPress{Qt::Key_Menu, false, false})));
     EXPECT_TRUE(contains<OpenMenu>(send(KeyPress{Qt::Key_F10, true, false})));
