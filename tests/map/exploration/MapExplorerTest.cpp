@@ -98,6 +98,14 @@ TEST_F(MapExploration, ShiftAndRBeginAtTheFarthest) {
     expectSpoken({text("North, gas plant, 445 km north")});
 }
 
+TEST_F(MapExploration, RSaysWhereNoRecordIsInView) {
+    m_map->setCamera(CoordinateRegion{{54, -150}, 4, 4});
+    key(Qt::Key_R);
+    key(Qt::Key_R, Qt::ShiftModifier);
+    expectSpoken({text("no record in view"), text("no record in view")});
+    EXPECT_TRUE(m_map->hover()->recordId().isEmpty());
+}
+
 TEST_F(MapExploration, EnterOpensTheRecordThatItStandsAt) {
     const QSignalSpy middle(m_map, &MapView::picked);
     key(Qt::Key_R);

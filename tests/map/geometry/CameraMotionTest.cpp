@@ -141,6 +141,8 @@ TEST(SmoothZoom, NotchesOfAWheelAddUp) {
     zoom = zoom.continued(0.01, 0.125, pointer, 0.2);
     EXPECT_NEAR(zoom.cameraAt(0.2).scale() / start.scale(), 1, 1e-9);
     EXPECT_NEAR(zoom.cameraAt(0.2).center().x, start.center().x, 1e-3);
+    zoom = zoom.continued(0.2, 0.5, pointer, 0.2);
+    EXPECT_NEAR(zoom.cameraAt(0.2).scale() / start.scale(), 0.5, 1e-9);
 }
 
 TEST(SmoothZoom, NotchesBeyondTheNearestZoomAreNotOwed) {

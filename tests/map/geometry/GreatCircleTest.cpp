@@ -34,6 +34,8 @@ TEST(GreatCircle, BearingsGoClockwiseFromNorth) {
     EXPECT_NEAR(bearingDegrees({0, 10}, {0, 11}), 90, 1e-9);
     EXPECT_NEAR(bearingDegrees({50, -110}, {49, -110}), 180, 1e-9);
     EXPECT_NEAR(bearingDegrees({0, 10}, {0, 9}), 270, 1e-9);
+    EXPECT_NEAR(bearingDegrees({0, 10}, {1, 10.01}), 0.57, 0.01);
+    EXPECT_NEAR(bearingDegrees({0, 10}, {1, 9.99}), 359.43, 0.01);
     EXPECT_NEAR(bearingDegrees(edmonton, calgary), 188.2, 0.2);
     EXPECT_EQ(bearingDegrees(edmonton, edmonton), 0);
 }

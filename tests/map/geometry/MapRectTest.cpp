@@ -22,7 +22,13 @@ TEST(MapRect, ANegativeInsetGrowsOnEverySide) {
 
 TEST(MapRect, RectanglesThatShareAnEdgeIntersect) {
     EXPECT_TRUE((MapRect{0, 0, 1, 1}.intersects({1, 0, 1, 1})));
+    EXPECT_TRUE((MapRect{1, 0, 1, 1}.intersects({0, 0, 1, 1})));
+    EXPECT_TRUE((MapRect{0, 0, 1, 1}.intersects({0, 1, 1, 1})));
+    EXPECT_TRUE((MapRect{0, 1, 1, 1}.intersects({0, 0, 1, 1})));
     EXPECT_FALSE((MapRect{0, 0, 1, 1}.intersects({1.5, 0, 1, 1})));
+    EXPECT_FALSE((MapRect{1.5, 0, 1, 1}.intersects({0, 0, 1, 1})));
+    EXPECT_FALSE((MapRect{0, 0, 1, 1}.intersects({0, 1.5, 1, 1})));
+    EXPECT_FALSE((MapRect{0, 1.5, 1, 1}.intersects({0, 0, 1, 1})));
     EXPECT_FALSE((MapRect::null().intersects({-10, -10, 100, 100})));
 }
 

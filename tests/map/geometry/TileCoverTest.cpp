@@ -86,6 +86,14 @@ TEST(TileCover, BeginsWithTheTileUnderTheMiddleOfTheView) {
     const auto cover = tileCover(camera, tileZoom(camera.scale()), 100);
     ASSERT_FALSE(cover.empty());
     EXPECT_TRUE(cover.front().key.bounds().contains(camera.center()));
+    double last = 0;
+    for (const CoverTile& tile : cover) { // and goes outwards
+        const MapPoint middle = tile.key.bounds().center();
+        const double distance =
+            std::hypot(middle.x + tile.offset - camera.center().x, middle.y - camera.center().y);
+        EXPECT_GE(distance, last);
+        last = distance;
+    }
 }
 
 TEST(TileCover, AMarginAddsTilesAround) {
