@@ -245,5 +245,19 @@ TEST_F(Workspace, StateIsEachWindowsOwn) {
     EXPECT_EQ(other.camera(), overview);
 }
 
+TEST_F(Workspace, APickOnTheMapIsToldOfAndSelects) {
+    QStringList told;
+    QObject::connect(
+        &m_workspace, &OpenMapWorkspace::pickedOnMap, [&](const QString& id) { told.append(id); });
+    m_workspace.pickOnMap(QStringLiteral("ten"));
+    EXPECT_EQ(m_workspace.selection(), QStringLiteral("ten"));
+    EXPECT_EQ(m_workspace.inspector(), QStringLiteral("ten"));
+    m_workspace.pickOnMap(none);
+    EXPECT_EQ(m_workspace.selection(), none);
+    EXPECT_EQ(told, QStringList({QStringLiteral("ten"), none}));
+    pick("two");
+    EXPECT_EQ(told.size(), 2);
+}
+
 } // namespace
 } // namespace vasker

@@ -1,6 +1,8 @@
-// What happens when there is no memory. The allocation functions are those below, so that a test
-// can make the n-th allocation fail and count what is not freed.
+// What happens when there is no memory, and when decoding is cancelled in its midst. The allocation
+// functions are those below, so that a test can make the n-th allocation fail or cancel, and count
+// what is not freed.
 
+#include "data/Cancelled.h"
 #include "data/Digest.h"
 #include "data/OpenMapRelease.h"
 #include "data/ReleaseIndex.h"
@@ -11,7 +13,9 @@
 #include <unicode/uclean.h>
 
 #include <cstdlib>
+#include <functional>
 #include <new>
+#include <stop_token>
 #include <tuple>
 
 // Allocation functions have global state and malloc().
@@ -24,6 +28,7 @@ constexpr long never = -1;
 long allocationsUntilFailure = never;
 bool laterOnesFailToo = false;
 long live = 0;
+std::function<void()> onAllocation; ///< allocates nothing
 
 bool fails() noexcept {
     if (allocationsUntilFailure > 0) {
@@ -38,6 +43,9 @@ bool fails() noexcept {
 }
 
 void* allocated(std::size_t size) noexcept {
+    if (onAllocation) {
+        onAllocation();
+    }
     void* const memory = fails() ? nullptr : std::malloc(size);
     live += memory == nullptr ? 0 : 1;
     return memory;
@@ -174,6 +182,26 @@ TEST_F(AllocationFailure, WhileDecodingAReleaseThatIsRefusedChangesNoRefusal) {
             return refusal.place();
         }
     });
+}
+
+TEST(CancelledDecoding, EndsWithinAThousandElementsOfAList) {
+    OpenMapRelease release = makeRelease();
+    release.limitations.assign(20'000, "a text that has memory of its own");
+    const std::string json = encode(release);
+    const std::string digest = sha256(json);
+    std::stop_source stop;
+    long allocations = 0;
+    onAllocation = [&] {
+        if (++allocations == 5'000) {
+            stop.request_stop();
+        }
+    };
+    EXPECT_THROW(
+        static_cast<void>(OpenMapRelease::decode(std::string(json), digest, stop.get_token())),
+        Cancelled);
+    onAllocation = {};
+    EXPECT_GE(allocations, 5'000);
+    EXPECT_LE(allocations, 5'000 + 1'100);
 }
 
 TEST_F(AllocationFailure, WhileIndexingLeavesNothingHalfDone) {

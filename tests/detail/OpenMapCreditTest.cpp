@@ -63,9 +63,14 @@ TEST(OpenMapCredit, OfLongListsOnlyTheFirstAreLaidOutAtOnce) {
     EXPECT_EQ(promptCount({}), 0);
     EXPECT_EQ(promptCount({one, one}), 2);
     EXPECT_EQ(promptCount(std::vector<OpenMapCredit>(100, one)), 7);
-    OpenMapCredit huge = one;
-    huge.attribution = QString(100'000, QLatin1Char('a'));
-    EXPECT_EQ(promptCount({huge, one}), 1);
+    for (QString OpenMapCredit::*text : {&OpenMapCredit::publisher,
+                                         &OpenMapCredit::attribution,
+                                         &OpenMapCredit::conditions,
+                                         &OpenMapCredit::modifications}) {
+        OpenMapCredit huge = one;
+        huge.*text = QString(3'000, QLatin1Char('a'));
+        EXPECT_EQ(promptCount({huge, one}), 1);
+    }
 }
 
 } // namespace

@@ -239,6 +239,8 @@ TEST(OpenMapInspector, LaysOutAtOnceOnlyTheCreditsThatHaveRoomBelowItsFacts) {
         return inspected(release).promptCredits();
     };
     EXPECT_EQ(promptCreditsWith(2), 2);
+    EXPECT_EQ(promptCreditsWith(4), 2);
+    EXPECT_EQ(promptCreditsWith(5), 1);
     EXPECT_EQ(promptCreditsWith(6), 1);
     EXPECT_EQ(promptCreditsWith(7), 0);
     EXPECT_EQ(promptCreditsWith(50), 0);

@@ -2,7 +2,12 @@
 
 #include "tests/support/ReleaseBuilder.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace vasker {
 namespace {
@@ -12,6 +17,18 @@ std::string identityOf(std::string generatedAt) {
     release.generatedAt = std::move(generatedAt);
     return OpenMapSources::of(release).identity.toStdString();
 }
+
+/// Sets every text in capitals.
+class Capitals : public QTranslator {
+  public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* /*context*/,
+                                    const char* text,
+                                    const char* /*disambiguation*/,
+                                    int /*n*/) const override {
+        return QString::fromUtf8(text).toUpper();
+    }
+};
 
 TEST(OpenMapSources, TellsWhatTheReleaseIs) {
     const OpenMapSources sources = OpenMapSources::of(makeRelease());
@@ -104,6 +121,18 @@ TEST(OpenMapSources, SaysWhatIsLicensedAndWhatIsPrivate) {
     EXPECT_EQ(sources.privacy[1],
               QStringLiteral("No private Vasker library or raw source documents are included. Data "
                              "updates arrive in a new app release."));
+}
+
+TEST(OpenMapSources, SaysInOtherLanguagesThanEnglishThatTextsOfPublishersAreNotTranslated) {
+    EXPECT_EQ(OpenMapSources::of(makeRelease()).languageNote, QString());
+    int argumentCount = 1;
+    std::array<char, 5> name{"test"};
+    std::array<char*, 2> arguments{name.data(), nullptr};
+    const QCoreApplication application(argumentCount, arguments.data());
+    Capitals translator;
+    QCoreApplication::installTranslator(&translator);
+    EXPECT_EQ(OpenMapSources::of(makeRelease()).languageNote,
+              QStringLiteral("VALUES AND TEXTS OF PUBLISHERS ARE SHOWN IN THEIR OWN LANGUAGE."));
 }
 
 } // namespace
