@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <utility>
 
@@ -248,6 +249,9 @@ TEST_F(MapLabelsTest, PinsMakeWayForControlsAndForRegionsAndCitiesPlacedAsIfTher
     addPlace(QStringLiteral("ALBERTA"), {600, 200}, 1, PlaceLabel::Kind::region);
     addPlace(QStringLiteral("Regina"), {600, 500}, 5, PlaceLabel::Kind::town);
     addPlace(QStringLiteral("Fairview"), {300, 500}, 7, PlaceLabel::Kind::town);
+    addPlace(QStringLiteral("Rosebud"), {300, 600}, 4, PlaceLabel::Kind::village);
+    addPlace(QStringLiteral("CANADA"), {700, 600}, 1, PlaceLabel::Kind::country);
+    addPlace(QStringLiteral("Ottawa"), {700, 400}, 1, PlaceLabel::Kind::capital);
     addPin({330, 310}, {});
     controls = {{10, 600, 150, 30}};
     const auto kept = labels.keptFreeOfPins({.camera = camera,
@@ -259,11 +263,64 @@ TEST_F(MapLabelsTest, PinsMakeWayForControlsAndForRegionsAndCitiesPlacedAsIfTher
                                              .dots = dots,
                                              .obstacles = controls,
                                              .isMoving = false});
-    ASSERT_EQ(kept.size(), 4U);
+    const auto isNamed = [&](ScreenPoint where) {
+        return std::ranges::any_of(kept, [&](const ScreenRect& rect) {
+            return rect.overlaps({where.x, where.y, 20, 10});
+        });
+    };
+    ASSERT_EQ(kept.size(), 5U);
     EXPECT_EQ(kept[0], controls[0]);
-    EXPECT_TRUE(kept[1].overlaps({590, 195, 20, 10}));
-    EXPECT_TRUE(kept[2].overlaps({315, 295, 20, 10}));
-    EXPECT_TRUE(kept[3].overlaps({615, 495, 20, 10}));
+    EXPECT_TRUE(isNamed({590, 195}));
+    EXPECT_TRUE(isNamed({315, 295}));
+    EXPECT_TRUE(isNamed({615, 495}));
+    EXPECT_TRUE(isNamed({715, 395}));
+}
+
+TEST_F(MapLabelsTest, LabelsStandInThePartThatNothingCovers) {
+    const Viewport covered{
+        .width = 900, .height = 700, .coveredBelow = 120, .coveredRight = 150, .coveredLeft = 200};
+    for (double x = 20; x < 900; x += 80) {
+        for (double y = 20; y < 700; y += 40) {
+            addPlace(QStringLiteral("Red Deer"), {x, y}, 1, PlaceLabel::Kind::country);
+            places.back().text += QString::number(places.size());
+        }
+    }
+    do {
+        compose(Camera(camera.pose(), covered));
+    } while (labels.isUnfinished());
+    ASSERT_GE(texts().size(), 10U);
+    double lowest = 0;
+    const auto placed = texts();
+    for (std::size_t i = 0; i < placed.size(); ++i) {
+        EXPECT_TRUE((ScreenRect{200, 0, 550, 580}.contains(placed[i]))) << i;
+        for (std::size_t other = 0; other < i; ++other) {
+            EXPECT_FALSE(placed[i].overlaps(placed[other])) << i << ' ' << other;
+        }
+        lowest = std::max(lowest, placed[i].y + placed[i].height);
+    }
+    EXPECT_GT(lowest, 500);
+}
+
+TEST_F(MapLabelsTest, AProminentNameHasAsMuchRoomAroundItOnEverySide) {
+    addPlace(QStringLiteral("ALBERTA"), {600, 200}, 1, PlaceLabel::Kind::region);
+    const auto names = labels.keptFreeOfPins({.camera = camera,
+                                              .theme = BasemapTheme::light,
+                                              .devicePixels = 1,
+                                              .textScale = 1,
+                                              .places = places,
+                                              .records = {},
+                                              .dots = {},
+                                              .obstacles = {},
+                                              .isMoving = false});
+    compose();
+    ASSERT_EQ(names.size(), 1U);
+    ASSERT_EQ(texts().size(), 1U);
+    const ScreenRect text = texts().front();
+    const double room = text.x - names[0].x;
+    EXPECT_GT(room, 0);
+    EXPECT_NEAR(text.y - names[0].y, room, 1e-6);
+    EXPECT_NEAR(names[0].width, text.width + 2 * room, 1e-6);
+    EXPECT_NEAR(names[0].height, text.height + 2 * room, 1e-6);
 }
 
 } // namespace

@@ -173,5 +173,80 @@ TEST(PlaceLabels, WhatHasNoNameNoPlaceOrAnUnknownKindIsPassedOver) {
     EXPECT_TRUE(textsOf(dataOf({place("x", {0.5F, 0.5F})}), senseless).empty());
 }
 
+TEST(PlaceLabels, ARepetitionNearByIsFoundInEveryDirection) {
+    for (const TilePoint from : {TilePoint{0.5F, 0.5F}, {0.45F, 0.55F}}) {
+        for (int step = 0; step < 8; ++step) {
+            const double angle = step * M_PI / 4;
+            const auto right = static_cast<float>(0.4 * std::cos(angle));
+            const auto down = static_cast<float>(0.4 * std::sin(angle));
+            const TileData data =
+                dataOf({place("Cold Lake", from, "water", 0),
+                        place("Cold Lake", {from.x + right, from.y + down}, "water", 0)},
+                       "water_polygons_labels");
+            EXPECT_EQ(textsOf(data, requestFor(tile, 5)).size(), 1U) << step;
+        }
+    }
+}
+
+TEST(PlaceLabels, ALabelShowsFromItsFirstZoomUpToItsLast) {
+    VectorFeature country = place("country", {0.1F, 0.1F}, "", 2);
+    country.adminLevel = 2;
+    const TileData data = dataOf({country}, "boundary_labels");
+    const auto shows = [&](double zoom) { return !textsOf(data, requestFor(tile, zoom)).empty(); };
+    EXPECT_FALSE(shows(2.399));
+    EXPECT_TRUE(shows(2.401));
+    EXPECT_TRUE(shows(3.599));
+    EXPECT_FALSE(shows(3.601));
+    VectorFeature greatest = place("greatest", {0.1F, 0.1F}, "", 0);
+    greatest.adminLevel = 2;
+    EXPECT_TRUE(textsOf(dataOf({greatest}, "boundary_labels"), requestFor(tile, 0.999)).empty());
+    EXPECT_FALSE(textsOf(dataOf({greatest}, "boundary_labels"), requestFor(tile, 1.001)).empty());
+}
+
+TEST(PlaceLabels, AMetropolisWithoutRankComesWithTheLargeCities) {
+    VectorFeature metropolis = place("metropolis", {0.1F, 0.1F}, "city", 0);
+    metropolis.population = 1'000'000;
+    VectorFeature city = place("city", {0.2F, 0.2F}, "city", 0);
+    city.population = 999'999;
+    VectorFeature ranked = place("ranked", {0.3F, 0.3F}, "city", 4);
+    ranked.population = 2'000'000;
+    const TileData data = dataOf({metropolis, city, ranked});
+    EXPECT_EQ(textsOf(data, requestFor(tile, 3.01)),
+              (std::vector<QString>{QStringLiteral("metropolis")}));
+    EXPECT_EQ(textsOf(data, requestFor(tile, 4.5)).size(), 2U);
+    EXPECT_EQ(textsOf(data, requestFor(tile, 5.01)).size(), 3U);
+}
+
+TEST(PlaceLabels, ASmallCapitalOfARegionIsSetAsATownAndComesALittleLater) {
+    VectorFeature capital = place("capital", {0.1F, 0.1F}, "state_capital", 3);
+    capital.population = 200'000;
+    const auto labelsAt = [&](double zoom) {
+        return placeLabels(dataOf({capital}), requestFor(tile, zoom), MapLanguage::english);
+    };
+    ASSERT_EQ(labelsAt(3.3).size(), 1U);
+    EXPECT_EQ(labelsAt(3.3)[0].kind, PlaceLabel::Kind::city);
+    capital.population = 199'999;
+    EXPECT_TRUE(labelsAt(3.3).empty());
+    ASSERT_EQ(labelsAt(3.7).size(), 1U);
+    EXPECT_EQ(labelsAt(3.7)[0].kind, PlaceLabel::Kind::town);
+}
+
+TEST(PlaceLabels, CountriesRegionsAndWatersCompeteByTheirRanks) {
+    VectorFeature great = place("great", {0.1F, 0.1F}, "", 1);
+    VectorFeature small = place("small", {0.2F, 0.2F}, "", 2);
+    const std::vector<QString> expected{QStringLiteral("great"), QStringLiteral("small")};
+    EXPECT_EQ(textsOf(dataOf({small, great}, "water_polygons_labels"), requestFor(tile, 5)),
+              expected);
+    for (const int level : {2, 4}) {
+        great.adminLevel = small.adminLevel = level;
+        EXPECT_EQ(textsOf(dataOf({small, great}, "boundary_labels"), requestFor(tile, 3.5)),
+                  expected);
+    }
+    great.wayArea = 1e12;
+    small.wayArea = 1e11;
+    EXPECT_EQ(textsOf(dataOf({small, great}, "water_polygons_labels"), requestFor(tile, 5)),
+              expected);
+}
+
 } // namespace
 } // namespace vasker
