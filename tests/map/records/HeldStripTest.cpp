@@ -48,6 +48,13 @@ TEST_F(HeldStripTest, AShiftedMapShiftsItsStrip) {
     expectInPlace(second, moved);
 }
 
+TEST_F(HeldStripTest, WhereTheMapStaysTheStripStays) {
+    const auto first = shown(home);
+    const auto second = shown(home);
+    EXPECT_EQ(second.strip, first.strip);
+    EXPECT_EQ(second.offset, (ScreenPoint{0, 0}));
+}
+
 TEST_F(HeldStripTest, ARotatedMapShiftsItsStripToo) {
     const Camera rotated = home.rotated(30, home.focus());
     const auto first = shown(rotated);

@@ -85,8 +85,8 @@ TEST(TileClip, OfALineOutsideNothingIsLeft) {
 
 TEST(TileClip, PointsOfALineThatAreTooNearAreLeftOutAndTheLastStays) {
     EXPECT_EQ(clippedText(tileClip.line(
-                  {{0, 0}, {0.0005F, 0}, {0, 0.0005F}, {0.5, 0}, {0.5, 0.0009765625}})),
-              "0,0 256,0 256,0.5");
+                  {{0, 0}, {0.0005F, 0}, {0, 0.0005F}, {0.5, 0}, {0.5, 0.00048828125}})),
+              "0,0 256,0 256,0.25");
     EXPECT_EQ(clippedText(tileClip.line({{0, 0}, {0.0009765625, 0}, {0.5, 0}})), "0,0 0.5,0 256,0");
     EXPECT_EQ(clippedText(tileClip.line({{0, 0}, {0, 0.0009765625}, {0.5, 0}})), "0,0 0,0.5 256,0");
 }

@@ -42,12 +42,14 @@ TEST(TileInflation, AnEmptyStreamIsAnEmptyTile) {
 }
 
 TEST(TileInflation, ABrokenOffOrDamagedStreamIsRefused) {
-    std::string bytes = deflated(tileBytes, gzip);
-    for (std::size_t size = 2; size < bytes.size(); ++size) {
-        EXPECT_EQ(inflatedTile(bytes.substr(0, size)), std::nullopt) << size;
+    for (const int format : {gzip, zlib}) {
+        std::string bytes = deflated(tileBytes, format);
+        for (std::size_t size = 2; size < bytes.size(); ++size) {
+            EXPECT_EQ(inflatedTile(bytes.substr(0, size)), std::nullopt) << size;
+        }
+        bytes[bytes.size() / 2] = static_cast<char>(~bytes[bytes.size() / 2]);
+        EXPECT_EQ(inflatedTile(bytes), std::nullopt);
     }
-    bytes[bytes.size() / 2] = static_cast<char>(~bytes[bytes.size() / 2]);
-    EXPECT_EQ(inflatedTile(bytes), std::nullopt);
 }
 
 TEST(TileInflation, WhatInflatesBeyondTheLargestTileIsRefused) {

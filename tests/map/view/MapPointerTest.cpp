@@ -165,6 +165,20 @@ TEST_F(MapPointer, ADoubleClickOnARecordPicksItOnceAndDoesNotZoom) {
     EXPECT_EQ(m_map->camera(), CameraPosition(canadaOverview));
 }
 
+TEST_F(MapPointer, ARecordIsHoveredUntilThePointerLeavesTheMap) {
+    const QPointF onThePin(400, 290);
+    const auto hovers = [&](const char* id) {
+        return QTest::qWaitFor(
+            [&] { return m_map->hover()->recordId() == QString::fromLatin1(id); });
+    };
+    QHoverEvent over(QEvent::HoverMove, onThePin, onThePin, {0, 0});
+    QCoreApplication::sendEvent(m_map, &over);
+    EXPECT_TRUE(hovers("R-0"));
+    QHoverEvent gone(QEvent::HoverLeave, {-1, -1}, {-1, -1}, onThePin);
+    QCoreApplication::sendEvent(m_map, &gone);
+    EXPECT_TRUE(hovers(""));
+}
+
 TEST_F(MapPointer, TheSecondaryButtonAsksForTheMenuOfARecordAndPicksNothing) {
     const QSignalSpy picks(m_map, &MapView::picked);
     const QSignalSpy menus(m_map, &MapView::menuRequested);
