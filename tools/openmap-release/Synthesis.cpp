@@ -1,5 +1,6 @@
 #include "tools/openmap-release/Synthesis.h"
 
+#include "data/ReleaseRules.h"
 #include "data/ReleaseWriter.h"
 #include "tools/openmap-release/RandomSequence.h"
 #include "tools/openmap-release/SyntheticRecords.h"
@@ -11,17 +12,12 @@
 namespace vasker {
 namespace {
 
-constexpr std::size_t maximumRecords = 10'000;
-constexpr std::size_t maximumRoutePoints = 300'000;
-constexpr std::size_t maximumFacts = 50;
-constexpr std::size_t maximumValueCharacters = 10'000;
-
 [[noreturn]] void refuse(const std::string& reason) {
     throw ImpossibleSynthesis(reason);
 }
 
 void refuseImpossibleNumbers(const SynthesisOptions& options) {
-    if (options.records == 0 || options.records > maximumRecords) {
+    if (options.records == 0 || options.records > maximumAssets) {
         refuse("a release has 1 to 10000 records, not " + std::to_string(options.records));
     }
     if (options.routePoints > maximumRoutePoints) {
@@ -110,7 +106,7 @@ class Filling {
     /// Remarks of about equal length, longer ones the more is left to fill.
     void addRemarksInTurn() {
         const std::size_t share = m_left / m_release.assets.size();
-        const std::size_t length = std::clamp<std::size_t>(share / 8, 60, maximumValueCharacters);
+        const std::size_t length = std::clamp<std::size_t>(share / 8, 60, maximumFactValueLength);
         for (std::size_t round = 0; round < maximumFacts; ++round) {
             for (OpenMapRelease::Asset& asset : m_release.assets) {
                 if (asset.facts.size() < maximumFacts && !addRemark(asset, length)) {
@@ -129,7 +125,7 @@ class Filling {
         }
         fact.value = syntheticRemark(characters, m_random);
         if (encode(fact).size() + separator(asset) > m_left) {
-            fact.value = syntheticPadding(std::min(m_left - bare, maximumValueCharacters));
+            fact.value = syntheticPadding(std::min(m_left - bare, maximumFactValueLength));
             fact.value.front() = 'R';
         }
         add(asset, std::move(fact));
@@ -152,8 +148,8 @@ class Filling {
         for (OpenMapRelease::Asset& asset : m_release.assets) {
             for (OpenMapRelease::Fact& fact : asset.facts) {
                 // Bytes bound characters from above, so this never exceeds the limit.
-                const std::size_t used = std::min(fact.value.size(), maximumValueCharacters);
-                const std::size_t padding = std::min(maximumValueCharacters - used, m_left);
+                const std::size_t used = std::min(fact.value.size(), maximumFactValueLength);
+                const std::size_t padding = std::min(maximumFactValueLength - used, m_left);
                 fact.value += syntheticPadding(padding);
                 m_left -= padding;
                 if (m_left == 0) {

@@ -4,116 +4,47 @@
 #include <array>
 
 namespace vasker {
-namespace {
-
-using Need = TableRoleTraits::Need;
-using Citation = TableRoleTraits::Citation;
-using Period = TableRoleTraits::Period;
-using Routes = TableRoleTraits::Routes;
-
-constexpr auto roles = std::to_array<TableRoleTraits>({
-    {TableRole::npriFacilities,
-     "npri-facilities",
-     "NPRI ID",
-     Need::required,
-     Citation::source,
-     Period::column},
-    {TableRole::npriLocations,
-     "npri-locations",
-     "NPRI_id",
-     Need::required,
-     Citation::source,
-     Period::description},
-    {TableRole::npriReports,
-     "npri-reports",
-     "NPRI_ID",
-     Need::optional,
-     Citation::source,
-     Period::description},
-    {TableRole::npriReportYears,
-     "npri-report-years",
-     "NPRI_ID",
-     Need::optional,
-     Citation::source,
-     Period::description},
-    {TableRole::npriSectors,
-     "npri-sectors",
-     "NPRI_ID",
-     Need::optional,
-     Citation::source,
-     Period::description},
-    {TableRole::npriReleases,
-     "npri-releases",
-     "NPRI_ID",
-     Need::optional,
-     Citation::source,
-     Period::description},
-    {TableRole::ghgrpFacilities,
-     "ghgrp-facilities",
-     "Facility ID",
-     Need::required,
-     Citation::source,
-     Period::column},
-    {TableRole::ghgrpTotals,
-     "ghgrp-totals",
-     "GHGRP_ID",
-     Need::optional,
-     Citation::source,
-     Period::column},
-    {TableRole::ghgrpGases,
-     "ghgrp-gases",
-     "GHGRP_ID",
-     Need::optional,
-     Citation::source,
-     Period::column},
-    {TableRole::ghgrpPetrinex,
-     "ghgrp-petrinex",
-     "GHGRP_ID",
-     Need::optional,
-     Citation::source,
-     Period::description},
-    {TableRole::ghgrpLinks,
-     "ghgrp-links",
-     "GHG ID No.",
-     Need::optional,
-     Citation::none,
-     Period::column},
-    {TableRole::oilPipelines,
-     "gem-oil-pipelines",
-     "ProjectID",
-     Need::required,
-     Citation::source,
-     Period::description,
-     Routes::folder},
-    {TableRole::gasPipelines,
-     "gem-gas-pipelines",
-     "ProjectID",
-     Need::required,
-     Citation::source,
-     Period::description,
-     Routes::folder},
-    {TableRole::terminals,
-     "gem-lng-terminals",
-     "UnitID",
-     Need::required,
-     Citation::source,
-     Period::description},
-    {TableRole::routeIndex,
-     "gem-route-index",
-     "ProjectID",
-     Need::required,
-     Citation::none,
-     Period::column},
-});
-
-} // namespace
 
 std::span<const TableRoleTraits> tableRoles() {
+    using enum TableRole;
+    using enum TableRoleTraits::Need;
+    using enum TableRoleTraits::Citation;
+    using enum TableRoleTraits::Period;
+    using Routes = TableRoleTraits::Routes;
+    static constexpr auto roles = std::to_array<TableRoleTraits>({
+        {npriFacilities, "npri-facilities", "NPRI ID", required, source, column},
+        {npriLocations, "npri-locations", "NPRI_id", required, source, description},
+        {npriReports, "npri-reports", "NPRI_ID", optional, source, description},
+        {npriReportYears, "npri-report-years", "NPRI_ID", optional, source, description},
+        {npriSectors, "npri-sectors", "NPRI_ID", optional, source, description},
+        {npriReleases, "npri-releases", "NPRI_ID", optional, source, description},
+        {ghgrpFacilities, "ghgrp-facilities", "Facility ID", required, source, column},
+        {ghgrpTotals, "ghgrp-totals", "GHGRP_ID", optional, source, column},
+        {ghgrpGases, "ghgrp-gases", "GHGRP_ID", optional, source, column},
+        {ghgrpPetrinex, "ghgrp-petrinex", "GHGRP_ID", optional, source, description},
+        {ghgrpLinks, "ghgrp-links", "GHG ID No.", optional, none, column},
+        {oilPipelines,
+         "gem-oil-pipelines",
+         "ProjectID",
+         required,
+         source,
+         description,
+         Routes::folder},
+        {gasPipelines,
+         "gem-gas-pipelines",
+         "ProjectID",
+         required,
+         source,
+         description,
+         Routes::folder},
+        {terminals, "gem-lng-terminals", "UnitID", required, source, description},
+        {routeIndex, "gem-route-index", "ProjectID", required, none, column},
+    });
     return roles;
 }
 
 const TableRoleTraits& traitsOf(TableRole role) {
-    return *std::ranges::find(roles, role, &TableRoleTraits::role);
+    return *std::ranges::find(tableRoles(), role, &TableRoleTraits::role);
 }
 
 } // namespace vasker
