@@ -15,7 +15,6 @@ namespace {
 using enum PackStep;
 
 std::set<std::string, std::less<>> routesInsideCanada(const CsvTable& index) {
-    index.requireColumns({"ProjectID", "vertices_inside_Canada_incl_EEZ"});
     std::set<std::string, std::less<>> ids;
     for (const CsvTable::Row& cells : index.rows()) {
         const RowReader row(index, cells);

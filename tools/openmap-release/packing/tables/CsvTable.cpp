@@ -109,19 +109,19 @@ CsvTable::CsvTable(std::string file, std::string_view bytes) : m_file(std::move(
     }
 }
 
-void CsvTable::requireColumns(std::initializer_list<std::string_view> headings) const {
-    for (const std::string_view heading : headings) {
-        if (m_columns.find(heading) == m_columns.end()) {
-            throw InputError(m_file, 1, "there is no column \"" + std::string(heading) + "\"");
-        }
+std::size_t CsvTable::columnOf(std::string_view heading) const {
+    const auto found = m_columns.find(heading);
+    if (found == m_columns.end()) {
+        throw InputError(m_file, 1, "there is no column \"" + std::string(heading) + "\"");
     }
+    return found->second;
 }
 
 std::vector<std::string> CsvTable::omit(std::string_view heading, const KeyedReasons& omitted) {
-    requireColumns({heading});
+    const std::size_t column = columnOf(heading);
     std::vector<std::string> rows;
     std::erase_if(m_rows, [&](const Row& row) {
-        const auto found = omitted.find(cell(row, heading));
+        const auto found = omitted.find(row.cells[column]);
         if (found != omitted.end()) {
             rows.push_back(found->first);
         }
@@ -150,7 +150,7 @@ std::size_t CsvTable::replaceTabs() {
 }
 
 std::string_view CsvTable::cell(const Row& row, std::string_view heading) const {
-    return row.cells[m_columns.find(heading)->second];
+    return row.cells[columnOf(heading)];
 }
 
 void CsvTable::refuse(const Row& row, std::string_view message) const {

@@ -4,7 +4,6 @@
 #include "tools/openmap-release/packing/tables/InputError.h"
 
 #include <cstddef>
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
@@ -28,10 +27,6 @@ class CsvTable {
     /// and a file without headings.
     CsvTable(std::string file, std::string_view bytes);
 
-    /// Throws InputError unless every one of `headings` names a column. A heading in two languages,
-    /// "City / Ville", goes by its first part as well.
-    void requireColumns(std::initializer_list<std::string_view> headings) const;
-
     /// Row keys, each with the reason why its rows are left out.
     using KeyedReasons = std::map<std::string, std::string, std::less<>>;
     /// Removes the rows whose cell under `heading` is a key of `omitted`; returns the keys of those
@@ -42,11 +37,15 @@ class CsvTable {
     std::size_t replaceTabs();
 
     [[nodiscard]] const std::vector<Row>& rows() const noexcept { return m_rows; }
-    /// The cell under `heading`, as it stands. Lives as long as the table.
+    /// The cell under `heading`, as it stands. Lives as long as the table. Throws InputError where
+    /// there is no such column. A heading in two languages, "City / Ville", goes by its first part
+    /// as well.
     [[nodiscard]] std::string_view cell(const Row& row, std::string_view heading) const;
     [[noreturn]] void refuse(const Row& row, std::string_view message) const;
 
   private:
+    [[nodiscard]] std::size_t columnOf(std::string_view heading) const;
+
     std::string m_file;
     std::map<std::string, std::size_t, std::less<>> m_columns;
     std::vector<Row> m_rows;

@@ -6,18 +6,6 @@
 namespace vasker {
 namespace {
 
-using Reader = GemPipeline (*)(const RowReader&);
-
-std::vector<GemPipeline> readPipelines(const CsvTable& table, Reader read) {
-    std::vector<GemPipeline> pipelines;
-    UniqueIds ids("ProjectID");
-    for (const CsvTable::Row& cells : table.rows()) {
-        const RowReader row(table, cells);
-        ids.take(row, pipelines.emplace_back(read(row)).id);
-    }
-    return pipelines;
-}
-
 GemPipeline startOf(const RowReader& row) {
     GemPipeline pipeline;
     pipeline.id = row.requiredText("ProjectID");
@@ -121,82 +109,11 @@ GemPipeline readGasPipeline(const RowReader& row) {
 } // namespace
 
 std::vector<GemPipeline> readOilPipelines(const CsvTable& table) {
-    table.requireColumns({"ProjectID",
-                          "PipelineName",
-                          "SegmentName",
-                          "Status",
-                          "Countries",
-                          "Fuel",
-                          "Owner",
-                          "Parent",
-                          "Capacity",
-                          "CapacityUnits",
-                          "LengthKnownKm",
-                          "LengthEstimateKm",
-                          "Diameter",
-                          "DiameterUnits",
-                          "StartLocation",
-                          "StartPrefecture/District",
-                          "StartCountry",
-                          "EndLocation",
-                          "EndPrefecture/District",
-                          "EndState/Province",
-                          "EndCountry",
-                          "FuelSource",
-                          "ProposalYear",
-                          "ConstructionYear",
-                          "StartYear1",
-                          "StartYear2",
-                          "StartYear3",
-                          "ShelvedYear",
-                          "CancelledYear",
-                          "StopYear",
-                          "Cost",
-                          "CostUnits",
-                          "RouteAccuracy",
-                          "Wiki",
-                          "LastUpdated"});
-    return readPipelines(table, readOilPipeline);
+    return readUnique(table, "ProjectID", readOilPipeline);
 }
 
 std::vector<GemPipeline> readGasPipelines(const CsvTable& table) {
-    table.requireColumns({"ProjectID",
-                          "PipelineName",
-                          "SegmentName",
-                          "Status",
-                          "CountriesOrAreas",
-                          "Fuel",
-                          "Owner",
-                          "Parent",
-                          "Capacity",
-                          "CapacityUnits",
-                          "LengthKnownKm",
-                          "LengthEstimateKm",
-                          "Diameter",
-                          "DiameterUnits",
-                          "StartLocation",
-                          "StartPrefecture/District",
-                          "StartState/Province",
-                          "StartCountryOrArea",
-                          "EndLocation",
-                          "EndPrefecture/District",
-                          "EndState/Province",
-                          "EndCountryOrArea",
-                          "FuelSource",
-                          "StartYear1",
-                          "StartYear2",
-                          "StartYear3",
-                          "ShelvedYear",
-                          "CancelledYear",
-                          "StopYear",
-                          "FIDStatus",
-                          "FIDYear",
-                          "CostUSD",
-                          "OtherEnglishNames",
-                          "RouteAccuracy",
-                          "Wiki",
-                          "LastUpdated"});
-    return readPipelines(table, readGasPipeline);
+    return readUnique(table, "ProjectID", readGasPipeline);
 }
 
 } // namespace vasker

@@ -59,48 +59,7 @@ GemTerminal readTerminal(const RowReader& row) {
 } // namespace
 
 std::vector<GemTerminal> readTerminals(const CsvTable& table) {
-    table.requireColumns({"ProjectID",
-                          "UnitID",
-                          "Country/Area",
-                          "Wiki",
-                          "TerminalName",
-                          "UnitName",
-                          "FacilityType",
-                          "Status",
-                          "OtherNames",
-                          "LocalNames",
-                          "Owner",
-                          "Parent",
-                          "Operator",
-                          "Capacity",
-                          "CapacityUnits",
-                          "ProposalYear",
-                          "ConstructionYear",
-                          "LatestPlannedStartYear",
-                          "ActualStartYear",
-                          "ActualStartYear2",
-                          "ActualStartYear3",
-                          "ShelvedYear",
-                          "CancelledYear",
-                          "StopYear",
-                          "Location",
-                          "Prefecture/District",
-                          "State/Province",
-                          "Latitude",
-                          "Longitude",
-                          "Accuracy",
-                          "Cost",
-                          "CostUnits",
-                          "FIDStatus",
-                          "FIDYear",
-                          "LastUpdated"});
-    std::vector<GemTerminal> terminals;
-    UniqueIds ids("UnitID");
-    for (const CsvTable::Row& cells : table.rows()) {
-        const RowReader row(table, cells);
-        ids.take(row, terminals.emplace_back(readTerminal(row)).id);
-    }
-    return terminals;
+    return readUnique(table, "UnitID", readTerminal);
 }
 
 } // namespace vasker

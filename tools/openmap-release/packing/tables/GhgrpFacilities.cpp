@@ -41,7 +41,7 @@ std::string emissions(const RowReader& row) {
     return number + " " + units.substr(open + 1, close - open - 1);
 }
 
-GhgrpFacility readFacility(const RowReader& row) {
+GhgrpFacility readFacility(const RowReader& row, PackTally& tally) {
     GhgrpFacility facility;
     facility.id = "G" + row.requiredDigits("Facility ID");
     facility.year = row.requiredDigits("Report year");
@@ -51,6 +51,7 @@ GhgrpFacility readFacility(const RowReader& row) {
     facility.naics = naicsCode(row);
     facility.emissions = emissions(row);
     facility.industry = row.text("Industry classification");
+    facility.city = row.place("City", TableRole::ghgrpFacilities, tally);
     facility.page = row.text("Facility information");
     facility.position = row.position("Latitude", "Longitude");
     return facility;
@@ -59,28 +60,8 @@ GhgrpFacility readFacility(const RowReader& row) {
 } // namespace
 
 std::vector<GhgrpFacility> readGhgrpFacilities(const CsvTable& table, PackTally& tally) {
-    table.requireColumns({"Facility ID",
-                          "Facility name",
-                          "Company name",
-                          "City",
-                          "Province",
-                          "Latitude",
-                          "Longitude",
-                          "Total emissions",
-                          "Units",
-                          "Report year",
-                          "Industry classification",
-                          "Industry classification link",
-                          "Facility information"});
-    std::vector<GhgrpFacility> facilities;
-    UniqueIds ids("Facility ID");
-    for (const CsvTable::Row& cells : table.rows()) {
-        const RowReader row(table, cells);
-        GhgrpFacility& facility = facilities.emplace_back(readFacility(row));
-        ids.take(row, facility.id);
-        facility.city = row.place("City", TableRole::ghgrpFacilities, tally);
-    }
-    return facilities;
+    return readUnique(
+        table, "Facility ID", [&](const RowReader& row) { return readFacility(row, tally); });
 }
 
 } // namespace vasker

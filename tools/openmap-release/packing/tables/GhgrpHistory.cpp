@@ -10,7 +10,6 @@
 namespace vasker {
 
 std::map<std::string, GhgrpTotals, std::less<>> readGhgrpTotals(const CsvTable& table) {
-    table.requireColumns({"GHGRP_ID", "Year", "Total emissions (t CO2e)"});
     std::map<std::string, GhgrpTotals, std::less<>> totals;
     for (const CsvTable::Row& cells : table.rows()) {
         const RowReader row(table, cells);
@@ -26,7 +25,6 @@ std::map<std::string, GhgrpTotals, std::less<>> readGhgrpTotals(const CsvTable& 
 
 std::map<std::string, GhgrpGases, std::less<>> readGhgrpGases(const CsvTable& table,
                                                               PackTally& tally) {
-    table.requireColumns({"GHGRP_ID", "Year", "CO2 (tonnes)", "CH4 (tonnes)", "N2O (tonnes)"});
     std::map<std::string, GhgrpGases, std::less<>> gases;
     std::set<std::pair<std::string, int>> known;
     for (const CsvTable::Row& cells : table.rows()) {
@@ -51,7 +49,6 @@ std::map<std::string, GhgrpGases, std::less<>> readGhgrpGases(const CsvTable& ta
 }
 
 std::map<std::string, PetrinexCodes, std::less<>> readPetrinexCodes(const CsvTable& table) {
-    table.requireColumns({"GHGRP_ID", "Petrinex facility ID", "Type letters"});
     std::map<std::string, PetrinexCodes, std::less<>> facilities;
     for (const CsvTable::Row& cells : table.rows()) {
         const RowReader row(table, cells);
@@ -66,7 +63,6 @@ std::map<std::string, PetrinexCodes, std::less<>> readPetrinexCodes(const CsvTab
 }
 
 std::map<std::string, FacilityLink, std::less<>> readFacilityLinks(const CsvTable& table) {
-    table.requireColumns({"GHG ID No.", "Reference Year", "Facility NPRI ID"});
     std::map<std::string, FacilityLink, std::less<>> links;
     for (const CsvTable::Row& cells : table.rows()) {
         const RowReader row(table, cells);

@@ -6,13 +6,14 @@
 namespace vasker {
 namespace {
 
-NpriFacility readNpriFacility(const RowReader& row) {
+NpriFacility readNpriFacility(const RowReader& row, PackTally& tally) {
     NpriFacility facility;
     facility.id = plainNpriId(row.requiredDigits("NPRI ID"));
     facility.year = row.requiredYear("Year of last filed report");
     facility.name = row.requiredText("Facility Name");
     facility.province = row.requiredProvince("Province");
     facility.company = row.text("Company Name");
+    facility.city = row.place("City", TableRole::npriFacilities, tally);
     facility.landSurvey = row.text("Physical Land Survey Description");
     facility.naics = row.text("NAICS");
     facility.sectorCode = row.text("Key Industrial Sector Code").value_or("");
@@ -24,31 +25,11 @@ NpriFacility readNpriFacility(const RowReader& row) {
 } // namespace
 
 std::vector<NpriFacility> readNpriFacilities(const CsvTable& table, PackTally& tally) {
-    table.requireColumns({"Year of last filed report",
-                          "NPRI ID",
-                          "Company Name",
-                          "Facility Name",
-                          "City",
-                          "Province",
-                          "Physical Land Survey Description",
-                          "Latitude",
-                          "Longitude",
-                          "NAICS",
-                          "Key Industrial Sector Code",
-                          "Key Industrial Sector (English)"});
-    std::vector<NpriFacility> facilities;
-    UniqueIds ids("NPRI ID");
-    for (const CsvTable::Row& cells : table.rows()) {
-        const RowReader row(table, cells);
-        NpriFacility& facility = facilities.emplace_back(readNpriFacility(row));
-        ids.take(row, facility.id);
-        facility.city = row.place("City", TableRole::npriFacilities, tally);
-    }
-    return facilities;
+    return readUnique(
+        table, "NPRI ID", [&](const RowReader& row) { return readNpriFacility(row, tally); });
 }
 
 NpriLocations readNpriLocations(const CsvTable& table) {
-    table.requireColumns({"NPRI_id", "latitude", "longitude"});
     NpriLocations positions;
     UniqueIds ids("NPRI_id");
     for (const CsvTable::Row& cells : table.rows()) {

@@ -116,7 +116,6 @@ NpriReleases sorted(FacilityReleases&& facility, const std::string& id, PackTall
 
 std::map<std::string, NpriReleases, std::less<>> readNpriReleases(const CsvTable& table,
                                                                   PackTally& tally) {
-    table.requireColumns({"NPRI_ID", "Year", "Substance", "Unit", "Quantity, all media"});
     std::map<std::string, FacilityReleases, std::less<>> facilities;
     std::set<std::string> known;
     for (const CsvTable::Row& cells : table.rows()) {

@@ -26,15 +26,6 @@ std::map<std::string, Value, std::less<>> readById(const CsvTable& table, Read r
 
 NpriReports readNpriReports(const CsvTable& table, std::string_view year, PackTally& tally) {
     const std::string oxides = "NOx " + std::string(year) + " (t)";
-    table.requireColumns({"NPRI_ID",
-                          "Facility name",
-                          "Company name",
-                          "City",
-                          "Province",
-                          "Latitude",
-                          "Longitude",
-                          "Last reporting year",
-                          oxides});
     int reportingYear = 0;
     std::from_chars(year.data(), year.data() + year.size(), reportingYear);
     return readById<NpriReport>(table, [&](const RowReader& row) {
@@ -62,14 +53,12 @@ NpriReports readNpriReports(const CsvTable& table, std::string_view year, PackTa
 }
 
 std::map<std::string, NpriReportYears, std::less<>> readNpriReportYears(const CsvTable& table) {
-    table.requireColumns({"NPRI_ID", "NAICS", "Last year with releases"});
     return readById<NpriReportYears>(table, [](const RowReader& row) {
         return NpriReportYears{row.requiredYear("Last year with releases"), row.text("NAICS")};
     });
 }
 
 std::map<std::string, std::string, std::less<>> readNpriSectors(const CsvTable& table) {
-    table.requireColumns({"NPRI_ID", "Key industrial sector code"});
     return readById<std::string>(table, [](const RowReader& row) {
         return row.text("Key industrial sector code").value_or("");
     });

@@ -6,6 +6,8 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <vector>
 
 namespace vasker {
 
@@ -25,5 +27,18 @@ class UniqueIds {
     std::string_view m_name;
     std::set<std::string> m_ids;
 };
+
+/// What `read` makes of each row of `table`, a record with an `id`. Throws InputError where an id
+/// stands twice.
+template <typename Read>
+auto readUnique(const CsvTable& table, std::string_view name, const Read& read) {
+    std::vector<std::invoke_result_t<Read, const RowReader&>> records;
+    UniqueIds ids(name);
+    for (const CsvTable::Row& cells : table.rows()) {
+        const RowReader row(table, cells);
+        ids.take(row, records.emplace_back(read(row)).id);
+    }
+    return records;
+}
 
 } // namespace vasker
