@@ -1,5 +1,6 @@
 #include "tools/openmap-release/commands/CheckCommand.h"
 
+#include "tools/openmap-release/RoutesText.h"
 #include "tools/openmap-release/commands/PackagedRelease.h"
 
 #include <algorithm>
@@ -13,9 +14,7 @@ std::string summary(const OpenMapRelease& release) {
     const auto routes = std::ranges::count_if(release.assets, &OpenMapRelease::Asset::hasRoute);
     std::size_t points = 0;
     for (const OpenMapRelease::Asset& asset : release.assets) {
-        for (const OpenMapRelease::Route& route : asset.routes) {
-            points += route.size();
-        }
+        points += routePoints(asset);
     }
     return "ok: " + std::to_string(release.assets.size()) + " records, " + std::to_string(routes) +
            " routes, " + std::to_string(release.sources.size()) + " sources, " +

@@ -3,9 +3,9 @@
 #include "data/ReleaseWriter.h"
 #include "data/export/NumberText.h"
 #include "tools/openmap-release/PrintedText.h"
+#include "tools/openmap-release/RoutesText.h"
 #include "tools/openmap-release/Suggestion.h"
 #include "tools/openmap-release/commands/PackagedRelease.h"
-#include "tools/openmap-release/packing/tables/Cells.h"
 
 #include <algorithm>
 #include <iterator>
@@ -13,15 +13,6 @@
 
 namespace vasker {
 namespace {
-
-std::string routesText(const OpenMapRelease::Asset& record) {
-    std::size_t vertices = 0;
-    for (const OpenMapRelease::Route& route : record.routes) {
-        vertices += route.size();
-    }
-    return grouped(record.routes.size()) + (record.routes.size() == 1 ? " line, " : " lines, ") +
-           grouped(vertices) + " vertices";
-}
 
 /// The record as the viewer shows it: its fields, its facts, the sources that they cite.
 std::string described(const OpenMapRelease& release, const OpenMapRelease::Asset& record) {

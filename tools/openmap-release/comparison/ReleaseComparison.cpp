@@ -1,10 +1,11 @@
 #include "tools/openmap-release/comparison/ReleaseComparison.h"
 
+#include "tools/openmap-release/GreatCircle.h"
+#include "tools/openmap-release/RoutesText.h"
+
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <map>
-#include <numbers>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -12,29 +13,11 @@
 namespace vasker {
 namespace {
 
-/// Great-circle distance on the mean sphere (haversine formula).
-double metresBetween(const OpenMapRelease::Position& from, const OpenMapRelease::Position& to) {
-    constexpr double earthRadius = 6'371'008.8;
-    constexpr double radians = std::numbers::pi / 180;
-    const double halfNorth = std::sin((to.latitude - from.latitude) * radians / 2);
-    const double halfEast = std::sin((to.longitude - from.longitude) * radians / 2);
-    const double square = halfNorth * halfNorth + std::cos(from.latitude * radians) *
-                                                      std::cos(to.latitude * radians) * halfEast *
-                                                      halfEast;
-    return 2 * earthRadius * std::asin(std::sqrt(std::min(1.0, square)));
-}
+/// Of the mean sphere.
+constexpr double earthRadiusMetres = 6'371'008.8;
 
 std::string sourceName(const OpenMapRelease& release, std::string_view id) {
     return std::string(release.source(id)->shortName());
-}
-
-std::string routeText(const OpenMapRelease::Asset& record) {
-    std::size_t vertices = 0;
-    for (const OpenMapRelease::Route& route : record.routes) {
-        vertices += route.size();
-    }
-    return std::to_string(record.routes.size()) + " lines, " + std::to_string(vertices) +
-           " vertices";
 }
 
 /// A fact's value with its period and source: what a reader sees of it.
@@ -123,7 +106,7 @@ class Comparison {
         const OpenMapRelease::Position from{before.longitude, before.latitude};
         const OpenMapRelease::Position to{after.longitude, after.latitude};
         if (from != to) {
-            source.moved.push_back({record, from, to, metresBetween(from, to)});
+            source.moved.push_back({record, from, to, earthRadiusMetres * angleBetween(from, to)});
         }
         const auto compareField = [&](std::string field,
                                       const std::optional<std::string>& one,
@@ -142,8 +125,11 @@ class Comparison {
         compareField(
             "source", sourceName(m_before, before.sourceID), sourceName(m_after, after.sourceID));
         if (before.routes != after.routes) {
-            source.changed.push_back(
-                {record, "routes", ChangedValue::Of::record, routeText(before), routeText(after)});
+            source.changed.push_back({record,
+                                      "routes",
+                                      ChangedValue::Of::record,
+                                      routesText(before),
+                                      routesText(after)});
         }
         compareFacts(before, after, source);
     }

@@ -1,27 +1,15 @@
 #include "tools/openmap-release/packing/GemRecords.h"
 
+#include "tools/openmap-release/GreatCircle.h"
+#include "tools/openmap-release/RoutesText.h"
 #include "tools/openmap-release/packing/FactWriter.h"
-#include "tools/openmap-release/packing/tables/Cells.h"
 
-#include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <utility>
 #include <vector>
 
 namespace vasker {
 namespace {
-
-/// Great-circle distance on a sphere, as the angle in radians (haversine formula).
-double angleBetween(const OpenMapRelease::Position& from, const OpenMapRelease::Position& to) {
-    constexpr double radians = std::numbers::pi / 180;
-    const double halfNorth = std::sin((to.latitude - from.latitude) * radians / 2);
-    const double halfEast = std::sin((to.longitude - from.longitude) * radians / 2);
-    const double square = halfNorth * halfNorth + std::cos(from.latitude * radians) *
-                                                      std::cos(to.latitude * radians) * halfEast *
-                                                      halfEast;
-    return 2 * std::asin(std::sqrt(std::min(1.0, square)));
-}
 
 /// For each vertex, how far it is along the line.
 std::vector<double> distancesAlong(const OpenMapRelease::Route& route) {
@@ -30,15 +18,6 @@ std::vector<double> distancesAlong(const OpenMapRelease::Route& route) {
         distances.push_back(distances.back() + angleBetween(route[next - 1], route[next]));
     }
     return distances;
-}
-
-std::string routeBasis(const OpenMapRelease::Asset& asset) {
-    std::size_t vertices = 0;
-    for (const OpenMapRelease::Route& route : asset.routes) {
-        vertices += route.size();
-    }
-    return "GEM route repository, " + grouped(asset.routes.size()) +
-           (asset.routes.size() == 1 ? " line, " : " lines, ") + grouped(vertices) + " vertices";
 }
 
 } // namespace
@@ -81,7 +60,7 @@ OpenMapRelease::Asset pipelineRecord(const GemPipeline& pipeline,
     asset.latitude = middle.latitude;
     const FactWriter facts(asset, citations);
     facts.add(table, pipeline.facts);
-    facts.add(table, routesPeriod, "Route basis", routeBasis(asset));
+    facts.add(table, routesPeriod, "Route basis", "GEM route repository, " + routesText(asset));
     return asset;
 }
 
