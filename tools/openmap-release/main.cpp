@@ -6,6 +6,7 @@
 #include "tools/openmap-release/commands/KindsCommand.h"
 #include "tools/openmap-release/commands/ListCommand.h"
 #include "tools/openmap-release/commands/PackCommand.h"
+#include "tools/openmap-release/commands/PackagedRelease.h"
 #include "tools/openmap-release/commands/ShowCommand.h"
 #include "tools/openmap-release/commands/StatsCommand.h"
 #include "tools/openmap-release/commands/SynthesizeCommand.h"
@@ -83,6 +84,8 @@ CommandResult runCommand(const Command& command, std::span<const std::string_vie
     }
     try {
         return command.run(vasker::Arguments(words, command.options));
+    } catch (const vasker::RefusedRelease& refused) {
+        return refused.result;
     } catch (const vasker::UsageError& error) {
         return wrongUsage(error.what(), command.synopsis);
     } catch (const std::exception& error) {

@@ -22,13 +22,10 @@ std::string summary(const OpenMapRelease& release) {
 }
 
 CommandResult runCheck(const Arguments& arguments) {
-    auto opened = openRelease(arguments.onlyOperand("FILE"),
-                              arguments.value("--sha256"),
-                              arguments.has("--explain") ? Explanation::place : Explanation::none);
-    if (auto* refusal = std::get_if<CommandResult>(&opened)) {
-        return std::move(*refusal);
-    }
-    return {ExitStatus::ok, summary(std::get<PackagedRelease>(opened).release), ""};
+    const auto explanation = arguments.has("--explain") ? Explanation::place : Explanation::none;
+    const PackagedRelease opened =
+        openRelease(arguments.onlyOperand("FILE"), arguments.value("--sha256"), explanation);
+    return {ExitStatus::ok, summary(opened.release), ""};
 }
 
 } // namespace

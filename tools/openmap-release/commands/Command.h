@@ -25,7 +25,8 @@ struct Command {
     std::string_view synopsis; ///< what follows the tool's name
     std::string_view help;     ///< the text below the synopsis
     std::vector<OptionShape> options;
-    /// May throw UsageError and FileError, which main() reports with status `failed`.
+    /// May throw RefusedRelease, and UsageError and FileError, which main() reports with status
+    /// `failed`.
     CommandResult (*run)(const Arguments&);
 };
 

@@ -14,12 +14,12 @@ CommandResult runDiff(const Arguments& arguments) {
     }
     std::vector<OpenMapRelease> releases;
     for (const std::string& file : files) {
-        auto opened = openRelease(file);
-        if (auto* refusal = std::get_if<CommandResult>(&opened)) {
-            refusal->errors = file + ": " + refusal->errors;
-            return std::move(*refusal);
+        try {
+            releases.push_back(openRelease(file).release);
+        } catch (RefusedRelease& refused) {
+            refused.result.errors = file + ": " + refused.result.errors;
+            throw;
         }
-        releases.push_back(std::move(std::get<PackagedRelease>(opened).release));
     }
     const ReleaseComparison comparison = compare(releases[0], releases[1]);
     return {ExitStatus::ok,

@@ -43,11 +43,7 @@ CommandResult runExport(const Arguments& arguments) {
     const Export write = exportNamed(arguments.requiredValue("--format"));
     const std::string query = utf8Value(arguments, "--query", "");
     const std::string kind = utf8Value(arguments, "--kind", "all");
-    auto opened = openRelease(file);
-    if (auto* refusal = std::get_if<CommandResult>(&opened)) {
-        return std::move(*refusal);
-    }
-    const auto& [release, digest] = std::get<PackagedRelease>(opened);
+    const auto [release, digest] = openRelease(file);
     const ExportHeader header{release.releaseID, digest, query, kind};
     std::string text;
     const ExportOutcome outcome =

@@ -7,12 +7,9 @@ namespace vasker {
 namespace {
 
 CommandResult runKinds(const Arguments& arguments) {
-    auto opened = openRelease(arguments.onlyOperand("FILE"));
-    if (auto* refusal = std::get_if<CommandResult>(&opened)) {
-        return std::move(*refusal);
-    }
+    const OpenMapRelease release = openRelease(arguments.onlyOperand("FILE")).release;
     CommandResult result;
-    for (const std::string& kind : kinds(std::get<PackagedRelease>(opened).release)) {
+    for (const std::string& kind : kinds(release)) {
         result.output += kind + "\t" + OpenMapRelease::Asset::categoryLabel(kind) + "\n";
     }
     return result;

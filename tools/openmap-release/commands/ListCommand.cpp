@@ -7,11 +7,7 @@ namespace vasker {
 namespace {
 
 CommandResult runList(const Arguments& arguments) {
-    auto opened = openRelease(arguments.onlyOperand("FILE"));
-    if (auto* refusal = std::get_if<CommandResult>(&opened)) {
-        return std::move(*refusal);
-    }
-    const auto& release = std::get<PackagedRelease>(opened).release;
+    const OpenMapRelease release = openRelease(arguments.onlyOperand("FILE")).release;
     const std::string kind = arguments.value("--kind").value_or("all");
     CommandResult result{ExitStatus::ok, "", unknownKindNote(release, kind)};
     for (const AssetIndex place : filtered(release,

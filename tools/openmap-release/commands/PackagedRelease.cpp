@@ -55,18 +55,16 @@ std::string explained(const std::exception& error, std::string_view bytes) {
 
 } // namespace
 
-std::variant<PackagedRelease, CommandResult>
-openRelease(const std::string& path,
-            const std::optional<std::string>& expectedSHA256,
-            Explanation explanation) {
+PackagedRelease openRelease(const std::string& path,
+                            const std::optional<std::string>& expectedSHA256,
+                            Explanation explanation) {
     // One byte more than is accepted is enough to see that a file is too long.
     const std::string bytes = readFile(path, OpenMapRelease::maximumFileSize + 1);
     const bool isTooLong = bytes.size() > OpenMapRelease::maximumFileSize;
     const std::string digest = isTooLong ? std::string() : sha256(bytes);
     CommandResult result;
     try {
-        return PackagedRelease{OpenMapRelease::decode(bytes, expectedSHA256.value_or(digest)),
-                               digest};
+        return {OpenMapRelease::decode(bytes, expectedSHA256.value_or(digest)), digest};
     } catch (const OpenMapRelease::Refusal& refusal) {
         result = refused(caseName(refusal.invalid()), refusal);
         if (explanation == Explanation::place) {
@@ -80,7 +78,7 @@ openRelease(const std::string& path,
             result.errors += explained(error, bytes);
         }
     }
-    return result;
+    throw RefusedRelease(std::move(result));
 }
 
 std::string unknownKindNote(const OpenMapRelease& release, std::string_view kind) {

@@ -4,10 +4,11 @@
 #include "data/OpenMapRelease.h"
 #include "tools/openmap-release/commands/Command.h"
 
+#include <exception>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
+#include <utility>
 
 namespace vasker {
 
@@ -19,10 +20,16 @@ struct PackagedRelease {
     std::string digest; ///< the SHA-256 of the file
 };
 
+/// The file is refused; `result` is all that the command says: the case on standard output, the
+/// description on standard error, status `refused`. main() prints it.
+struct RefusedRelease final : std::exception {
+    explicit RefusedRelease(CommandResult said) : result(std::move(said)) {}
+    CommandResult result;
+};
+
 /// The release in the file at `path`, of standard input for "-"; `expectedSHA256` is used as it
-/// stands, the file's own digest where there is none. A refusal is the command's whole result: the
-/// case on standard output, the description on standard error, status `refused`. Throws FileError.
-[[nodiscard]] std::variant<PackagedRelease, CommandResult>
+/// stands, the file's own digest where there is none. Throws RefusedRelease and FileError.
+[[nodiscard]] PackagedRelease
 openRelease(const std::string& path,
             const std::optional<std::string>& expectedSHA256 = std::nullopt,
             Explanation explanation = Explanation::none);

@@ -58,11 +58,7 @@ CommandResult unknownRecord(const OpenMapRelease& release, const std::string& id
 
 CommandResult runShow(const Arguments& arguments) {
     const std::vector<std::string> operands = arguments.operands({"FILE", "ID"});
-    auto opened = openRelease(operands[0]);
-    if (auto* refusal = std::get_if<CommandResult>(&opened)) {
-        return std::move(*refusal);
-    }
-    const OpenMapRelease& release = std::get<PackagedRelease>(opened).release;
+    const OpenMapRelease release = openRelease(operands[0]).release;
     const auto record = std::ranges::find(release.assets, operands[1], &OpenMapRelease::Asset::id);
     if (record == release.assets.end()) {
         return unknownRecord(release, operands[1]);

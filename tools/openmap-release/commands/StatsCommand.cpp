@@ -82,11 +82,7 @@ std::string jsonOf(const OpenMapRelease& release) {
 }
 
 CommandResult runStats(const Arguments& arguments) {
-    auto opened = openRelease(arguments.onlyOperand("FILE"));
-    if (auto* refusal = std::get_if<CommandResult>(&opened)) {
-        return std::move(*refusal);
-    }
-    const OpenMapRelease& release = std::get<PackagedRelease>(opened).release;
+    const OpenMapRelease release = openRelease(arguments.onlyOperand("FILE")).release;
     return {ExitStatus::ok, arguments.has("--json") ? jsonOf(release) : textOf(release), ""};
 }
 
