@@ -55,7 +55,7 @@ TEST(GuideSection, TheGuideOfTheProgramTellsOfEachTask) {
     ASSERT_EQ(sections.size(), 7U);
     EXPECT_EQ(sections[0].title, QStringLiteral("Find a plant or a pipeline"));
     EXPECT_EQ(sections[0].rows.size(), 5U);
-    EXPECT_EQ(sections[3].title, QStringLiteral("Take something along"));
+    EXPECT_EQ(sections[3].title, QStringLiteral("Save, copy or print"));
     EXPECT_EQ(sections[3].rows.front().label, QStringLiteral("the records that the list shows"));
     for (const GuideSection& section : sections) {
         EXPECT_FALSE(section.rows.empty()) << section.title.toStdString();
