@@ -48,7 +48,7 @@ void Announcements::setRoot(OpenMapRoot* root) {
     connect(root, &OpenMapRoot::screenChanged, this, &Announcements::tellScreen);
     if (root->screen() == OpenMapRoot::Screen::Loading) {
         m_loading.start();
-    } else { // when somebody listens
+    } else { // once a listener is connected
         QMetaObject::invokeMethod(this, &Announcements::tellScreen, Qt::QueuedConnection);
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
-// What a window says to screen readers of itself: how loading went, what a search has found, what
-// was picked on the map, another basemap. Who looks at it sees the same.
+// What a window announces to screen readers: how loading ended, what a search found, what was
+// picked on the map, another basemap. All of it is also seen on the screen.
 
 #include "app/OpenMapRoot.h"
 

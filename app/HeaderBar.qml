@@ -2,8 +2,9 @@ import QtQuick
 import Vasker.App
 import Vasker.Platform
 
-// The bar over the map: the title, the toolbar and, apart from it, the primary menu. When room runs
-// out the title goes first, then the labels of the buttons, then the buttons into the menu.
+// The bar over the map: the title, the toolbar and, apart from it, the primary menu. Where the room
+// is short the title goes first, then the labels of the buttons; then the buttons move into the
+// menu.
 Rectangle {
     id: root
 

@@ -1,7 +1,7 @@
 #pragma once
-// Gives memory back that the program no longer uses: what the engine of the views would keep until
-// it happens to collect, and what the allocator keeps of what was freed. Both take some
-// milliseconds, so that it happens when nobody waits: after a window is gone, and once the user
+// Returns memory that the program no longer uses: objects that the QML engine keeps until its next
+// collection, and blocks that the allocator keeps after they were freed. Both take some
+// milliseconds, so they run when nothing else happens: after a window is closed, and once the user
 // pauses.
 
 #include <QObject>

@@ -3,7 +3,8 @@ import QtQuick
 import Vasker.App
 import Vasker.Platform
 
-// The button of what concerns the whole program, as desktops have it at the end of the header bar.
+// The button for everything that concerns the whole program, at the end of the header bar, as
+// desktops have it.
 HeaderButton {
     id: root
 

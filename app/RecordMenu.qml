@@ -3,7 +3,7 @@ import Vasker.App
 import Vasker.Detail
 import Vasker.Platform
 
-// What can be done with a record wherever it is met: in a row, on the map, in the inspector.
+// The context menu of a record: in a row, on the map, in the inspector.
 Menu {
     id: root
 

@@ -20,7 +20,7 @@ namespace vasker {
 /// An index in OpenMapRelease::assets.
 using AssetIndex = std::uint32_t;
 
-/// Answers as the definitions in Classification.h do, in less time. Immutable; any thread.
+/// Returns what the definitions in Classification.h return, in less time. Immutable; any thread.
 class ReleaseIndex {
   public:
     /// Throws Cancelled if `stop` asks to stop.

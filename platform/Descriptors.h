@@ -1,5 +1,5 @@
 #pragma once
-// How many files, sockets and the like the process may still open.
+// How many more files, sockets and the like the process may open.
 
 namespace vasker {
 

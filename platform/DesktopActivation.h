@@ -52,7 +52,7 @@ class DesktopActivation : public QObject {
     void withdraw();
 
   Q_SIGNALS:
-    /// Another window is wanted. The one who asked waits until this has been dealt with.
+    /// Another window is requested. The caller waits until this has been dealt with.
     void windowWanted(const vasker::LaunchToken& token);
 
   private:

@@ -1,5 +1,5 @@
 #pragma once
-// What the allocator keeps of what was freed.
+// Returns what the allocator keeps of freed memory to the system.
 
 #include <cstddef>
 

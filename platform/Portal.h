@@ -1,6 +1,6 @@
 #pragma once
-// One request to the desktop's portal: it is sent, and its answer comes when the user has decided.
-// Nothing here waits.
+// One request to the desktop's portal: it is sent, and its response comes when the user has
+// decided. Nothing here waits.
 
 #include <QDBusConnection>
 #include <QObject>

@@ -1,5 +1,5 @@
 #pragma once
-// How a record of each category is marked in lists and on the map. Keys are compared exactly.
+// The symbol and colour of each category in lists and on the map. Keys are compared exactly.
 
 #include "platform/ui/theme/ThemeColors.h"
 

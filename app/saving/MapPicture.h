@@ -1,6 +1,6 @@
 #pragma once
-// A picture of the map to take along: the map as it is seen, and below it what it shows and whose
-// data it is drawn from. Any painter draws it: on an image, on a page. Immutable; any thread.
+// A picture of the map to save or print: the map as it is seen, and below it what it shows and the
+// attribution of its data. Any painter draws it: on an image, on a page. Immutable; any thread.
 
 #include "map/frame/MapDrawing.h"
 

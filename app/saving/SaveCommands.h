@@ -1,5 +1,5 @@
 #pragma once
-// What a window lets the user save of what it shows, and how the last such action ended.
+// What a window can save of what it shows, and how the last such action ended.
 
 #include "app/OpenMapWorkspace.h"
 #include "app/saving/MapPicture.h"
@@ -63,7 +63,7 @@ class SaveCommands : public QObject {
     using Use = std::function<void(const MapPicture& picture)>;
     void takePicture(double scale, const Use& use);
     void ask(const QString& title, const QString& suffix, QQuickWindow* window, double scale);
-    /// The picture of what is seen now, all but the map itself and whom to thank for it.
+    /// The picture of what is seen now, without the map itself and its attribution.
     [[nodiscard]] MapPicture pictureWithoutMap(double scale) const;
     /// Which records are shown; empty where all are.
     [[nodiscard]] QString shownText() const;

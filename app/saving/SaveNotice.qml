@@ -3,7 +3,8 @@ import Vasker.App
 import Vasker.Map
 import Vasker.Platform
 
-// How saving ended, or that it is under way. Good news goes by itself, bad news when it is pressed.
+// How saving ended, or that it is under way. A success disappears by itself, a failure when it is
+// pressed.
 Button {
     id: root
 

@@ -1,5 +1,5 @@
 #pragma once
-// The name that a file is offered under when it is saved.
+// The file name that is proposed when something is saved.
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
-// The sheets of one window, of which one at most is on screen. Who wants one requests it; it has
-// its turn when no other is there.
+// The sheets of one window, of which at most one is on screen. Views request a sheet; it opens when
+// no other is open.
 
 #include <QObject>
 #include <QtQmlIntegration>

@@ -1,7 +1,7 @@
 import Vasker.App
 import Vasker.Platform
 
-// A sheet of a window: it comes and goes as the stack of the window's sheets says.
+// A sheet of a window, which opens and closes as the window's SheetStack says.
 Sheet {
     id: root
 

@@ -2,8 +2,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vasker.Platform
 
-// Whose ground is shown: an optional note, then links, separated by dots; in several lines where
-// the room is short.
+// The attribution of the basemap in view: an optional note, then links, separated by dots; in
+// several lines where the room is short.
 Item {
     id: root
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Vasker.Platform
 
-// Where north is while it is not up; a press sets the map upright. It hides when there is nothing
-// to tell, but the keyboard still finds it.
+// Shows where north is while it is not up; a press sets the map upright. It is invisible while the
+// map is upright, but keeps its place among the controls that the keyboard reaches.
 Button {
     id: root
 

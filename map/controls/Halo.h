@@ -1,6 +1,6 @@
 #pragma once
-// The halo of a line of text on the map: its outline, drawn wide, that keeps it readable on any
-// ground.
+// The halo of a line of text on the map: its outline, drawn wide, so that it is readable on any
+// background.
 
 #include <QColor>
 #include <QFont>

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vasker.Platform
 
-// How far things are apart: a bar with ticks at its ends and its middle, and its length.
+// The scale bar, with ticks at its ends and its middle, and its length.
 Item {
     id: root
 

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vasker.Map
 
-// Marks the centre of the map, where Enter picks, for those who steer by keys.
+// Marks the centre of the map, where Enter picks, while the map is used by keys.
 Item {
     id: root
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Vasker.Map
 
-// What shows and tells of the map to those who steer by keys, and to all where no record is in view.
-// It fills the free part of the map.
+// What the map shows and announces to people who use it by keys, and to all where no record is in
+// view. It fills the free part of the map.
 Item {
     id: root
 

@@ -1,5 +1,5 @@
 #pragma once
-// Which shown record is nearest to a map that shows none: a word to people who have lost their way.
+// Which record is nearest to a map that shows none.
 
 #include "map/view/MapView.h"
 

@@ -1,6 +1,6 @@
 #pragma once
-// Places on the map in words, for people who hear of them: in the language of the user interface,
-// names as they stand.
+// Places on the map in words, for screen readers: in the language of the user interface, names as
+// they are.
 
 #include "data/OpenMapRelease.h"
 #include "map/labels/PlaceLabel.h"

@@ -10,10 +10,10 @@ namespace {
 // All in seconds and pixels per second.
 constexpr double trailLength = 0.1;
 constexpr double shortestTrail = 0.016; // two events of one frame tell no speed
-constexpr double glideDecay = 0.325;
-constexpr double slowestGlide = 60;
-constexpr double fastestGlide = 5000;
-constexpr double glideEnd = 5;
+constexpr double inertiaDecay = 0.325;
+constexpr double slowestSpeed = 60;
+constexpr double fastestSpeed = 5000;
+constexpr double endSpeed = 5;
 
 /// From 0 to 1 while time goes from 0 to 1: as a thing that comes to rest.
 double easedOut(double part) {
@@ -47,18 +47,18 @@ MapVelocity DragTrail::velocityAt(double seconds) const {
 Inertia::Inertia(const Camera& camera, MapVelocity velocity)
     : m_start(camera), m_velocity(velocity) {
     const double speed = std::hypot(velocity.x, velocity.y) * camera.scale();
-    if (speed < slowestGlide || !std::isfinite(speed)) {
+    if (speed < slowestSpeed || !std::isfinite(speed)) {
         m_velocity = {};
         return;
     }
-    const double limited = std::min(speed, fastestGlide);
+    const double limited = std::min(speed, fastestSpeed);
     m_velocity = {velocity.x * limited / speed, velocity.y * limited / speed};
-    m_duration = glideDecay * std::log(limited / glideEnd);
+    m_duration = inertiaDecay * std::log(limited / endSpeed);
 }
 
 Camera Inertia::cameraAt(double seconds) const {
     const double time = std::clamp(seconds, 0.0, m_duration);
-    const double way = glideDecay * (1 - std::exp(-time / glideDecay));
+    const double way = inertiaDecay * (1 - std::exp(-time / inertiaDecay));
     CameraPose pose = m_start.pose();
     pose.center.x += m_velocity.x * way;
     pose.center.y += m_velocity.y * way;
@@ -82,7 +82,7 @@ Camera SmoothZoom::cameraAt(double seconds) const {
 
 SmoothRotation::SmoothRotation(const Camera& camera, double bearing, double pitch)
     : m_start(camera), m_bearing(bearing), m_pitch(pitch),
-      m_turn(std::remainder(bearing - camera.pose().bearing, 360)) {}
+      m_rotation(std::remainder(bearing - camera.pose().bearing, 360)) {}
 
 Camera SmoothRotation::cameraAt(double seconds) const {
     CameraPose pose = m_start.pose();
@@ -91,7 +91,7 @@ Camera SmoothRotation::cameraAt(double seconds) const {
         pose.pitch = m_pitch;
     } else {
         const double part = easedOut(seconds / duration);
-        pose.bearing += part * m_turn;
+        pose.bearing += part * m_rotation;
         pose.pitch += part * (m_pitch - pose.pitch);
     }
     return {pose, m_start.viewport()};

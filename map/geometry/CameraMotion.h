@@ -1,6 +1,6 @@
 #pragma once
-// Cameras on their way: values that say where the camera is at a time. Seconds count from the
-// beginning of each motion; whoever moves the camera otherwise lets the motion go.
+// Motions of the camera: values that say where the camera is at a time. Seconds count from the
+// beginning of each motion; whoever moves the camera otherwise drops the motion.
 
 #include "map/geometry/Camera.h"
 
@@ -80,7 +80,7 @@ class SmoothRotation {
     Camera m_start;
     double m_bearing;
     double m_pitch;
-    double m_turn; ///< degrees from the start's bearing, (-180, 180]
+    double m_rotation; ///< degrees from the start's bearing, (-180, 180]
 };
 
 } // namespace vasker

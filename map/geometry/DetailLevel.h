@@ -1,6 +1,6 @@
 #pragma once
-// Levels of detail: half steps of zoom, so that what holds for all scales of a level is decided
-// anew every time the scale grows or shrinks by the square root of two.
+// Levels of detail: half steps of zoom. What depends on the scale is decided once per level,
+// whenever the scale grows or shrinks by the square root of two.
 
 #include <utility> // for the order
 

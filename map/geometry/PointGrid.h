@@ -1,6 +1,6 @@
 #pragma once
-// Points in the cells of a grid, for questions about what stands near a place. Cells share a fixed
-// number of buckets, so that nothing is allocated per cell however far the points are spread.
+// Points in the cells of a grid, to find those near a place. Cells share a fixed number of buckets,
+// so that nothing is allocated per cell however far the points are spread.
 
 #include "map/geometry/Projection.h"
 

@@ -9,7 +9,7 @@ namespace vasker {
 inline constexpr double dragThreshold = 4;
 inline constexpr double touchDragThreshold = 10;
 
-/// By which factor one notch of a wheel, a way on a touchpad and one double click zoom.
+/// The factors by which a notch of a wheel, a distance on a touchpad and a double click zoom.
 [[nodiscard]] double wheelZoomFactor(double angleDelta) noexcept;
 [[nodiscard]] double touchpadZoomFactor(double pixels) noexcept;
 inline constexpr double doubleClickZoomFactor = 2;

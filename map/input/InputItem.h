@@ -1,5 +1,5 @@
 #pragma once
-// An item that gets what its user does as values.
+// An item that receives what its user does as values.
 
 #include "map/input/MapEvent.h"
 

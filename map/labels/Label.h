@@ -1,5 +1,5 @@
 #pragma once
-// A text on the map and how it is set.
+// A text on the map with its style.
 
 #include "map/labels/PlaceLabel.h"
 #include "map/style/BasemapTheme.h"

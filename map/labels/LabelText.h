@@ -1,5 +1,5 @@
 #pragma once
-// How a label is set: typeface, colours, lines.
+// The style of labels: typeface, colours, lines.
 
 #include "map/labels/Label.h"
 

@@ -1,6 +1,6 @@
 #pragma once
-// What a picture of the map shows instead of a sprite: drawn anew by a painter, so that it is sharp
-// at any size. Owns all that it uses; any thread.
+// The vector form of a sprite: drawn by a painter, so that it is sharp at any size. Owns all that
+// it uses; any thread.
 
 #include <functional>
 

@@ -1,6 +1,7 @@
 #pragma once
-// Covers pixels by lines of a constant width with round joins and caps: by how far the centre of a
-// pixel lies from the line. Each line has a core and a wider casing, which are covered in one pass.
+// Covers pixels by lines of a constant width with round joins and caps, depending on how far the
+// centre of a pixel is from the line. Each line has a core and a wider casing, which are covered in
+// one pass.
 
 #include "map/raster/CoverageMask.h"
 

@@ -1,6 +1,6 @@
 #pragma once
-// The strip of one record's routes, kept from frame to frame: while the map is only shifted, it is
-// shifted as well, neither made nor uploaded anew.
+// The strip of one record's routes, kept from frame to frame: while the map is only shifted, the
+// strip is shifted too, and neither made nor uploaded again.
 
 #include "map/geometry/Camera.h"
 #include "map/layers/LineLayer.h"

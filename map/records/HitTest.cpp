@@ -23,7 +23,7 @@ double distanceToDot(ScreenPoint point, ScreenPoint dot, double radius) {
     return std::max(0.0, std::hypot(dot.x - point.x, dot.y - point.y) - radius - dotCasing);
 }
 
-/// The best answer so far.
+/// The best record so far.
 class Nearest {
   public:
     explicit Nearest(double reach) : m_distance(reach) {}

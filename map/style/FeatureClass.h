@@ -1,5 +1,5 @@
 #pragma once
-// What a feature of a vector tile is to the map's style.
+// How the map's style classifies a feature of a vector tile.
 
 #include "map/tiles/VectorTile.h"
 

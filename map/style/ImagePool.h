@@ -1,5 +1,5 @@
 #pragma once
-// Memory of images that is used again: the system maps and clears large blocks anew each time,
+// Memory of images for reuse: the system maps and clears large blocks each time they are allocated,
 // which takes longer than painting many a tile.
 
 #include <QImage>

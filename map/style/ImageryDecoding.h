@@ -1,5 +1,5 @@
 #pragma once
-// Decodes imagery tiles. The bytes are foreign: whatever is wrong with them costs the tile, never
+// Decodes imagery tiles. The bytes are untrusted: whatever is wrong with them costs the tile, never
 // more. Any thread.
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 #pragma once
-// What painting may cost. A few bytes of a vector tile can ask for minutes: the painter's time
-// grows with the length of outlines, and with how many of their pixels lie in one row.
+// A limit to the cost of painting. A few bytes of a vector tile can ask for minutes: the painter's
+// time grows with the length of outlines, and with how many of their pixels lie in one row.
 
 #include <QPolygonF>
 

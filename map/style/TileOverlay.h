@@ -1,6 +1,6 @@
 #pragma once
 // What is painted over a raster tile of the basemap, such as records on a machine without a
-// graphics card. The basemap knows this contract and not what fulfils it.
+// graphics card. The basemap knows this interface and no implementation.
 
 #include "map/geometry/MapRect.h"
 

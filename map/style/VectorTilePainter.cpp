@@ -21,7 +21,7 @@ namespace {
 /// Widths of up to one device pixel are drawn many times as fast: what is hardly wider takes that.
 constexpr double fastWidth = 1;
 constexpr double nearlyFastWidth = 1.6;
-/// Up to this many device pixels nobody sees whether ends and joins are round, which costs.
+/// Up to this many device pixels round ends and joins cannot be seen, and only cost time.
 constexpr double widthWithoutCurves = 3.5;
 
 QPen penOf(const QColor& color, double width, Qt::PenCapStyle cap) {

@@ -1,5 +1,5 @@
 #pragma once
-// What the bytes of an imagery tile tell before they are decoded.
+// What the bytes of an imagery tile say before they are decoded.
 
 #include <string>
 #include <string_view>

@@ -1,5 +1,5 @@
 #pragma once
-// An SQLite file. Foreign files are opened too: a schema is a program, so that statements have a
+// An SQLite file. Untrusted files are opened too: a schema is a program, so that statements have a
 // budget. One thread.
 
 #include <chrono>

@@ -1,6 +1,6 @@
 #pragma once
-// The geometry of one feature of a vector tile: drawing commands in, points out. As the
-// format of vector tiles has it in its version 2.1, 4.3.
+// The geometry of one feature of a vector tile: drawing commands in, points out. See the vector
+// tile specification 2.1, section 4.3.
 
 #include "map/tiles/VectorTile.h"
 

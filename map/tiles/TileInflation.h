@@ -1,5 +1,5 @@
 #pragma once
-// Tiles are stored and sent compressed.
+// Inflates tiles, which are stored and sent compressed.
 
 #include <cstddef>
 #include <optional>

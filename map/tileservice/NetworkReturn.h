@@ -1,5 +1,5 @@
 #pragma once
-// Tells when the network is back, where the desktop says so. User-interface thread.
+// Signals when the network is back, where the desktop reports it. User-interface thread.
 
 #include <QObject>
 

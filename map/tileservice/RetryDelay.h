@@ -1,6 +1,6 @@
 #pragma once
-// How long a service is left alone after it failed or refused. Values and pure functions: the time
-// is an argument.
+// How long a service gets no requests after it failed or refused one. Values and pure functions:
+// the time is an argument.
 
 #include <QByteArray>
 #include <QDateTime>

@@ -1,5 +1,5 @@
 #pragma once
-// The request for a tile, in the manners of the services: who asks, and nothing about whom for.
+// The HTTP request for a tile. It names the program, and nothing about its user.
 
 #include "map/tileservice/ServiceTile.h"
 #include "map/tileservice/TileCache.h"

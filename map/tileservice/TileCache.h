@@ -1,8 +1,8 @@
 #pragma once
-// Tiles of services kept on disk, in one SQLite file that does not grow beyond its bound: what was
-// not in view longest goes first. A folder that cannot be made, read or written, a full disk or a
-// damaged file cost the cache, nothing else; a file of another layout, or far above the bound, is
-// replaced at once. One thread.
+// Tiles of services kept on disk, in one SQLite file that does not grow beyond its bound: the tile
+// that was in view longest ago goes first. A folder that cannot be made, read or written, a full
+// disk or a damaged file cost the cache, nothing else; a file of another layout, or far above the
+// bound, is replaced at once. One thread.
 
 #include "map/tiles/SqliteDatabase.h"
 

@@ -29,7 +29,8 @@ TileFetch::TileFetch(QNetworkAccessManager& network,
     });
     QObject::connect(reply, &QNetworkReply::finished, &m_time, [this] {
         const QNetworkReply::NetworkError error = m_reply->error();
-        // Of the errors only those of the content, that is of the status, come with a whole answer.
+        // Of the errors only those of the content, that is of the status, come with a whole
+        // response.
         const bool isOfStatus = error >= QNetworkReply::ContentAccessDenied;
         finish(error == QNetworkReply::NoError || isOfStatus, false);
     });
@@ -58,20 +59,20 @@ void TileFetch::finish(bool isWhole, bool isTooLong) {
     }
     m_time.stop();
     m_silence.stop();
-    TileResponse answer;
-    answer.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    answer.isWhole = isWhole;
-    answer.isTooLong = isTooLong || m_reply->bytesAvailable() > m_mostBytes;
-    if (answer.isWhole && !answer.isTooLong) {
-        answer.body = m_reply->readAll();
+    TileResponse response;
+    response.status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    response.isWhole = isWhole;
+    response.isTooLong = isTooLong || m_reply->bytesAvailable() > m_mostBytes;
+    if (response.isWhole && !response.isTooLong) {
+        response.body = m_reply->readAll();
     }
-    answer.contentType = m_reply->rawHeader("Content-Type");
-    answer.cacheControl = m_reply->rawHeader("Cache-Control");
-    answer.expires = m_reply->rawHeader("Expires");
-    answer.retryAfter = m_reply->rawHeader("Retry-After");
-    answer.entityTag = m_reply->rawHeader("ETag");
-    answer.lastModified = m_reply->rawHeader("Last-Modified");
-    finished(answer);
+    response.contentType = m_reply->rawHeader("Content-Type");
+    response.cacheControl = m_reply->rawHeader("Cache-Control");
+    response.expires = m_reply->rawHeader("Expires");
+    response.retryAfter = m_reply->rawHeader("Retry-After");
+    response.entityTag = m_reply->rawHeader("ETag");
+    response.lastModified = m_reply->rawHeader("Last-Modified");
+    finished(response);
 }
 
 } // namespace vasker

@@ -1,5 +1,5 @@
 #pragma once
-// One request for a tile, bounded in size and time. Gives up, without a word, when it is destroyed.
+// One request for a tile, bounded in size and time. Destroying it cancels it silently.
 
 #include "map/tileservice/TileResponse.h"
 

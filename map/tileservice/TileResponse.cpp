@@ -12,26 +12,26 @@ namespace {
 constexpr int leastDays = 7;
 constexpr int mostDays = 365;
 
-TileVerdict verdictOfBody(TileContent content, const TileResponse& answer) {
-    if (answer.isTooLong) {
+TileVerdict verdictOfBody(TileContent content, const TileResponse& response) {
+    if (response.isTooLong) {
         return TileVerdict::missing;
     }
-    if (!answer.isWhole) {
+    if (!response.isWhole) {
         return TileVerdict::refused;
     }
-    const bool isText = answer.contentType.trimmed().toLower().startsWith("text/");
-    return !isText && looksLikeTile(content, answer.body) ? TileVerdict::tile
-                                                          : TileVerdict::missing;
+    const bool isText = response.contentType.trimmed().toLower().startsWith("text/");
+    return !isText && looksLikeTile(content, response.body) ? TileVerdict::tile
+                                                            : TileVerdict::missing;
 }
 
 } // namespace
 
-TileVerdict verdict(TileContent content, const TileResponse& answer) {
-    switch (answer.status) {
+TileVerdict verdict(TileContent content, const TileResponse& response) {
+    switch (response.status) {
     case 0:
         return TileVerdict::unreachable;
     case 200:
-        return verdictOfBody(content, answer);
+        return verdictOfBody(content, response);
     case 304:
         return TileVerdict::unchanged;
     case 429: // too many requests
@@ -44,7 +44,7 @@ TileVerdict verdict(TileContent content, const TileResponse& answer) {
         return TileVerdict::refused;
     default:
         // Redirections too: what is not where the address says is not there.
-        return answer.status >= 500 ? TileVerdict::refused : TileVerdict::missing;
+        return response.status >= 500 ? TileVerdict::refused : TileVerdict::missing;
     }
 }
 
@@ -56,9 +56,9 @@ bool looksLikeTile(TileContent content, QByteArrayView bytes) noexcept {
     return bytes.startsWith('\x1a') || bytes.startsWith("\x1f\x8b") || bytes.startsWith('\x78');
 }
 
-std::optional<QDateTime> freshUntil(const TileResponse& answer, const QDateTime& now) {
+std::optional<QDateTime> freshUntil(const TileResponse& response, const QDateTime& now) {
     std::optional<qint64> maximumAge;
-    for (const QByteArray& part : answer.cacheControl.toLower().split(',')) {
+    for (const QByteArray& part : response.cacheControl.toLower().split(',')) {
         const QByteArray directive = part.trimmed();
         if (directive == "no-store") {
             return std::nullopt;
@@ -75,7 +75,7 @@ std::optional<QDateTime> freshUntil(const TileResponse& answer, const QDateTime&
         return std::clamp(
             now.addSecs(std::clamp<qint64>(*maximumAge, 0, now.secsTo(most))), least, most);
     }
-    const QDateTime expires = httpDate(answer.expires);
+    const QDateTime expires = httpDate(response.expires);
     return expires.isValid() ? std::clamp(expires, least, most) : least;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
-// Tiles over HTTPS from services that are fixed at build time, with a cache on disk. Behaves as
-// such services ask: it names itself, sends few requests at once and none for what is not in view,
-// keeps what it has, and backs off where it is refused. One thread, also of its construction;
+// Tiles over HTTPS from the services of the bundle information, with a cache on disk. It keeps
+// their usage policies: it names itself, sends few requests at once and none for what is not in
+// view, keeps what it has, and backs off where it is refused. One thread, also of its construction;
 // responses come as signals, later.
 
 #include "map/tileservice/MissingTiles.h"
@@ -60,9 +60,9 @@ class TileService : public QObject {
     /// No source covers it, the service has no such tile, or its responses were no tile. Not sent
     /// while there is only no network: that may come back.
     void missing(const vasker::ServiceTile& tile);
-    /// A request to a service had no answer at all.
+    /// A request to a service had no response at all.
     void unreachable();
-    /// A request to a service was answered, in whatever way.
+    /// A service has responded, in whatever way.
     void reached();
 
   private:

@@ -1,5 +1,5 @@
 #pragma once
-// Which services are left alone at the moment, because they failed or asked for it. A service is a
+// Which services get no requests at the moment, because they failed or asked for it. A service is a
 // host and port. Pure: the time is an argument.
 
 #include "map/tileservice/RetryDelay.h"
@@ -31,9 +31,9 @@ class TileServiceHosts {
                 Clock::time_point started,
                 Clock::time_point now,
                 std::optional<std::chrono::seconds> asked);
-    /// Ends the pauses that came of there being no answer; called when the network is back.
+    /// Ends the pauses that were due to missing responses; called when the network is back.
     void networkReturned();
-    /// As failed(), where there was no answer at all.
+    /// As failed(), where there was no response at all.
     void unreachable(const QUrl& address, Clock::time_point started, Clock::time_point now);
 
   private:

@@ -1,5 +1,5 @@
 #pragma once
-// The services of tiles that the program knows.
+// The tile services of the bundle information.
 
 #include "map/tileservice/ServiceTile.h"
 #include "map/tileservice/TileSource.h"

@@ -2,7 +2,7 @@ import QtQuick
 import Vasker.Map
 import Vasker.Platform
 
-// The map with all that lies over it: caption strip, compass, zoom, scale and attribution.
+// The map with everything on it: caption strip, compass, zoom, scale and attribution.
 MapView {
     id: root
 

@@ -1,5 +1,5 @@
 #pragma once
-// The record under the pointer: what a card about it says, and where the card stands.
+// The record under the pointer: the text and the place of its card.
 
 #include "map/records/MapRecords.h"
 

@@ -1,6 +1,6 @@
 #pragma once
-// The map item: what it is to show comes in as properties, what the user does goes out as signals,
-// and its frames go to the scene graph. It never changes what others own.
+// The map item: properties say what it shows, signals what the user does, and its frames go to the
+// scene graph. It never changes what others own.
 
 #include "map/frame/MapComposer.h"
 #include "map/input/InputItem.h"
@@ -39,7 +39,7 @@ class MapView : public vasker::InputItem {
     Q_PROPERTY(double coveredBelow MEMBER m_coveredBelow NOTIFY coverChanged)
     Q_PROPERTY(double coveredRight MEMBER m_coveredRight NOTIFY coverChanged)
     Q_PROPERTY(double coveredLeft MEMBER m_coveredLeft NOTIFY coverChanged)
-    /// How large the desktop wants texts; 1 is the usual.
+    /// The desktop's text scale; 1 is the usual size.
     Q_PROPERTY(double textScale MEMBER m_textScale NOTIFY appearanceChanged)
     /// Whether the camera is always at its end at once.
     Q_PROPERTY(bool reducedMotion MEMBER m_reducedMotion NOTIFY motionChanged)

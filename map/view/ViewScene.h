@@ -1,5 +1,5 @@
 #pragma once
-// What a map item shows, for a picture of it.
+// What a map item shows, to make a picture of it.
 
 #include "map/frame/MapSnapshot.h"
 

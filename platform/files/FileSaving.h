@@ -1,5 +1,5 @@
 #pragma once
-// Saves a file where the user wants it: asks, writes it on a thread of its own, and says how that
+// Saves a file where the user chooses: asks, writes it on a thread of its own, and says how that
 // ended. Nothing here waits: not for the desktop, not for a disk.
 
 #include <QDBusConnection>

@@ -1,7 +1,8 @@
 #pragma once
-// What a user can do with one file of the program: save a copy, see it in the file manager, copy it
-// to the clipboard, open it with another program. The desktop's portal does it where there is one.
-// The file itself is never changed, and nothing here waits: not for the desktop, not for a disk.
+// What a user can do with one file of the program: save a copy, show it in the file manager, copy
+// it to the clipboard, open it with another program. The desktop's portal does it where there is
+// one. The file itself is never changed, and nothing here waits: not for the desktop, not for a
+// disk.
 
 #include "platform/files/FileSaving.h"
 

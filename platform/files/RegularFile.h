@@ -1,5 +1,5 @@
 #pragma once
-// Reads small files whose place others can write to.
+// Reads small files in folders that others can write to.
 
 #include <QByteArray>
 #include <QString>

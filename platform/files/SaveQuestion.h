@@ -1,6 +1,6 @@
 #pragma once
-// One question to the user: where a file is to be saved. The desktop's portal asks it, else a
-// dialog of the program. Nothing here waits.
+// Asks the user where to save a file: by the desktop's portal, else by a dialog of the program.
+// Nothing here waits.
 
 #include <QDBusConnection>
 #include <QFont>

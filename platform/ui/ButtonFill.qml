@@ -1,7 +1,7 @@
 import QtQuick
 import Vasker.Platform
 
-// What lies over the ground of a button while the pointer is on it, or while it is held down.
+// The fill of a button while the pointer is on it, or while it is held down.
 Rectangle {
     property bool shown: false
     property bool held: false

@@ -1,7 +1,8 @@
 import QtQuick
 import Vasker.Platform
 
-// The mark of keyboard focus around its parent, one pixel off it; inside it for rows of a list.
+// The ring around its parent that shows the keyboard focus: one pixel outside; inside for rows of a
+// list.
 Rectangle {
     property real around: Theme.controlRadius
     property bool inside: false

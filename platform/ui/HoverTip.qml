@@ -1,8 +1,8 @@
 import QtQuick
 import Vasker.Platform
 
-// Makes a tool tip when it is needed. Not by a component: Qt 6.4 makes none that stands in a type
-// from which another one derives.
+// Creates a tool tip when it is needed. It loads a file: Qt 6.4 cannot create a Component inside a
+// type that another type derives from.
 Loader {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Vasker.Platform
 
-// A one-line field for a search text. What the user types leaves as `edited`; `text` comes in.
+// A one-line field for a search text. `text` is what it shows; `edited` tells what the user types.
 Rectangle {
     id: root
 

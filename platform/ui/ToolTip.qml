@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Vasker.Platform
 
-// What its parent is called, below it or beside it and within the window, once the pointer rests
-// there. Where there is no room below it stands above.
+// The tool tip of its parent, below it or beside it and within the window, once the pointer rests
+// there. Where there is no room below it is above.
 T.ToolTip {
     id: root
 

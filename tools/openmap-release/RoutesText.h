@@ -1,5 +1,5 @@
 #pragma once
-// How much of a line the routes of a record are.
+// How many lines and vertices the routes of a record have.
 
 #include "data/OpenMapRelease.h"
 

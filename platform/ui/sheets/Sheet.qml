@@ -31,7 +31,7 @@ FocusScope {
     // A sheet at the bottom has two heights: its preferred one and, when it is large, nearly all.
     property bool large: false
     property string identifier
-    // From when it is wanted until it has left the screen completely.
+    // From when it is requested until it has left the screen completely.
     property bool onScreen: false
 
     property real shown: 0

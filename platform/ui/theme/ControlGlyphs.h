@@ -1,7 +1,6 @@
 #pragma once
-// A typeface in which characters that are to be obeyed, not seen, are nothing: it stands after the
-// one that has the letters, which would else show them as boxes. The text stays as it is, for
-// searching, copying and reading aloud.
+// A typeface that shows control characters as nothing. Set after the typeface of the letters, which
+// would show them as boxes. The text stays as it is, for searching, copying and reading aloud.
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,7 @@
 import QtQuick
 import Vasker.Platform
 
-// What stands where a search has found nothing.
+// The place of a list where a search found nothing.
 Item {
     id: root
 

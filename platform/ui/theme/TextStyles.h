@@ -1,5 +1,5 @@
 #pragma once
-// How the texts of the interface are set: one table of the styles by what they are used for.
+// The text styles of the interface: one table, by what they are used for.
 
 #include <QFont>
 #include <QtQmlIntegration>

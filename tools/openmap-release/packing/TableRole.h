@@ -1,5 +1,5 @@
 #pragma once
-// The tables that packing knows what to do with.
+// The kinds of tables that packing reads.
 
 #include <span>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 // toml++ without its assertions: it asserts that a name begins as names do, and then reports it as
-// an error where one does not. Foreign text must not end the program there.
+// an error where one does not. Untrusted text must not end the program there.
 
 #pragma push_macro("NDEBUG")
 #undef NDEBUG // with it, compilers may rely on what is asserted
