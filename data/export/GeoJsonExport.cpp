@@ -1,5 +1,6 @@
 #include "data/export/GeoJsonExport.h"
 
+#include "data/JsonText.h"
 #include "data/export/NumberText.h"
 
 #include <set>
@@ -9,33 +10,14 @@
 namespace vasker {
 namespace {
 
-void addString(std::string& text, std::string_view value) {
-    constexpr std::string_view hexadecimal = "0123456789abcdef";
-    text += '"';
-    for (const char byte : value) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (byte == '"' || byte == '\\') {
-            text += '\\';
-            text += byte;
-        } else if (code < 0x20) {
-            text += "\\u00";
-            text += hexadecimal[code >> 4U];
-            text += hexadecimal[code & 0xFU];
-        } else {
-            text += byte;
-        }
-    }
-    text += '"';
-}
-
 /// A member of an object with the comma before it, where one is due.
 void addMember(std::string& text, std::string_view key, std::string_view value) {
     if (text.back() != '{') {
         text += ',';
     }
-    addString(text, key);
+    appendJsonText(text, key);
     text += ':';
-    addString(text, value);
+    appendJsonText(text, value);
 }
 
 void addCitation(std::string& text, std::string_view period, const OpenMapRelease::Source& source) {
