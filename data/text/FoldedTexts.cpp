@@ -90,7 +90,7 @@ std::uint32_t Probes<Count>::matches(const char* block) const noexcept {
     for (std::size_t place = 0; place < blockSize; ++place) {
         bool isMatch = true;
         for (std::size_t probe = 0; probe < Count; ++probe) {
-            isMatch = isMatch && block[place + m_offsets[probe]] == m_bytes[probe];
+            isMatch = isMatch && block[place + m_offsets[probe]] == m_bytes[probe].front();
         }
         matching |= std::uint32_t{isMatch} << place;
     }
