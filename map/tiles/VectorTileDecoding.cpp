@@ -44,22 +44,12 @@ constexpr std::uint32_t field(Field number, Wire type) {
     return protozero::tag_and_type(number, type);
 }
 
-enum class Attribute : std::uint8_t {
-    unused,
-    kind,
-    name,
-    nameEnglish,
-    nameFrench,
-    population,
-    adminLevel,
-    rank,
-    wayArea,
-    disputed,
-    maritime,
-    rail,
-    link,
-    tunnel
-};
+/// The member that an attribute is read into.
+using Attribute = std::variant<std::string VectorFeature::*,
+                               std::int64_t VectorFeature::*,
+                               int VectorFeature::*,
+                               double VectorFeature::*,
+                               bool VectorFeature::*>;
 
 constexpr std::uint32_t maximumExtent = 1U << 24U;
 constexpr std::size_t longestText = 256;
@@ -69,25 +59,26 @@ constexpr std::size_t smallestFeatureBytes = 9;
 
 using Value = std::variant<std::monostate, std::string_view, std::int64_t, double>;
 
-Attribute attributeOf(std::string_view key) {
+/// Null for an attribute that this map does not use.
+const Attribute* attributeOf(std::string_view key) {
     static constexpr std::array<std::pair<std::string_view, Attribute>, 13> attributes{
-        {{"kind", Attribute::kind},
-         {"name", Attribute::name},
-         {"name_en", Attribute::nameEnglish},
-         {"name_fr", Attribute::nameFrench},
-         {"population", Attribute::population},
-         {"admin_level", Attribute::adminLevel},
-         {"rank", Attribute::rank},
-         {"way_area", Attribute::wayArea},
-         {"disputed", Attribute::disputed},
-         {"maritime", Attribute::maritime},
-         {"rail", Attribute::rail},
-         {"link", Attribute::link},
-         {"tunnel", Attribute::tunnel}}};
+        {{"kind", &VectorFeature::kind},
+         {"name", &VectorFeature::name},
+         {"name_en", &VectorFeature::nameEnglish},
+         {"name_fr", &VectorFeature::nameFrench},
+         {"population", &VectorFeature::population},
+         {"admin_level", &VectorFeature::adminLevel},
+         {"rank", &VectorFeature::rank},
+         {"way_area", &VectorFeature::wayArea},
+         {"disputed", &VectorFeature::disputed},
+         {"maritime", &VectorFeature::maritime},
+         {"rail", &VectorFeature::rail},
+         {"link", &VectorFeature::link},
+         {"tunnel", &VectorFeature::tunnel}}};
     const auto* const found = std::find_if(attributes.begin(),
                                            attributes.end(),
                                            [key](const auto& entry) { return entry.first == key; });
-    return found == attributes.end() ? Attribute::unused : found->second;
+    return found == attributes.end() ? nullptr : &found->second;
 }
 
 std::string_view textOf(protozero::data_view view) {
@@ -160,7 +151,7 @@ struct Allowance {
 struct LayerHead {
     std::string_view name;
     std::uint32_t extent = 4096;
-    std::vector<Attribute> keys;
+    std::vector<const Attribute*> keys; ///< null for one that is not used
     std::vector<Value> values;
     std::size_t featureCount = 0;
 };
@@ -245,59 +236,22 @@ class FeatureReader {
             }
             const std::uint32_t value = tags.front();
             tags.drop_front();
-            if (key < m_head.keys.size() && value < m_head.values.size()) {
-                set(feature, m_head.keys[key], m_head.values[value]);
+            if (key < m_head.keys.size() && m_head.keys[key] != nullptr &&
+                value < m_head.values.size()) {
+                std::visit([&](auto member) { set(feature.*member, m_head.values[value]); },
+                           *m_head.keys[key]);
             }
         }
     }
 
-    void set(VectorFeature& feature, Attribute attribute, const Value& value) {
-        switch (attribute) {
-        case Attribute::kind:
-            setText(feature.kind, value);
-            break;
-        case Attribute::name:
-            setText(feature.name, value);
-            break;
-        case Attribute::nameEnglish:
-            setText(feature.nameEnglish, value);
-            break;
-        case Attribute::nameFrench:
-            setText(feature.nameFrench, value);
-            break;
-        case Attribute::population:
-            feature.population = integerOf<std::int64_t>(value);
-            break;
-        case Attribute::adminLevel:
-            feature.adminLevel = integerOf<int>(value);
-            break;
-        case Attribute::rank:
-            feature.rank = integerOf<int>(value);
-            break;
-        case Attribute::wayArea:
-            feature.wayArea = realOf(value);
-            break;
-        case Attribute::disputed:
-            feature.disputed = realOf(value) != 0;
-            break;
-        case Attribute::maritime:
-            feature.maritime = realOf(value) != 0;
-            break;
-        case Attribute::rail:
-            feature.rail = realOf(value) != 0;
-            break;
-        case Attribute::link:
-            feature.link = realOf(value) != 0;
-            break;
-        case Attribute::tunnel:
-            feature.tunnel = realOf(value) != 0;
-            break;
-        case Attribute::unused:
-            break;
-        }
+    template <typename Integer>
+    static void set(Integer& number, const Value& value) {
+        number = integerOf<Integer>(value);
     }
+    static void set(double& number, const Value& value) { number = realOf(value); }
+    static void set(bool& flag, const Value& value) { flag = realOf(value) != 0; }
 
-    void setText(std::string& field, const Value& value) {
+    void set(std::string& field, const Value& value) {
         const auto* text = std::get_if<std::string_view>(&value);
         if (text == nullptr || text->size() > longestText) {
             return;
