@@ -26,9 +26,7 @@ namespace {
 /// 96th of one.
 constexpr double pageDensity = 3;
 
-constexpr double longestBar = 150; // logical pixels
-
-/// Whom to thank for the basemap of `frame`; empty for nobody.
+/// The attribution of the basemap of `frame`; empty where none is due.
 QString basemapText(const MapFrame& frame) {
     QStringList attributions;
     for (const Attribution& each : frame.attributions) {
@@ -145,7 +143,7 @@ MapPicture SaveCommands::pictureWithoutMap(double scale) const {
     const ThemeColors& mapColors =
         m_map->status()->showsImagery() ? Theme::darkColors() : theme.colors();
     const Camera camera = m_map->resolvedCamera();
-    const ScaleBar bar = scaleBar(camera, longestBar);
+    const ScaleBar bar = scaleBar(camera);
     return {.map = nullptr,
             // The caption covers the end of the map; its text goes below.
             .mapSize = {m_map->width(), m_map->height() - camera.viewport().coveredBelow},

@@ -7,6 +7,7 @@
 
 #include <QLocale>
 
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -22,25 +23,16 @@ QLocale locale() {
 }
 
 QString directionText(CompassPoint direction) {
-    switch (direction) {
-    case CompassPoint::north:
-        return PlaceText::tr("north");
-    case CompassPoint::northEast:
-        return PlaceText::tr("north-east");
-    case CompassPoint::east:
-        return PlaceText::tr("east");
-    case CompassPoint::southEast:
-        return PlaceText::tr("south-east");
-    case CompassPoint::south:
-        return PlaceText::tr("south");
-    case CompassPoint::southWest:
-        return PlaceText::tr("south-west");
-    case CompassPoint::west:
-        return PlaceText::tr("west");
-    case CompassPoint::northWest:
-        break;
-    }
-    return PlaceText::tr("north-west");
+    static constexpr std::array<const char*, 8> names{
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "north"),
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "north-east"),
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "east"),
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "south-east"),
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "south"),
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "south-west"),
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "west"),
+        QT_TRANSLATE_NOOP("vasker::PlaceText", "north-west")};
+    return PlaceText::tr(names.at(static_cast<std::size_t>(direction)));
 }
 
 /// A category within a sentence; an abbreviation stays as it is.

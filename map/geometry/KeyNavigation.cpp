@@ -7,8 +7,9 @@ namespace vasker {
 
 namespace {
 
+/// In pixels, doublings of the scale, or degrees.
 struct AxisRate {
-    double step;
+    double step;  ///< of a short press
     double speed; ///< a second
 };
 
@@ -45,12 +46,8 @@ Camera moved(const Camera& camera, NavigationAxis axis, double length) {
 
 } // namespace
 
-double navigationStep(NavigationAxis axis) noexcept {
-    return rateOf(axis).step;
-}
-
 Camera stepped(const Camera& camera, NavigationAxis axis, int direction) {
-    return moved(camera, axis, direction * navigationStep(axis));
+    return moved(camera, axis, direction * rateOf(axis).step);
 }
 
 double KeyNavigation::Way::rest(double speed) const noexcept {
@@ -82,7 +79,7 @@ void KeyNavigation::press(NavigationAxis axis, int direction, double seconds) {
         return; // by another key already
     }
     rebase(seconds);
-    double least = navigationStep(axis);
+    double least = rateOf(axis).step;
     if (old.direction == direction) { // a step on top of what is left of the last one
         const double speed = rateOf(axis).speed;
         least += std::max(0.0, old.lengthAt(never, speed) - old.counted);

@@ -1,5 +1,5 @@
 #pragma once
-// The camera moved by keys: steadily while a key is held, one step for a short press, always to a
+// The camera moved by keys: steadily while a key is held, one step for a short press, always with a
 // soft stop. Several keys act at once.
 
 #include "map/geometry/Camera.h"
@@ -18,8 +18,6 @@ enum class NavigationAxis {
     back ///< tilting back
 };
 
-/// How far a short press goes along an axis: pixels, doublings of the scale, degrees.
-[[nodiscard]] double navigationStep(NavigationAxis axis) noexcept;
 /// The camera one step on; `direction` is 1 or -1.
 [[nodiscard]] Camera stepped(const Camera& camera, NavigationAxis axis, int direction);
 

@@ -7,6 +7,7 @@ namespace vasker {
 
 namespace {
 
+constexpr double maximumPixels = 150;
 constexpr double equatorMetres = 2 * std::numbers::pi * 6'378'137;
 
 } // namespace
@@ -17,7 +18,7 @@ double metresPerPixel(const Camera& camera) noexcept {
     return parallel / (worldSize * camera.scale());
 }
 
-ScaleBar scaleBar(const Camera& camera, double maximumPixels) noexcept {
+ScaleBar scaleBar(const Camera& camera) noexcept {
     const double metre = metresPerPixel(camera);
     const double longest = metre * maximumPixels;
     const double power = std::pow(10, std::floor(std::log10(longest)));

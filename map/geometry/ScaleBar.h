@@ -1,5 +1,5 @@
 #pragma once
-// The bar that tells how far things are apart.
+// The length of the scale bar.
 
 #include "map/geometry/Camera.h"
 
@@ -14,8 +14,8 @@ struct ScaleBar {
 /// Web Mercator, radius 6,378,137 m, where a parallel is as long as the cosine of its latitude.
 [[nodiscard]] double metresPerPixel(const Camera& camera) noexcept;
 
-/// The longest bar of at most `maximumPixels` (positive) for the row of the camera's centre; the
-/// camera's pitch does not shorten it there.
-[[nodiscard]] ScaleBar scaleBar(const Camera& camera, double maximumPixels) noexcept;
+/// The longest bar of at most 150 pixels for the row of the camera's centre; the camera's pitch
+/// does not shorten it there.
+[[nodiscard]] ScaleBar scaleBar(const Camera& camera) noexcept;
 
 } // namespace vasker

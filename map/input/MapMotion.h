@@ -1,6 +1,5 @@
 #pragma once
-// The motion of the camera that runs now, advanced once a frame. While none runs no frame is
-// requested.
+// The current motion of the camera, advanced once a frame. Without one no frame is requested.
 
 #include "map/geometry/CameraMotion.h"
 #include "map/geometry/KeyNavigation.h"
@@ -17,7 +16,6 @@ class MapMotion : public QAbstractAnimation {
   public:
     /// Whether every motion is at its end at once.
     void setReduced(bool reduced);
-    [[nodiscard]] bool isReduced() const noexcept { return m_reduced; }
 
     /// Each takes the place of the motion before; `now` is where the camera is.
     void startInertia(const Camera& now, MapVelocity velocity);

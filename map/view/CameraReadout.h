@@ -15,9 +15,8 @@ namespace vasker {
 class CameraReadout : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(vasker::MapView* map READ map WRITE setMap NOTIFY mapChanged)
-    /// The longest that the scale bar may be, in logical pixels.
-    Q_PROPERTY(double maximumBarLength MEMBER m_maximumBarLength NOTIFY maximumBarLengthChanged)
+    /// Set once.
+    Q_PROPERTY(vasker::MapView* map READ map WRITE setMap REQUIRED)
     /// Degrees.
     Q_PROPERTY(double bearing READ bearing NOTIFY changed)
     Q_PROPERTY(double pitch READ pitch NOTIFY changed)
@@ -42,8 +41,6 @@ class CameraReadout : public QObject {
     [[nodiscard]] const QString& barText() const noexcept { return m_shown.barText; }
 
   Q_SIGNALS:
-    void mapChanged();
-    void maximumBarLengthChanged();
     void changed();
 
   private:
@@ -60,7 +57,6 @@ class CameraReadout : public QObject {
     };
 
     QPointer<MapView> m_map;
-    double m_maximumBarLength = 150;
     QLocale m_locale;
     Shown m_shown;
 };

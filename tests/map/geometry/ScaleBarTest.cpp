@@ -25,7 +25,7 @@ TEST(ScaleBar, AtSixtyDegreesTheSamePixelIsHalfAsMuchGround) {
 TEST(ScaleBar, AgreesWithTheGreatCircleAcrossTheScreen) {
     for (const double bearing : {0.0, 90.0, 200.0}) {
         const Camera camera = cameraAt(54, 0.02, bearing, 50);
-        const ScaleBar bar = scaleBar(camera, 150);
+        const ScaleBar bar = scaleBar(camera);
         const ScreenPoint middle = camera.focus();
         const Coordinate from =
             mapPointToCoordinate(camera.screenToWorld({middle.x - bar.pixels / 2, middle.y}));
@@ -45,7 +45,7 @@ TEST(ScaleBar, IsRoundAndAsLongAsThereIsRoom) {
     std::set<int> steps;
     for (double scale = 3e-6; scale <= Camera::maximumScale; scale *= 1.07) {
         const Camera camera = cameraAt(54, scale);
-        const ScaleBar bar = scaleBar(camera, 150);
+        const ScaleBar bar = scaleBar(camera);
         EXPECT_LE(bar.pixels, 150 + 1e-9);
         EXPECT_GE(bar.pixels, 59); // 2 of nearly 5
         EXPECT_NEAR(bar.pixels * metresPerPixel(camera), bar.metres, 1e-9 * bar.metres);
@@ -56,12 +56,12 @@ TEST(ScaleBar, IsRoundAndAsLongAsThereIsRoom) {
 }
 
 TEST(ScaleBar, TheOverviewIsMeasuredInHundredsOfKilometres) {
-    EXPECT_DOUBLE_EQ(scaleBar(Camera(canadaOverview, viewport), 150).metres,
+    EXPECT_DOUBLE_EQ(scaleBar(Camera(canadaOverview, viewport)).metres,
                      500'000); // 150 px: 536 km
 }
 
 TEST(ScaleBar, AtThePolesEdgeItIsStillANumber) {
-    const ScaleBar bar = scaleBar(cameraAt(90, 1e-3), 150);
+    const ScaleBar bar = scaleBar(cameraAt(90, 1e-3));
     EXPECT_GT(bar.metres, 0);
     EXPECT_LE(bar.pixels, 150 + 1e-9);
 }
