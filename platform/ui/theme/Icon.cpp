@@ -42,31 +42,10 @@ double snapped(double position, double pixelRatio) {
 Icon::Icon(QQuickItem* parent) : QQuickItem(parent) {
     setFlag(ItemHasContents);
     setImplicitSize(m_size, m_size);
-}
-
-void Icon::setName(const QString& name) {
-    if (m_name != name) {
-        m_name = name;
+    connect(this, &Icon::looksChanged, this, [this] {
+        setImplicitSize(m_size, m_size);
         redraw();
-        Q_EMIT nameChanged();
-    }
-}
-
-void Icon::setColor(const QColor& color) {
-    if (m_color != color) {
-        m_color = color;
-        redraw();
-        Q_EMIT colorChanged();
-    }
-}
-
-void Icon::setSize(double size) {
-    if (m_size != size) {
-        m_size = size;
-        setImplicitSize(size, size);
-        redraw();
-        Q_EMIT sizeChanged();
-    }
+    });
 }
 
 void Icon::redraw() {

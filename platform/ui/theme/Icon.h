@@ -11,25 +11,16 @@ class Icon : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     /// The icon's name; an unknown one shows "mappin".
-    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    Q_PROPERTY(QString name MEMBER m_name NOTIFY looksChanged)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY looksChanged)
     /// The side in logical pixels, also the item's implicit size.
-    Q_PROPERTY(double size READ size WRITE setSize NOTIFY sizeChanged)
+    Q_PROPERTY(double size MEMBER m_size NOTIFY looksChanged)
 
   public:
     explicit Icon(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] const QString& name() const noexcept { return m_name; }
-    void setName(const QString& name);
-    [[nodiscard]] const QColor& color() const noexcept { return m_color; }
-    void setColor(const QColor& color);
-    [[nodiscard]] double size() const noexcept { return m_size; }
-    void setSize(double size);
-
   Q_SIGNALS:
-    void nameChanged();
-    void colorChanged();
-    void sizeChanged();
+    void looksChanged();
 
   protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData*) override;

@@ -10,6 +10,8 @@ namespace {
 constexpr int noon = 90 * 16;
 constexpr int clockwiseQuarter = -90 * 16;
 
+constexpr double stroke = 3;
+
 } // namespace
 
 ProgressRing::ProgressRing(QQuickItem* parent) : QQuickPaintedItem(parent) {
@@ -17,12 +19,12 @@ ProgressRing::ProgressRing(QQuickItem* parent) : QQuickPaintedItem(parent) {
 }
 
 void ProgressRing::paint(QPainter* painter) {
-    const double inset = m_stroke / 2;
+    const double inset = stroke / 2;
     const QRectF ring = QRectF(0, 0, width(), height()).adjusted(inset, inset, -inset, -inset);
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(m_track, m_stroke));
+    painter->setPen(QPen(m_track, stroke));
     painter->drawEllipse(ring);
-    painter->setPen(QPen(m_quarter, m_stroke, Qt::SolidLine, Qt::RoundCap));
+    painter->setPen(QPen(m_quarter, stroke, Qt::SolidLine, Qt::RoundCap));
     painter->drawArc(ring, noon, clockwiseQuarter);
 }
 

@@ -11,7 +11,6 @@ class ProgressRing : public QQuickPaintedItem {
     QML_ELEMENT
     Q_PROPERTY(QColor track MEMBER m_track NOTIFY looksChanged)
     Q_PROPERTY(QColor quarter MEMBER m_quarter NOTIFY looksChanged)
-    Q_PROPERTY(double stroke MEMBER m_stroke NOTIFY looksChanged)
 
   public:
     explicit ProgressRing(QQuickItem* parent = nullptr);
@@ -23,7 +22,6 @@ class ProgressRing : public QQuickPaintedItem {
   private:
     QColor m_track;
     QColor m_quarter;
-    double m_stroke = 3;
 };
 
 } // namespace vasker
