@@ -15,7 +15,6 @@ SectionRow {
 
     Label {
         width: parent.width
-        horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         textStyle: Theme.type.caption
         color: Theme.colors.text2

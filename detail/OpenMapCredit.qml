@@ -11,43 +11,30 @@ SectionRow {
     padding: 15
     spacing: 6
 
-    Label {
+    component Words: Label {
         width: parent.width
-        horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
+        textStyle: Theme.type.caption
+        color: Theme.colors.text2
+        spoken: true
+        Accessible.role: Accessible.Paragraph
+    }
+
+    Words {
         textStyle: Theme.type.publisher
+        color: Theme.colors.text
         text: root.credit.publisher
-        spoken: true
-        Accessible.role: Accessible.Paragraph
     }
-    Label {
-        width: parent.width
-        horizontalAlignment: Text.AlignLeft
-        wrapMode: Text.Wrap
+    Words {
         textStyle: Theme.type.footnote
+        color: Theme.colors.text
         text: root.credit.attribution
-        spoken: true
-        Accessible.role: Accessible.Paragraph
     }
-    Label {
-        width: parent.width
-        horizontalAlignment: Text.AlignLeft
-        wrapMode: Text.Wrap
-        textStyle: Theme.type.caption
-        color: Theme.colors.text2
+    Words {
         text: root.credit.conditions
-        spoken: true
-        Accessible.role: Accessible.Paragraph
     }
-    Label {
-        width: parent.width
-        horizontalAlignment: Text.AlignLeft
-        wrapMode: Text.Wrap
-        textStyle: Theme.type.caption
-        color: Theme.colors.text2
+    Words {
         text: root.credit.modifications
-        spoken: true
-        Accessible.role: Accessible.Paragraph
     }
     Flow {
         width: parent.width

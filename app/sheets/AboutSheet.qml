@@ -54,86 +54,39 @@ WindowSheet {
                 }
             }
         }
-        Section {
+        LabelledRows {
             title: qsTr("Code")
-
-            LabelledRow {
-                label: qsTr("Vasker Beta")
-                value: "Apache 2.0"
-            }
+            table: [
+                qsTr("Vasker Beta"), "Apache 2.0"
+            ]
         }
-        Section {
+        LabelledRows {
             title: qsTr("Data")
+            table: [
+                qsTr("Environment and Climate Change Canada"), qsTr("Open Government Licence – Canada"),
+                "Global Energy Monitor", "CC BY 4.0",
+                "Natural Earth", qsTr("Public domain"),
+                qsTr("© OpenStreetMap contributors"), "ODbL 1.0",
+                "NASA (Blue Marble, GIBS)", qsTr("Public domain")
+            ]
 
-            LabelledRow {
-                label: qsTr("Environment and Climate Change Canada")
-                value: qsTr("Open Government Licence – Canada")
-            }
-            LabelledRow {
-                label: "Global Energy Monitor"
-                value: "CC BY 4.0"
-            }
-            LabelledRow {
-                label: "Natural Earth"
-                value: qsTr("Public domain")
-            }
-            LabelledRow {
-                label: qsTr("© OpenStreetMap contributors")
-                value: "ODbL 1.0"
-            }
-            LabelledRow {
-                label: "NASA (Blue Marble, GIBS)"
-                value: qsTr("Public domain")
-            }
-            SectionRow {
-                Label {
-                    width: parent.width
-                    wrapMode: Text.Wrap
-                    textStyle: Theme.type.footnote
-                    text: qsTr("“Sources & coverage” tells the sources of this release one by one. None of these publishers endorses this program.")
-                    spoken: true
-                }
+            NoteRow {
+                text: qsTr("“Sources & coverage” tells the sources of this release one by one. None of these publishers endorses this program.")
             }
         }
-        Section {
+        LabelledRows {
             title: qsTr("Libraries")
-
-            LabelledRow {
-                label: "Qt 6"
-                value: "LGPL 3"
-            }
-            LabelledRow {
-                label: "ICU"
-                value: qsTr("Unicode licence")
-            }
-            LabelledRow {
-                label: "SQLite"
-                value: qsTr("Public domain")
-            }
-            LabelledRow {
-                label: "simdjson"
-                value: "Apache 2.0"
-            }
-            LabelledRow {
-                label: "OpenSSL"
-                value: "Apache 2.0"
-            }
-            LabelledRow {
-                label: "protozero"
-                value: "BSD 2-Clause"
-            }
-            LabelledRow {
-                label: "uriparser"
-                value: "BSD 3-Clause"
-            }
-            LabelledRow {
-                label: "zlib"
-                value: "zlib"
-            }
-            LabelledRow {
-                label: qsTr("Inter, the typeface")
-                value: "SIL OFL 1.1"
-            }
+            table: [
+                "Qt 6", "LGPL 3",
+                "ICU", qsTr("Unicode licence"),
+                "SQLite", qsTr("Public domain"),
+                "simdjson", "Apache 2.0",
+                "OpenSSL", "Apache 2.0",
+                "protozero", "BSD 2-Clause",
+                "uriparser", "BSD 3-Clause",
+                "zlib", "zlib",
+                qsTr("Inter, the typeface"), "SIL OFL 1.1"
+            ]
         }
     }
 }

@@ -16,8 +16,6 @@ WindowSheet {
     preferredHeight: Math.min(height - 80, 960)
 
     content: GroupedList {
-        id: list
-
         onScrolledChanged: root.scrolled = scrolled
         Component.onCompleted: forceActiveFocus(Qt.TabFocusReason)
 

@@ -17,110 +17,61 @@ WindowSheet {
         onScrolledChanged: root.scrolled = scrolled
         Component.onCompleted: forceActiveFocus(Qt.TabFocusReason)
 
-        Section {
+        LabelledRows {
             title: qsTr("Window")
-
-            LabelledRow {
-                label: qsTr("New window")
-                value: "Ctrl+N"
-            }
-            LabelledRow {
-                label: qsTr("Close window")
-                value: "Ctrl+W"
-            }
-            LabelledRow {
-                label: qsTr("Quit")
-                value: "Ctrl+Q"
-            }
-            LabelledRow {
-                label: qsTr("User guide")
-                value: "F1"
-            }
-            LabelledRow {
-                label: qsTr("Keyboard shortcuts")
-                value: "Ctrl+?"
-            }
-            LabelledRow {
-                label: qsTr("Main menu")
-                value: "F10"
-            }
-            LabelledRow {
-                label: qsTr("Next control, previous control")
-                value: qsTr("Tab, Shift+Tab")
-            }
-            LabelledRow {
-                label: qsTr("Press a button, open a menu")
-                value: qsTr("Enter or Space")
-            }
+            table: [
+                qsTr("New window"), "Ctrl+N",
+                qsTr("Close window"), "Ctrl+W",
+                qsTr("Quit"), "Ctrl+Q",
+                qsTr("User guide"), "F1",
+                qsTr("Keyboard shortcuts"), "Ctrl+?",
+                qsTr("Main menu"), "F10",
+                qsTr("Next control, previous control"), qsTr("Tab, Shift+Tab"),
+                qsTr("Press a button, open a menu"), qsTr("Enter or Space")
+            ]
         }
-        Section {
+        LabelledRows {
             title: qsTr("Records")
-
-            LabelledRow {
-                label: qsTr("Search")
-                value: "Ctrl+F"
-            }
-            LabelledRow {
-                label: qsTr("Clear the search")
-                value: qsTr("Esc")
-            }
-            LabelledRow {
-                label: qsTr("From the search to the list")
-                value: qsTr("Down")
-            }
-            LabelledRow {
-                label: qsTr("Next, previous record")
-                value: qsTr("Down, Up")
-            }
-            LabelledRow {
-                label: qsTr("A record by its name")
-                value: qsTr("First letters")
-            }
-            LabelledRow {
-                label: qsTr("A page further, back")
-                value: qsTr("Page Down, Page Up")
-            }
-            LabelledRow {
-                label: qsTr("First, last record")
-                value: qsTr("Home, End")
-            }
-            LabelledRow {
-                label: qsTr("Pick a record")
-                value: qsTr("Enter or Space")
-            }
-            LabelledRow {
-                label: qsTr("Pick none")
-                value: qsTr("Esc")
-            }
-            LabelledRow {
-                label: qsTr("Records in a sheet")
-                value: "Ctrl+R"
-            }
-            LabelledRow {
-                label: qsTr("Save the records shown")
-                value: "Ctrl+S"
-            }
+            table: [
+                qsTr("Search"), "Ctrl+F",
+                qsTr("Clear the search"), qsTr("Esc"),
+                qsTr("From the search to the list"), qsTr("Down"),
+                qsTr("Next, previous record"), qsTr("Down, Up"),
+                qsTr("A record by its name"), qsTr("First letters"),
+                qsTr("A page further, back"), qsTr("Page Down, Page Up"),
+                qsTr("First, last record"), qsTr("Home, End"),
+                qsTr("Pick a record"), qsTr("Enter or Space"),
+                qsTr("Pick none"), qsTr("Esc"),
+                qsTr("Records in a sheet"), "Ctrl+R",
+                qsTr("Save the records shown"), "Ctrl+S"
+            ]
         }
-        MapShortcuts {}
-        Section {
+        LabelledRows {
+            title: qsTr("Map")
+            table: [
+                qsTr("Move"), qsTr("Arrow keys"),
+                qsTr("Zoom in, out"), "+, −",
+                qsTr("Rotate"), qsTr("Shift+Left, Shift+Right"),
+                qsTr("Tilt"), qsTr("Shift+Up, Shift+Down"),
+                qsTr("North up, from above"), "N",
+                qsTr("Overview of Canada"), qsTr("Home"),
+                qsTr("To the nearest record in a direction"), qsTr("Ctrl+arrow keys"),
+                qsTr("Next, previous record in view"), qsTr("R, Shift+R"),
+                qsTr("Save a picture of the map"), qsTr("Ctrl+Shift+S"),
+                qsTr("Copy picture of the map"), qsTr("Ctrl+Shift+C"),
+                qsTr("Print the map"), "Ctrl+P",
+                qsTr("Pick what is in the middle"), qsTr("Enter or Space"),
+                qsTr("Pick none"), qsTr("Esc")
+            ]
+        }
+        LabelledRows {
             title: qsTr("Sheets and menus")
-
-            LabelledRow {
-                label: qsTr("Close")
-                value: qsTr("Esc")
-            }
-            LabelledRow {
-                label: qsTr("Scroll a sheet")
-                value: qsTr("Arrow keys")
-            }
-            LabelledRow {
-                label: qsTr("Make the records sheet large, medium")
-                value: qsTr("Ctrl+Up, Ctrl+Down")
-            }
-            LabelledRow {
-                label: qsTr("Another row of a menu")
-                value: qsTr("Arrow keys or first letters")
-            }
+            table: [
+                qsTr("Close"), qsTr("Esc"),
+                qsTr("Scroll a sheet"), qsTr("Arrow keys"),
+                qsTr("Make the records sheet large, medium"), qsTr("Ctrl+Up, Ctrl+Down"),
+                qsTr("Another row of a menu"), qsTr("Arrow keys or first letters")
+            ]
         }
     }
 }

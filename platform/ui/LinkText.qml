@@ -13,7 +13,6 @@ Link {
 
         anchors.left: parent.left
         width: Math.min(implicitWidth, root.width - 4 - arrow.width)
-        horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         textStyle: Theme.type.captionMedium
         color: Theme.colors.accent

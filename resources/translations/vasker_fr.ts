@@ -887,105 +887,6 @@
     </message>
 </context>
 <context>
-    <name>MapShortcuts</name>
-    <message>
-        <source>R, Shift+R</source>
-        <translation>R, Maj+R</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation>Ctrl+Maj+S</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+C</source>
-        <translation>Ctrl+Maj+C</translation>
-    </message>
-    <message>
-        <source>Print the map</source>
-        <translation>Imprimer la carte</translation>
-    </message>
-    <message>
-        <source>Map</source>
-        <translation>Carte</translation>
-    </message>
-    <message>
-        <source>Move</source>
-        <translation>Déplacer</translation>
-    </message>
-    <message>
-        <source>Arrow keys</source>
-        <translation>Flèches</translation>
-    </message>
-    <message>
-        <source>Zoom in, out</source>
-        <translation>Zoom avant, arrière</translation>
-    </message>
-    <message>
-        <source>Rotate</source>
-        <translation>Pivoter</translation>
-    </message>
-    <message>
-        <source>Shift+Left, Shift+Right</source>
-        <translation>Maj+Gauche, Maj+Droite</translation>
-    </message>
-    <message>
-        <source>Tilt</source>
-        <translation>Incliner</translation>
-    </message>
-    <message>
-        <source>Shift+Up, Shift+Down</source>
-        <translation>Maj+Haut, Maj+Bas</translation>
-    </message>
-    <message>
-        <source>North up, from above</source>
-        <translation>Nord en haut, vue d’en haut</translation>
-    </message>
-    <message>
-        <source>Overview of Canada</source>
-        <translation>Vue d’ensemble du Canada</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Début</translation>
-    </message>
-    <message>
-        <source>Save a picture of the map</source>
-        <translation>Enregistrer une image de la carte</translation>
-    </message>
-    <message>
-        <source>Copy picture of the map</source>
-        <translation>Copier l’image de la carte</translation>
-    </message>
-    <message>
-        <source>Pick what is in the middle</source>
-        <translation>Choisir ce qui est au milieu</translation>
-    </message>
-    <message>
-        <source>Enter or Space</source>
-        <translation>Entrée ou Espace</translation>
-    </message>
-    <message>
-        <source>Pick none</source>
-        <translation>N’en choisir aucune</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Échap</translation>
-    </message>
-    <message>
-        <source>To the nearest record in a direction</source>
-        <translation>À la fiche la plus proche dans une direction</translation>
-    </message>
-    <message>
-        <source>Ctrl+arrow keys</source>
-        <translation>Ctrl+flèches</translation>
-    </message>
-    <message>
-        <source>Next, previous record in view</source>
-        <translation>Fiche suivante, précédente en vue</translation>
-    </message>
-</context>
-<context>
     <name>ShortcutsSheet</name>
     <message>
         <source>First letters</source>
@@ -1134,6 +1035,86 @@
     <message>
         <source>Main menu</source>
         <translation>Menu principal</translation>
+    </message>
+    <message>
+        <source>Print the map</source>
+        <translation>Imprimer la carte</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Carte</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message>
+        <source>Zoom in, out</source>
+        <translation>Zoom avant, arrière</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Pivoter</translation>
+    </message>
+    <message>
+        <source>Shift+Left, Shift+Right</source>
+        <translation>Maj+Gauche, Maj+Droite</translation>
+    </message>
+    <message>
+        <source>Tilt</source>
+        <translation>Incliner</translation>
+    </message>
+    <message>
+        <source>Shift+Up, Shift+Down</source>
+        <translation>Maj+Haut, Maj+Bas</translation>
+    </message>
+    <message>
+        <source>North up, from above</source>
+        <translation>Nord en haut, vue d’en haut</translation>
+    </message>
+    <message>
+        <source>Overview of Canada</source>
+        <translation>Vue d’ensemble du Canada</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Save a picture of the map</source>
+        <translation>Enregistrer une image de la carte</translation>
+    </message>
+    <message>
+        <source>Copy picture of the map</source>
+        <translation>Copier l’image de la carte</translation>
+    </message>
+    <message>
+        <source>Pick what is in the middle</source>
+        <translation>Choisir ce qui est au milieu</translation>
+    </message>
+    <message>
+        <source>To the nearest record in a direction</source>
+        <translation>À la fiche la plus proche dans une direction</translation>
+    </message>
+    <message>
+        <source>Ctrl+arrow keys</source>
+        <translation>Ctrl+flèches</translation>
+    </message>
+    <message>
+        <source>Next, previous record in view</source>
+        <translation>Fiche suivante, précédente en vue</translation>
+    </message>
+    <message>
+        <source>R, Shift+R</source>
+        <translation>R, Maj+R</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Maj+S</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Maj+C</translation>
     </message>
 </context>
 <context>

@@ -39,7 +39,6 @@ SectionRow {
             y: pair.stacked ? labelText.height + 2 : 0
             anchors.right: parent.right
             width: pair.stacked ? parent.width : implicitWidth
-            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.Wrap
             textStyle: root.found ? Theme.type.headline : Theme.type.body
             color: Theme.colors.text2

@@ -11,7 +11,6 @@ SectionRow {
 
     Label {
         width: parent.width
-        horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         textStyle: root.textStyle
         color: root.color
