@@ -1,6 +1,7 @@
 #pragma once
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace vasker {
 
@@ -16,6 +17,18 @@ namespace vasker {
             // U+0080 to U+009F: control characters of two bytes.
             text.replace(place, 2, " ");
         }
+    }
+    return text;
+}
+
+/// `text`, UTF-8, where it has at most `longest` bytes; else as many of its characters, and `mark`.
+[[nodiscard]] inline std::string
+shortenedText(std::string text, std::size_t longest, std::string_view mark) {
+    if (text.size() > longest) {
+        while (longest > 0 && (static_cast<unsigned char>(text[longest]) & 0xC0U) == 0x80U) {
+            --longest;
+        }
+        text.replace(longest, std::string::npos, mark);
     }
     return text;
 }

@@ -1,8 +1,11 @@
 #include "tools/openmap-release/commands/JsonFault.h"
 
+#include "tools/openmap-release/PrintedText.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <utility>
 
 namespace vasker {
 namespace {
@@ -32,14 +35,7 @@ std::optional<std::string> jsonFault(std::string_view text) {
     const std::size_t place = message.find("line ");
     message.erase(0, std::min(place, message.size()));
     std::ranges::replace(message, '\n', ' ');
-    if (message.size() > longestMessage) {
-        std::size_t end = longestMessage;
-        while (end > 0 && (static_cast<unsigned char>(message[end]) & 0xC0U) == 0x80U) {
-            --end;
-        }
-        message = message.substr(0, end) + "...";
-    }
-    return message;
+    return shortenedText(std::move(message), longestMessage, "...");
 }
 
 } // namespace vasker

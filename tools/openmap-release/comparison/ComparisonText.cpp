@@ -37,15 +37,8 @@ std::string escaped(std::string_view text) {
 }
 
 std::string shortened(const std::string& full) {
-    std::string text = printedText(escaped(std::string_view(full).substr(0, 4 * longestValue)));
-    if (text.size() <= longestValue) {
-        return text;
-    }
-    std::size_t end = longestValue;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
-        --end;
-    }
-    return text.substr(0, end) + "…";
+    const auto begin = std::string_view(full).substr(0, 4 * longestValue);
+    return shortenedText(printedText(escaped(begin)), longestValue, "…");
 }
 
 std::string quoted(const std::optional<std::string>& value) {
@@ -185,24 +178,19 @@ std::string changesText(const std::vector<ChangedValue>& changes) {
 
 std::string sourceText(const SourceComparison& source) {
     std::string text;
-    if (!source.added.empty()) {
-        text += "  added: " + counted(source.added.size(), "record", "records") +
-                listed(source.added, nameOf) + "\n";
-    }
-    if (!source.gone.empty()) {
-        text += "  gone: " + counted(source.gone.size(), "record", "records") +
-                listed(source.gone, nameOf) + "\n";
-    }
-    if (!source.moved.empty()) {
-        std::vector<MovedRecord> farthest = source.moved;
-        std::ranges::stable_sort(farthest, std::ranges::greater(), &MovedRecord::metres);
-        text += "  moved: " + counted(farthest.size(), "record", "records") +
-                listed(farthest,
-                       [](const MovedRecord& moved) {
-                           return nameOf(moved.record) + " by " + distanceText(moved.metres);
-                       }) +
-                "\n";
-    }
+    const auto add = [&text](const char* what, const auto& records, const auto& describe) {
+        if (!records.empty()) {
+            text += std::string("  ") + what + ": " + counted(records.size(), "record", "records") +
+                    listed(records, describe) + "\n";
+        }
+    };
+    std::vector<MovedRecord> farthest = source.moved;
+    std::ranges::stable_sort(farthest, std::ranges::greater(), &MovedRecord::metres);
+    add("added", source.added, nameOf);
+    add("gone", source.gone, nameOf);
+    add("moved", farthest, [](const MovedRecord& moved) {
+        return nameOf(moved.record) + " by " + distanceText(moved.metres);
+    });
     text += changesText(source.changed);
     const std::string head = "\n" + printedText(source.source) + ": " +
                              counted(source.recordsBefore, "record", "records") + " before, " +
