@@ -87,7 +87,7 @@ void paintPart(QPainter& painter,
     painter.restore();
 }
 
-void paintTile(QPainter& painter, const QTransform& transform, const QImage& image) {
+void paintRasterTile(QPainter& painter, const QTransform& transform, const QImage& image) {
     const QTransform toDevice = painter.combinedTransform();
     std::vector<FlatPiece> pieces;
     // Where pieces overlap, what fades would be seen twice.
@@ -136,7 +136,7 @@ void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& ima
         QTransform transform;
         if (QTransform::quadToQuad(from, corners, transform)) {
             painter.setOpacity(static_cast<double>(quad.opacity));
-            paintTile(painter, transform, image->second);
+            paintRasterTile(painter, transform, image->second);
         }
     }
     painter.restore();
