@@ -142,7 +142,7 @@ void spend(std::size_t& left, std::size_t cost) {
 }
 
 /// What a tile may take, in bytes: its texts, and all of it.
-struct Allowance {
+struct DecodingBudget {
     std::size_t texts;
     std::size_t memory;
 };
@@ -156,9 +156,9 @@ struct LayerHead {
     std::size_t featureCount = 0;
 };
 
-LayerHead readHead(protozero::data_view bytes, Allowance& allowance) {
+LayerHead readHead(protozero::data_view bytes, DecodingBudget& budget) {
     LayerHead head;
-    spend(allowance.memory, sizeof(VectorLayer));
+    spend(budget.memory, sizeof(VectorLayer));
     protozero::pbf_message<LayerField> message(bytes);
     while (message.next()) {
         switch (message.tag_and_type()) {
@@ -172,7 +172,7 @@ LayerHead readHead(protozero::data_view bytes, Allowance& allowance) {
             head.keys.push_back(attributeOf(textOf(message.get_view())));
             break;
         case field(LayerField::values, Wire::length_delimited):
-            spend(allowance.memory, sizeof(Value));
+            spend(budget.memory, sizeof(Value));
             head.values.push_back(readValue(message.get_view()));
             break;
         case field(LayerField::features, Wire::length_delimited):
@@ -188,8 +188,7 @@ LayerHead readHead(protozero::data_view bytes, Allowance& allowance) {
 
 class FeatureReader {
   public:
-    FeatureReader(const LayerHead& head, Allowance& allowance)
-        : m_head(head), m_allowance(allowance) {}
+    FeatureReader(const LayerHead& head, DecodingBudget& budget) : m_head(head), m_budget(budget) {}
 
     /// Nothing where the feature is passed over.
     std::optional<VectorFeature> read(protozero::data_view bytes) {
@@ -221,7 +220,7 @@ class FeatureReader {
         if (feature.parts.empty()) {
             return std::nullopt;
         }
-        spend(m_allowance.memory, feature.memoryBytes());
+        spend(m_budget.memory, feature.memoryBytes());
         readAttributes(tags, feature);
         return feature;
     }
@@ -256,17 +255,17 @@ class FeatureReader {
         if (text == nullptr || text->size() > longestText) {
             return;
         }
-        spend(m_allowance.texts, text->size());
+        spend(m_budget.texts, text->size());
         field = *text;
     }
 
     const LayerHead& m_head;
-    Allowance& m_allowance;
+    DecodingBudget& m_budget;
 };
 
 /// Nothing where the layer is passed over.
-std::optional<VectorLayer> readLayer(protozero::data_view bytes, Allowance& allowance) {
-    const LayerHead head = readHead(bytes, allowance);
+std::optional<VectorLayer> readLayer(protozero::data_view bytes, DecodingBudget& budget) {
+    const LayerHead head = readHead(bytes, budget);
     if (head.name.empty() || head.name.size() > longestText || head.extent == 0 ||
         head.extent > maximumExtent) {
         return std::nullopt;
@@ -274,8 +273,8 @@ std::optional<VectorLayer> readLayer(protozero::data_view bytes, Allowance& allo
     VectorLayer layer{std::string(head.name), {}};
     layer.features.reserve(std::min({head.featureCount,
                                      bytes.size() / smallestFeatureBytes,
-                                     allowance.memory / sizeof(VectorFeature)}));
-    FeatureReader reader(head, allowance);
+                                     budget.memory / sizeof(VectorFeature)}));
+    FeatureReader reader(head, budget);
     protozero::pbf_message<LayerField> message(bytes);
     while (message.next(LayerField::features, Wire::length_delimited)) {
         if (auto feature = reader.read(message.get_view())) {
@@ -291,13 +290,14 @@ std::optional<VectorTile> decodeVectorTile(std::string_view inflated) {
     if (inflated.size() > maximumTileBytes) {
         return std::nullopt;
     }
-    Allowance allowance{.texts = textBytesPerByte * inflated.size(), .memory = maximumDecodedBytes};
+    DecodingBudget budget{.texts = textBytesPerByte * inflated.size(),
+                          .memory = maximumDecodedBytes};
     VectorTile tile;
     try {
         protozero::pbf_message<TileField> message(inflated.data(), inflated.size());
         while (message.next()) {
             if (message.tag_and_type() == field(TileField::layers, Wire::length_delimited)) {
-                if (auto layer = readLayer(message.get_view(), allowance)) {
+                if (auto layer = readLayer(message.get_view(), budget)) {
                     tile.layers.push_back(std::move(*layer));
                 }
             } else {
