@@ -34,16 +34,16 @@ TEST(RecordText, TextsOfTheReleaseStandUnchanged) {
 
 TEST(RecordText, PartsOfLinesAndParagraphsHaveABound) {
     const std::string longest(mostLineBytes, 'a');
-    EXPECT_EQ(lineText(longest).size(), 4'000);
+    EXPECT_EQ(lineText(longest).size(), 10'000);
     EXPECT_EQ(lineText(longest + "b"), toQString(longest) + QChar(u'…'));
     EXPECT_EQ(lineText(longest.substr(1) + "é"), toQString(longest.substr(1)) + QChar(u'…'));
     EXPECT_EQ(paragraphText(std::string(mostParagraphBytes, 'a')).back(), QChar(u'a'));
     EXPECT_EQ(paragraphText(std::string(1'000'000, 'a')).size(), 40'001);
     OpenMapRelease::Asset asset = makeAsset();
     asset.kind = asset.id = asset.asOf = std::string(1'000'000, 'x');
-    EXPECT_EQ(categoryText(asset.kind).size(), 4'001);
-    EXPECT_LT(categoryLine(asset).size(), 9'000);
-    EXPECT_LT(recordSubtitle(asset).size(), 9'000);
+    EXPECT_EQ(categoryText(asset.kind).size(), 10'001);
+    EXPECT_LT(categoryLine(asset).size(), 21'000);
+    EXPECT_LT(recordSubtitle(asset).size(), 21'000);
 }
 
 } // namespace

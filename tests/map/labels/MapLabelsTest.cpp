@@ -152,8 +152,9 @@ TEST_F(MapLabelsTest, WhereTwoLabelsCompeteTheMoreImportantStands) {
 
 TEST_F(MapLabelsTest, TheLabelOfTheSelectedRecordStandsInAnyCase) {
     for (double x = 40; x < 880; x += 12) { // a wall of pins
-        addPin({x, 320}, {});
-        addPin({x, 350}, {});
+        for (double y = 260; y < 400; y += 30) {
+            addPin({x, y}, {});
+        }
     }
     addPin({450, 330}, QStringLiteral("Sturgeon Refinery"), true);
     compose();
