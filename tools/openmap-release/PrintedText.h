@@ -28,7 +28,8 @@ shortenedText(std::string text, std::size_t longest, std::string_view mark) {
         while (longest > 0 && (static_cast<unsigned char>(text[longest]) & 0xC0U) == 0x80U) {
             --longest;
         }
-        text.replace(longest, std::string::npos, mark);
+        text.resize(longest);
+        text += mark;
     }
     return text;
 }
