@@ -23,9 +23,10 @@ SectionRow {
         Accessible.role: Accessible.Paragraph
     }
     SelectableText {
-        // A number has no direction: Qt would align it at the far edge of a mirrored window.
+        // A number has no direction: Qt would align it at the far edge of a mirrored window. A text that
+        // sets its own width is laid out twice.
         anchors.left: parent.left
-        width: Math.min(Math.ceil(implicitWidth), parent.width)
+        width: LayoutMirroring.enabled ? Math.min(Math.ceil(implicitWidth), parent.width) : parent.width
         horizontalAlignment: TextEdit.AlignLeft
         textStyle: root.fact.found ? Theme.type.headline : Theme.type.body
         text: root.fact.value
