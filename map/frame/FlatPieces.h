@@ -1,5 +1,5 @@
 #pragma once
-// An image in perspective as pieces without: painters turn and scale images several times as fast
+// An image in perspective as pieces without: painters rotate and scale images several times as fast
 // as they give them perspective, and a piece that is small enough looks the same.
 
 #include <QRectF>

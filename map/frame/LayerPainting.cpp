@@ -16,8 +16,8 @@ namespace vasker {
 
 namespace {
 
-/// In pixels of their images, tiles overlap so far where they are turned or scaled: what lies below
-/// would show between edges that are rounded apart.
+/// In pixels of their images, tiles overlap so far where they are rotated or scaled: what lies
+/// below would show between edges that are rounded apart.
 constexpr double seamWidth = 1;
 
 /// The lines of a strip: a line goes through the left corners between two tips.

@@ -1,6 +1,6 @@
 #pragma once
-// The geometry of one feature of a vector tile: drawing commands in, points out. See the vector
-// tile specification 2.1, section 4.3.
+// The geometry of one feature of a vector tile: drawing commands in, points out. The commands are
+// those of version 2.1 of the format of vector tiles (MVT), section 4.3.
 
 #include "map/tiles/VectorTile.h"
 

@@ -1,4 +1,4 @@
-// The camera turned, tilted and moved.
+// The camera rotated, tilted and moved.
 
 #include "map/geometry/Camera.h"
 #include "tests/map/geometry/MapViewport.h"
@@ -89,7 +89,7 @@ TEST(CameraMoves, ZoomingKeepsTheGroundUnderThePointer) {
     });
 }
 
-TEST(CameraMoves, TurningKeepsTheGroundUnderThePointer) {
+TEST(CameraMoves, RotatingKeepsTheGroundUnderThePointer) {
     forEveryCamera([](const Camera& camera) {
         for (const ScreenPoint place : places) {
             const MapPoint ground = camera.screenToWorld(place);

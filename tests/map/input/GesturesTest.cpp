@@ -65,7 +65,7 @@ TEST(Gestures, FingersThatHardlyTurnKeepTheBearing) {
     EXPECT_TRUE(after.isUpright());
 }
 
-TEST(Gestures, TheGroundTurnsWithTheFingersWithoutAJump) {
+TEST(Gestures, TheMapRotatesWithTheFingersWithoutAJump) {
     Pinch pinch({400, 300}, {500, 300});
     const auto onCircle = [](double degrees) {
         const double angle = degrees * std::acos(-1.0) / 180;
@@ -112,7 +112,7 @@ TEST(Gestures, FingersInOnePlaceDoNotZoom) {
     EXPECT_DOUBLE_EQ(pinch.moved(startCamera, {390, 300}, {410, 300}).scale(), startCamera.scale());
 }
 
-TEST(Gestures, TheGroundTurnsByWhatFingersTurnBeyondTheThreshold) {
+TEST(Gestures, TheMapRotatesByWhatFingersRotateBeyondTheThreshold) {
     Pinch pinch({400, 300}, {500, 300});
     const double angle = 8.5 * std::acos(-1.0) / 180;
     const ScreenPoint second{400 + 100 * std::cos(angle), 300 + 100 * std::sin(angle)};
