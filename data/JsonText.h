@@ -1,4 +1,6 @@
 #pragma once
+// Texts as JSON.
+
 #include <string>
 #include <string_view>
 

@@ -21,7 +21,7 @@ namespace {
 
 /// A longer text is truncated before it is set; its end would not be seen anyway.
 constexpr qsizetype mostLetters = 300;
-constexpr double outlineRadius = 1.35;
+constexpr double textHaloRadius = 1.35;
 constexpr int haloSteps = 8;
 constexpr double pointsPerPixel = 72.0 / 96.0;
 constexpr QChar ellipsis(0x2026);
@@ -209,11 +209,11 @@ void paintLabel(QPainter& painter, const SetText& text, const Label& label, doub
         painter.setPen(theme.labelHalo);
         for (int step = 0; step < haloSteps; ++step) {
             const double angle = 2 * M_PI * step / haloSteps;
-            draw(QPointF(std::cos(angle), std::sin(angle)) * (outlineRadius * textScale));
+            draw(QPointF(std::cos(angle), std::sin(angle)) * (textHaloRadius * textScale));
         }
     } else { // a page keeps what it is given: the text once, and the halo as an outline
         const QPen halo(theme.labelHalo,
-                        2 * outlineRadius * textScale,
+                        2 * textHaloRadius * textScale,
                         Qt::SolidLine,
                         Qt::RoundCap,
                         Qt::RoundJoin);
