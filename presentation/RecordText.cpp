@@ -1,5 +1,7 @@
 #include "presentation/RecordText.h"
 
+#include "data/text/Beginning.h"
+
 #include <QCoreApplication>
 
 #include <array>
@@ -42,15 +44,8 @@ namespace {
 };
 
 QString upTo(std::size_t most, std::string_view utf8) {
-    if (utf8.size() <= most) {
-        return toQString(utf8);
-    }
-    const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) >> 6U) == 2; };
-    std::size_t end = most;
-    while (end > 0 && continues(utf8[end])) {
-        --end;
-    }
-    return toQString(utf8.substr(0, end)) + QChar(u'…');
+    const std::string_view shown = beginningOf(utf8, most);
+    return shown.size() == utf8.size() ? toQString(utf8) : toQString(shown) + QChar(u'…');
 }
 
 } // namespace

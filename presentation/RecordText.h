@@ -13,8 +13,8 @@ namespace vasker {
 
 [[nodiscard]] QString toQString(std::string_view utf8);
 
-/// What a part of a line shows at most, in bytes. Texts of a release that have no bound
-/// of their own would take minutes to set.
+/// What a part of a line shows at most, in bytes. Texts of a release that have no bound of their own
+/// would take minutes to set.
 inline constexpr std::size_t mostLineBytes = 10'000;
 /// The same of a paragraph, or of a name, which may have a thousand characters.
 inline constexpr std::size_t mostParagraphBytes = 40'000;

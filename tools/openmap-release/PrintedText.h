@@ -1,4 +1,8 @@
 #pragma once
+// Texts of a release and of its sources as the tool prints them.
+
+#include "data/text/Beginning.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -24,11 +28,8 @@ namespace vasker {
 /// `text`, UTF-8, where it has at most `longest` bytes; else as many of its characters, and `mark`.
 [[nodiscard]] inline std::string
 shortenedText(std::string text, std::size_t longest, std::string_view mark) {
-    if (text.size() > longest) {
-        while (longest > 0 && (static_cast<unsigned char>(text[longest]) & 0xC0U) == 0x80U) {
-            --longest;
-        }
-        text.resize(longest);
+    if (const std::size_t size = beginningOf(text, longest).size(); size < text.size()) {
+        text.resize(size);
         text += mark;
     }
     return text;
