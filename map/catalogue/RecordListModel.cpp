@@ -2,6 +2,7 @@
 
 #include "map/catalogue/FoundText.h"
 #include "map/catalogue/NameMatch.h"
+#include "platform/ui/TypeAhead.h"
 #include "presentation/RecordText.h"
 #include "presentation/Symbols.h"
 
@@ -18,12 +19,6 @@ constexpr std::string_view unitLabel = "Reported unit";
 QString unit(const OpenMapRelease::Asset& asset) {
     const auto fact = std::ranges::find(asset.facts, unitLabel, &OpenMapRelease::Fact::label);
     return fact == asset.facts.end() ? QString() : lineText(fact->value);
-}
-
-QString unaccented(const QString& text) {
-    QString letters = text.normalized(QString::NormalizationForm_D);
-    letters.removeIf([](QChar each) { return each.isMark(); });
-    return letters.toCaseFolded();
 }
 
 } // namespace
@@ -171,9 +166,9 @@ int RecordListModel::rowOf(const QString& id) const {
 }
 
 int RecordListModel::rowBeginning(const QString& text) const {
-    const QString wanted = unaccented(text);
+    const QString wanted = TypeAhead::compared(text);
     for (int row = 0; row < rowCount(); ++row) {
-        if (unaccented(toQString(asset(row).name)).startsWith(wanted)) {
+        if (TypeAhead::compared(toQString(asset(row).name)).startsWith(wanted)) {
             return row;
         }
     }

@@ -73,7 +73,7 @@ class RecordListModel : public QAbstractListModel {
     [[nodiscard]] Q_INVOKABLE QString idAt(int row) const;
     /// The row of the record with this id, -1 where it has none.
     [[nodiscard]] Q_INVOKABLE int rowOf(const QString& id) const;
-    /// The first row whose name begins with `text`, accents and capitals aside; -1: there is none.
+    /// The first row whose name begins with `text` as TypeAhead compares them; -1: there is none.
     [[nodiscard]] Q_INVOKABLE int rowBeginning(const QString& text) const;
 
   Q_SIGNALS:
