@@ -15,6 +15,7 @@
 //   1%, 10%, limits 100 to 10,000 records, with routes; `limits` is a file of the largest size
 //   texts           a file of the largest size without routes, which has the most text
 //   marks ...       valid files of the largest size that are one text of one kind of characters
+//   limitations     a valid file of the largest size that is one list of empty texts
 
 #include "bench/Figures.h"
 #include "data/Digest.h"
@@ -55,6 +56,15 @@ std::string fileOf(std::string_view characters) {
     while (id.size() + characters.size() <= room) {
         id += characters;
     }
+    return vasker::encode(release);
+}
+
+/// A file of almost the largest size that is limitations, all of them empty.
+std::string fileOfLimitations() {
+    OpenMapRelease release = vasker::synthesize({.records = 5, .seed = 1});
+    const std::size_t room = OpenMapRelease::maximumFileSize - vasker::encode(release).size();
+    release.limitations.resize(release.limitations.size() +
+                               room / std::string_view("\"\",").size());
     return vasker::encode(release);
 }
 
@@ -157,6 +167,7 @@ int main(int argc, char** argv) {
                                                                  {"hangul-letters", "\u1100"}}) {
             files.emplace_back(name, fileOf(characters));
         }
+        files.emplace_back("limitations", fileOfLimitations());
     }
     std::vector<std::shared_ptr<const OpenMapRelease>> releases;
     std::vector<ReleaseIndex> indices;

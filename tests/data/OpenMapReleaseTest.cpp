@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <ctime>
 
 namespace vasker {
 namespace {
@@ -144,18 +143,13 @@ TEST(OpenMapRelease, LoadingEndsWhenAStopIsRequested) {
         Cancelled);
 }
 
-TEST(OpenMapRelease, ALimitationTakesLessThanAMicrosecond) {
+TEST(OpenMapRelease, AFileFullOfLimitationsIsReadWhole) {
+    constexpr std::size_t count = 4'500'000;
     OpenMapRelease release = makeRelease();
-    for (const std::size_t count : {1'000'000UL, 4'500'000UL}) { // the latter nearly fill a file
-        release.limitations.assign(count, "");
-        std::string json = encode(release);
-        const std::string digest = sha256(json);
-        const std::clock_t begin = std::clock();
-        const OpenMapRelease decoded = OpenMapRelease::decode(std::move(json), digest, {});
-        EXPECT_LT(std::clock() - begin,
-                  static_cast<std::clock_t>(count) * (CLOCKS_PER_SEC / 1'000'000));
-        EXPECT_EQ(decoded.limitations.size(), count);
-    }
+    release.limitations.assign(count, "");
+    std::string json = encode(release);
+    const std::string digest = sha256(json);
+    EXPECT_EQ(OpenMapRelease::decode(std::move(json), digest, {}).limitations.size(), count);
 }
 
 TEST(OpenMapRelease, ASourceIsFoundByItsExactId) {
