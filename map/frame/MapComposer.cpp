@@ -65,9 +65,9 @@ std::vector<RecordLabel> MapComposer::recordLabels(const RecordFrame& records,
 }
 
 std::vector<Shape> MapComposer::shapes() {
-    std::vector<Shape> shapes = m_labels.shapes();
-    for (Shape& pin : m_records.pinShapes()) {
-        shapes.push_back(std::move(pin));
+    std::vector<Shape> shapes = m_records.pinShapes();
+    for (Shape& label : m_labels.shapes()) {
+        shapes.push_back(std::move(label));
     }
     return shapes;
 }
@@ -111,8 +111,8 @@ MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::n
     for (MapLayer& layer : records.linesAndDots) {
         frame.layers.push_back(std::move(layer));
     }
-    frame.layers.emplace_back(std::move(labels));
     frame.layers.emplace_back(std::move(records.pins));
+    frame.layers.emplace_back(std::move(labels)); // that of the selected record may cover pins
     return frame;
 }
 

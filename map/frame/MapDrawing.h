@@ -14,13 +14,13 @@ namespace vasker {
 
 struct MapDrawing {
     MapFrame frame;            ///< with routes and dots live; its sprites are not drawn
-    std::vector<Shape> shapes; ///< its labels and pins, in drawing order
+    std::vector<Shape> shapes; ///< its pins and labels, in drawing order
     TileImages tiles;
 
     /// Draws the background and the raster tiles. What is tilted needs an engine that knows
     /// perspective, as that of images does.
     void paintBasemap(QPainter& painter) const;
-    /// Draws all that lies above: routes, dots, labels and pins, as lines, discs and glyphs.
+    /// Draws all that lies above: routes, dots, pins and labels, as lines, discs and glyphs.
     void paintRecords(QPainter& painter) const;
 };
 

@@ -24,8 +24,8 @@ namespace vasker {
 
 /// The records in one frame.
 struct RecordFrame {
-    std::vector<MapLayer> linesAndDots; ///< below the labels, in drawing order
-    SpriteLayer pins;                   ///< above the labels
+    std::vector<MapLayer> linesAndDots; ///< below the pins, in drawing order
+    SpriteLayer pins;                   ///< below the labels
     std::vector<ShownPin> shownPins;    ///< the selected and the hovered one first
     std::vector<ScreenRect> dots;       ///< what each dot covers
 };

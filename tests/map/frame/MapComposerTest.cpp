@@ -45,7 +45,7 @@ TEST_F(MapComposerTest, AFrameIsAnOrderedListOfLayers) {
     for (const MapLayer& layer : frame.layers) {
         order += "BTLDS"[layer.index()];
     }
-    // Background, tiles, the routes and those that stand out, quiet dots, dots, labels, pins.
+    // Background, tiles, the routes and those that stand out, quiet dots, dots, pins, labels.
     EXPECT_EQ(order, "BTLLLLDDSS");
     EXPECT_EQ(frame.size, QSizeF(900, 700));
 }
@@ -98,24 +98,39 @@ TEST_F(MapComposerTest, TheSelectedRouteIsBlueAndWide) {
 }
 
 TEST_F(MapComposerTest, AControlOverTheMapKeepsLabelsAway) {
-    composer.records().setSelection(QStringLiteral("R-0"));
     state.obstacles = {{0, 0, 900, 700}};
-    composer.records().setSelection({});
     const MapFrame frame = compose();
-    EXPECT_TRUE(layersOf<SpriteLayer>(frame).front()->sheets.empty());
+    EXPECT_TRUE(layersOf<SpriteLayer>(frame).back()->sheets.empty());
 }
 
-TEST_F(MapComposerTest, EveryPinThatHasRoomBesideItHasItsTitle) {
-    // Pins 44 pixels apart, one above the other.
-    composer.records().setRecords(
-        recordSetOf({facilityAt(54, -112, "refinery"), facilityAt(54.25, -112, "refinery")}));
-    const Camera nearby(CoordinateRegion{{54, -112}, 4, 4}, {.width = 900, .height = 700});
-    const MapFrame frame = composer.compose(state, nearby, {});
-    std::size_t titles = 0;
-    for (const SpriteSheet& sheet : layersOf<SpriteLayer>(frame).front()->sheets) {
-        titles += sheet.sprites.size();
+class MapOfTwoPins : public MapComposerTest {
+  protected:
+    /// 44 pixels apart, one above the other.
+    MapOfTwoPins() {
+        composer.records().setRecords(
+            recordSetOf({facilityAt(54, -112, "refinery"), facilityAt(54.25, -112, "refinery")}));
     }
-    EXPECT_EQ(titles, 2U);
+
+    std::size_t spritesOfTheTopLayer() {
+        const Camera nearby(CoordinateRegion{{54, -112}, 4, 4}, {.width = 900, .height = 700});
+        const MapFrame frame = composer.compose(state, nearby, {});
+        std::size_t count = 0;
+        for (const SpriteSheet& sheet : std::get<SpriteLayer>(frame.layers.back()).sheets) {
+            count += sheet.sprites.size();
+        }
+        return count;
+    }
+};
+
+TEST_F(MapOfTwoPins, EveryPinThatHasRoomBesideItHasItsTitle) {
+    EXPECT_EQ(spritesOfTheTopLayer(), 2U);
+}
+
+TEST_F(MapOfTwoPins, WithoutRoomTheTitleOfTheSelectedRecordStandsAboveAll) {
+    state.obstacles = {{0, 0, 900, 700}};
+    EXPECT_EQ(spritesOfTheTopLayer(), 0U);
+    composer.records().setSelection(QStringLiteral("R-0"));
+    EXPECT_EQ(spritesOfTheTopLayer(), 1U);
 }
 
 TEST(MapFrame, ImagesThatWereNotYetHandedOverAreNotLost) {
