@@ -14,10 +14,10 @@ Item {
     property real room: 1000
     property real roomBesideScale: room
     // Whether it is too long to stand beside the scale: then it stands above it.
-    readonly property bool lifted: measure.implicitWidth > roomBesideScale
+    readonly property bool isAboveScale: measure.implicitWidth > roomBesideScale
     required property MapTextColors colors
 
-    implicitWidth: Math.min(Math.ceil(measure.implicitWidth), lifted ? room : roomBesideScale)
+    implicitWidth: Math.min(Math.ceil(measure.implicitWidth), isAboveScale ? room : roomBesideScale)
     implicitHeight: flow.implicitHeight
 
     component Piece: HaloText {

@@ -69,7 +69,7 @@ MapView {
         colors: textColors
         steered: ring.shown
         cornerWidth: Math.max(14 + bar.width, 12 + attribution.width)
-        cornerHeight: Math.max(bar.height, attribution.height + (attribution.lifted ? bar.height + 6 : 0))
+        cornerHeight: Math.max(bar.height, attribution.height + (attribution.isAboveScale ? bar.height + 6 : 0))
         onSpoken: text => root.spoken(text)
         onMoved: camera => root.moved(camera)
         onPicked: id => root.picked(id)
@@ -91,7 +91,7 @@ MapView {
         anchors.right: parent.right
         anchors.rightMargin: 12 + root.coveredAtEnd
         anchors.bottom: caption.top
-        anchors.bottomMargin: lifted ? bar.anchors.bottomMargin + bar.height + 6 : 10
+        anchors.bottomMargin: isAboveScale ? bar.anchors.bottomMargin + bar.height + 6 : 10
         room: parent.width - anchors.rightMargin - bar.anchors.leftMargin
         roomBesideScale: room - bar.width - 24
         note: !imageryWait.over ? "" : root.status.lacksImagery ? qsTr("Satellite imagery needs a network connection") : qsTr("Sharper imagery needs a network connection")

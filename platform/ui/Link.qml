@@ -1,7 +1,7 @@
 import QtQuick
 import Vasker.Platform
 
-// Opens a web page in the user's browser; its address shows while it is pointed at. To assistive
+// Opens a web page in the user's browser; its address shows while it is hovered. To assistive
 // tools a button of Qt's templates is a button whatever its role: this is none of them.
 Item {
     id: root

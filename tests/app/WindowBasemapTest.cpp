@@ -1,4 +1,4 @@
-// The real window while what it draws the ground from is missing or broken: it opens, shows the
+// The real window while what it draws the basemap from is missing or broken: it opens, shows the
 // records, and says nothing that is not so.
 
 #include "app/OpenMapApp.h"

@@ -63,46 +63,47 @@ TEST(DragTrail, TheDateLineIsNoJump) {
 
 TEST(Inertia, BeginsAsFastAsTheDragAndGetsSlower) {
     const Camera start = cameraOf(40, 30);
-    const Inertia glide(start, {2e6, -1e6}); // 671 px/s
-    EXPECT_EQ(glide.cameraAt(0).pose(), start.pose());
-    EXPECT_NEAR(speedBetween(start, glide.cameraAt(0.001), 0.001), std::hypot(600, 300), 2);
+    const Inertia inertia(start, {2e6, -1e6}); // 671 px/s
+    EXPECT_EQ(inertia.cameraAt(0).pose(), start.pose());
+    EXPECT_NEAR(speedBetween(start, inertia.cameraAt(0.001), 0.001), std::hypot(600, 300), 2);
     double before = 1e9;
     for (double time = 0; time < 1; time += 0.1) {
-        const double speed = speedBetween(glide.cameraAt(time), glide.cameraAt(time + 0.01), 0.01);
+        const double speed =
+            speedBetween(inertia.cameraAt(time), inertia.cameraAt(time + 0.01), 0.01);
         EXPECT_LT(speed, before);
         before = speed;
     }
 }
 
 TEST(Inertia, StopsOnceItIsHardlySeenToMove) {
-    const Inertia glide(cameraOf(), {2e6, 0}); // 600 px/s
-    EXPECT_FALSE(glide.isFinished(1.5));
-    EXPECT_TRUE(glide.isFinished(1.6)); // 0.325 s * ln(600 / 5)
-    EXPECT_EQ(glide.cameraAt(1.6).pose(), glide.cameraAt(100).pose());
+    const Inertia inertia(cameraOf(), {2e6, 0}); // 600 px/s
+    EXPECT_FALSE(inertia.isFinished(1.5));
+    EXPECT_TRUE(inertia.isFinished(1.6)); // 0.325 s * ln(600 / 5)
+    EXPECT_EQ(inertia.cameraAt(1.6).pose(), inertia.cameraAt(100).pose());
 }
 
 TEST(Inertia, ASlowDragEndsWhereItEnds) {
-    const Inertia glide(cameraOf(), {1e5, 0}); // 30 px/s
-    EXPECT_TRUE(glide.isFinished(0));
-    EXPECT_EQ(glide.cameraAt(5).pose(), cameraOf().pose());
+    const Inertia inertia(cameraOf(), {1e5, 0}); // 30 px/s
+    EXPECT_TRUE(inertia.isFinished(0));
+    EXPECT_EQ(inertia.cameraAt(5).pose(), cameraOf().pose());
 }
 
 TEST(Inertia, NoDragIsEverFasterThanFiveThousandPixelsASecond) {
     const Camera start = cameraOf();
-    const Inertia glide(start, {1e9, 0});
-    EXPECT_NEAR(speedBetween(start, glide.cameraAt(0.001), 0.001), 5000, 20);
+    const Inertia inertia(start, {1e9, 0});
+    EXPECT_NEAR(speedBetween(start, inertia.cameraAt(0.001), 0.001), 5000, 20);
 }
 
 TEST(Inertia, ASpeedThatIsNoNumberIsNone) {
-    const Inertia glide(cameraOf(), {std::numeric_limits<double>::quiet_NaN(), 0});
-    EXPECT_TRUE(glide.isFinished(0));
-    EXPECT_EQ(glide.cameraAt(1).pose(), cameraOf().pose());
+    const Inertia inertia(cameraOf(), {std::numeric_limits<double>::quiet_NaN(), 0});
+    EXPECT_TRUE(inertia.isFinished(0));
+    EXPECT_EQ(inertia.cameraAt(1).pose(), cameraOf().pose());
 }
 
 TEST(Inertia, CrossesTheDateLine) {
-    const Inertia glide(Camera(CameraPose{{worldSize - 1, 1e8}, 3e-4}, viewport), {2e6, 0});
-    EXPECT_LT(glide.cameraAt(1).center().x, worldSize / 2);
-    EXPECT_GE(glide.cameraAt(1).center().x, 0);
+    const Inertia inertia(Camera(CameraPose{{worldSize - 1, 1e8}, 3e-4}, viewport), {2e6, 0});
+    EXPECT_LT(inertia.cameraAt(1).center().x, worldSize / 2);
+    EXPECT_GE(inertia.cameraAt(1).center().x, 0);
 }
 
 TEST(SmoothZoom, EndsAtItsFactorAndKeepsTheGroundUnderThePointerAllTheWay) {
@@ -172,14 +173,14 @@ TEST(SmoothRotation, TurnsTheShortWayToNorth) {
 
 TEST(SmoothRotation, EndsUprightToTheLastBit) {
     const Camera start = cameraOf(217.3, 41.7);
-    const SmoothRotation leveling(start, 0, 0);
-    EXPECT_FALSE(leveling.isFinished(0.24));
-    ASSERT_TRUE(leveling.isFinished(0.25));
-    EXPECT_TRUE(leveling.cameraAt(0.25).isUpright());
-    EXPECT_EQ(leveling.cameraAt(0.25).center(), start.center());
-    EXPECT_EQ(leveling.cameraAt(0.25).scale(), start.scale());
-    EXPECT_LT(leveling.cameraAt(0.1).pose().pitch, 41.7);
-    EXPECT_GT(leveling.cameraAt(0.1).pose().pitch, 0);
+    const SmoothRotation rotation(start, 0, 0);
+    EXPECT_FALSE(rotation.isFinished(0.24));
+    ASSERT_TRUE(rotation.isFinished(0.25));
+    EXPECT_TRUE(rotation.cameraAt(0.25).isUpright());
+    EXPECT_EQ(rotation.cameraAt(0.25).center(), start.center());
+    EXPECT_EQ(rotation.cameraAt(0.25).scale(), start.scale());
+    EXPECT_LT(rotation.cameraAt(0.1).pose().pitch, 41.7);
+    EXPECT_GT(rotation.cameraAt(0.1).pose().pitch, 0);
 }
 
 } // namespace

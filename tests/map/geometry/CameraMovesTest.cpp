@@ -53,7 +53,7 @@ TEST(CameraMoves, EastIsUpWhenTheBearingIsEast) {
 TEST(CameraMoves, UnderAPitchWhatIsFartherIsSmallerAndHigher) {
     const Camera camera(poseOf(0, 60), viewport);
     const MapPoint center = camera.center();
-    const double height = 1e5 * 3e-4; // 30 px on the ground
+    const double height = 1e5 * 3e-4; // 30 px on the map
     const double far = 1 + height * std::sin(60 * std::acos(-1.0) / 180) / (1.5 * 748);
     expectAt(camera.worldToScreen({center.x + 1e5, center.y - 1e5}),
              {480 + height / far, 356 - height / 2 / far});
@@ -113,7 +113,7 @@ TEST(CameraMoves, OnlyNorthUpAndFlatIsUpright) {
     EXPECT_FALSE(Camera(poseOf(0, 0.5), viewport).isUpright());
 }
 
-// Over the date line in steps: each frame the ground moves as much as in the one before.
+// Over the date line in steps: each frame the map moves as much as in the one before.
 void expectSmoothDragAcrossTheDateLine(double longitude, double stepPixels) {
     Camera camera(CameraPose{coordinateToMapPoint({54, longitude}), 3e-5, 20, 30}, viewport);
     int crossings = 0;

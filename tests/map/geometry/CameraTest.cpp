@@ -40,11 +40,11 @@ TEST(Camera, ShowsAllOfARegionAndOfARectangleInThePartThatNothingCovers) {
                                  {2240, 1388, 36, 420},
                                  {579, 568, 52, 0, 255},
                                  {900, 568, 52, 200, 300}}) {
-        for (const CameraPosition& wish :
+        for (const CameraPosition& position :
              {CameraPosition(canadaOverview), CameraPosition(wide), CameraPosition(tall)}) {
-            const Camera camera(wish, shape);
+            const Camera camera(position, shape);
             std::vector<MapPoint> corners;
-            if (const auto* rect = std::get_if<MapRect>(&wish)) {
+            if (const auto* rect = std::get_if<MapRect>(&position)) {
                 corners = {{rect->x, rect->y}, {rect->x + rect->width, rect->y + rect->height}};
             } else {
                 corners = {coordinateToMapPoint({64, -132}), coordinateToMapPoint({44, -92})};

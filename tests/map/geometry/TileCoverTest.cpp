@@ -11,7 +11,7 @@ namespace {
 
 constexpr Viewport view{960, 712};
 
-/// How many tiles of the cover hold the ground under `point`.
+/// How many tiles of the cover hold `point`.
 int tilesAt(const std::vector<CoverTile>& cover, MapPoint point) {
     return static_cast<int>(
         std::count_if(cover.begin(), cover.end(), [point](const CoverTile& tile) {

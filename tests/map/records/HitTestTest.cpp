@@ -22,15 +22,15 @@ struct Scene {
         const RecordGeometry& geometry = records.loaded->geometry;
         const std::vector<Marker> markers = markersByPriority(records);
         const MarkerLayout layout = markerLayout(markers, DetailLevel::forScale(camera.scale()));
-        HighlightedMarkers lifted;
+        HighlightedMarkers highlighted;
         if (selected && !records.loaded->index.release().assets[*selected].hasRoute()) {
-            lifted.selected = Marker{*selected, geometry.points()[*selected]};
+            highlighted.selected = Marker{*selected, geometry.points()[*selected]};
         }
         RouteColors colors(records.loaded->index.release().assets.size());
         for (const AssetIndex asset : *records.filtered) {
             colors[asset] = Rgb{};
         }
-        const MarkerFrame frame = markerFrame(layout, lifted, RecordDrawing::painted, camera);
+        const MarkerFrame frame = markerFrame(layout, highlighted, RecordDrawing::painted, camera);
         return hitTest(point, reach, {camera, frame, markers, geometry, colors, selected});
     }
 };

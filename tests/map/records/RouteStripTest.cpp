@@ -14,14 +14,14 @@
 namespace vasker {
 namespace {
 
-constexpr Rgb ink{10, 20, 30};
+constexpr Rgb lineColor{10, 20, 30};
 constexpr Viewport routeView{960, 712};
 
 LineStrip stripOf(const RecordSet& records, const Camera& camera) {
     const RecordGeometry& geometry = records.loaded->geometry;
     return routeStrip(geometry,
                       geometry.runs(),
-                      RouteColors(records.loaded->index.release().assets.size(), ink),
+                      RouteColors(records.loaded->index.release().assets.size(), lineColor),
                       camera);
 }
 
@@ -159,7 +159,7 @@ TEST(RouteStrip, EveryVertexHasTheColorOfItsRecord) {
     const LineStrip strip = stripOf(records, Camera(canadaOverview, routeView));
     ASSERT_FALSE(strip.empty());
     for (const LineVertex& vertex : strip) {
-        EXPECT_EQ((Rgb{vertex.red, vertex.green, vertex.blue}), ink);
+        EXPECT_EQ((Rgb{vertex.red, vertex.green, vertex.blue}), lineColor);
     }
 }
 

@@ -162,11 +162,12 @@ TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
         TileRequest request = requestFor(tile, BasemapTheme::light, devicePixels);
         request.devicePixelsPerPixel = density;
         const QImage picture = paintTile(data, request);
-        double ink = 0;
+        double darkness = 0;
         for (int x = 0; x < devicePixels; ++x) {
-            ink += light().land.lightness() - picture.pixelColor(x, devicePixels / 2).lightness();
+            darkness +=
+                light().land.lightness() - picture.pixelColor(x, devicePixels / 2).lightness();
         }
-        return ink / density;
+        return darkness / density;
     };
     EXPECT_NEAR(inkOf(1024, 2), inkOf(512, 1), 0.15 * inkOf(512, 1));
 }
