@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QPainter>
 
+#include <algorithm>
+#include <span>
 #include <utility>
 
 namespace vasker {
@@ -38,6 +40,14 @@ bool isProminent(const PlaceLabel& place) {
     return place.kind == PlaceLabel::Kind::region || place.kind == PlaceLabel::Kind::capital ||
            place.kind == PlaceLabel::Kind::city ||
            (place.kind == PlaceLabel::Kind::town && place.priority < capitalPriority);
+}
+
+/// Whether a control over the map covers the mark of a place.
+bool isCovered(ScreenPoint mark, std::span<const ScreenRect> controls) {
+    const ScreenRect ring{
+        mark.x - placeMarkReach, mark.y - placeMarkReach, 2 * placeMarkReach, 2 * placeMarkReach};
+    return std::ranges::any_of(controls,
+                               [&](const ScreenRect& control) { return control.overlaps(ring); });
 }
 
 ScreenRect freePart(const Camera& camera) {
@@ -106,6 +116,9 @@ void MapLabels::addPlaces(const LabelInput& input) {
             }
             const ScreenPoint anchor = camera.worldToScreen(point);
             const bool isMarked = hasMark(place.kind);
+            if (isMarked && isCovered(anchor, input.obstacles)) {
+                continue;
+            }
             const size_t hash = qHash(place.text);
             LabelCandidate placement{};
             placement.id = qHashMulti(

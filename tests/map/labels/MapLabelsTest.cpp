@@ -99,6 +99,17 @@ TEST_F(MapLabelsTest, ThatOfACountryOrAWaterStandsOnItsPointWithoutARing) {
     EXPECT_NEAR(texts()[1].x + texts()[1].width / 2, 600, 1);
 }
 
+TEST_F(MapLabelsTest, APlaceWhoseRingAControlCoversHasNoLabel) {
+    addPlace(QStringLiteral("Red Deer"), {400, 300});
+    controls = {{380, 303, 100, 14}}; // there is room above
+    compose();
+    EXPECT_TRUE(sprites().empty());
+    controls = {{380, 306, 100, 14}};
+    compose();
+    EXPECT_EQ(texts().size(), 1U);
+    EXPECT_EQ(rings(), 1U);
+}
+
 TEST_F(MapLabelsTest, LabelsOverlapNeitherEachOtherNorPinsNorControls) {
     std::mt19937 random(5);
     std::uniform_real_distribution<double> across(0, viewport.width);
