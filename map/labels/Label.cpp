@@ -24,8 +24,11 @@ LabelStyle labelStyleOf(PlaceLabel::Kind kind) noexcept {
 }
 
 size_t qHash(const Label& label, size_t seed) noexcept {
-    return qHashMulti(
-        seed, label.text, static_cast<int>(label.style), static_cast<int>(label.theme));
+    return qHashMulti(seed,
+                      label.text,
+                      static_cast<int>(label.style),
+                      static_cast<int>(label.theme),
+                      static_cast<int>(label.alignment));
 }
 
 } // namespace vasker

@@ -15,10 +15,14 @@ enum class LabelStyle : std::uint8_t { country, region, city, town, village, wat
 
 [[nodiscard]] LabelStyle labelStyleOf(PlaceLabel::Kind kind) noexcept;
 
+/// Where the lines of a text begin or end that has several.
+enum class LabelAlignment : std::uint8_t { centred, left, right };
+
 struct Label {
     QString text;
     LabelStyle style;
     BasemapTheme theme;
+    LabelAlignment alignment = LabelAlignment::centred;
     friend bool operator==(const Label&, const Label&) = default;
 };
 [[nodiscard]] size_t qHash(const Label& label, size_t seed = 0) noexcept;

@@ -60,8 +60,20 @@ TextStyle textStyleOf(LabelStyle style) {
     return {11.5, QFont::DemiBold, 14, 170};
 }
 
-QTextOption centred() {
-    QTextOption option(Qt::AlignHCenter);
+Qt::Alignment alignmentOf(const Label& label) {
+    switch (label.alignment) {
+    case LabelAlignment::left:
+        return Qt::AlignLeft | Qt::AlignAbsolute; // whichever way the text is read
+    case LabelAlignment::right:
+        return Qt::AlignRight | Qt::AlignAbsolute;
+    case LabelAlignment::centred:
+        break;
+    }
+    return Qt::AlignHCenter;
+}
+
+QTextOption wrapping() {
+    QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     return option;
 }
@@ -105,7 +117,7 @@ double balancedWidth(QTextLayout& layout, double widest) {
 
 QString inLines(const QString& text, const QFont& font, double widest, const QPaintDevice* device) {
     QTextLayout layout(text, font, device);
-    layout.setTextOption(centred());
+    layout.setTextOption(wrapping());
     const int count = breakLines(layout, widest, 1);
     if (count <= 1) {
         return text;
@@ -184,7 +196,7 @@ setText(const QString& text, LabelStyle style, double textScale, const QPaintDev
         return set;
     }
     QTextLayout layout(set.lines, font, device);
-    layout.setTextOption(centred());
+    layout.setTextOption(wrapping());
     const double lineHeight = std::ceil(how.lineHeight * textScale);
     const int count = breakLines(layout, 1e6, lineHeight);
     set.size = {std::ceil(widestLine(layout)), count * lineHeight};
@@ -195,7 +207,7 @@ void paintLabel(QPainter& painter, const SetText& text, const Label& label, doub
     const TextStyle how = textStyleOf(label.style);
     const MapTheme& theme = mapTheme(label.theme);
     QTextLayout layout(text.lines, labelFont(label.style, textScale), painter.device());
-    QTextOption option = centred();
+    QTextOption option(alignmentOf(label));
     option.setWrapMode(QTextOption::ManualWrap);
     layout.setTextOption(option);
     breakLines(layout, text.size.width(), std::ceil(how.lineHeight * textScale));

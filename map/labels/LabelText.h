@@ -25,7 +25,7 @@ struct SetText {
 [[nodiscard]] SetText
 setText(const QString& text, LabelStyle style, double textScale, const QPaintDevice* device);
 
-/// Lines centred in a block of that size whose corner is the painter's origin, with halo.
+/// Lines aligned in a block of that size whose corner is the painter's origin, with halo.
 void paintLabel(QPainter& painter, const SetText& text, const Label& label, double textScale);
 
 /// The ring that marks the point of a place, and how far from the point it reaches with its halo.

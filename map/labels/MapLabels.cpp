@@ -170,6 +170,16 @@ void MapLabels::add(Candidate candidate, LabelCandidate placement) {
     m_placements.push_back(placement);
 }
 
+Label MapLabels::labelOf(const PlacedLabel& placed) {
+    Label label = m_candidates[placed.candidate].label;
+    if (m_atlas->textOf(label).lines.contains(QChar::LineSeparator)) {
+        label.alignment = placed.side == LabelSide::right  ? LabelAlignment::left
+                          : placed.side == LabelSide::left ? LabelAlignment::right
+                                                           : LabelAlignment::centred;
+    }
+    return label;
+}
+
 SpriteLayer MapLabels::sprites() {
     SpriteLayer layer;
     m_atlas->beginFrame();
@@ -187,7 +197,7 @@ SpriteLayer MapLabels::sprites() {
                 candidate.mark->x - ring.region.width() / 2,
                 candidate.mark->y - ring.region.height() / 2);
         }
-        if (const auto text = m_atlas->place(candidate.label)) {
+        if (const auto text = m_atlas->place(labelOf(placed))) {
             add(*text, placed.rect.x - LabelAtlas::margin, placed.rect.y - LabelAtlas::margin);
         }
     }
@@ -209,7 +219,7 @@ std::vector<Shape> MapLabels::shapes() {
         }
         shapes.emplace_back([corner = QPointF(placed.rect.x, placed.rect.y),
                              text = m_atlas->textOf(candidate.label),
-                             label = candidate.label,
+                             label = labelOf(placed),
                              textScale = m_textScale](QPainter& painter) {
             painter.save();
             painter.translate(corner);

@@ -62,6 +62,8 @@ class MapLabels {
     void addPlaces(const LabelInput& input);
     void addRecords(const LabelInput& input);
     void add(Candidate candidate, LabelCandidate placement);
+    /// With its lines aligned towards its point.
+    [[nodiscard]] Label labelOf(const PlacedLabel& placed);
     [[nodiscard]] SpriteLayer sprites();
 
     LabelPlacement m_placement;

@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace vasker {
 namespace {
 
@@ -59,6 +63,41 @@ TEST_F(LabelTextTest, TheMarkOfAPlaceIsARingInAHalo) {
         EXPECT_EQ(colorAt(36), colors.labelHalo.rgb());
         EXPECT_EQ(image.pixelColor(QPoint(45, 45) + 44 * direction).alpha(), 0);
     }
+}
+
+/// Where the dark of the lines of a block begins and ends, in pixels, the upper one first.
+std::vector<std::pair<int, int>> extentsOfLines(LabelAlignment alignment) {
+    QImage image(120, 28, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    const SetText text{QStringLiteral("A long upper line\u2028short"), image.size()};
+    paintLabel(painter, text, {{}, LabelStyle::record, BasemapTheme::light, alignment}, 1);
+    painter.end();
+    std::vector<std::pair<int, int>> extents;
+    for (const int top : {0, 14}) {
+        std::pair extent{image.width(), 0};
+        for (int y = top; y < top + 14; ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y).lightness() < 128) {
+                    extent = {std::min(extent.first, x), std::max(extent.second, x)};
+                }
+            }
+        }
+        extents.push_back(extent);
+    }
+    return extents;
+}
+
+TEST_F(LabelTextTest, TheLinesOfATextAreCentredOrBeginOrEndTogether) {
+    const auto centred = extentsOfLines(LabelAlignment::centred);
+    EXPECT_GT(centred[1].first, centred[0].first + 15);
+    EXPECT_NEAR(centred[1].first + centred[1].second, centred[0].first + centred[0].second, 4);
+    const auto left = extentsOfLines(LabelAlignment::left);
+    EXPECT_NEAR(left[1].first, left[0].first, 2);
+    EXPECT_LT(left[1].first, 4);
+    const auto right = extentsOfLines(LabelAlignment::right);
+    EXPECT_NEAR(right[1].second, right[0].second, 2);
+    EXPECT_GT(right[1].second, 114);
 }
 
 } // namespace

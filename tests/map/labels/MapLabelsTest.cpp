@@ -110,6 +110,25 @@ TEST_F(MapLabelsTest, APlaceWhoseRingAControlCoversHasNoLabel) {
     EXPECT_EQ(rings(), 1U);
 }
 
+TEST_F(MapLabelsTest, TheLinesOfATitleBeginOrEndTogetherTowardsItsPin) {
+    const QString title = QStringLiteral("Kaybob South Compressor Station 04-22");
+    const auto expectAligned = [&](LabelAlignment alignment) {
+        LabelAtlas atlas(1);
+        const auto place = atlas.place({title, LabelStyle::record, BasemapTheme::light, alignment});
+        ASSERT_TRUE(place);
+        const SpriteSheet& sheet = layer.sheets.at(0);
+        ASSERT_EQ(sheet.sprites.size(), 1U);
+        EXPECT_EQ(sheet.atlas.copy(sheet.sprites[0].region.toAlignedRect()),
+                  atlas.page(place->page).copy(place->region.toAlignedRect()));
+    };
+    addPin({400, 300}, title);
+    compose();
+    expectAligned(LabelAlignment::left);
+    controls = {{420, 0, 20, 700}};
+    compose();
+    expectAligned(LabelAlignment::right);
+}
+
 TEST_F(MapLabelsTest, LabelsOverlapNeitherEachOtherNorPinsNorControls) {
     std::mt19937 random(5);
     std::uniform_real_distribution<double> across(0, viewport.width);
