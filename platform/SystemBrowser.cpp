@@ -1,9 +1,9 @@
 #include "platform/SystemBrowser.h"
 
 #include "platform/Appearance.h"
+#include "platform/Launcher.h"
 #include "platform/Portal.h"
 
-#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QJSEngine>
 #include <QUrl>
@@ -29,13 +29,27 @@ bool SystemBrowser::open(const QString& address) {
                           .arguments = {PortalRequest::parentName(QGuiApplication::focusWindow()),
                                         url.toString(QUrl::FullyEncoded)},
                           .options = {}};
-    PortalRequest::send(
-        m_bus, call, this, [url](PortalRequest::Outcome outcome, const QVariantMap&) {
-            if (outcome == PortalRequest::Outcome::unavailable) {
-                QDesktopServices::openUrl(url);
-            }
-        });
+    PortalRequest::send(m_bus,
+                        call,
+                        this,
+                        [this, address, url](PortalRequest::Outcome outcome, const QVariantMap&) {
+                            const bool isOpened =
+                                outcome != PortalRequest::Outcome::unavailable || launch(url);
+                            setUnopened(isOpened ? QString() : address);
+                        });
     return true;
+}
+
+QString SystemBrowser::message() const {
+    return m_unopened.isEmpty() ? QString()
+                                : tr("No browser was found that opens %1").arg(m_unopened);
+}
+
+void SystemBrowser::setUnopened(const QString& address) {
+    if (m_unopened != address) {
+        m_unopened = address;
+        Q_EMIT unopenedChanged();
+    }
 }
 
 } // namespace vasker

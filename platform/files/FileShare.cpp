@@ -1,6 +1,7 @@
 #include "platform/files/FileShare.h"
 
 #include "platform/Appearance.h"
+#include "platform/Launcher.h"
 #include "platform/Portal.h"
 #include "platform/files/FileCopy.h"
 
@@ -9,7 +10,6 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
-#include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -83,8 +83,9 @@ void FileShare::showInFolder(const QString& path) {
 void FileShare::openFolder(const QString& path) {
     const auto openByName = [this, path] {
         const QUrl folder = QUrl::fromLocalFile(QFileInfo(path).absolutePath());
-        if (!QDesktopServices::openUrl(folder)) {
-            setMessage(tr("The folder could not be opened: %1").arg(folder.toLocalFile()));
+        if (!launch(folder)) {
+            setMessage(
+                tr("No program was found that opens the folder: %1").arg(folder.toLocalFile()));
         }
     };
     const QDBusUnixFileDescriptor file = opened(path);
@@ -132,8 +133,8 @@ void FileShare::openWith(const QString& path, QQuickWindow* window) {
     PortalRequest::send(
         m_bus, call, this, [this, path](PortalRequest::Outcome outcome, const QVariantMap&) {
             if (outcome == PortalRequest::Outcome::unavailable &&
-                !QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
-                setMessage(tr("The file could not be opened: %1").arg(path));
+                !launch(QUrl::fromLocalFile(path))) {
+                setMessage(tr("No program was found that opens the file: %1").arg(path));
             }
         });
 }

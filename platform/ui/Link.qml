@@ -1,8 +1,9 @@
 import QtQuick
 import Vasker.Platform
 
-// Opens a web page in the user's browser; its address shows while it is hovered. To assistive
-// tools a button of Qt's templates is a button whatever its role: this is none of them.
+// Opens a web page in the user's browser; its address shows while it is hovered, or that no browser was
+// found. To assistive tools a button of Qt's templates is a button whatever its role: this is none of
+// them.
 Item {
     id: root
 
@@ -11,6 +12,7 @@ Item {
     required property string address
     property bool addressShown: true
     readonly property bool hovered: hover.hovered
+    readonly property bool unopened: root.enabled && SystemBrowser.unopened === root.address
 
     signal activated
 
@@ -23,7 +25,7 @@ Item {
     activeFocusOnTab: true
     Accessible.role: root.enabled ? Accessible.Link : Accessible.StaticText
     Accessible.name: root.text
-    Accessible.description: root.address
+    Accessible.description: root.unopened ? SystemBrowser.message : root.address
     Accessible.ignored: !root.visible
     Accessible.focusable: root.enabled
     Accessible.onPressAction: root.open()
@@ -39,8 +41,8 @@ Item {
     }
     HoverTip {
         control: root
-        shown: root.hovered && root.addressShown
-        tip: root.address
+        shown: root.unopened ? root.hovered || root.activeFocus : root.hovered && root.addressShown
+        tip: root.unopened ? SystemBrowser.message : root.address
         place: ToolTip.AtStart
     }
     HoverHandler {

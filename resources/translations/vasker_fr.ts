@@ -1389,8 +1389,8 @@
         <translation>Enregistrer une copie</translation>
     </message>
     <message>
-        <source>The folder could not be opened: %1</source>
-        <translation>Le dossier n’a pas pu être ouvert : %1</translation>
+        <source>No program was found that opens the folder: %1</source>
+        <translation>Aucun programme n’a été trouvé pour ouvrir le dossier : %1</translation>
     </message>
     <message>
         <source>The file is on the clipboard.</source>
@@ -1399,6 +1399,17 @@
     <message>
         <source>The file could not be opened: %1</source>
         <translation>Le fichier n’a pas pu être ouvert : %1</translation>
+    </message>
+    <message>
+        <source>No program was found that opens the file: %1</source>
+        <translation>Aucun programme n’a été trouvé pour ouvrir le fichier : %1</translation>
+    </message>
+</context>
+<context>
+    <name>vasker::SystemBrowser</name>
+    <message>
+        <source>No browser was found that opens %1</source>
+        <translation>Aucun navigateur n’a été trouvé pour ouvrir %1</translation>
     </message>
 </context>
 <context>

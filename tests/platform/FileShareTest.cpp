@@ -152,6 +152,17 @@ TEST(FileShare, WithoutEitherTheFolderIsOpened) {
     EXPECT_EQ(opened.url, QUrl::fromLocalFile(file.folder.path()));
 }
 
+TEST(FileShare, WhereNothingOpensTheFolderAMessageSaysSo) {
+    const SharedFile file;
+    const Opened opened(Launchers::Present::none);
+    FileShare share(noBus());
+    share.showInFolder(file.path());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_EQ(share.message(),
+              QStringLiteral("No program was found that opens the folder: ") + file.folder.path());
+    EXPECT_TRUE(opened.url.isEmpty());
+}
+
 TEST(FileShare, TheClipboardHoldsTheFileForFileManagersAndItsPathForTexts) {
     const SharedFile file;
     FileShare share(noBus());
@@ -186,6 +197,26 @@ TEST(FileShare, WithoutAPortalTheDesktopOpensTheFile) {
     share.openWith(file.path(), nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.url.isEmpty(); }));
     EXPECT_EQ(opened.url, QUrl::fromLocalFile(file.path()));
+}
+
+TEST(FileShare, WhereNothingOpensTheFileAMessageSaysSo) {
+    const SharedFile file;
+    const Opened opened(Launchers::Present::none);
+    FileShare share(session()); // without a portal
+    share.openWith(file.path(), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_EQ(share.message(),
+              QStringLiteral("No program was found that opens the file: ") + file.path());
+    EXPECT_TRUE(opened.url.isEmpty());
+}
+
+TEST(FileShare, AFileThatIsGoneIsToldOf) {
+    const SharedFile file;
+    const Opened opened;
+    FileShare share(session());
+    share.openWith(file.beside(QStringLiteral("absent")), nullptr);
+    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The file could not be opened: ")));
+    EXPECT_TRUE(opened.url.isEmpty());
 }
 
 TEST(FileShare, AnActionForgetsTheMessageOfTheOneBefore) {

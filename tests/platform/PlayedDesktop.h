@@ -8,6 +8,8 @@
 #include <QDBusObjectPath>
 #include <QDBusVirtualObject>
 #include <QDesktopServices>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QUrl>
 
 namespace vasker {
@@ -81,12 +83,38 @@ class Portal : public Desktop {
         : Desktop(portalService, portalPath, answers, std::move(results)) {}
 };
 
+// The programs that open files and addresses: none, or the one that desktops have.
+class Launchers {
+  public:
+    enum class Present { none, desktop };
+
+    explicit Launchers(Present present) {
+        if (present == Present::desktop) {
+            QFile launcher(m_folder.filePath(QStringLiteral("xdg-open")));
+            launcher.open(QIODevice::WriteOnly);
+            launcher.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+        }
+        qputenv("PATH", QFile::encodeName(m_folder.path()));
+        qunsetenv("BROWSER");
+    }
+    ~Launchers() {
+        qputenv("PATH", m_path);
+        qputenv("BROWSER", m_browser);
+    }
+
+  private:
+    QTemporaryDir m_folder;
+    QByteArray m_path = qgetenv("PATH");
+    QByteArray m_browser = qgetenv("BROWSER");
+};
+
 // What leaves the program without a portal.
 class Opened : public QObject {
     Q_OBJECT
 
   public:
-    Opened() {
+    explicit Opened(Launchers::Present present = Launchers::Present::desktop)
+        : m_launchers(present) {
         QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "keep");
         QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "keep");
     }
@@ -98,6 +126,9 @@ class Opened : public QObject {
 
   public Q_SLOTS:
     void keep(const QUrl& opened) { url = opened; }
+
+  private:
+    Launchers m_launchers;
 };
 
 inline const QDBusConnection& session() {

@@ -51,6 +51,33 @@ TEST(SystemBrowser, ARefusalOfTheUserIsNotAskedAgain) {
     EXPECT_TRUE(opened.url.isEmpty());
 }
 
+TEST(SystemBrowser, WhereThereIsNoBrowserItSaysSoUntilAnAddressIsOpened) {
+    SystemBrowser browser(noBus());
+    {
+        const Opened opened(Launchers::Present::none);
+        EXPECT_TRUE(browser.open(QStringLiteral("https://example.org/a")));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !browser.unopened().isEmpty(); }));
+        EXPECT_EQ(browser.unopened(), QStringLiteral("https://example.org/a"));
+        EXPECT_EQ(browser.message(),
+                  QStringLiteral("No browser was found that opens https://example.org/a"));
+        EXPECT_TRUE(opened.url.isEmpty());
+    }
+    const Opened opened;
+    EXPECT_TRUE(browser.open(QStringLiteral("https://example.org/b")));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !opened.url.isEmpty(); }));
+    EXPECT_TRUE(browser.unopened().isEmpty());
+    EXPECT_TRUE(browser.message().isEmpty());
+}
+
+TEST(SystemBrowser, TheUsersOwnBrowserOpensAddresses) {
+    const Opened opened(Launchers::Present::none);
+    qputenv("BROWSER", "/bin/true");
+    SystemBrowser browser(noBus());
+    EXPECT_TRUE(browser.open(QStringLiteral("https://example.org/")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !opened.url.isEmpty(); }));
+    EXPECT_TRUE(browser.unopened().isEmpty());
+}
+
 TEST(SystemBrowser, NothingElseLeavesTheProgram) {
     const Portal portal(Desktop::Answers::done);
     Opened opened;

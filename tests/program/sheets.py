@@ -1,5 +1,8 @@
 """The sheets over the workspace: what they tell, their order, and what is out of reach behind."""
 
+import tempfile
+from pathlib import Path
+
 from gi.repository import GLib
 
 from bundle import RELEASE, changed, program_with_release
@@ -114,6 +117,22 @@ def a_source_link_opens_in_the_browser(executable):
             program.press(role="link", name="Licence")
             if portal.asked("OpenURI", times=2)[1] != "https://example.org/licence":
                 raise Missed(f"opened: {portal.calls}")
+
+
+def what_no_program_opens_is_told_of(executable):
+    with tempfile.TemporaryDirectory() as nothing, program_with_release(executable, RELEASE) as copy:
+        with Program(copy, PATH=nothing, BROWSER=None) as program:
+            program.press(id="open-map-sources")
+            program.press(id="open-map-share")
+            program.press(role="menu item", name="Open with…")
+            file = Path(copy).parent / "resources/OpenMap.json"
+            program.see(name=f"No program was found that opens the file: {file}")
+            program.press(role="link", name="Source data")
+            said = "No browser was found that opens https://example.org/data"
+            program.wait(
+                lambda: program.see(role="link", name="Source data").description == said,
+                "the link does not say that there is no browser",
+            )
 
 
 def the_sources_sheet_tells_of_the_release(executable):
