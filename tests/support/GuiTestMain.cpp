@@ -27,6 +27,7 @@ int main(int argc, char* argv[]) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    qputenv("QV4_FORCE_INTERPRETER", "1"); // as the program does
     const QGuiApplication application(argc, argv);
     const int result = RUN_ALL_TESTS();
     keepLoadedLibraries();
