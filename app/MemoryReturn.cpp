@@ -1,5 +1,6 @@
 #include "app/MemoryReturn.h"
 
+#include "map/style/ImagePool.h"
 #include "platform/Memory.h"
 
 #include <QEvent>
@@ -48,6 +49,7 @@ MemoryReturn::MemoryReturn(QQmlEngine& engine, QObject* parent)
 
 void MemoryReturn::giveBack() {
     m_engine.collectGarbage();
+    emptyImagePool();
     returnFreedMemory();
 }
 

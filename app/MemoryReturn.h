@@ -1,8 +1,8 @@
 #pragma once
 // Returns memory that the program no longer uses: objects that the QML engine keeps until its next
-// collection, and blocks that the allocator keeps after they were freed. Both take some
-// milliseconds, so they run when nothing else happens: after a window is closed, and once the user
-// pauses.
+// collection, images that are pooled for reuse, and blocks that the allocator keeps after they were
+// freed. That takes some milliseconds, so it runs when nothing else happens: after a window is
+// closed, and once the user pauses.
 
 #include <QObject>
 #include <QTimer>

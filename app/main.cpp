@@ -105,6 +105,7 @@ int run(int argc, char** argv) {
 
 int main(int argc, char* argv[]) {
     vasker::returnFreedImages();
+    vasker::returnThreadsMemory();
     const int status = run(argc, argv);
     // A read from a disk that is gone never returns; its thread must not keep the program.
     if (!vasker::finishBackgroundWork()) {

@@ -10,6 +10,10 @@ void returnFreedImages() {
     ::mallopt(M_TRIM_THRESHOLD, smallestImage);
 }
 
+void returnThreadsMemory() {
+    ::mallopt(M_MXFAST, 0); // each thread's own cache of freed blocks stays
+}
+
 std::size_t freedBytesKept() noexcept {
     return ::mallinfo2().fordblks;
 }

@@ -10,6 +10,13 @@ namespace vasker {
 /// would hold on to twice what it shows. Call it before threads are made.
 void returnFreedImages();
 
+/// Makes what other threads than the first have freed go back to the system at once, too. By itself
+/// the allocator keeps small blocks apart in case they are needed again; joined later, by
+/// returnFreedMemory(), they lie at the end of their thread's heap, and that it never shortens for
+/// lack of anything freed there: tens of megabytes after a release was loaded. Call it before
+/// threads are made.
+void returnThreadsMemory();
+
 /// How many bytes were freed and are kept for what comes next.
 [[nodiscard]] std::size_t freedBytesKept() noexcept;
 

@@ -54,6 +54,13 @@ class Pool {
         }
     }
 
+    void empty() {
+        std::vector<Block> dropped; // outlives the lock
+        const std::scoped_lock lock(m_mutex);
+        dropped.swap(m_free);
+        m_bytes = 0;
+    }
+
     std::size_t bytes() {
         const std::scoped_lock lock(m_mutex);
         return m_bytes;
@@ -100,6 +107,10 @@ QImage pooledCopy(const QImage& image) {
         copy.setDevicePixelRatio(image.devicePixelRatio());
     }
     return copy;
+}
+
+void emptyImagePool() {
+    pool().empty();
 }
 
 std::size_t pooledBytes() {

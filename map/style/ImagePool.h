@@ -18,6 +18,9 @@ inline constexpr std::size_t mostPooledBytes = 8'000'000;
 /// A copy of `image` in such memory.
 [[nodiscard]] QImage pooledCopy(const QImage& image);
 
+/// Gives what is kept back to the system. Any thread.
+void emptyImagePool();
+
 /// How many bytes are kept now.
 [[nodiscard]] std::size_t pooledBytes();
 

@@ -1,5 +1,6 @@
 #include "app/MemoryReturn.h"
 
+#include "map/style/ImagePool.h"
 #include "platform/Memory.h"
 
 #include <QCoreApplication>
@@ -10,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
+#include <thread>
 #include <vector>
 
 namespace vasker {
@@ -45,6 +48,33 @@ TEST(MemoryReturn, FreedMemoryGoesBackToTheSystem) {
     const long before = pagesInMemory();
     memory.giveBack();
     EXPECT_LT(pagesInMemory(), before - muchInPages);
+}
+
+TEST(MemoryReturn, WhatAThreadFreedGoesBackToo) {
+    returnThreadsMemory();
+    QQmlEngine engine;
+    MemoryReturn memory(engine);
+    const long before = pagesInMemory();
+    long filled = 0;
+    std::thread([&filled] {
+        std::vector<std::unique_ptr<std::array<char, 64>>> blocks(800'000);
+        for (auto& block : blocks) {
+            block = std::make_unique<std::array<char, 64>>();
+        }
+        filled = pagesInMemory();
+    }).join();
+    ASSERT_GT(filled, before + muchInPages);
+    memory.giveBack();
+    EXPECT_LT(pagesInMemory(), before + muchInPages / 8);
+}
+
+TEST(MemoryReturn, PooledImagesGoBack) {
+    QQmlEngine engine;
+    MemoryReturn memory(engine);
+    { const QImage dropped = pooledImage(512, 512, QImage::Format_RGB32); }
+    ASSERT_GT(pooledBytes(), 0U);
+    memory.giveBack();
+    EXPECT_EQ(pooledBytes(), 0U);
 }
 
 TEST(MemoryReturn, ItGoesBackOnceTheUserPauses) {

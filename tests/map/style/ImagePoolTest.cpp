@@ -39,6 +39,16 @@ TEST(ImagePool, WhatIsKeptIsBounded) {
     EXPECT_GT(pooledBytes(), mostPooledBytes / 2);
 }
 
+TEST(ImagePool, AnEmptiedPoolKeepsNothingAndIsUsedAgain) {
+    const QImage inUse = pooledImage(512, 512, QImage::Format_RGB32);
+    { const QImage dropped = pooledImage(512, 512, QImage::Format_RGB32); }
+    ASSERT_GT(pooledBytes(), 0U);
+    emptyImagePool();
+    EXPECT_EQ(pooledBytes(), 0U);
+    { const QImage dropped = pooledImage(512, 512, QImage::Format_RGB32); }
+    EXPECT_GT(pooledBytes(), 0U);
+}
+
 TEST(ImagePool, ACopyHoldsTheSamePixels) {
     QImage image(37, 11, QImage::Format_RGB32);
     image.fill(Qt::red);
