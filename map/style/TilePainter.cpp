@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vasker {
 
@@ -85,7 +86,8 @@ QImage paintTile(const TileData& data, const TileRequest& requested) {
             paintVectorTile(painter, data, request, request.theme, styleLayers(), budget);
         }
     }
-    return budget.isSpent() ? QImage() : image;
+    painter.end(); // of an image that is being painted, QImage copies the pixels
+    return budget.isSpent() ? QImage() : std::move(image);
 }
 
 } // namespace vasker

@@ -1,7 +1,10 @@
 #include "map/style/ImagePool.h"
 
+#include "map/style/TilePainter.h"
+
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -47,6 +50,17 @@ TEST(ImagePool, AnEmptiedPoolKeepsNothingAndIsUsedAgain) {
     EXPECT_EQ(pooledBytes(), 0U);
     { const QImage dropped = pooledImage(512, 512, QImage::Format_RGB32); }
     EXPECT_GT(pooledBytes(), 0U);
+}
+
+TEST(ImagePool, ATileIsPaintedIntoItsMemoryAndNotCopied) {
+    emptyImagePool();
+    TileData data;
+    data.vector = std::make_shared<VectorTile>();
+    TileRequest request;
+    request.devicePixelsPerMapPoint = 512 / request.key.side();
+    const QImage tile = paintTile(data, request);
+    EXPECT_EQ(tile.width(), 512);
+    EXPECT_EQ(pooledBytes(), 0U); // of a copy, the first image would have gone back
 }
 
 TEST(ImagePool, ACopyHoldsTheSamePixels) {
