@@ -19,14 +19,15 @@
 namespace vasker {
 namespace {
 
-/// Frees 60 MB in such a way that the allocator keeps them: a small block after each stays.
+/// Frees 60 MB in such a way that the allocator keeps them: the block after each stays, and is as
+/// large, so that it lies there whatever was freed before.
 std::vector<std::unique_ptr<char[]>> freeMuch() {
     constexpr std::size_t size = 60'000;
     std::vector<std::unique_ptr<char[]>> freed;
     std::vector<std::unique_ptr<char[]>> kept;
     for (int i = 0; i < 1'000; ++i) {
         freed.push_back(std::make_unique<char[]>(size));
-        kept.push_back(std::make_unique<char[]>(5'000));
+        kept.push_back(std::make_unique<char[]>(size));
     }
     return kept;
 }
@@ -81,6 +82,7 @@ TEST(MemoryReturn, ItGoesBackOnceTheUserPauses) {
     QQmlEngine engine;
     const MemoryReturn memory(engine);
     const auto kept = freeMuch();
+    ASSERT_GT(freedBytesKept(), 50'000'000U);
     const long before = pagesInMemory();
     QObject somewhere;
     QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
