@@ -127,6 +127,19 @@ TEST_F(MapExploration, AfterTheMapHasMovedEnterPicksItsMiddleAgain) {
     EXPECT_EQ(middle.size(), 1);
 }
 
+TEST_F(MapExploration, AMapThatLosesTheKeysStandsAtNoRecord) {
+    const QSignalSpy middle(m_map, &MapView::picked);
+    key(Qt::Key_R);
+    EXPECT_EQ(m_map->hover()->recordId(), text("R-0"));
+    QQuickItem other(m_window.contentItem());
+    other.forceActiveFocus();
+    EXPECT_TRUE(m_map->hover()->recordId().isEmpty());
+    m_map->forceActiveFocus();
+    key(Qt::Key_Return);
+    EXPECT_TRUE(m_picked.isEmpty());
+    EXPECT_EQ(middle.size(), 1);
+}
+
 TEST_F(MapExploration, AMapMovedByKeysTellsWhereItIs) {
     m_map->setCamera(CoordinateRegion{{54, -150}, 20, 20});
     key(Qt::Key_Plus, Qt::ShiftModifier);

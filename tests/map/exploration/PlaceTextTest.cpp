@@ -63,6 +63,8 @@ TEST(PlaceText, WithoutASettlementTheCentreIsToldInDegrees) {
               text("53.7 degrees north, 113.5 degrees west"));
     EXPECT_EQ(PlaceText::center(coordinateToMapPoint({-10, 20.04}), {}),
               text("10.0 degrees south, 20.0 degrees east"));
+    EXPECT_EQ(PlaceText::center({worldSize / 2, worldSize / 2}, {}),
+              text("0.0 degrees north, 0.0 degrees east"));
 }
 
 TEST(PlaceText, TheNumberInViewIsTold) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace vasker {
 namespace {
 
@@ -59,6 +61,28 @@ TEST(NearRecords, ARouteIsWhereItComesNearest) {
     const Coordinate place = mapPointToCoordinate(inView[0].place);
     EXPECT_NEAR(place.longitude, -112, 1e-6);
     EXPECT_NEAR(place.latitude, 55, 1e-6);
+}
+
+TEST(NearRecords, AnInclinedRouteIsNearestWhereItRunsAcrossTheWayToIt) {
+    const Camera camera = cameraAt(54, -112);
+    const double right = 40 / camera.scale();
+    const double down = -30 / camera.scale();
+    const MapPoint foot{camera.center().x + right, camera.center().y + down};
+    // A place of the line through the foot that runs across the way there.
+    const auto across = [&](double times) {
+        const Coordinate place =
+            mapPointToCoordinate({foot.x - times * down, foot.y + times * right});
+        return OpenMapRelease::Position{place.longitude, place.latitude};
+    };
+    for (const auto& [from, to, nearest] :
+         {std::array{-3.0, 2.0, 0.0}, {2.0, -3.0, 0.0}, {1.0, 4.0, 1.0}, {-4.0, -1.0, -1.0}}) {
+        const auto found =
+            nearestRecord(recordSetOf({pipelineAlong({{across(from), across(to)}})}), camera);
+        ASSERT_TRUE(found);
+        const Coordinate place = mapPointToCoordinate(found->place);
+        EXPECT_NEAR(place.longitude, across(nearest).longitude, 1e-6) << from;
+        EXPECT_NEAR(place.latitude, across(nearest).latitude, 1e-6) << from;
+    }
 }
 
 TEST(NearRecords, OfSeveralRoutesTheNearestCounts) {
