@@ -130,14 +130,37 @@ TEST_F(MapExploration, AfterTheMapHasMovedEnterPicksItsMiddleAgain) {
 TEST_F(MapExploration, AMapThatLosesTheKeysStandsAtNoRecord) {
     const QSignalSpy middle(m_map, &MapView::picked);
     key(Qt::Key_R);
-    EXPECT_EQ(m_map->hover()->recordId(), text("R-0"));
     QQuickItem other(m_window.contentItem());
     other.forceActiveFocus();
-    EXPECT_TRUE(m_map->hover()->recordId().isEmpty());
     m_map->forceActiveFocus();
     key(Qt::Key_Return);
     EXPECT_TRUE(m_picked.isEmpty());
     EXPECT_EQ(middle.size(), 1);
+}
+
+TEST_F(MapExploration, AfterOtherRecordsHaveComeItStandsAtNone) {
+    key(Qt::Key_R);
+    key(Qt::Key_R);
+    m_map->setRecords(recordSetOf({named("Other", 54, -110)}));
+    EXPECT_TRUE(m_map->hover()->recordId().isEmpty());
+    key(Qt::Key_Return);
+    EXPECT_TRUE(m_picked.isEmpty());
+    key(Qt::Key_R);
+    EXPECT_EQ(m_spoken.last(), text("Other, gas plant, 131 km east"));
+}
+
+TEST_F(MapExploration, TheArrowKeysOfTheKeypadGoToRecordsToo) {
+    key(Qt::Key_Right, Qt::ControlModifier | Qt::KeypadModifier);
+    expectSpoken({text("East, gas plant, 131 km east")});
+}
+
+TEST_F(MapExploration, EnterThatIsHeldDownOpensTheRecordOnce) {
+    key(Qt::Key_R);
+    QKeyEvent repeated(
+        QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    key(Qt::Key_Return);
+    QCoreApplication::sendEvent(m_map, &repeated);
+    EXPECT_EQ(m_picked, QStringList{text("R-0")});
 }
 
 TEST_F(MapExploration, AMapMovedByKeysTellsWhereItIs) {
