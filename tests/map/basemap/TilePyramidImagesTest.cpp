@@ -57,6 +57,27 @@ TEST_F(TilePyramidImagesTest, ImagesThatAreNotSeenYetAreHandedOverAFewAFrame) {
     EXPECT_GE(handedOver, 4U);
 }
 
+TEST_F(TilePyramidImagesTest, ImagesThatAreHandedOverAheadAreNotSeen) {
+    openWithoutServices();
+    ASSERT_TRUE(lookUntilComplete());
+    view.theme = BasemapTheme::dark;
+    look();
+    library->workers().wait(pyramid.get(), std::chrono::milliseconds(10'000));
+    const ScreenPoint focus = view.camera.focus();
+    bool areSomeHandedOver = false;
+    ASSERT_TRUE(lookUntil([&] {
+        for (const double x : {-20, 20}) {
+            for (const double y : {-20, 20}) {
+                EXPECT_EQ(colorAt({focus.x + x, focus.y + y}),
+                          frame.isComplete ? mapTheme(BasemapTheme::dark).land : land);
+            }
+        }
+        areSomeHandedOver |= !frame.isComplete && !frame.tiles.newImages.empty();
+        return frame.isComplete;
+    }));
+    EXPECT_TRUE(areSomeHandedOver);
+}
+
 TEST_F(TilePyramidImagesTest, ImagesThatNeedNoTextureAreShownInTheNextFrame) {
     openWithoutServices();
     view.uploads = false;
