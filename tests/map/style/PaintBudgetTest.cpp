@@ -178,6 +178,7 @@ TEST(PaintBudget, ALineThatIsDrawnInPiecesHasNoGap) {
     const PaintedTile painted(
         {10, 200, 300}, {{"streets", {onePart(VectorFeature::Geometry::lines, "motorway", way)}}});
     const QImage image = paintTile(painted.data, painted.request);
+    ASSERT_FALSE(image.isNull());
     const QRgb land = mapTheme(BasemapTheme::light).land.rgb();
     for (std::size_t i = 1; i < way.size(); ++i) {
         for (const float part : {0.1F, 0.5F, 0.9F}) {
@@ -185,6 +186,28 @@ TEST(PaintBudget, ALineThatIsDrawnInPiecesHasNoGap) {
             const float y = way[i - 1].y + part * (way[i].y - way[i - 1].y);
             EXPECT_NE(image.pixel(static_cast<int>(512 * x), static_cast<int>(512 * y)), land)
                 << i << ' ' << part;
+        }
+    }
+}
+
+TEST(PaintBudget, ALineThatIsDrawnInPiecesLooksTheSameAllAlong) {
+    constexpr int rows = 30;
+    const auto yOf = [](int row) { return 16 * (row + 1); };
+    std::vector<TilePoint> way;
+    for (int row = 0; row < rows; ++row) {
+        const float y = (static_cast<float>(yOf(row)) + 0.25F) / 512;
+        const float from = row % 2 == 0 ? 0.05F : 0.95F;
+        way.push_back({from, y});
+        way.push_back({1 - from, y});
+    }
+    const PaintedTile painted(
+        {10, 200, 300}, {{"streets", {onePart(VectorFeature::Geometry::lines, "motorway", way)}}});
+    const QImage image = paintTile(painted.data, painted.request);
+    ASSERT_FALSE(image.isNull());
+    for (int row = 1; row < rows; ++row) {
+        for (int dy = -8; dy < 8; ++dy) {
+            EXPECT_EQ(image.pixelColor(256, yOf(row) + dy), image.pixelColor(256, yOf(0) + dy))
+                << row << ' ' << dy;
         }
     }
 }
