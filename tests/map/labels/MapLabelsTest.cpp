@@ -332,6 +332,34 @@ TEST_F(MapLabelsTest, LabelsStandInThePartThatNothingCovers) {
     EXPECT_GT(lowest, 500);
 }
 
+TEST_F(MapLabelsTest, ALabelMayReachToTheEdgesOfThatPartAndNotBeyond) {
+    const Viewport covered{
+        .width = 900, .height = 700, .coveredBelow = 120, .coveredRight = 150, .coveredLeft = 200};
+    const Camera seen(camera.pose(), covered);
+    const auto textAt = [&](ScreenPoint point) {
+        labels = MapLabels();
+        places.clear();
+        addPlace(QStringLiteral("Canada"), point, 1, PlaceLabel::Kind::country);
+        compose(seen);
+        return texts();
+    };
+    const ScreenPoint middle{400, 300};
+    ASSERT_EQ(textAt(middle).size(), 1U);
+    const ScreenRect text = textAt(middle).front();
+    const double left = middle.x + 200 - text.x;
+    const double right = middle.x + 750 - text.x - text.width;
+    const double top = middle.y - text.y;
+    const double bottom = middle.y + 580 - text.y - text.height;
+    for (const auto& [x, y] :
+         {std::pair(left, top), {right, top}, {left, bottom}, {right, bottom}}) {
+        const double inwardsX = x == left ? 0.5 : -0.5;
+        const double inwardsY = y == top ? 0.5 : -0.5;
+        EXPECT_EQ(textAt({x + inwardsX, y + inwardsY}).size(), 1U) << x << ' ' << y;
+        EXPECT_TRUE(textAt({x - inwardsX, y + inwardsY}).empty()) << x << ' ' << y;
+        EXPECT_TRUE(textAt({x + inwardsX, y - inwardsY}).empty()) << x << ' ' << y;
+    }
+}
+
 TEST_F(MapLabelsTest, AProminentNameHasAsMuchRoomAroundItOnEverySide) {
     addPlace(QStringLiteral("ALBERTA"), {600, 200}, 1, PlaceLabel::Kind::region);
     const auto names = labels.keptFreeOfPins({.camera = camera,
