@@ -322,15 +322,16 @@ TEST(VectorTile, WhatReachesFarBeyondTheTileIsPassedOver) {
         0U);
 }
 
-TEST(VectorTile, ALayerWithoutNameOrWithASenselessExtentIsPassedOver) {
-    for (const std::uint32_t extent : {0U, (1U << 24) + 1, 0xFFFFFFFFU}) {
+TEST(VectorTile, ALayerWithASenselessExtentOrNameIsPassedOver) {
+    for (const auto& [extent, layers] :
+         {std::pair(0U, 0U), {1U << 24, 1U}, {(1U << 24) + 1, 0U}, {~0U, 0U}}) {
         Layer layer{"x", {aPoint}};
         layer.extent = extent;
-        const auto tile = decodeVectorTile(bytesOf(std::vector{layer}));
-        ASSERT_TRUE(tile.has_value());
-        EXPECT_TRUE(tile->layers.empty()) << extent;
+        EXPECT_EQ(decodeVectorTile(bytesOf(std::vector{layer})).value().layers.size(), layers);
     }
-    EXPECT_TRUE(decodeVectorTile(bytesOf({{"", {aPoint}}}))->layers.empty());
+    EXPECT_EQ(decodeVectorTile(bytesOf({{"", {aPoint}}}))->layers.size(), 0U);
+    EXPECT_EQ(decodeVectorTile(bytesOf({{std::string(256, 'a'), {aPoint}}}))->layers.size(), 1U);
+    EXPECT_EQ(decodeVectorTile(bytesOf({{std::string(257, 'a'), {aPoint}}}))->layers.size(), 0U);
 }
 
 TEST(VectorTile, ALayerIsFoundByItsName) {
