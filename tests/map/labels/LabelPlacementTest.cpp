@@ -292,5 +292,18 @@ TEST(LabelPlacement, SenselessValuesCostOnlyTheirLabel) {
     EXPECT_TRUE(layout.place(candidates, {}, {0, 0, 0, 0}).empty());
 }
 
+TEST(LabelPlacement, AnObstacleOfNoWidthOrHeightTakesNoRoom) {
+    const std::vector<LabelCandidate> candidates{label(1, {400, 400})};
+    for (const double size : {0, 1}) {
+        for (const ScreenRect& obstacle :
+             {ScreenRect{415, 390, size, 20}, ScreenRect{410, 400, 20, size}}) {
+            LabelPlacement layout;
+            const auto& placed = layout.place(candidates, std::vector{obstacle}, screen);
+            ASSERT_EQ(placed.size(), 1U);
+            EXPECT_EQ(placed[0].side, size == 0 ? LabelSide::right : LabelSide::left);
+        }
+    }
+}
+
 } // namespace
 } // namespace vasker
