@@ -19,6 +19,13 @@ Rectangle {
     readonly property bool labelsVisible: width >= 12 + toolsWidth + endWidth
     readonly property bool titleVisible: width >= 20 + title.implicitWidth + 20 + toolsWidth + endWidth
 
+    // The main menu, unless a sheet keeps it out of reach.
+    function openMenu(): void {
+        if (root.sheets.current === SheetStack.NoSheet) {
+            primary.menu.open();
+        }
+    }
+
     implicitHeight: Theme.headerHeight
     color: Theme.colors.window
 

@@ -50,29 +50,34 @@ Window {
 
     Backdrop {
         anchors.fill: parent
-        covered: about.onScreen || shortcuts.onScreen || guide.onScreen
+        covered: guide.onScreen || shortcuts.onScreen
 
-        LoadingScreen {
+        Backdrop {
             anchors.fill: parent
-            visible: window.root.screen === OpenMapRoot.Loading
-        }
-        FailureScreen {
-            anchors.fill: parent
-            visible: window.root.screen === OpenMapRoot.Failed
-            description: window.root.failureText
-        }
-        Loader {
-            id: view
+            covered: about.onScreen
 
-            anchors.fill: parent
-            focus: true
-        }
-    }
-    AboutSheet {
-        id: about
+            LoadingScreen {
+                anchors.fill: parent
+                visible: window.root.screen === OpenMapRoot.Loading
+            }
+            FailureScreen {
+                anchors.fill: parent
+                visible: window.root.screen === OpenMapRoot.Failed
+                description: window.root.failureText
+            }
+            Loader {
+                id: view
 
-        sheets: window.root.sheets
-        version: window.application.version
+                anchors.fill: parent
+                focus: true
+            }
+        }
+        AboutSheet {
+            id: about
+
+            sheets: window.root.sheets
+            version: window.application.version
+        }
     }
     GuideSheet {
         id: guide
@@ -110,18 +115,11 @@ Window {
             window.showWorkspace();
         }
     }
-    Shortcut {
-        sequence: "F1"
-        enabled: window.root.sheets.current === SheetStack.NoSheet
-        onActivated: window.root.sheets.request(SheetStack.Guide)
-    }
-    Shortcut {
-        sequence: "Ctrl+?"
-        enabled: window.root.sheets.current === SheetStack.NoSheet
-        onActivated: window.root.sheets.request(SheetStack.Shortcuts)
-    }
     WindowKeys {
         window: window
+        onHelpWanted: window.root.sheets.request(SheetStack.Guide)
+        onShortcutsWanted: window.root.sheets.request(SheetStack.Shortcuts)
+        onMenuWanted: (view.item as WorkspaceView)?.headerBar.openMenu()
         onNewWanted: window.application.openWindow()
         onCloseWanted: window.close()
         onQuitWanted: window.application.closeAllWindows()

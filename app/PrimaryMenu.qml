@@ -109,10 +109,6 @@ HeaderButton {
         }
     }
     Shortcut {
-        sequence: "F10"
-        onActivated: root.menu.toggle()
-    }
-    Shortcut {
         sequence: "Ctrl+S"
         autoRepeat: false
         onActivated: root.saves.saveRecords(root.Window.window)

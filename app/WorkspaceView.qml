@@ -10,6 +10,7 @@ FocusScope {
     required property OpenMapApp application
     required property OpenMapWorkspace workspace
     required property SheetStack sheets
+    readonly property HeaderBar headerBar: header
     readonly property bool sheetIsOpen: sheets.current !== SheetStack.NoSheet
 
     // To screen readers.

@@ -3,7 +3,29 @@
 #include <QKeyEvent>
 #include <QQuickItem>
 
+#include <algorithm>
+#include <array>
+
 namespace vasker {
+
+namespace {
+
+struct WindowKey {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    void (WindowKeys::*wanted)();
+    bool opensSomething; ///< in this window
+};
+
+const std::array windowKeys{
+    WindowKey{Qt::Key_F1, Qt::NoModifier, &WindowKeys::helpWanted, true},
+    WindowKey{Qt::Key_Question, Qt::ControlModifier, &WindowKeys::shortcutsWanted, true},
+    WindowKey{Qt::Key_F10, Qt::NoModifier, &WindowKeys::menuWanted, true},
+    WindowKey{Qt::Key_N, Qt::ControlModifier, &WindowKeys::newWanted, false},
+    WindowKey{Qt::Key_W, Qt::ControlModifier, &WindowKeys::closeWanted, false},
+    WindowKey{Qt::Key_Q, Qt::ControlModifier, &WindowKeys::quitWanted, false}};
+
+} // namespace
 
 void WindowKeys::setWindow(QQuickWindow* window) {
     m_window = window;
@@ -28,17 +50,38 @@ bool WindowKeys::readsAText() const {
 }
 
 bool WindowKeys::handle(const QKeyEvent& key) {
-    void (WindowKeys::*wanted)() = key.key() == Qt::Key_N   ? &WindowKeys::newWanted
-                                   : key.key() == Qt::Key_W ? &WindowKeys::closeWanted
-                                   : key.key() == Qt::Key_Q ? &WindowKeys::quitWanted
-                                                            : nullptr;
-    if (key.modifiers() != Qt::ControlModifier || wanted == nullptr) {
+    const auto wanted = std::ranges::find_if(windowKeys, [&key](const WindowKey& each) {
+        // On many keyboards a question mark takes Shift.
+        const Qt::KeyboardModifiers held =
+            key.key() == Qt::Key_Question ? key.modifiers() & ~Qt::ShiftModifier : key.modifiers();
+        return each.key == key.key() && each.modifiers == held;
+    });
+    if (wanted == windowKeys.end()) {
         return false;
     }
-    if (!key.isAutoRepeat()) {
-        Q_EMIT(this->*wanted)();
+    if (key.isAutoRepeat()) {
+        return true;
+    }
+    QObject* const over = popup();
+    const bool isMenu = over != nullptr && over->inherits("QQuickMenu");
+    if (isMenu) {
+        QMetaObject::invokeMethod(over, "close");
+    }
+    const bool isHeard = over == nullptr || (isMenu && wanted->wanted != &WindowKeys::menuWanted);
+    if (isHeard || !wanted->opensSomething) {
+        Q_EMIT(this->*wanted->wanted)();
     }
     return true;
+}
+
+QObject* WindowKeys::popup() const {
+    for (QQuickItem* item = m_window->activeFocusItem(); item != nullptr;
+         item = item->parentItem()) {
+        if (item->parent() != nullptr && item->parent()->inherits("QQuickPopup")) {
+            return item->parent();
+        }
+    }
+    return nullptr;
 }
 
 } // namespace vasker

@@ -1,6 +1,7 @@
 #pragma once
-// The keys of a window that work whatever is open in it: Ctrl+N, Ctrl+W and Ctrl+Q. A menu keeps
-// shortcuts from all that lies below it; these are heard by the window itself.
+// The keys of a window that work whatever is open in it: F1, Ctrl+?, F10, Ctrl+N, Ctrl+W and
+// Ctrl+Q. A menu keeps shortcuts from all that lies below it; these are heard by the window itself,
+// and close the menu first, which gives the keyboard back.
 //
 // It also lets shortcuts through where a text has the keyboard that can only be read: Qt 6.4 would
 // take every key for the text's own.
@@ -26,7 +27,12 @@ class WindowKeys : public QObject {
     void setWindow(QQuickWindow* window);
 
   Q_SIGNALS:
-    /// Once for each press, however long the key is held.
+    /// Each once for a press, however long the key is held. The first three are not sent while a
+    /// dialog of the toolkit is open: nothing opens above that.
+    void helpWanted();
+    void shortcutsWanted();
+    /// Not sent where the key has closed a menu.
+    void menuWanted();
     void newWanted();
     void closeWanted();
     void quitWanted();
@@ -39,6 +45,8 @@ class WindowKeys : public QObject {
     [[nodiscard]] bool readsAText() const;
     /// Whether the key is one of them.
     bool handle(const QKeyEvent& key);
+    /// The menu or dialog over the window that has the keyboard, or null.
+    [[nodiscard]] QObject* popup() const;
 
     QQuickWindow* m_window = nullptr;
 };

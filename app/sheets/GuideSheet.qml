@@ -30,10 +30,7 @@ WindowSheet {
                     bottomInset: -6
                     radius: Theme.menuRowRadius
                     label: qsTr("Keyboard shortcuts")
-                    onClicked: {
-                        root.sheets.request(SheetStack.Shortcuts);
-                        root.dismissed();
-                    }
+                    onClicked: root.sheets.request(SheetStack.Shortcuts)
 
                     Label {
                         id: shortcuts

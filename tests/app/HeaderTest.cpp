@@ -164,19 +164,22 @@ TEST_F(Header, TheMainMenuConcernsTheProgram) {
     EXPECT_TRUE(workspace().showingRecords());
 }
 
-TEST_F(Header, AboutAndShortcutsAreSheetsNeverTwoAtOnce) {
+TEST_F(Header, AboutIsASheetAndTheKeysLieOverIt) {
     openRecords();
     click(openMenu("open-map-menu")[11]);
     ASSERT_NE(item("open-map-about"), nullptr);
     EXPECT_EQ(nameOf(item("open-map-about")), "About Vasker Beta");
+    const QQuickItem* const before = m_window->activeFocusItem();
     key(Qt::Key_Question, Qt::ControlModifier);
     key(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(item("open-map-shortcuts"), nullptr);
+    ASSERT_NE(item("open-map-shortcuts"), nullptr);
+    EXPECT_TRUE(item("open-map-shortcuts")->isAncestorOf(m_window->activeFocusItem()));
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-shortcuts") == nullptr; }));
+    EXPECT_EQ(m_window->activeFocusItem(), before);
     key(Qt::Key_Escape);
     ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-about") == nullptr; }));
     EXPECT_EQ(m_window->activeFocusItem(), item("open-map-menu"));
-    key(Qt::Key_Question, Qt::ControlModifier);
-    EXPECT_NE(item("open-map-shortcuts"), nullptr);
 }
 
 TEST_F(Header, WindowsAreOpenedAndClosedFromTheFailureScreenToo) {
@@ -229,6 +232,25 @@ TEST_F(Header, F1IsTheGuideAndF10TheMainMenu) {
     key(Qt::Key_F10);
     EXPECT_TRUE(
         QTest::qWaitFor([&] { return item("open-map-menu")->property("opened").toBool(); }));
+    key(Qt::Key_F10);
+    EXPECT_FALSE(item("open-map-menu")->property("opened").toBool());
+}
+
+TEST_F(Header, F1ClosesAMenuThatIsOpenAndF10DoesOnlyThat) {
+    openRecords();
+    for (const char* const button : {"open-map-options", "open-map-menu", "open-map-layer"}) {
+        EXPECT_FALSE(openMenu(button).empty());
+        key(Qt::Key_F1);
+        ASSERT_NE(item("open-map-guide"), nullptr) << button;
+        EXPECT_TRUE(item("open-map-guide")->isAncestorOf(m_window->activeFocusItem()));
+        key(Qt::Key_Escape);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-guide") == nullptr; }));
+        EXPECT_EQ(m_window->activeFocusItem(), item(button));
+        EXPECT_FALSE(openMenu(button).empty());
+        key(Qt::Key_F10);
+        EXPECT_EQ(m_window->activeFocusItem(), item(button));
+        EXPECT_FALSE(item("open-map-menu")->property("opened").toBool());
+    }
 }
 
 TEST_F(Header, TheGuideIsThereOnTheFailureScreenToo) {

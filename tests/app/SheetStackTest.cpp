@@ -25,8 +25,7 @@ TEST(SheetStack, ARequestedSheetIsShownUntilItIsDismissedAndOnScreenUntilItHasCl
 TEST(SheetStack, ThereIsNeverMoreThanOneAndTheOthersHaveTheirTurnInOrder) {
     SheetStack sheets;
     sheets.request(Sheet::Records);
-    for (const Sheet each :
-         {Sheet::About, Sheet::Guide, Sheet::Inspector, Sheet::Shortcuts, Sheet::Sources}) {
+    for (const Sheet each : {Sheet::About, Sheet::Inspector, Sheet::Sources}) {
         sheets.request(each);
         EXPECT_EQ(sheets.current(), Sheet::Records);
     }
@@ -35,13 +34,62 @@ TEST(SheetStack, ThereIsNeverMoreThanOneAndTheOthersHaveTheirTurnInOrder) {
         turns.push_back(sheets.current());
         sheets.setClosed(sheets.current());
     }
-    EXPECT_EQ(turns,
-              (std::vector{Sheet::Records,
-                           Sheet::Sources,
-                           Sheet::Inspector,
-                           Sheet::Guide,
-                           Sheet::Shortcuts,
-                           Sheet::About}));
+    EXPECT_EQ(turns, (std::vector{Sheet::Records, Sheet::Sources, Sheet::Inspector, Sheet::About}));
+}
+
+TEST(SheetStack, HelpOpensOverAnySheetAndLeavesItOpen) {
+    for (const Sheet help : {Sheet::Guide, Sheet::Shortcuts}) {
+        for (const Sheet each : {Sheet::Sources, Sheet::Records, Sheet::Inspector, Sheet::About}) {
+            SheetStack sheets;
+            sheets.request(each);
+            sheets.request(help);
+            EXPECT_EQ(sheets.current(), help);
+            EXPECT_EQ(sheets.shownHelp(), help);
+            EXPECT_EQ(sheets.shown(), each);
+            sheets.setClosed(help);
+            EXPECT_EQ(sheets.current(), each);
+            EXPECT_EQ(sheets.shownHelp(), Sheet::NoSheet);
+            EXPECT_EQ(sheets.shown(), each);
+        }
+    }
+}
+
+TEST(SheetStack, OneSheetOfHelpTakesThePlaceOfTheOther) {
+    SheetStack sheets;
+    sheets.request(Sheet::Records);
+    sheets.request(Sheet::Guide);
+    sheets.request(Sheet::Shortcuts);
+    EXPECT_FALSE(sheets.isRequested(Sheet::Guide));
+    EXPECT_EQ(sheets.current(), Sheet::Guide); // which leaves
+    sheets.setClosed(Sheet::Guide);
+    EXPECT_EQ(sheets.shownHelp(), Sheet::Shortcuts);
+    sheets.request(Sheet::Guide);
+    sheets.setClosed(Sheet::Shortcuts);
+    EXPECT_EQ(sheets.shownHelp(), Sheet::Guide);
+    EXPECT_EQ(sheets.shown(), Sheet::Records);
+}
+
+TEST(SheetStack, NothingOpensBelowHelp) {
+    SheetStack sheets;
+    sheets.request(Sheet::Guide);
+    sheets.request(Sheet::Sources);
+    EXPECT_EQ(sheets.shown(), Sheet::NoSheet);
+    sheets.setClosed(Sheet::Guide);
+    EXPECT_EQ(sheets.shown(), Sheet::Sources);
+}
+
+TEST(SheetStack, HelpWaitsForASheetThatLeavesAndComesBeforeTheNext) {
+    SheetStack sheets;
+    sheets.request(Sheet::Records);
+    sheets.dismiss(Sheet::Records);
+    sheets.request(Sheet::Guide);
+    sheets.request(Sheet::Inspector);
+    EXPECT_EQ(sheets.current(), Sheet::Records);
+    sheets.setClosed(Sheet::Records);
+    EXPECT_EQ(sheets.current(), Sheet::Guide);
+    EXPECT_EQ(sheets.shown(), Sheet::NoSheet);
+    sheets.setClosed(Sheet::Guide);
+    EXPECT_EQ(sheets.current(), Sheet::Inspector);
 }
 
 TEST(SheetStack, ASheetThatIsDismissedBeforeItsTurnHasNone) {

@@ -6,6 +6,7 @@ namespace vasker {
 namespace {
 
 using SheetsReach = OpenSheets;
+using Sheet = SheetStack::Sheet;
 
 TEST_F(SheetsReach, NothingBehindASheetIsReachableByAssistiveTools) {
     for (const char* const each : {"open-map-layer", "open-map-records", "open-map-reset"}) {
@@ -94,6 +95,50 @@ TEST_F(SheetsReach, TheFocusComesBackToTheRowThatOpenedTheInspector) {
     key(Qt::Key_Return);
     waitFor("Record");
     EXPECT_EQ(selection(), "A-2");
+}
+
+TEST_F(SheetsReach, TheGuideLiesOverAnySheetAndGivesTheKeyboardBackToIt) {
+    for (const Sheet below : {Sheet::Sources, Sheet::Records, Sheet::Inspector, Sheet::About}) {
+        below == Sheet::Inspector ? workspace().setSelection(QStringLiteral("A-7"))
+                                  : m_root->sheets()->request(below);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return sheetsOnScreen().size() == 1; }));
+        const QString title = sheetsOnScreen().first();
+        waitFor(title.toLatin1().constData());
+        key(Qt::Key_Tab);
+        const QQuickItem* const before = m_window->activeFocusItem();
+        key(Qt::Key_F1);
+        waitFor("User guide");
+        EXPECT_EQ(sheetsOnScreen(), QStringList(QStringLiteral("User guide")));
+        for (int tab = 0; tab < 4; ++tab) {
+            EXPECT_TRUE(sheet("User guide")->isAncestorOf(m_window->activeFocusItem()));
+            key(Qt::Key_Tab);
+        }
+        key(Qt::Key_Escape);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return sheetsOnScreen() == QStringList(title); }));
+        EXPECT_EQ(m_window->activeFocusItem(), before);
+        key(Qt::Key_Escape);
+        waitForNone();
+    }
+}
+
+TEST_F(SheetsReach, F1ClosesAMenuOverASheetBeforeTheGuideOpens) {
+    openRecordsSheet();
+    QQuickItem* const picker = inRecordsSheet("open-map-layer");
+    picker->forceActiveFocus();
+    key(Qt::Key_Return);
+    key(Qt::Key_F1);
+    waitFor("User guide");
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sheet("Records") != nullptr; }));
+    EXPECT_EQ(m_window->activeFocusItem(), picker);
+}
+
+TEST_F(SheetsReach, TheMainMenuIsOutOfReachBehindASheet) {
+    openRecordsSheet();
+    const QQuickItem* const before = m_window->activeFocusItem();
+    key(Qt::Key_F10);
+    EXPECT_FALSE(item("open-map-menu")->property("opened").toBool());
+    EXPECT_EQ(m_window->activeFocusItem(), before);
 }
 
 TEST_F(SheetsReach, ADoubleClickOnARowLeavesTheInspectorOpen) {
