@@ -1,5 +1,7 @@
 #include "tests/app/OpenSheets.h"
 
+#include <QQmlEngine>
+
 namespace vasker {
 namespace {
 
@@ -173,6 +175,25 @@ TEST_F(Sheets, TheOrderIsTheSameWhereNothingMoves) {
     key(Qt::Key_Escape);
     waitForNone();
     EXPECT_EQ(selection(), "");
+}
+
+// Qt compiles what a sheet does when it has done it a few times, and 6.4 compiles some of it so
+// that a collection of garbage ends the process.
+TEST_F(Sheets, GarbageIsCollectedWhileASheetCloses) {
+    setReducedMotion(1);
+    constexpr int times = 8;
+    int collections = 0;
+    QObject context;
+    QObject::connect(m_root->sheets(), &SheetStack::closed, &context, [&] {
+        qmlEngine(m_window)->collectGarbage();
+        ++collections;
+    });
+    for (int time = 0; time < times; ++time) {
+        openSources();
+        key(Qt::Key_Escape);
+        waitForNone();
+    }
+    EXPECT_EQ(collections, times);
 }
 
 TEST_F(Sheets, AnUnknownSelectionOpensNothing) {

@@ -81,7 +81,10 @@ FocusScope {
         root.large = false;
         root.scrolled = false;
         root.onScreen = false;
-        before?.forceActiveFocus(Qt.PopupFocusReason);
+        // Not "before?.": after a store, what Qt 6.4 compiles of that breaks its garbage collection.
+        if (before) {
+            before.forceActiveFocus(Qt.PopupFocusReason);
+        }
         root.closed();
     }
 
