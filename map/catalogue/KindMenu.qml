@@ -12,7 +12,8 @@ Menu {
     signal picked(string kind)
 
     title: qsTr("Layer")
-    width: anchor.width
+    // Large texts need more room than the column has.
+    width: Math.max(anchor.width, Math.round((Theme.columnWidth - 24) * Theme.iconScale))
     model: kinds
     labels: kinds.labels
     firstRow: Math.max(0, kinds.currentRow)

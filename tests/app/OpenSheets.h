@@ -14,15 +14,15 @@ namespace vasker {
 class OpenSheets : public OpenWindow {
   protected:
     void SetUp() override { openRecords(); }
-    void TearDown() override { setReducedMotion(0); }
+    void TearDown() override {
+        setReducedMotion(0);
+        setTextScale(1);
+    }
 
     static void setReducedMotion(int value) {
-        QMetaObject::invokeMethod(Appearance::create(nullptr, nullptr),
-                                  "apply",
-                                  Q_ARG(QString, QStringLiteral("org.gnome.desktop.interface")),
-                                  Q_ARG(QString, QStringLiteral("enable-animations")),
-                                  Q_ARG(QDBusVariant, QDBusVariant(value == 0)));
+        apply(QStringLiteral("enable-animations"), value == 0);
     }
+    static void setTextScale(double scale) { apply(QStringLiteral("text-scaling-factor"), scale); }
     [[nodiscard]] static QString nameOf(QAccessibleInterface* access) {
         return access->text(QAccessible::Name);
     }
@@ -94,6 +94,13 @@ class OpenSheets : public OpenWindow {
         } else {
             clickBeside();
         }
+    }
+    static void apply(const QString& setting, const QVariant& value) {
+        QMetaObject::invokeMethod(Appearance::create(nullptr, nullptr),
+                                  "apply",
+                                  Q_ARG(QString, QStringLiteral("org.gnome.desktop.interface")),
+                                  Q_ARG(QString, setting),
+                                  Q_ARG(QDBusVariant, QDBusVariant(value)));
     }
     void resize(int width, int height) const {
         m_window->resize(width, height);

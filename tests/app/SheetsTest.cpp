@@ -196,6 +196,21 @@ TEST_F(Sheets, GarbageIsCollectedWhileASheetCloses) {
     EXPECT_EQ(collections, times);
 }
 
+TEST_F(Sheets, TheListOfCategoriesHasRoomForLargeText) {
+    const QQuickItem* const picker = item("open-map-layer");
+    const auto rowWidth = [&] {
+        item("open-map-layer")->forceActiveFocus();
+        key(Qt::Key_Return);
+        m_window->grabWindow(); // a picture is drawn when all in it has its place
+        const double width = m_window->activeFocusItem()->width();
+        key(Qt::Key_Escape);
+        return width;
+    };
+    EXPECT_LT(rowWidth(), picker->width());
+    setTextScale(2);
+    EXPECT_GT(rowWidth(), 1.4 * picker->width());
+}
+
 TEST_F(Sheets, AnUnknownSelectionOpensNothing) {
     const CameraPosition before = workspace().camera();
     workspace().setSelection(QStringLiteral("nobody"));
