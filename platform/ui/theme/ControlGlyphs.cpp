@@ -24,6 +24,9 @@ constexpr std::array blocks{CodePoints{0x0000, 0x0008},
                             CodePoints{0xFDD0, 0xFDEF},
                             CodePoints{0xFFA0, 0xFFA0},
                             CodePoints{0xFFFE, 0xFFFF},
+                            CodePoints{0x1107F, 0x1107F},
+                            CodePoints{0x13430, 0x1343F},
+                            CodePoints{0x16FE4, 0x16FE4},
                             CodePoints{0x1BCA0, 0x1BCA3}};
 constexpr quint32 planes = 17; // each ends with two code points that are no characters
 
