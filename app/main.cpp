@@ -1,11 +1,11 @@
 #include "app/OpenMapApp.h"
+#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "map/scene/Graphics.h"
 #include "platform/Appearance.h"
 #include "platform/Background.h"
 #include "platform/DesktopActivation.h"
 #include "platform/Locale.h"
-#include "platform/Memory.h"
 #include "platform/accessibility/AccessibleIds.h"
 #include "platform/ui/KeyRepeat.h"
 #include "platform/ui/theme/Fonts.h"
@@ -46,12 +46,6 @@ void expectDisplay(QtMsgType type, const QMessageLogContext& context, const QStr
 }
 
 int run(int argc, char** argv) {
-    // Qt asks once, when it starts, whether there is a screen reader: one may be started later.
-    qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
-    // Code that Qt 6.4 compiles at run time leaves a bare 1 on the engine's stack, which its
-    // collector takes for an object: that ended the program.
-    qputenv("QV4_FORCE_INTERPRETER", "1");
-    vasker::shortenFrameDelay();
     const bool serves = startedByBus();
     const auto token = vasker::LaunchToken::fromEnvironment();
     const auto messages = qInstallMessageHandler(expectDisplay);
@@ -104,8 +98,7 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    vasker::returnFreedImages();
-    vasker::returnThreadsMemory();
+    vasker::setUpProcess();
     const int status = run(argc, argv);
     // A read from a disk that is gone never returns; its thread must not keep the program.
     if (!vasker::finishBackgroundWork()) {

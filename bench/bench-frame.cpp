@@ -10,6 +10,7 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
+#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "bench/Figures.h"
 #include "bench/FrameClock.h"
@@ -17,7 +18,6 @@
 #include "data/Digest.h"
 #include "map/scene/Graphics.h"
 #include "map/view/MapView.h"
-#include "platform/Memory.h"
 #include "platform/ui/theme/Fonts.h"
 #include "presentation/Symbols.h"
 #include "tools/openmap-release/Synthesis.h"
@@ -316,8 +316,7 @@ int main(int argc, char* argv[]) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     if (arguments.size() == 4 && arguments[0] == QStringLiteral("--measure")) {
-        vasker::returnFreedImages();
-        vasker::shortenFrameDelay();
+        vasker::setUpProcess();
         const QGuiApplication application(argc, argv);
         vasker::chooseGraphics();
         return vasker::measure(arguments[1], arguments[2], arguments[3].toLongLong());

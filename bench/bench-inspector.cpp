@@ -5,13 +5,13 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
+#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "bench/Figures.h"
 #include "bench/FrameClock.h"
 #include "bench/Process.h"
 #include "bench/Stillness.h"
 #include "map/scene/Graphics.h"
-#include "platform/Memory.h"
 #include "platform/ui/theme/Fonts.h"
 
 #include <QGuiApplication>
@@ -72,8 +72,7 @@ void measure(std::size_t openings) {
 } // namespace vasker
 
 int main(int argc, char* argv[]) {
-    vasker::returnFreedImages();
-    vasker::shortenFrameDelay();
+    vasker::setUpProcess();
     const QGuiApplication application(argc, argv);
     vasker::chooseGraphics();
     vasker::installInterfaceFont();

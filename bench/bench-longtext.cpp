@@ -7,6 +7,7 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
+#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "bench/Figures.h"
 #include "bench/FrameClock.h"
@@ -15,7 +16,6 @@
 #include "data/Digest.h"
 #include "data/ReleaseWriter.h"
 #include "map/scene/Graphics.h"
-#include "platform/Memory.h"
 #include "platform/ui/theme/Fonts.h"
 #include "tools/openmap-release/Synthesis.h"
 
@@ -131,8 +131,7 @@ void measure(const QString& kind, int openings) {
 } // namespace vasker
 
 int main(int argc, char* argv[]) {
-    vasker::returnFreedImages();
-    vasker::shortenFrameDelay();
+    vasker::setUpProcess();
     const QGuiApplication application(argc, argv);
     vasker::chooseGraphics();
     vasker::installInterfaceFont();
