@@ -4,9 +4,9 @@
 
 It fails where the program ends by itself, says anything on standard error, or keeps descriptors or
 threads. A user who has closed the last window starts the program again.
-Memory at rest, in a window of one size, and the longest times without an answer are printed, with what of them the program's first
-thread computed, and how long it could have and got no processor. In the rest it waited for the display. The
-same seed does the same again.
+Memory at rest, in a window of one size, and the longest times without an answer are printed, with what of
+them the program's first thread computed, and how long it could have and got no processor. In the rest it
+waited for the display. The same seed does the same again.
 """
 
 import contextlib
