@@ -33,6 +33,10 @@ class OpenMapApp : public QObject {
     Q_PROPERTY(QVariantList guide READ guide CONSTANT)
 
   public:
+    /// What the program asks of Qt and of the allocator. Call it first of all: before threads are
+    /// made and before QGuiApplication.
+    static void setUpProcess();
+
     /// Tiles of services are kept below `cachePath`.
     OpenMapApp(Bundle bundle,
                TextLocale locale,

@@ -1,5 +1,4 @@
 #include "app/OpenMapApp.h"
-#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "map/scene/Graphics.h"
 #include "platform/Appearance.h"
@@ -98,7 +97,7 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    vasker::setUpProcess();
+    vasker::OpenMapApp::setUpProcess();
     const int status = run(argc, argv);
     // A read from a disk that is gone never returns; its thread must not keep the program.
     if (!vasker::finishBackgroundWork()) {

@@ -10,7 +10,6 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
-#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "bench/Figures.h"
 #include "bench/FrameClock.h"
@@ -316,7 +315,7 @@ int main(int argc, char* argv[]) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     if (arguments.size() == 4 && arguments[0] == QStringLiteral("--measure")) {
-        vasker::setUpProcess();
+        vasker::OpenMapApp::setUpProcess();
         const QGuiApplication application(argc, argv);
         vasker::chooseGraphics();
         return vasker::measure(arguments[1], arguments[2], arguments[3].toLongLong());

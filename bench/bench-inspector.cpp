@@ -5,7 +5,6 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
-#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "bench/Figures.h"
 #include "bench/FrameClock.h"
@@ -72,7 +71,7 @@ void measure(std::size_t openings) {
 } // namespace vasker
 
 int main(int argc, char* argv[]) {
-    vasker::setUpProcess();
+    vasker::OpenMapApp::setUpProcess();
     const QGuiApplication application(argc, argv);
     vasker::chooseGraphics();
     vasker::installInterfaceFont();

@@ -7,7 +7,6 @@
 
 #include "app/OpenMapApp.h"
 #include "app/OpenMapRoot.h"
-#include "app/ProcessSetup.h"
 #include "app/QmlModules.h"
 #include "bench/Figures.h"
 #include "bench/FrameClock.h"
@@ -131,7 +130,7 @@ void measure(const QString& kind, int openings) {
 } // namespace vasker
 
 int main(int argc, char* argv[]) {
-    vasker::setUpProcess();
+    vasker::OpenMapApp::setUpProcess();
     const QGuiApplication application(argc, argv);
     vasker::chooseGraphics();
     vasker::installInterfaceFont();

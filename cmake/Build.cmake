@@ -1,5 +1,5 @@
-# What keeps builds quick. With CMAKE_UNITY_BUILD sources are compiled in groups, which is the quickest
-# for a build from nothing; without it, only what has changed is compiled.
+# What keeps builds quick, and the names of views. With CMAKE_UNITY_BUILD sources are compiled in groups,
+# which is the quickest for a build from nothing; without it, only what has changed is compiled.
 if(CMAKE_UNITY_BUILD)
     set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON) # little is left to save, and clang-tidy cannot read them
 endif()
@@ -16,6 +16,14 @@ target_precompile_headers(vasker_qt_headers PRIVATE
 # For a target that links Qt Quick.
 function(vasker_reuse_qt_headers target)
     target_precompile_headers(${target} REUSE_FROM vasker_qt_headers)
+endfunction()
+
+# For a QML module, before qt_add_qml_module: a view has the name of its file, whatever its folder.
+function(vasker_name_views_by_file)
+    foreach(view IN LISTS ARGN)
+        get_filename_component(name ${view} NAME)
+        set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name})
+    endforeach()
 endfunction()
 
 # For a QML module, after qt_add_qml_module: views are compiled to bytecode, not to C++, and their

@@ -11,10 +11,10 @@ namespace vasker {
 namespace {
 
 struct WindowKey {
-    Qt::Key key;
+    Qt::Key key = Qt::Key_unknown;
     Qt::KeyboardModifiers modifiers;
-    void (WindowKeys::*wanted)();
-    bool opensSomething; ///< in this window
+    void (WindowKeys::*wanted)() = nullptr;
+    bool opensSomething = false; ///< in this window
 };
 
 const std::array windowKeys{
