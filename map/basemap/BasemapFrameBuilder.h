@@ -27,8 +27,6 @@ class BasemapFrameBuilder {
     /// The textures of the generation's tiles are still needed.
     void keep(const TileGeneration& generation);
 
-    /// How many tiles were shown last.
-    [[nodiscard]] std::size_t shownLast() const noexcept { return m_last.size(); }
     [[nodiscard]] BasemapFrame take();
 
   private:

@@ -22,9 +22,6 @@ constexpr double restingTolerance = 1e-4;
 constexpr double paintedAhead = 96;
 constexpr double keptAround = 320;
 
-/// How many tiles out of view are kept while the map moves, however far away.
-constexpr std::size_t keptOutOfView = 16;
-
 /// The coarse generation: tiles of this zoom, in half of their usual size.
 constexpr int worldZoom = 2;
 
@@ -276,9 +273,7 @@ BasemapFrame TilePyramid::show(std::chrono::nanoseconds now) {
         isWhole ? frame.showCover(*m_current, cover(*m_current, 0), opacity)
                 : frame.show(*m_current, opacity);
         frame.describe(*m_current);
-        if (m_view.isResting || m_current->tiles.size() >= frame.shownLast() + keptOutOfView) {
-            m_current->trim(m_view.camera, keptAround);
-        }
+        m_current->trim(m_view.camera, keptAround);
     }
     if (m_current && m_view.isResting && !m_pending) {
         m_current->dropBasemapsOutside(cover(*m_current, paintedAhead));
