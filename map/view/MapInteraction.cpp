@@ -23,6 +23,9 @@ MapInteraction::MapInteraction(QQuickItem& map,
 
 bool MapInteraction::handle(const MapEvent& event) {
     const bool isHandled = m_navigator.handle(event);
+    if (m_navigator.input().drag() != MapInput::Drag::none) {
+        m_hover.clear(); // Qt tells of no hovering while a button is pressed
+    }
     refreshCursor();
     return isHandled;
 }

@@ -1,4 +1,4 @@
-// What the map looks like with ground under the records: the picture of a real window, drawn by
+// What the map looks like with a basemap under the records: the picture of a real window, drawn by
 // OpenGL or painted.
 
 #include "map/style/StyleLayer.h"
@@ -15,7 +15,7 @@
 namespace vasker {
 namespace {
 
-class MapGroundPicture : public testing::Test {
+class MapBasemapPicture : public testing::Test {
   protected:
     void SetUp() override {
         m_window.setColor(Qt::magenta);
@@ -89,7 +89,7 @@ QColor light(PaletteColor color) {
     return colorValue(color, ColorScheme::light);
 }
 
-TEST_F(MapGroundPicture, LandAndWaterAreWhereTheyAre) {
+TEST_F(MapBasemapPicture, LandAndWaterAreWhereTheyAre) {
     useBasemap();
     m_map->setCamera(CoordinateRegion{{56, -95}, 20, 40});
     const auto place = [this](Coordinate where) {
@@ -103,7 +103,7 @@ TEST_F(MapGroundPicture, LandAndWaterAreWhereTheyAre) {
     EXPECT_GT(shareOf(colors.land, seen, place({54.5, -106})), 0.5); // Saskatchewan
 }
 
-TEST_F(MapGroundPicture, TurnedAndPitchedThereIsNeitherASeamNorAHole) {
+TEST_F(MapBasemapPicture, TurnedAndPitchedThereIsNeitherASeamNorAHole) {
     useRedPhotograph();
     const MapPoint center = coordinateToMapPoint({54, -112});
     const double scale = Camera(canadaOverview, {800, 600}).scale() * 4;
@@ -115,7 +115,7 @@ TEST_F(MapGroundPicture, TurnedAndPitchedThereIsNeitherASeamNorAHole) {
     }
 }
 
-TEST_F(MapGroundPicture, FacilitiesArePinsAndCrowdedOnesDotsHoweverDotsAreDrawn) {
+TEST_F(MapBasemapPicture, FacilitiesArePinsAndCrowdedOnesDotsHoweverDotsAreDrawn) {
     useBasemap();
     show({facilityAt(56, -112, "refinery"),
           facilityAt(55.5, -112, "gas_plant"),
@@ -128,7 +128,7 @@ TEST_F(MapGroundPicture, FacilitiesArePinsAndCrowdedOnesDotsHoweverDotsAreDrawn)
     }
 }
 
-TEST_F(MapGroundPicture, AnUnpickedLineLooksAlikeHoweverItIsDrawn) {
+TEST_F(MapBasemapPicture, AnUnpickedLineLooksAlikeHoweverItIsDrawn) {
     useBasemap();
     show({pipelineAlong({{{-120, 54}, {-104, 54}}})});
     for (const RecordDrawing drawing : {RecordDrawing::painted, RecordDrawing::live}) {
@@ -144,7 +144,7 @@ TEST_F(MapGroundPicture, AnUnpickedLineLooksAlikeHoweverItIsDrawn) {
     }
 }
 
-TEST_F(MapGroundPicture, ThePickedLineIsBlueAndFivePixelsWideUponPaintedOnes) {
+TEST_F(MapBasemapPicture, ThePickedLineIsBlueAndFivePixelsWideUponPaintedOnes) {
     useBasemap();
     m_map->setDrawing(RecordDrawing::painted);
     show({pipelineAlong({{{-120, 54}, {-104, 54}}, {{-120, 50}, {-104, 50}}})});
@@ -162,23 +162,23 @@ TEST_F(MapGroundPicture, ThePickedLineIsBlueAndFivePixelsWideUponPaintedOnes) {
     }
 }
 
-TEST_F(MapGroundPicture, AFilterThatLeavesNothingLeavesTheGround) {
+TEST_F(MapBasemapPicture, AFilterThatLeavesNothingLeavesTheBasemap) {
     useBasemap();
     for (const RecordDrawing drawing : {RecordDrawing::painted, RecordDrawing::live}) {
         m_map->setDrawing(drawing);
         m_map->setRecords({});
-        const QImage ground = picture();
+        const QImage basemap = picture();
         RecordSet records = recordSetOf(
             {facilityAt(54, -112, "refinery"), pipelineAlong({{{-120, 50}, {-104, 50}}})});
         m_map->setRecords(records);
-        EXPECT_NE(picture(), ground);
+        EXPECT_NE(picture(), basemap);
         records.filtered = std::make_shared<const std::vector<AssetIndex>>();
         m_map->setRecords(records);
-        EXPECT_EQ(picture(), ground);
+        EXPECT_EQ(picture(), basemap);
     }
 }
 
-TEST_F(MapGroundPicture, AnotherStyleKeepsTheCamera) {
+TEST_F(MapBasemapPicture, AnotherStyleKeepsTheCamera) {
     useBasemap();
     const CameraPose pose{coordinateToMapPoint({51, -114}), 1.0 / 3'000, 40, 30};
     m_map->setCamera(pose);

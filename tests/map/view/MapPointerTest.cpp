@@ -30,14 +30,14 @@ class MapPointer : public MapWindow {
 };
 
 TEST_F(MapPointer, TheGroundFollowsTheDragAndStaysWhereThePointerRested) {
-    const MapPoint ground = camera().screenToWorld({200, 300});
+    const MapPoint point = camera().screenToWorld({200, 300});
     drag(Qt::LeftButton, {200, 300}, {320, 340});
     EXPECT_FALSE(m_map->isMoving());
-    expectPlaceAt(ground, {320, 340});
+    expectPlaceAt(point, {320, 340});
 }
 
 TEST_F(MapPointer, AQuickDragGlidesOnAndComesToRest) {
-    const MapPoint ground = camera().screenToWorld({200, 300});
+    const MapPoint point = camera().screenToWorld({200, 300});
     press({200, 300}, 1000);
     for (int step = 1; step <= 10; ++step) {
         moveTo({200.0 + 12 * step, 300}, 1000 + 10 * static_cast<quint64>(step));
@@ -45,9 +45,9 @@ TEST_F(MapPointer, AQuickDragGlidesOnAndComesToRest) {
     release({320, 300}, 1105);
     EXPECT_TRUE(m_map->isMoving());
     rest();
-    EXPECT_GT(camera().worldToScreen(ground).x, 400); // about 0.325 s * 1 px/ms farther
-    EXPECT_LT(camera().worldToScreen(ground).x, 750);
-    EXPECT_NEAR(camera().worldToScreen(ground).y, 300, 1e-3);
+    EXPECT_GT(camera().worldToScreen(point).x, 400); // about 0.325 s * 1 px/ms farther
+    EXPECT_LT(camera().worldToScreen(point).x, 750);
+    EXPECT_NEAR(camera().worldToScreen(point).y, 300, 1e-3);
 }
 
 TEST_F(MapPointer, APressCatchesTheGlidingMap) {
@@ -68,7 +68,7 @@ TEST_F(MapPointer, ACameraSetFromOutsideEndsTheMotion) {
     EXPECT_EQ(m_map->camera(), CameraPosition(MapRect{5e7, 8e7, 1e6, 1e6}));
 }
 
-TEST_F(MapPointer, WithReducedMotionADragDoesNotGlide) {
+TEST_F(MapPointer, WithReducedMotionADragHasNoInertia) {
     m_map->setProperty("reducedMotion", true);
     press({200, 300}, 1000);
     moveTo({260, 300}, 1040);
@@ -79,13 +79,13 @@ TEST_F(MapPointer, WithReducedMotionADragDoesNotGlide) {
 
 TEST_F(MapPointer, NotchesOfTheWheelAddUpAtThePointer) {
     const double scale = camera().scale();
-    const MapPoint ground = camera().screenToWorld({650, 150});
+    const MapPoint point = camera().screenToWorld({650, 150});
     wheel({650, 150}, 120);
     wheel({650, 150}, 120);
     EXPECT_TRUE(m_map->isMoving());
     rest();
     EXPECT_NEAR(camera().scale() / scale, 2, 1e-6);
-    expectPlaceAt(ground, {650, 150});
+    expectPlaceAt(point, {650, 150});
 }
 
 TEST_F(MapPointer, WithReducedMotionANotchIsThereAtOnce) {
@@ -98,22 +98,22 @@ TEST_F(MapPointer, WithReducedMotionANotchIsThereAtOnce) {
 
 TEST_F(MapPointer, ATouchpadZoomsWithTheFingers) {
     const double scale = camera().scale();
-    const MapPoint ground = camera().screenToWorld({650, 150});
+    const MapPoint point = camera().screenToWorld({650, 150});
     wheel({650, 150}, 40, {0, 150}, Qt::ScrollUpdate);
     EXPECT_FALSE(m_map->isMoving());
     EXPECT_NEAR(camera().scale() / scale, 2, 1e-9);
-    expectPlaceAt(ground, {650, 150});
+    expectPlaceAt(point, {650, 150});
 }
 
 TEST_F(MapPointer, APinchOnATouchpadZoomsAndTurns) {
     const double scale = camera().scale();
-    const MapPoint ground = camera().screenToWorld({650, 150});
+    const MapPoint point = camera().screenToWorld({650, 150});
     gesture(Qt::BeginNativeGesture, 0, {650, 150});
     gesture(Qt::ZoomNativeGesture, 0.5, {650, 150});
     gesture(Qt::RotateNativeGesture, 30, {650, 150});
     EXPECT_NEAR(camera().scale() / scale, 1.5, 1e-9);
     EXPECT_NEAR(camera().pose().bearing, 330, 1e-9);
-    expectPlaceAt(ground, {650, 150});
+    expectPlaceAt(point, {650, 150});
     gesture(Qt::EndNativeGesture, 0, {650, 150});
     EXPECT_FALSE(m_map->isMoving());
 }
@@ -141,14 +141,14 @@ TEST_F(MapPointer, ATurnThatEndsNearlyUprightIsSetUpright) {
 
 TEST_F(MapPointer, ADoubleClickComesNearerAndGoesAwayWithShiftOrTheSecondButton) {
     const double scale = camera().scale();
-    const MapPoint ground = camera().screenToWorld({650, 150});
+    const MapPoint point = camera().screenToWorld({650, 150});
     const auto doubleClick = [&](Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
         QTest::mouseDClick(&m_window, button, modifiers, {650, 150});
         rest();
     };
     doubleClick(Qt::LeftButton, {});
     EXPECT_NEAR(camera().scale() / scale, 2, 1e-6);
-    expectPlaceAt(ground, {650, 150});
+    expectPlaceAt(point, {650, 150});
     doubleClick(Qt::LeftButton, Qt::ShiftModifier);
     EXPECT_NEAR(camera().scale() / scale, 1, 1e-6);
     doubleClick(Qt::LeftButton, {});
@@ -179,18 +179,33 @@ TEST_F(MapPointer, ARecordIsHoveredUntilThePointerLeavesTheMap) {
     EXPECT_TRUE(hovers(""));
 }
 
+TEST_F(MapPointer, NoRecordIsHoveredWhileTheMapIsDraggedOrRotated) {
+    const QPointF onThePin(400, 290);
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        QHoverEvent over(QEvent::HoverMove, onThePin, onThePin, {0, 0});
+        QCoreApplication::sendEvent(m_map, &over);
+        ASSERT_EQ(m_map->hover()->recordId(), QStringLiteral("R-0"));
+        mouse(QEvent::MouseButtonPress, onThePin, 1000, button);
+        EXPECT_EQ(m_map->hover()->recordId(), QStringLiteral("R-0"));
+        mouse(QEvent::MouseMove, onThePin + QPointF(40, 0), 1040, button);
+        EXPECT_EQ(m_map->hover()->recordId(), QString());
+        mouse(QEvent::MouseButtonRelease, onThePin + QPointF(40, 0), 2000, button);
+        m_map->setCamera(canadaOverview);
+    }
+}
+
 TEST_F(MapPointer, TheSecondaryButtonAsksForTheMenuOfARecordAndPicksNothing) {
     const QSignalSpy picks(m_map, &MapView::picked);
     const QSignalSpy menus(m_map, &MapView::menuRequested);
     QTest::mouseClick(&m_window, Qt::RightButton, {}, {400, 282});
-    QTest::mouseClick(&m_window, Qt::RightButton, {}, {600, 100}); // bare ground
+    QTest::mouseClick(&m_window, Qt::RightButton, {}, {600, 100}); // no record there
     ASSERT_EQ(menus.size(), 1);
     EXPECT_EQ(menus[0][0].toString(), QStringLiteral("R-0"));
     EXPECT_EQ(menus[0][1].toPointF(), QPointF(400, 282));
     EXPECT_TRUE(picks.isEmpty());
 }
 
-TEST_F(MapPointer, ATurnAsksForNoMenu) {
+TEST_F(MapPointer, ARotationAsksForNoMenu) {
     const QSignalSpy menus(m_map, &MapView::menuRequested);
     drag(Qt::RightButton, {400, 282}, {460, 232});
     EXPECT_TRUE(menus.isEmpty());

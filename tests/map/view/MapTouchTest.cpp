@@ -41,13 +41,13 @@ TEST_F(MapTouch, ATapPicks) {
     EXPECT_EQ(picks[0][0].toString(), QStringLiteral("R-0"));
 }
 
-TEST_F(MapTouch, AFingerDragsTheGround) {
+TEST_F(MapTouch, AFingerDragsTheMap) {
     const QSignalSpy picks(m_map, &MapView::picked);
-    const MapPoint ground = camera().screenToWorld({200, 300});
+    const MapPoint point = camera().screenToWorld({200, 300});
     touch({200, 300});
     slide({240, 310});
     slide({300, 330});
-    expectPlaceAt(ground, {300, 330});
+    expectPlaceAt(point, {300, 330});
     lift({300, 330});
     EXPECT_EQ(picks.size(), 0);
 }
@@ -62,7 +62,7 @@ TEST_F(MapTouch, TwoTapsComeNearer) {
     EXPECT_EQ(picks.size(), 1);
 }
 
-TEST_F(MapTouch, TwoFingersZoomAndTurnAndOneDragsOn) {
+TEST_F(MapTouch, TwoFingersZoomAndRotateAndOneDragsOn) {
     const QSignalSpy picks(m_map, &MapView::picked);
     const double scale = camera().scale();
     touch({300, 300});
@@ -81,9 +81,9 @@ TEST_F(MapTouch, TwoFingersZoomAndTurnAndOneDragsOn) {
     QTest::touchEvent(&m_window, m_screen.get())
         .move(1, QPoint(400, 100), &m_window)
         .release(2, QPoint(400, 500), &m_window);
-    const MapPoint ground = camera().screenToWorld({400, 100});
+    const MapPoint point = camera().screenToWorld({400, 100});
     slide({450, 180});
-    expectPlaceAt(ground, {450, 180});
+    expectPlaceAt(point, {450, 180});
     lift({450, 180});
     EXPECT_EQ(picks.size(), 0);
 }

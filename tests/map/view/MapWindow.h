@@ -60,8 +60,8 @@ class MapWindow : public testing::Test {
     void release(QPointF place, quint64 milliseconds) {
         mouse(QEvent::MouseButtonRelease, place, milliseconds);
     }
-    void expectPlaceAt(MapPoint ground, ScreenPoint place) const {
-        const ScreenPoint seen = camera().worldToScreen(ground);
+    void expectPlaceAt(MapPoint point, ScreenPoint place) const {
+        const ScreenPoint seen = camera().worldToScreen(point);
         EXPECT_NEAR(seen.x, place.x, 1e-4);
         EXPECT_NEAR(seen.y, place.y, 1e-4);
     }
