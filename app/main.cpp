@@ -33,6 +33,16 @@ bool startedByBus() {
     return started;
 }
 
+/// What Qt 6.4 may say of its own timer when an animation ends as a window closes; nothing is
+/// wrong.
+constexpr QLatin1String animationNoise("QUnifiedTimer::stopAnimationDriver: driver is not running");
+
+void print(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (text != animationNoise) {
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
+}
+
 /// Where there is no display, Qt says so at length and aborts.
 void expectDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (type == QtFatalMsg) {
@@ -40,16 +50,16 @@ void expectDisplay(QtMsgType type, const QMessageLogContext& context, const QStr
         std::_Exit(EXIT_FAILURE);
     }
     if (!QLatin1String(context.category).startsWith(QLatin1String("qt.qpa"))) {
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+        print(type, context, text);
     }
 }
 
 int run(int argc, char** argv) {
     const bool serves = startedByBus();
     const auto token = vasker::LaunchToken::fromEnvironment();
-    const auto messages = qInstallMessageHandler(expectDisplay);
+    qInstallMessageHandler(expectDisplay);
     QGuiApplication application(argc, argv);
-    qInstallMessageHandler(messages);
+    qInstallMessageHandler(print);
     QGuiApplication::setApplicationName(QStringLiteral("vasker-open-map"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Vasker Beta"));
     QGuiApplication::setDesktopFileName(QStringLiteral(VASKER_DESKTOP_NAME));
