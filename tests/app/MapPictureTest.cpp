@@ -32,8 +32,8 @@ TEST(MapPicture, IsTheMapAndBelowItAStripWithTexts) {
     const QImage image = makePicture().composed();
     EXPECT_EQ(image.width(), 400);
     EXPECT_GT(image.height(), 300 + 40);
-    EXPECT_EQ(image.pixelColor(2, 2), ground);
-    EXPECT_EQ(image.pixelColor(2, 299), ground);
+    EXPECT_EQ(image.pixelColor(2, 2), backgroundColor);
+    EXPECT_EQ(image.pixelColor(2, 299), backgroundColor);
     EXPECT_EQ(image.pixelColor(100, 100), dotColor);
     EXPECT_EQ(image.pixelColor(2, 301), paper);
     EXPECT_GT(pixelsOtherThan(paper, image, strip(image)), 100);
@@ -67,15 +67,15 @@ TEST(MapPicture, OfTwiceTheSizeHasAllOfTwiceTheSize) {
 
 TEST(MapPicture, HasAScaleBarWhereThereIsALength) {
     MapPicture picture = makePicture();
-    EXPECT_EQ(pixelsOtherThan(ground, picture.composed(), barPlace), 0);
+    EXPECT_EQ(pixelsOtherThan(backgroundColor, picture.composed(), barPlace), 0);
     picture.barLength = 120;
     picture.barText = QStringLiteral("50 km");
-    EXPECT_GT(pixelsOtherThan(ground, picture.composed(), barPlace), 300);
+    EXPECT_GT(pixelsOtherThan(backgroundColor, picture.composed(), barPlace), 300);
 }
 
 TEST(MapPicture, HasAnArrowToTheNorthOnlyWhereThatIsNotUp) {
     MapPicture picture = makePicture();
-    EXPECT_EQ(pixelsOtherThan(ground, picture.composed(), northPlace), 0);
+    EXPECT_EQ(pixelsOtherThan(backgroundColor, picture.composed(), northPlace), 0);
     picture.bearing = 90; // north is to the left of the middle, at (366, 34)
     const QImage turned = picture.composed();
     EXPECT_EQ(turned.pixelColor(360, 34), picture.north);

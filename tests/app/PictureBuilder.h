@@ -1,5 +1,5 @@
 #pragma once
-// A small picture of a map for tests: green ground, a red dot, a label, texts below.
+// A small picture of a map for tests: green background, a red dot, a label, texts below.
 
 #include "app/saving/MapPicture.h"
 #include "map/labels/LabelText.h"
@@ -9,7 +9,7 @@
 namespace vasker {
 
 inline const QColor paper(250, 250, 250);
-inline const QColor ground(10, 200, 30);
+inline const QColor backgroundColor(10, 200, 30);
 inline const QColor dotColor(200, 10, 20);
 constexpr double mapWidth = 400;
 constexpr double mapHeight = 300;
@@ -18,7 +18,7 @@ inline MapPicture makePicture(double scale = 1) {
     MapDrawing drawing;
     drawing.frame.size = {mapWidth, mapHeight + 40}; // its end is covered
     drawing.frame.devicePixels = scale;
-    drawing.frame.layers = {BackgroundLayer{ground},
+    drawing.frame.layers = {BackgroundLayer{backgroundColor},
                             DotLayer{{{100, 100, rgbOf(dotColor)}}, 8, 1, Qt::white}};
     drawing.shapes = {[](QPainter& painter) {
         const Label label{QStringLiteral("Grande Prairie"), LabelStyle::city, BasemapTheme::light};

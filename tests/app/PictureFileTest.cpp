@@ -70,7 +70,7 @@ TEST_F(PictureFiles, APdfShowsThePictureInItsSize) {
     const QImage page = pageOf(path("map.pdf"));
     EXPECT_NEAR(page.width(), file.picture.size().width(), 1);
     EXPECT_NEAR(page.height(), file.picture.size().height(), 1);
-    EXPECT_TRUE(isAbout(page.pixelColor(10, 10), ground));
+    EXPECT_TRUE(isAbout(page.pixelColor(10, 10), backgroundColor));
     EXPECT_TRUE(isAbout(page.pixelColor(100, 100), dotColor));
     EXPECT_TRUE(isAbout(page.pixelColor(2, 303), paper)) << "the end of the map is covered";
 }
@@ -89,7 +89,7 @@ TEST_F(PictureFiles, APageIsFilledInItsMiddle) {
     const QImage shown = pageOf(pdf.fileName());
     EXPECT_EQ(shown.size(), QSize(1056, 816));
     EXPECT_EQ(shown.pixelColor(528, 44), QColor(Qt::white));
-    EXPECT_TRUE(isAbout(shown.pixelColor(528, 60), ground));
+    EXPECT_TRUE(isAbout(shown.pixelColor(528, 60), backgroundColor));
     EXPECT_TRUE(isAbout(shown.pixelColor(528, 764), paper));
     EXPECT_EQ(shown.pixelColor(528, 772), QColor(Qt::white));
 }
@@ -133,7 +133,7 @@ TEST_F(PictureFiles, AnSvgHasTheBasemapAsAnImageAndAllElseAsShapes) {
     QImage shown(file.picture.size().toSize(), QImage::Format_RGB32);
     QPainter painter(&shown);
     renderer.render(&painter);
-    EXPECT_TRUE(isAbout(shown.pixelColor(10, 10), ground));
+    EXPECT_TRUE(isAbout(shown.pixelColor(10, 10), backgroundColor));
     EXPECT_TRUE(isAbout(shown.pixelColor(100, 100), dotColor));
     EXPECT_TRUE(isAbout(shown.pixelColor(2, 303), paper));
 }

@@ -106,17 +106,17 @@ TEST(Inertia, CrossesTheDateLine) {
     EXPECT_GE(inertia.cameraAt(1).center().x, 0);
 }
 
-TEST(SmoothZoom, EndsAtItsFactorAndKeepsTheGroundUnderThePointerAllTheWay) {
+TEST(SmoothZoom, EndsAtItsFactorAndKeepsThePlaceUnderThePointerAllTheWay) {
     const Camera start = cameraOf(70, 45);
     const ScreenPoint pointer{700, 200};
-    const MapPoint ground = start.screenToWorld(pointer);
+    const MapPoint below = start.screenToWorld(pointer);
     const SmoothZoom zoom(start, 2, pointer, 0.2);
     double before = start.scale();
     for (double time = 0.02; time < 0.2; time += 0.02) {
         const Camera camera = zoom.cameraAt(time);
         EXPECT_GT(camera.scale(), before);
-        EXPECT_NEAR(camera.worldToScreen(ground).x, pointer.x, 1e-6);
-        EXPECT_NEAR(camera.worldToScreen(ground).y, pointer.y, 1e-6);
+        EXPECT_NEAR(camera.worldToScreen(below).x, pointer.x, 1e-6);
+        EXPECT_NEAR(camera.worldToScreen(below).y, pointer.y, 1e-6);
         before = camera.scale();
     }
     EXPECT_EQ(zoom.cameraAt(0).scale(), start.scale());

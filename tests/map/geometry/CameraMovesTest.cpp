@@ -34,7 +34,7 @@ void expectAt(ScreenPoint point, ScreenPoint expected, double tolerance = 1e-6) 
     EXPECT_NEAR(point.y, expected.y, tolerance);
 }
 
-TEST(CameraMoves, ScreenAndGroundAgreeUnderEveryBearingAndPitch) {
+TEST(CameraMoves, ScreenAndMapAgreeUnderEveryBearingAndPitch) {
     forEveryCamera([](const Camera& camera) {
         for (const ScreenPoint place : places) {
             expectAt(camera.worldToScreen(camera.screenToWorld(place)), place);
@@ -59,17 +59,17 @@ TEST(CameraMoves, UnderAPitchWhatIsFartherIsSmallerAndHigher) {
              {480 + height / far, 356 - height / 2 / far});
 }
 
-TEST(CameraMoves, ADragKeepsTheGroundUnderThePointer) {
+TEST(CameraMoves, ADragKeepsThePlaceUnderThePointer) {
     forEveryCamera([](const Camera& camera) {
-        const MapPoint ground = camera.screenToWorld({300, 200});
+        const MapPoint below = camera.screenToWorld({300, 200});
         const Camera after = camera.dragged({300, 200}, {415, 322});
-        expectAt(after.worldToScreen(ground), {415, 322});
+        expectAt(after.worldToScreen(below), {415, 322});
         EXPECT_EQ(after.pose().bearing, camera.pose().bearing);
         EXPECT_EQ(after.pose().pitch, camera.pose().pitch);
     });
 }
 
-TEST(CameraMoves, APanMovesTheGroundAgainstIt) {
+TEST(CameraMoves, APanMovesTheMapAgainstIt) {
     forEveryCamera([](const Camera& camera) {
         const ScreenPoint before = camera.focus();
         const Camera after = camera.panned(40, 0);
@@ -78,22 +78,22 @@ TEST(CameraMoves, APanMovesTheGroundAgainstIt) {
     });
 }
 
-TEST(CameraMoves, ZoomingKeepsTheGroundUnderThePointer) {
+TEST(CameraMoves, ZoomingKeepsThePlaceUnderThePointer) {
     forEveryCamera([](const Camera& camera) {
         for (const ScreenPoint place : places) {
-            const MapPoint ground = camera.screenToWorld(place);
+            const MapPoint below = camera.screenToWorld(place);
             const Camera after = camera.zoomed(1.7, place);
-            expectAt(after.worldToScreen(ground), place);
+            expectAt(after.worldToScreen(below), place);
             EXPECT_DOUBLE_EQ(after.scale(), 1.7 * camera.scale());
         }
     });
 }
 
-TEST(CameraMoves, RotatingKeepsTheGroundUnderThePointer) {
+TEST(CameraMoves, RotatingKeepsThePlaceUnderThePointer) {
     forEveryCamera([](const Camera& camera) {
         for (const ScreenPoint place : places) {
-            const MapPoint ground = camera.screenToWorld(place);
-            expectAt(camera.rotated(-47, place).worldToScreen(ground), place);
+            const MapPoint below = camera.screenToWorld(place);
+            expectAt(camera.rotated(-47, place).worldToScreen(below), place);
         }
     });
 }
@@ -118,7 +118,7 @@ void expectSmoothDragAcrossTheDateLine(double longitude, double stepPixels) {
     Camera camera(CameraPose{coordinateToMapPoint({54, longitude}), 3e-5, 20, 30}, viewport);
     int crossings = 0;
     for (int step = 0; step < 40; ++step) {
-        const MapPoint ground = camera.screenToWorld({480, 300});
+        const MapPoint below = camera.screenToWorld({480, 300});
         const Camera next = camera.dragged({480, 300}, {480 + stepPixels, 300});
         const double shift = next.center().x - camera.center().x;
         crossings += std::abs(shift) > worldSize / 2 ? 1 : 0;
@@ -126,7 +126,7 @@ void expectSmoothDragAcrossTheDateLine(double longitude, double stepPixels) {
         EXPECT_LT(next.center().x, worldSize);
         // In the copy of the world that the camera has come into.
         const double copy = std::round(shift / worldSize) * worldSize;
-        expectAt(next.worldToScreen({ground.x + copy, ground.y}), {480 + stepPixels, 300});
+        expectAt(next.worldToScreen({below.x + copy, below.y}), {480 + stepPixels, 300});
         EXPECT_NEAR(next.center().y - camera.center().y, 0, std::abs(stepPixels) / 3e-5);
         camera = next;
     }
@@ -166,7 +166,7 @@ TEST(CameraMoves, TheCentreStopsAtBothPoles) {
     });
 }
 
-TEST(CameraMoves, AllThatIsSeenLiesBetweenTheCornersOfTheVisibleGround) {
+TEST(CameraMoves, AllThatIsSeenLiesBetweenTheCornersOfTheVisibleMap) {
     forEveryCamera([](const Camera& camera) {
         const auto corners = camera.visibleCorners();
         expectAt(camera.worldToScreen(corners[0]), {0, 0});
@@ -182,7 +182,7 @@ TEST(CameraMoves, AllThatIsSeenLiesBetweenTheCornersOfTheVisibleGround) {
     });
 }
 
-TEST(CameraMoves, TheGroundReachesPastTheTopEvenAtTheSteepestPitch) {
+TEST(CameraMoves, TheMapReachesPastTheTopEvenAtTheSteepestPitch) {
     const Camera steepest(poseOf(0, Camera::maximumPitch), viewport);
     const auto corners = steepest.visibleCorners(64);
     for (const MapPoint& corner : corners) {
@@ -191,12 +191,12 @@ TEST(CameraMoves, TheGroundReachesPastTheTopEvenAtTheSteepestPitch) {
     expectAt(steepest.worldToScreen(corners[0]), {-64, -64});
 }
 
-TEST(CameraMoves, APointAboveTheHorizonIsFarGroundInItsDirection) {
+TEST(CameraMoves, APointAboveTheHorizonIsAFarPlaceInItsDirection) {
     const Camera camera(poseOf(0, 60), viewport);
-    const MapPoint ground = camera.screenToWorld({700, -1e5});
-    EXPECT_TRUE(std::isfinite(ground.x));
-    EXPECT_GT(ground.x, camera.center().x);
-    EXPECT_LT(ground.y, camera.center().y);
+    const MapPoint below = camera.screenToWorld({700, -1e5});
+    EXPECT_TRUE(std::isfinite(below.x));
+    EXPECT_GT(below.x, camera.center().x);
+    EXPECT_LT(below.y, camera.center().y);
 }
 
 TEST(CameraMoves, WhatIsNoNumberMovesNothing) {

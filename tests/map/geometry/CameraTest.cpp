@@ -108,21 +108,21 @@ TEST(Camera, KeepsTheCentreWhenTheWindowIsResized) {
     EXPECT_NEAR(resized.center().y, camera.center().y, 1e-6);
 }
 
-TEST(Camera, ADragMovesTheGroundWithThePointer) {
+TEST(Camera, ADragMovesTheMapWithThePointer) {
     const Camera before(canadaOverview, uncovered);
-    const MapPoint ground = before.screenToWorld({300, 300});
-    const ScreenPoint after = before.dragged({0, 0}, {40, -25}).worldToScreen(ground);
+    const MapPoint below = before.screenToWorld({300, 300});
+    const ScreenPoint after = before.dragged({0, 0}, {40, -25}).worldToScreen(below);
     EXPECT_NEAR(after.x, 340, 1e-6);
     EXPECT_NEAR(after.y, 275, 1e-6);
 }
 
-TEST(Camera, ZoomingKeepsTheGroundUnderThePointer) {
+TEST(Camera, ZoomingKeepsThePlaceUnderThePointer) {
     Camera camera(canadaOverview, uncovered);
     const ScreenPoint pointer{700, 200};
-    const MapPoint ground = camera.screenToWorld(pointer);
+    const MapPoint below = camera.screenToWorld(pointer);
     for (int step = 0; step < 40; ++step) {
         camera = camera.zoomed(std::sqrt(2.0), pointer);
-        const ScreenPoint now = camera.worldToScreen(ground);
+        const ScreenPoint now = camera.worldToScreen(below);
         ASSERT_NEAR(now.x, pointer.x, 1e-4) << step;
         ASSERT_NEAR(now.y, pointer.y, 1e-4) << step;
     }

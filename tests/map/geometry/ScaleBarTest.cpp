@@ -18,7 +18,7 @@ TEST(ScaleBar, AtTheEquatorAMapPointIsFifteenCentimetres) {
     EXPECT_NEAR(metresPerPixel(cameraAt(0, 1)), 0.149291, 1e-6); // 40,075,016.69 m / 2^28
 }
 
-TEST(ScaleBar, AtSixtyDegreesTheSamePixelIsHalfAsMuchGround) {
+TEST(ScaleBar, AtSixtyDegreesTheSamePixelIsHalfAsFar) {
     EXPECT_NEAR(metresPerPixel(cameraAt(60, 0.01)), metresPerPixel(cameraAt(0, 0.01)) / 2, 1e-6);
 }
 

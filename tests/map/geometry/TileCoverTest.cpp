@@ -26,9 +26,9 @@ int tilesAt(const std::vector<CoverTile>& cover, MapPoint point) {
 void expectCovered(const Camera& camera, const std::vector<CoverTile>& cover) {
     for (double y = 0.5; y < camera.viewport().height; y += 41) {
         for (double x = 0.5; x < camera.viewport().width; x += 41) {
-            const MapPoint ground = camera.screenToWorld({x, y});
-            const bool isInWorld = ground.y >= 0 && ground.y < worldSize;
-            ASSERT_EQ(tilesAt(cover, ground), isInWorld ? 1 : 0) << x << ", " << y;
+            const MapPoint below = camera.screenToWorld({x, y});
+            const bool isInWorld = below.y >= 0 && below.y < worldSize;
+            ASSERT_EQ(tilesAt(cover, below), isInWorld ? 1 : 0) << x << ", " << y;
         }
     }
 }

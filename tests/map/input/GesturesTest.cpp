@@ -16,14 +16,14 @@ TEST(Gestures, APressThatHardlyMovesIsAClick) {
     EXPECT_EQ(after.center(), startCamera.center());
 }
 
-TEST(Gestures, ADragKeepsTheGroundUnderThePointer) {
+TEST(Gestures, ADragKeepsThePlaceUnderThePointer) {
     PanDrag drag({100, 100});
     Camera now = drag.moved(startCamera, {103, 100});
     now = drag.moved(now, {180, 130});
     EXPECT_FALSE(drag.isClick());
-    const ScreenPoint ground = now.worldToScreen(startCamera.screenToWorld({100, 100}));
-    EXPECT_NEAR(ground.x, 180, 1e-6);
-    EXPECT_NEAR(ground.y, 130, 1e-6);
+    const ScreenPoint seen = now.worldToScreen(startCamera.screenToWorld({100, 100}));
+    EXPECT_NEAR(seen.x, 180, 1e-6);
+    EXPECT_NEAR(seen.y, 130, 1e-6);
 }
 
 TEST(Gestures, ADragThatReturnsToItsPlaceIsStillADrag) {
@@ -40,7 +40,7 @@ TEST(Gestures, TwoNotchesOfTheWheelDoubleTheScale) {
     EXPECT_DOUBLE_EQ(wheelZoomFactor(0), 1);
 }
 
-TEST(Gestures, APinchKeepsTheGroundUnderBothFingers) {
+TEST(Gestures, APinchKeepsThePlaceUnderBothFingers) {
     Pinch pinch({400, 300}, {500, 300});
     const MapPoint first = startCamera.screenToWorld({400, 300});
     const MapPoint second = startCamera.screenToWorld({500, 300});

@@ -35,7 +35,7 @@ struct Scene {
     }
 };
 
-TEST(HitTest, ABalloonIsHitOnItsHeadAboveItsPoint) {
+TEST(HitTest, APinIsHitOnItsHeadAboveItsPoint) {
     const Scene scene{recordSetOf({facilityAt(54, -112, "storage")}), {}};
     const ScreenPoint tip = scene.at(54, -112);
     EXPECT_EQ(scene.hit({tip.x, tip.y - 20}), 0U);

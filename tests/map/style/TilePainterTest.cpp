@@ -158,7 +158,7 @@ TEST(TilePainter, ARegionsBorderGoesOnInTheNeighbourWhereItLeftOff) {
 
 TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
     TileData data = dataOf({{"boundaries", {border(2, {{0.5F, -0.1F}, {0.5F, 1.1F}})}}});
-    const auto inkOf = [&](int devicePixels, double density) {
+    const auto darknessOf = [&](int devicePixels, double density) {
         TileRequest request = requestFor(tile, BasemapTheme::light, devicePixels);
         request.devicePixelsPerPixel = density;
         const QImage picture = paintTile(data, request);
@@ -169,7 +169,7 @@ TEST(TilePainter, ALineIsAsWideOnTheScreenWhateverTheDensity) {
         }
         return darkness / density;
     };
-    EXPECT_NEAR(inkOf(1024, 2), inkOf(512, 1), 0.15 * inkOf(512, 1));
+    EXPECT_NEAR(darknessOf(1024, 2), darknessOf(512, 1), 0.15 * darknessOf(512, 1));
 }
 
 TEST(TilePainter, AStretchedTileShowsWhatItsZoomOnTheScreenShows) {

@@ -103,7 +103,7 @@ TEST_F(MapBasemapPicture, LandAndWaterAreWhereTheyAre) {
     EXPECT_GT(shareOf(colors.land, seen, place({54.5, -106})), 0.5); // Saskatchewan
 }
 
-TEST_F(MapBasemapPicture, TurnedAndPitchedThereIsNeitherASeamNorAHole) {
+TEST_F(MapBasemapPicture, RotatedAndPitchedThereIsNeitherASeamNorAHole) {
     useRedPhotograph();
     const MapPoint center = coordinateToMapPoint({54, -112});
     const double scale = Camera(canadaOverview, {800, 600}).scale() * 4;

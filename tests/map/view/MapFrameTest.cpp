@@ -46,7 +46,7 @@ QColor lightColor(PaletteColor color) {
     return colorValue(color, ColorScheme::light);
 }
 
-TEST_F(MapFrame, AFacilityStandsAsABalloonInTheColorOfItsKind) {
+TEST_F(MapFrame, AFacilityStandsAsAPinInTheColorOfItsKind) {
     show({facilityAt(54, -112, "refinery")});
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(-8, -18)), lightColor(PaletteColor::red));
     EXPECT_EQ(colorAt(at(54, -112) + QPoint(60, 30)), mapTheme(BasemapTheme::light).background);
@@ -94,7 +94,7 @@ TEST_F(MapFrame, PickingAFacilityChangesNoLine) {
     EXPECT_EQ(colorAt(at(54, -108)), before);
 }
 
-TEST_F(MapFrame, AFilterThatLeavesNothingLeavesTheGround) {
+TEST_F(MapFrame, AFilterThatLeavesNothingLeavesTheBasemap) {
     RecordSet records = recordSetOf({facilityAt(54, -112, "refinery")});
     records.filtered = std::make_shared<const std::vector<AssetIndex>>();
     m_map->setRecords(records);
@@ -109,7 +109,7 @@ TEST_F(MapFrame, TheDarkMapUsesTheBrightColors) {
     EXPECT_EQ(colorAt({40, 40}), mapTheme(BasemapTheme::dark).background);
 }
 
-TEST_F(MapFrame, AClickOnABalloonPicksItsRecordAndOneOnTheGroundNone) {
+TEST_F(MapFrame, AClickOnAPinPicksItsRecordAndOneOnTheBasemapNone) {
     show({facilityAt(54, -112, "refinery")});
     const QSignalSpy picks(m_map, &MapView::picked);
     static_cast<void>(m_window.grabWindow());
@@ -120,7 +120,7 @@ TEST_F(MapFrame, AClickOnABalloonPicksItsRecordAndOneOnTheGroundNone) {
     EXPECT_EQ(picks[1][0].toString(), QString());
 }
 
-TEST_F(MapFrame, ADragMovesTheGroundAndPicksNothing) {
+TEST_F(MapFrame, ADragMovesTheMapAndPicksNothing) {
     show({facilityAt(54, -112, "refinery")});
     const QSignalSpy picks(m_map, &MapView::picked);
     static_cast<void>(m_window.grabWindow());

@@ -29,14 +29,14 @@ class MapPointer : public MapWindow {
     }
 };
 
-TEST_F(MapPointer, TheGroundFollowsTheDragAndStaysWhereThePointerRested) {
+TEST_F(MapPointer, TheMapFollowsTheDragAndStaysWhereThePointerRested) {
     const MapPoint point = camera().screenToWorld({200, 300});
     drag(Qt::LeftButton, {200, 300}, {320, 340});
     EXPECT_FALSE(m_map->isMoving());
     expectPlaceAt(point, {320, 340});
 }
 
-TEST_F(MapPointer, AQuickDragGlidesOnAndComesToRest) {
+TEST_F(MapPointer, AQuickDragGoesOnAndComesToRest) {
     const MapPoint point = camera().screenToWorld({200, 300});
     press({200, 300}, 1000);
     for (int step = 1; step <= 10; ++step) {
@@ -50,7 +50,7 @@ TEST_F(MapPointer, AQuickDragGlidesOnAndComesToRest) {
     EXPECT_NEAR(camera().worldToScreen(point).y, 300, 1e-3);
 }
 
-TEST_F(MapPointer, APressCatchesTheGlidingMap) {
+TEST_F(MapPointer, APressCatchesTheMovingMap) {
     press({200, 300}, 1000);
     moveTo({260, 300}, 1040);
     moveTo({320, 300}, 1080);
