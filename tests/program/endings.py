@@ -140,13 +140,14 @@ def a_hanging_disk_holds_no_window_up(executable):
 
 
 def picture_at_rest(program, unlike=None):
-    """What the display shows once it stays the same, and is another than `unlike`."""
+    """What the display shows once something is drawn, stays the same, and is another than `unlike`."""
 
     def asked():
         first = Screen()
         time.sleep(0.3)
         second = Screen()
-        return second if first.shows(second) and not (unlike and second.shows(unlike)) else None
+        at_rest = second.is_drawn() and second.shows(first)
+        return second if at_rest and not (unlike and second.shows(unlike)) else None
 
     return program.wait(asked, "the display does not change, or does not come to rest")
 
