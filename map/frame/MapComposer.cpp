@@ -91,7 +91,7 @@ MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::n
                                             m_pyramid ? state.drawing : RecordDrawing::live,
                                             basemap.overlay.get(),
                                             state.devicePixels,
-                                            m_labels.keptFreeOfPins(input));
+                                            m_labels.begin(input));
     input.records = recordLabels(records, state);
     input.dots = std::move(records.dots);
     SpriteLayer labels = m_labels.compose(input);

@@ -22,8 +22,8 @@ constexpr double pinGap = labelSpacing + 1;
 constexpr double nameMargin = labelSpacing + 1;
 
 /// New labels that one frame takes in.
-constexpr int mostNewLabels = 60;
-constexpr int mostNewLabelsWhileMoving = 6;
+constexpr int mostNewLabels = 120;
+constexpr int mostNewLabelsWhileMoving = 12;
 
 /// Smaller capitals of regions are set as towns; other towns come later than this.
 constexpr double capitalPriority = 6;
@@ -64,7 +64,7 @@ LabelMotion motionOf(const LabelInput& input) {
 
 } // namespace
 
-void MapLabels::begin(const LabelInput& input) {
+std::vector<ScreenRect> MapLabels::begin(const LabelInput& input) {
     if (!m_atlas || m_devicePixels != input.devicePixels || m_textScale != input.textScale) {
         m_atlas.emplace(input.devicePixels, input.textScale);
         m_devicePixels = input.devicePixels;
@@ -74,10 +74,7 @@ void MapLabels::begin(const LabelInput& input) {
     m_candidates.clear();
     m_placements.clear();
     addPlaces(input);
-}
 
-std::vector<ScreenRect> MapLabels::keptFreeOfPins(const LabelInput& input) {
-    begin(input);
     std::vector<ScreenRect> rects = input.obstacles;
     for (const PlacedLabel& placed : m_names.place(
              m_placements, input.obstacles, freePart(input.camera), {}, motionOf(input))) {
@@ -93,7 +90,6 @@ std::vector<ScreenRect> MapLabels::keptFreeOfPins(const LabelInput& input) {
 }
 
 SpriteLayer MapLabels::compose(const LabelInput& input) {
-    begin(input);
     addRecords(input);
 
     std::vector<ScreenRect> obstacles = input.obstacles;

@@ -40,9 +40,11 @@ struct LabelInput {
 
 class MapLabels {
   public:
-    /// What pins make way for: the obstacles, and the names of regions and cities, from which one
-    /// tells what part of the world one sees. The records of `input` do not matter.
-    [[nodiscard]] std::vector<ScreenRect> keptFreeOfPins(const LabelInput& input);
+    /// Begins a frame by its places; the records of `input` do not matter yet. Returns what pins
+    /// make way for: the obstacles, and the names of regions and cities, from which one tells what
+    /// part of the world one sees.
+    [[nodiscard]] std::vector<ScreenRect> begin(const LabelInput& input);
+    /// The labels of the frame that was begun with `input`, to which its records have come.
     [[nodiscard]] SpriteLayer compose(const LabelInput& input);
 
     /// The labels of the last frame and the rings of their places, drawn instead of cut out.
@@ -58,7 +60,6 @@ class MapLabels {
         bool isProminent = false;
     };
 
-    void begin(const LabelInput& input);
     void addPlaces(const LabelInput& input);
     void addRecords(const LabelInput& input);
     void add(Candidate candidate, LabelCandidate placement);

@@ -22,15 +22,17 @@ class MapLabelsTest : public testing::Test {
 
     void compose(double textScale = 1) { compose(camera, textScale); }
     void compose(const Camera& seen, double textScale = 1) {
-        layer = labels.compose({.camera = seen,
-                                .theme = BasemapTheme::light,
-                                .devicePixels = 1,
-                                .textScale = textScale,
-                                .places = places,
-                                .records = records,
-                                .dots = dots,
-                                .obstacles = controls,
-                                .isMoving = false});
+        const LabelInput input{.camera = seen,
+                               .theme = BasemapTheme::light,
+                               .devicePixels = 1,
+                               .textScale = textScale,
+                               .places = places,
+                               .records = records,
+                               .dots = dots,
+                               .obstacles = controls,
+                               .isMoving = false};
+        keptFreeOfPins = labels.begin(input);
+        layer = labels.compose(input);
     }
     void addPlace(const QString& text,
                   ScreenPoint where,
@@ -74,6 +76,7 @@ class MapLabelsTest : public testing::Test {
     std::vector<ScreenRect> dots;
     std::vector<ScreenRect> controls;
     MapLabels labels;
+    std::vector<ScreenRect> keptFreeOfPins;
     SpriteLayer layer;
     QSizeF ring;
 };
@@ -285,22 +288,14 @@ TEST_F(MapLabelsTest, PinsMakeWayForControlsAndForRegionsAndCitiesPlacedAsIfTher
     addPlace(QStringLiteral("Ottawa"), {700, 400}, 1, PlaceLabel::Kind::capital);
     addPin({330, 310}, {});
     controls = {{10, 600, 150, 30}};
-    const auto kept = labels.keptFreeOfPins({.camera = camera,
-                                             .theme = BasemapTheme::light,
-                                             .devicePixels = 1,
-                                             .textScale = 1,
-                                             .places = places,
-                                             .records = records,
-                                             .dots = dots,
-                                             .obstacles = controls,
-                                             .isMoving = false});
+    compose();
     const auto isNamed = [&](ScreenPoint where) {
-        return std::ranges::any_of(kept, [&](const ScreenRect& rect) {
+        return std::ranges::any_of(keptFreeOfPins, [&](const ScreenRect& rect) {
             return rect.overlaps({where.x, where.y, 20, 10});
         });
     };
-    ASSERT_EQ(kept.size(), 5U);
-    EXPECT_EQ(kept[0], controls[0]);
+    ASSERT_EQ(keptFreeOfPins.size(), 5U);
+    EXPECT_EQ(keptFreeOfPins[0], controls[0]);
     EXPECT_TRUE(isNamed({590, 195}));
     EXPECT_TRUE(isNamed({315, 295}));
     EXPECT_TRUE(isNamed({615, 495}));
@@ -362,24 +357,15 @@ TEST_F(MapLabelsTest, ALabelMayReachToTheEdgesOfThatPartAndNotBeyond) {
 
 TEST_F(MapLabelsTest, AProminentNameHasAsMuchRoomAroundItOnEverySide) {
     addPlace(QStringLiteral("ALBERTA"), {600, 200}, 1, PlaceLabel::Kind::region);
-    const auto names = labels.keptFreeOfPins({.camera = camera,
-                                              .theme = BasemapTheme::light,
-                                              .devicePixels = 1,
-                                              .textScale = 1,
-                                              .places = places,
-                                              .records = {},
-                                              .dots = {},
-                                              .obstacles = {},
-                                              .isMoving = false});
     compose();
-    ASSERT_EQ(names.size(), 1U);
+    ASSERT_EQ(keptFreeOfPins.size(), 1U);
     ASSERT_EQ(texts().size(), 1U);
     const ScreenRect text = texts().front();
-    const double room = text.x - names[0].x;
+    const double room = text.x - keptFreeOfPins[0].x;
     EXPECT_GT(room, 0);
-    EXPECT_NEAR(text.y - names[0].y, room, 1e-6);
-    EXPECT_NEAR(names[0].width, text.width + 2 * room, 1e-6);
-    EXPECT_NEAR(names[0].height, text.height + 2 * room, 1e-6);
+    EXPECT_NEAR(text.y - keptFreeOfPins[0].y, room, 1e-6);
+    EXPECT_NEAR(keptFreeOfPins[0].width, text.width + 2 * room, 1e-6);
+    EXPECT_NEAR(keptFreeOfPins[0].height, text.height + 2 * room, 1e-6);
 }
 
 } // namespace
