@@ -2,6 +2,7 @@
 
 #include "map/scene/UniformBlock.h"
 
+#include <QSGMaterial>
 #include <QSGMaterialShader>
 
 #include <array>
@@ -14,6 +15,25 @@ namespace {
 struct DotVertex {
     float x, y;
     std::array<std::uint8_t, 4> colorAndCorner;
+};
+
+class DotMaterial final : public QSGMaterial {
+  public:
+    DotMaterial() {
+        setFlag(Blending);
+        setFlag(NoBatching);
+    }
+
+    float radius = 1;      ///< item pixels
+    float casingWidth = 0; ///< item pixels
+    QColor casing;
+    float devicePixels = 1; ///< per item pixel
+
+    [[nodiscard]] QSGMaterialType* type() const override {
+        static QSGMaterialType type;
+        return &type;
+    }
+    [[nodiscard]] QSGMaterialShader* createShader(QSGRendererInterface::RenderMode) const override;
 };
 
 class DotShader final : public QSGMaterialShader {
@@ -36,6 +56,10 @@ class DotShader final : public QSGMaterialShader {
     }
 };
 
+QSGMaterialShader* DotMaterial::createShader(QSGRendererInterface::RenderMode /*mode*/) const {
+    return new DotShader;
+}
+
 const QSGGeometry::AttributeSet& dotAttributes() {
     static const std::array parts{
         QSGGeometry::Attribute::createWithAttributeType(
@@ -48,29 +72,12 @@ const QSGGeometry::AttributeSet& dotAttributes() {
 
 } // namespace
 
-DotMaterial::DotMaterial() {
-    setFlag(Blending);
-    setFlag(NoBatching);
-}
-
-QSGMaterialType* DotMaterial::type() const {
-    static QSGMaterialType type;
-    return &type;
-}
-
-QSGMaterialShader* DotMaterial::createShader(QSGRendererInterface::RenderMode /*mode*/) const {
-    return new DotShader;
-}
-
-int DotMaterial::compare(const QSGMaterial* other) const {
-    return this == other ? 0 : (this < other ? -1 : 1);
-}
-
 DotNode::DotNode() : m_geometry(dotAttributes(), 0) {
     m_geometry.setDrawingMode(QSGGeometry::DrawTriangles);
     m_geometry.setVertexDataPattern(QSGGeometry::StreamPattern);
     setGeometry(&m_geometry);
-    setMaterial(&m_material);
+    setMaterial(new DotMaterial);
+    setFlag(OwnsMaterial);
 }
 
 void DotNode::update(const DotLayer& layer, float devicePixels) {
@@ -84,10 +91,11 @@ void DotNode::update(const DotLayer& layer, float devicePixels) {
             *vertex++ = {dot.x, dot.y, {dot.color[0], dot.color[1], dot.color[2], corner}};
         }
     }
-    m_material.radius = static_cast<float>(layer.radius);
-    m_material.casingWidth = static_cast<float>(layer.casingWidth);
-    m_material.casing = layer.casing;
-    m_material.devicePixels = devicePixels;
+    auto& drawn = *static_cast<DotMaterial*>(material());
+    drawn.radius = static_cast<float>(layer.radius);
+    drawn.casingWidth = static_cast<float>(layer.casingWidth);
+    drawn.casing = layer.casing;
+    drawn.devicePixels = devicePixels;
     markDirty(DirtyGeometry | DirtyMaterial);
 }
 

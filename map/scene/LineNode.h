@@ -1,8 +1,7 @@
 #pragma once
-// Draws a LineLayer.
+// Draws a LineLayer: a core of constant width in pixels within a casing, edges smoothed.
 
 #include "map/layers/LineLayer.h"
-#include "map/scene/LineMaterial.h"
 
 #include <QSGGeometryNode>
 
@@ -14,12 +13,11 @@ class LineNode final : public QSGGeometryNode {
   public:
     LineNode();
 
-    /// Render thread, while the item's thread waits.
+    /// Render thread, while the item's thread waits. `devicePixels` per item pixel.
     void update(const LineLayer& layer, float devicePixels);
 
   private:
     QSGGeometry m_geometry;
-    LineMaterial m_material;
     std::shared_ptr<const LineStrip> m_strip; ///< that m_geometry was made of
 };
 

@@ -4,6 +4,7 @@
 
 #include <QQuickWindow>
 #include <QSGGeometryNode>
+#include <QSGMaterial>
 #include <QSGMaterialShader>
 
 #include <algorithm>
@@ -27,6 +28,21 @@ const QSGGeometry::AttributeSet& tileAttributes() {
     static const QSGGeometry::AttributeSet set{parts.size(), sizeof(TileVertex), parts.data()};
     return set;
 }
+
+class TileMaterial final : public QSGMaterial {
+  public:
+    TileMaterial() { setFlag(NoBatching); }
+
+    QSGTexture* texture = nullptr;
+    float opacity = 1;
+
+    [[nodiscard]] QSGMaterialType* type() const override {
+        static QSGMaterialType opaque;
+        static QSGMaterialType fading;
+        return opacity < 1 ? &fading : &opaque;
+    }
+    [[nodiscard]] QSGMaterialShader* createShader(QSGRendererInterface::RenderMode) const override;
+};
 
 class TileShader final : public QSGMaterialShader {
   public:
@@ -56,25 +72,11 @@ class TileShader final : public QSGMaterialShader {
     }
 };
 
-} // namespace
-
-TileMaterial::TileMaterial() {
-    setFlag(NoBatching);
-}
-
-QSGMaterialType* TileMaterial::type() const {
-    static QSGMaterialType opaque;
-    static QSGMaterialType fading;
-    return opacity < 1 ? &fading : &opaque;
-}
-
 QSGMaterialShader* TileMaterial::createShader(QSGRendererInterface::RenderMode /*mode*/) const {
     return new TileShader(opacity < 1);
 }
 
-int TileMaterial::compare(const QSGMaterial* other) const {
-    return this == other ? 0 : (this < other ? -1 : 1);
-}
+} // namespace
 
 struct TileNode::Quad {
     QSGGeometry geometry{tileAttributes(), 4};

@@ -3,7 +3,6 @@
 
 #include "map/layers/TileLayer.h"
 
-#include <QSGMaterial>
 #include <QSGNode>
 #include <QSGTexture>
 
@@ -14,18 +13,6 @@
 class QQuickWindow;
 
 namespace vasker {
-
-class TileMaterial final : public QSGMaterial {
-  public:
-    TileMaterial();
-
-    QSGTexture* texture = nullptr;
-    float opacity = 1;
-
-    [[nodiscard]] QSGMaterialType* type() const override;
-    [[nodiscard]] QSGMaterialShader* createShader(QSGRendererInterface::RenderMode) const override;
-    [[nodiscard]] int compare(const QSGMaterial* other) const override;
-};
 
 class TileNode final : public QSGNode {
   public:
