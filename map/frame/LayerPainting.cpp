@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <variant>
 #include <vector>
 
 namespace vasker {
@@ -104,6 +105,62 @@ void paintRasterTile(QPainter& painter, const QTransform& transform, const QImag
     }
 }
 
+/// First every casing, then the cores: where a branch meets a trunk, no casing cuts the trunk. One
+/// by one: the time that a raster takes for a path grows with the square of its crossings.
+void paint(QPainter& painter, const LineLayer& layer, double /*devicePixels*/) {
+    const LineStyle& style = layer.style;
+    const double whole = style.width + 2 * style.casingWidth;
+    const std::vector<ColoredLine> lines = linesOf(layer, reachOf(painter, whole));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    const auto draw = [&](double width, const auto& colorOfLine) {
+        for (const ColoredLine& line : lines) {
+            painter.setPen(
+                QPen(colorOfLine(line), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            if (std::ranges::count(line.places, line.places.front()) == line.places.size()) {
+                painter.drawPoint(line.places.front()); // a path to nowhere is none in a PDF
+            } else {
+                painter.drawPolyline(line.places);
+            }
+        }
+    };
+    if (style.casing.alpha() > 0) {
+        draw(whole, [&](const auto&) { return style.casing; });
+    }
+    draw(style.width, [&](const ColoredLine& line) { return style.color.value_or(line.color); });
+    painter.restore();
+}
+
+void paint(QPainter& painter, const DotLayer& layer, double /*devicePixels*/) {
+    const double whole = layer.radius + layer.casingWidth;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    for (const Dot& dot : layer.dots) {
+        const QPointF center(dot.x, dot.y);
+        painter.setBrush(layer.casing);
+        painter.drawEllipse(center, whole, whole);
+        painter.setBrush(colorOf(dot.color));
+        painter.drawEllipse(center, layer.radius, layer.radius);
+    }
+    painter.restore();
+}
+
+void paint(QPainter& painter, const SpriteLayer& layer, double devicePixels) {
+    const auto snapped = [devicePixels](double position) {
+        return std::round(position * devicePixels) / devicePixels;
+    };
+    for (const SpriteSheet& sheet : layer.sheets) {
+        for (const auto& [corner, region] : sheet.sprites) {
+            painter.drawImage(
+                QRectF(QPointF(snapped(corner.x), snapped(corner.y)), region.size()),
+                sheet.atlas,
+                QRectF(region.topLeft() * devicePixels, region.size() * devicePixels));
+        }
+    }
+}
+
 } // namespace
 
 void takeImages(TileLayer& layer, TileImages& images) {
@@ -142,60 +199,8 @@ void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& ima
     painter.restore();
 }
 
-/// First every casing, then the cores: where a branch meets a trunk, no casing cuts the trunk. One
-/// by one: the time that a raster takes for a path grows with the square of its crossings.
-void paintLines(QPainter& painter, const LineLayer& layer) {
-    const LineStyle& style = layer.style;
-    const double whole = style.width + 2 * style.casingWidth;
-    const std::vector<ColoredLine> lines = linesOf(layer, reachOf(painter, whole));
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
-    const auto draw = [&](double width, const auto& colorOfLine) {
-        for (const ColoredLine& line : lines) {
-            painter.setPen(
-                QPen(colorOfLine(line), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            if (std::ranges::count(line.places, line.places.front()) == line.places.size()) {
-                painter.drawPoint(line.places.front()); // a path to nowhere is none in a PDF
-            } else {
-                painter.drawPolyline(line.places);
-            }
-        }
-    };
-    if (style.casing.alpha() > 0) {
-        draw(whole, [&](const auto&) { return style.casing; });
-    }
-    draw(style.width, [&](const ColoredLine& line) { return style.color.value_or(line.color); });
-    painter.restore();
-}
-
-void paintDots(QPainter& painter, const DotLayer& layer) {
-    const double whole = layer.radius + layer.casingWidth;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    for (const Dot& dot : layer.dots) {
-        const QPointF center(dot.x, dot.y);
-        painter.setBrush(layer.casing);
-        painter.drawEllipse(center, whole, whole);
-        painter.setBrush(colorOf(dot.color));
-        painter.drawEllipse(center, layer.radius, layer.radius);
-    }
-    painter.restore();
-}
-
-void paintSprites(QPainter& painter, const SpriteLayer& layer, double devicePixels) {
-    const auto snapped = [devicePixels](double position) {
-        return std::round(position * devicePixels) / devicePixels;
-    };
-    for (const SpriteSheet& sheet : layer.sheets) {
-        for (const auto& [corner, region] : sheet.sprites) {
-            painter.drawImage(
-                QRectF(QPointF(snapped(corner.x), snapped(corner.y)), region.size()),
-                sheet.atlas,
-                QRectF(region.topLeft() * devicePixels, region.size() * devicePixels));
-        }
-    }
+void paintLayer(QPainter& painter, const MapLayer& layer, double devicePixels) {
+    std::visit([&](const auto& each) { paint(painter, each, devicePixels); }, layer);
 }
 
 } // namespace vasker

@@ -2,9 +2,7 @@
 // Draws the layers of a frame with any painter, in item pixels, and leaves its state as it was. Any
 // thread.
 
-#include "map/layers/DotLayer.h"
-#include "map/layers/LineLayer.h"
-#include "map/layers/SpriteLayer.h"
+#include "map/layers/MapLayer.h"
 #include "map/layers/TileLayer.h"
 
 #include <QImage>
@@ -23,9 +21,9 @@ void takeImages(TileLayer& layer, TileImages& images);
 /// Tiles that have no image are passed over. What is tilted needs an engine that knows perspective,
 /// as that of images does.
 void paintTiles(QPainter& painter, const TileLayer& layer, const TileImages& images);
-void paintLines(QPainter& painter, const LineLayer& layer);
-void paintDots(QPainter& painter, const DotLayer& layer);
-/// On whole device pixels, of which the painter and the atlases have `devicePixels` per item pixel.
-void paintSprites(QPainter& painter, const SpriteLayer& layer, double devicePixels);
+
+/// Sprites stand on whole device pixels, of which the painter and the atlases have `devicePixels`
+/// per item pixel.
+void paintLayer(QPainter& painter, const MapLayer& layer, double devicePixels);
 
 } // namespace vasker

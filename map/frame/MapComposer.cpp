@@ -105,12 +105,10 @@ MapComposer::compose(const MapState& state, const Camera& camera, std::chrono::n
     frame.isComplete = basemap.isComplete;
     frame.isUnfinished = basemap.isChanging || m_labels.isUnfinished();
 
+    frame.background = mapTheme(state.theme).background;
+    frame.tiles = std::move(basemap.tiles);
     // In drawing order. A new layer of records is composed in map/records and gets a line here.
-    frame.layers.emplace_back(BackgroundLayer{mapTheme(state.theme).background});
-    frame.layers.emplace_back(std::move(basemap.tiles));
-    for (MapLayer& layer : records.linesAndDots) {
-        frame.layers.push_back(std::move(layer));
-    }
+    frame.layers = std::move(records.linesAndDots);
     frame.layers.emplace_back(std::move(records.pins));
     frame.layers.emplace_back(std::move(labels)); // that of the selected record may cover pins
     return frame;

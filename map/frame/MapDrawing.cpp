@@ -5,21 +5,14 @@
 namespace vasker {
 
 void MapDrawing::paintBasemap(QPainter& painter) const {
-    for (const MapLayer& layer : frame.layers) {
-        if (const auto* const background = std::get_if<BackgroundLayer>(&layer)) {
-            painter.fillRect(QRectF({}, frame.size), background->color);
-        } else if (const auto* const tileLayer = std::get_if<TileLayer>(&layer)) {
-            paintTiles(painter, *tileLayer, tiles);
-        }
-    }
+    painter.fillRect(QRectF({}, frame.size), frame.background);
+    paintTiles(painter, frame.tiles, tiles);
 }
 
 void MapDrawing::paintRecords(QPainter& painter) const {
     for (const MapLayer& layer : frame.layers) {
-        if (const auto* const lines = std::get_if<LineLayer>(&layer)) {
-            paintLines(painter, *lines);
-        } else if (const auto* const dots = std::get_if<DotLayer>(&layer)) {
-            paintDots(painter, *dots);
+        if (!std::holds_alternative<SpriteLayer>(layer)) {
+            paintLayer(painter, layer, frame.devicePixels);
         }
     }
     for (const Shape& shape : shapes) {

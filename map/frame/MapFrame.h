@@ -4,7 +4,9 @@
 #include "map/basemap/Attribution.h"
 #include "map/labels/PlaceLabel.h"
 #include "map/layers/MapLayer.h"
+#include "map/layers/TileLayer.h"
 
+#include <QColor>
 #include <QSizeF>
 
 #include <vector>
@@ -12,9 +14,11 @@
 namespace vasker {
 
 struct MapFrame {
-    QSizeF size;                  ///< logical pixels
-    double devicePixels = 1;      ///< per logical pixel
-    std::vector<MapLayer> layers; ///< in drawing order, the lowest first
+    QSizeF size;             ///< logical pixels
+    double devicePixels = 1; ///< per logical pixel
+    QColor background;       ///< below everything
+    TileLayer tiles;
+    std::vector<MapLayer> layers; ///< above the tiles, in drawing order
 
     // What is said about it.
     std::vector<PlaceLabel> places; ///< those whose labels compete for room in it

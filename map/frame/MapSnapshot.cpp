@@ -10,12 +10,6 @@ namespace {
 
 constexpr std::chrono::seconds tilePatience{8};
 
-TileLayer& tileLayerOf(MapFrame& frame) {
-    const auto layer = std::ranges::find_if(
-        frame.layers, [](const auto& each) { return std::holds_alternative<TileLayer>(each); });
-    return std::get<TileLayer>(*layer);
-}
-
 } // namespace
 
 void MapSnapshot::take(const MapScene& scene, QObject* owner, Use use) {
@@ -47,7 +41,7 @@ void MapSnapshot::compose() {
         return;
     }
     MapFrame frame = m_composer.compose(m_scene.state, m_scene.camera, {});
-    takeImages(tileLayerOf(frame), m_drawing.tiles);
+    takeImages(frame.tiles, m_drawing.tiles);
     const bool isComplete = frame.isComplete || m_scene.tiles == nullptr || !m_patience.isActive();
     if (isComplete && !frame.isUnfinished) {
         finish(std::move(frame));
@@ -57,9 +51,8 @@ void MapSnapshot::compose() {
 }
 
 void MapSnapshot::finish(MapFrame frame) {
-    const TileLayer& tiles = tileLayerOf(frame);
-    std::erase_if(m_drawing.tiles, [&tiles](const auto& image) {
-        return std::ranges::find(tiles.quads, image.first, &TileQuad::tile) == tiles.quads.end();
+    std::erase_if(m_drawing.tiles, [&quads = frame.tiles.quads](const auto& image) {
+        return std::ranges::find(quads, image.first, &TileQuad::tile) == quads.end();
     });
     m_drawing.shapes = m_composer.shapes();
     m_drawing.frame = std::move(frame);

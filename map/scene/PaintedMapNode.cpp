@@ -13,28 +13,16 @@ namespace vasker {
 
 namespace {
 
-void paint(QPainter& painter, const MapFrame& frame, const TileImages& images) {
-    for (const MapLayer& layer : frame.layers) {
-        if (const auto* const background = std::get_if<BackgroundLayer>(&layer)) {
-            painter.fillRect(QRectF({}, frame.size), background->color);
-        } else if (const auto* const tiles = std::get_if<TileLayer>(&layer)) {
-            paintTiles(painter, *tiles, images);
-        } else if (const auto* const lines = std::get_if<LineLayer>(&layer)) {
-            paintLines(painter, *lines);
-        } else if (const auto* const dots = std::get_if<DotLayer>(&layer)) {
-            paintDots(painter, *dots);
-        } else if (const auto* const sprites = std::get_if<SpriteLayer>(&layer)) {
-            paintSprites(painter, *sprites, frame.devicePixels);
-        }
-    }
-}
-
 /// Paints `band`, whose first row is row `top` of the map.
 void paintBand(QImage band, int top, const MapFrame& frame, const TileImages& images) {
     QPainter painter(&band);
     painter.translate(0, -top);
     painter.scale(frame.devicePixels, frame.devicePixels);
-    paint(painter, frame, images);
+    painter.fillRect(QRectF({}, frame.size), frame.background);
+    paintTiles(painter, frame.tiles, images);
+    for (const MapLayer& layer : frame.layers) {
+        paintLayer(painter, layer, frame.devicePixels);
+    }
 }
 
 /// In bands side by side, one for each processor; it is not worth more than four.
@@ -81,11 +69,7 @@ void PaintedMapNode::update(MapFrame& frame, QQuickWindow& window) {
     if (image.size() != size) {
         image = QImage(size, QImage::Format_RGB32);
     }
-    for (MapLayer& layer : frame.layers) {
-        if (auto* const tiles = std::get_if<TileLayer>(&layer)) {
-            takeImages(*tiles, m_tiles);
-        }
-    }
+    takeImages(frame.tiles, m_tiles);
     paintInBands(image, frame, m_tiles);
     m_shown->setTexture(window.createTextureFromImage(image, QQuickWindow::TextureIsOpaque));
     m_shown->setRect(QRectF({}, QSizeF(size) / frame.devicePixels));

@@ -4,6 +4,13 @@
 
 namespace vasker {
 
+RenderedMapNode::RenderedMapNode() {
+    m_background.setFlag(OwnedByParent, false);
+    m_tiles.setFlag(OwnedByParent, false);
+    appendChildNode(&m_background);
+    appendChildNode(&m_tiles);
+}
+
 void RenderedMapNode::removeFrom(std::size_t layer) {
     while (m_nodes.size() > layer) {
         std::visit([this](const auto& node) { removeChildNode(node.get()); }, m_nodes.back());
@@ -27,13 +34,12 @@ Node& RenderedMapNode::node(std::size_t layer) {
 
 void RenderedMapNode::update(MapFrame& frame, QQuickWindow& window) {
     const auto devicePixels = static_cast<float>(frame.devicePixels);
+    m_background.setRect(QRectF({}, frame.size));
+    m_background.setColor(frame.background);
+    m_tiles.update(frame.tiles, window);
     for (std::size_t i = 0; i < frame.layers.size(); ++i) {
-        MapLayer& layer = frame.layers[i];
-        if (const auto* const background = std::get_if<BackgroundLayer>(&layer)) {
-            node<BackgroundNode>(i).update(*background, frame.size);
-        } else if (auto* const tiles = std::get_if<TileLayer>(&layer)) {
-            node<TileNode>(i).update(*tiles, window);
-        } else if (const auto* const lines = std::get_if<LineLayer>(&layer)) {
+        const MapLayer& layer = frame.layers[i];
+        if (const auto* const lines = std::get_if<LineLayer>(&layer)) {
             node<LineNode>(i).update(*lines, devicePixels);
         } else if (const auto* const dots = std::get_if<DotLayer>(&layer)) {
             node<DotNode>(i).update(*dots, devicePixels);

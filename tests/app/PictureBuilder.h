@@ -18,8 +18,8 @@ inline MapPicture makePicture(double scale = 1) {
     MapDrawing drawing;
     drawing.frame.size = {mapWidth, mapHeight + 40}; // its end is covered
     drawing.frame.devicePixels = scale;
-    drawing.frame.layers = {BackgroundLayer{backgroundColor},
-                            DotLayer{{{100, 100, rgbOf(dotColor)}}, 8, 1, Qt::white}};
+    drawing.frame.background = backgroundColor;
+    drawing.frame.layers = {DotLayer{{{100, 100, rgbOf(dotColor)}}, 8, 1, Qt::white}};
     drawing.shapes = {[](QPainter& painter) {
         const Label label{QStringLiteral("Grande Prairie"), LabelStyle::city, BasemapTheme::light};
         painter.save();

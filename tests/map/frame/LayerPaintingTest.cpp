@@ -58,7 +58,7 @@ QImage bandOf(const LineLayer& lines, int from, int to) {
     image.fill(Qt::gray);
     QPainter painter(&image);
     painter.translate(0, -from);
-    paintLines(painter, lines);
+    paintLayer(painter, lines, 1);
     return image;
 }
 

@@ -43,10 +43,10 @@ TEST_F(MapComposerTest, AFrameIsAnOrderedListOfLayers) {
     const MapFrame frame = compose();
     std::string order;
     for (const MapLayer& layer : frame.layers) {
-        order += "BTLDS"[layer.index()];
+        order += "LDS"[layer.index()];
     }
-    // Background, tiles, the routes and those that stand out, quiet dots, dots, pins, labels.
-    EXPECT_EQ(order, "BTLLLLDDSS");
+    // The routes and those that stand out, quiet dots, dots, pins, labels.
+    EXPECT_EQ(order, "LLLLDDSS");
     EXPECT_EQ(frame.size, QSizeF(900, 700));
 }
 
@@ -135,11 +135,11 @@ TEST_F(MapOfTwoPins, WithoutRoomTheTitleOfTheSelectedRecordStandsAboveAll) {
 
 TEST(MapFrame, ImagesThatWereNotYetHandedOverAreNotLost) {
     MapFrame before;
-    before.layers.emplace_back(TileLayer{{}, {{1, {}}, {2, {}}}, {1, 2}});
+    before.tiles = {{}, {{1, {}}, {2, {}}}, {1, 2}};
     MapFrame after;
-    after.layers.emplace_back(TileLayer{{}, {{3, {}}}, {2, 3}});
+    after.tiles = {{}, {{3, {}}}, {2, 3}};
     after.takeImages(before);
-    const auto& images = std::get<TileLayer>(after.layers.front()).newImages;
+    const auto& images = after.tiles.newImages;
     ASSERT_EQ(images.size(), 2U); // the first tile is no longer needed
     EXPECT_EQ(images[0].tile, 3U);
     EXPECT_EQ(images[1].tile, 2U);

@@ -97,11 +97,10 @@ TEST(MapDrawing, TheSelectedRecordStandsOut) {
 
 TEST(MapDrawing, TheBasemapIsDrawnOfItsTiles) {
     MapDrawing drawing;
-    TileLayer layer;
-    layer.quads = {{7, {{{10, 10, 1}, {30, 10, 1}, {30, 30, 1}, {10, 30, 1}}}, 1},
-                   {8, {{{50, 50, 1}, {70, 50, 1}, {70, 70, 1}, {50, 70, 1}}}, 1}};
+    drawing.frame.tiles.quads = {{7, {{{10, 10, 1}, {30, 10, 1}, {30, 30, 1}, {10, 30, 1}}}, 1},
+                                 {8, {{{50, 50, 1}, {70, 50, 1}, {70, 70, 1}, {50, 70, 1}}}, 1}};
     drawing.frame.size = {width, height};
-    drawing.frame.layers = {BackgroundLayer{Qt::blue}, layer};
+    drawing.frame.background = Qt::blue;
     drawing.tiles[7] = QImage(64, 64, QImage::Format_RGB32);
     drawing.tiles[7].fill(Qt::red);
     QImage image(width, height, QImage::Format_RGB32);
