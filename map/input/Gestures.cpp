@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace vasker {
 
@@ -50,26 +51,16 @@ CameraPose settled(const CameraPose& pose) noexcept {
     return result;
 }
 
-Camera PanDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
-    m_dragging = m_dragging || distance(m_pressed, point) >= m_threshold;
-    if (!m_dragging) {
+Camera Drag::moved(const Camera& camera, ScreenPoint point) noexcept {
+    m_isDragging = m_isDragging || distance(m_pressed, point) >= m_threshold;
+    if (!m_isDragging) {
         return camera;
     }
-    const Camera dragged = camera.dragged(m_last, point);
-    m_last = point;
-    return dragged;
-}
-
-Camera RotateDrag::moved(const Camera& camera, ScreenPoint point) noexcept {
-    if (!m_rotating && distance(m_pressed, point) < dragThreshold) {
-        return camera;
-    }
-    m_rotating = true;
-    const Camera rotated =
-        camera.rotated((point.x - m_last.x) * rotateDegreesPerPixel, camera.focus())
-            .tilted((m_last.y - point.y) * tiltDegreesPerPixel);
-    m_last = point;
-    return rotated;
+    const ScreenPoint last = std::exchange(m_last, point);
+    return m_kind == DragKind::pan
+               ? camera.dragged(last, point)
+               : camera.rotated((point.x - last.x) * rotateDegreesPerPixel, camera.focus())
+                     .tilted((last.y - point.y) * tiltDegreesPerPixel);
 }
 
 double Pinch::rotationFor(double degrees) noexcept {

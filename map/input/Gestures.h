@@ -3,6 +3,8 @@
 
 #include "map/geometry/Camera.h"
 
+#include <cstdint>
+
 namespace vasker {
 
 /// A press that moves less than this, in logical pixels, is a click; a finger is less steady.
@@ -17,37 +19,30 @@ inline constexpr double doubleClickZoomFactor = 2;
 /// A bearing or a pitch that a gesture has left nearly at 0 is meant to be 0.
 [[nodiscard]] CameraPose settled(const CameraPose& pose) noexcept;
 
-/// A pointer that is pressed on the map: a click, or a drag once it has left its place.
-class PanDrag {
-  public:
-    explicit PanDrag(ScreenPoint pressed, double threshold = dragThreshold) noexcept
-        : m_pressed(pressed), m_last(pressed), m_threshold(threshold) {}
-
-    /// The camera after the pointer moved to `point`; what was under it stays there.
-    [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint point) noexcept;
-    [[nodiscard]] bool isClick() const noexcept { return !m_dragging; }
-    [[nodiscard]] ScreenPoint pressed() const noexcept { return m_pressed; }
-
-  private:
-    ScreenPoint m_pressed;
-    ScreenPoint m_last;
-    double m_threshold; ///< pixels; 0: never a click
-    bool m_dragging = false;
+enum class DragKind : std::uint8_t {
+    pan,    ///< what is under the pointer stays there
+    rotate, ///< across rotates the camera, upwards tilts it, about its centre
 };
 
-/// The second way to drag: across rotates the camera, upwards tilts it, about its centre.
-class RotateDrag {
+/// A pointer that is pressed on the map: a click, or a drag once it has left its place.
+class Drag {
   public:
-    explicit RotateDrag(ScreenPoint pressed) noexcept : m_pressed(pressed), m_last(pressed) {}
+    /// `threshold` in pixels; 0: never a click.
+    Drag(DragKind kind, ScreenPoint pressed, double threshold = dragThreshold) noexcept
+        : m_kind(kind), m_pressed(pressed), m_last(pressed), m_threshold(threshold) {}
 
+    /// The camera after the pointer moved to `point`.
     [[nodiscard]] Camera moved(const Camera& camera, ScreenPoint point) noexcept;
-    [[nodiscard]] bool isClick() const noexcept { return !m_rotating; }
+    [[nodiscard]] DragKind kind() const noexcept { return m_kind; }
+    [[nodiscard]] bool isClick() const noexcept { return !m_isDragging; }
     [[nodiscard]] ScreenPoint pressed() const noexcept { return m_pressed; }
 
   private:
+    DragKind m_kind;
     ScreenPoint m_pressed;
     ScreenPoint m_last;
-    bool m_rotating = false;
+    double m_threshold;
+    bool m_isDragging = false;
 };
 
 /// Two fingers on the map: what is under them stays under them. The camera rotates with them only

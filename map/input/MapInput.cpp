@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <type_traits>
+#include <utility>
 
 namespace vasker {
 
@@ -80,73 +81,49 @@ void MapInput::setPickHit(bool isHit) noexcept {
     }
 }
 
-MapInput::Drag MapInput::drag() const noexcept {
-    if (m_pan && !m_pan->isClick()) {
-        return Drag::pan;
-    }
-    return m_rotate && !m_rotate->isClick() ? Drag::rotate : Drag::none;
-}
-
-void MapInput::releasePointer() noexcept {
-    m_pan.reset();
-    m_rotate.reset();
+std::optional<DragKind> MapInput::drag() const noexcept {
+    return m_drag && !m_drag->isClick() ? std::optional(m_drag->kind()) : std::nullopt;
 }
 
 MapCommands MapInput::on(const PointerPress& press, const Camera& /*camera*/) {
-    releasePointer();
-    if (!press.isPrimary || press.withControl) {
-        m_rotate.emplace(press.point);
-    } else {
-        m_pan.emplace(press.point);
-        m_trail = {};
-    }
+    const bool rotates = !press.isPrimary || press.withControl;
+    m_drag.emplace(rotates ? DragKind::rotate : DragKind::pan, press.point);
+    m_trail = {};
     return {TakeFocus{}, StopMotion{}};
 }
 
 MapCommands MapInput::on(const PointerMove& move, const Camera& camera) {
-    if (m_pan) {
-        return pan(move.point, move.seconds, camera);
-    }
-    if (m_rotate) {
-        const Camera rotated = m_rotate->moved(camera, move.point);
-        return m_rotate->isClick() ? MapCommands() : MapCommands{SetCamera{rotated}};
-    }
-    return {};
+    return m_drag ? dragTo(move.point, move.seconds, camera) : MapCommands();
 }
 
-MapCommands MapInput::pan(ScreenPoint point, double seconds, const Camera& camera) {
-    const Camera panned = m_pan->moved(camera, point);
-    if (m_pan->isClick()) {
+MapCommands MapInput::dragTo(ScreenPoint point, double seconds, const Camera& camera) {
+    const Camera moved = m_drag->moved(camera, point);
+    if (m_drag->isClick()) {
         return {};
     }
-    m_trail.add(panned.center(), seconds);
-    return {SetCamera{panned}};
-}
-
-MapCommands MapInput::endPan(double seconds) {
-    m_pan.reset();
-    return {StartInertia{m_trail.velocityAt(seconds)}};
+    m_trail.add(moved.center(), seconds);
+    return {SetCamera{moved}};
 }
 
 MapCommands MapInput::on(const PointerRelease& release, const Camera& camera) {
     m_isTapPick = false;
-    MapCommands commands;
-    if (m_pan && release.isPrimary) {
-        commands = m_pan->isClick() ? MapCommands{Pick{m_pan->pressed(), pointerReach}}
-                                    : endPan(release.seconds);
-    } else if (m_rotate && !m_rotate->isClick()) {
-        commands = settle(camera);
-    } else if (m_rotate && release.isPrimary) {
-        commands = {Pick{m_rotate->pressed(), pointerReach}};
-    } else if (m_rotate) {
-        commands = {OpenMenu{m_rotate->pressed(), pointerReach}};
+    const auto drag = std::exchange(m_drag, std::nullopt);
+    if (!drag) {
+        return {};
     }
-    releasePointer();
-    return commands;
+    const bool rotates = drag->kind() == DragKind::rotate;
+    if (rotates && !drag->isClick()) {
+        return settle(camera);
+    }
+    if (release.isPrimary) {
+        return drag->isClick() ? MapCommands{Pick{drag->pressed(), pointerReach}}
+                               : MapCommands{StartInertia{m_trail.velocityAt(release.seconds)}};
+    }
+    return rotates ? MapCommands{OpenMenu{drag->pressed(), pointerReach}} : MapCommands();
 }
 
 MapCommands MapInput::on(const DoubleClick& click, const Camera& /*camera*/) {
-    releasePointer(); // its press came just before; its release is no second click
+    m_drag.reset(); // its press came just before; its release is no second click
     // The first click of two on a record has framed it: the second has nothing left to do.
     if (click.isPrimary && m_lastClickHit) {
         return {};
@@ -158,7 +135,7 @@ MapCommands MapInput::on(const DoubleClick& click, const Camera& /*camera*/) {
 }
 
 MapCommands MapInput::on(const PointerLost& /*lost*/, const Camera& /*camera*/) {
-    releasePointer();
+    m_drag.reset();
     return {};
 }
 
@@ -191,15 +168,14 @@ MapCommands MapInput::on(const Touch& touch, const Camera& camera) {
         if (m_pinch) {
             return {SetCamera{m_pinch->moved(camera, touch.fingers[0], touch.fingers[1])}};
         }
-        return m_pan ? pan(touch.fingers[0], touch.seconds, camera) : MapCommands();
+        return m_drag ? dragTo(touch.fingers[0], touch.seconds, camera) : MapCommands();
     }
     // A finger came or went: what they do begins anew from where they are.
     const bool wasPinch = m_pinch.has_value();
     const bool isFirst = m_fingers == 0;
-    const std::optional<PanDrag> pan = m_pan;
+    const auto drag = std::exchange(m_drag, std::nullopt);
     m_fingers = count;
     m_pinch.reset();
-    m_pan.reset();
     MapCommands commands;
     if (isFirst) {
         commands = {TakeFocus{}, StopMotion{}};
@@ -207,12 +183,12 @@ MapCommands MapInput::on(const Touch& touch, const Camera& camera) {
     if (count >= 2) {
         m_pinch.emplace(touch.fingers[0], touch.fingers[1]);
     } else if (count == 1) {
-        m_pan.emplace(touch.fingers[0], isFirst ? touchDragThreshold : 0);
+        m_drag.emplace(DragKind::pan, touch.fingers[0], isFirst ? touchDragThreshold : 0);
         m_trail = {};
-    } else if (pan && pan->isClick()) {
-        commands = tap(pan->pressed(), touch.seconds);
-    } else if (pan) {
-        commands = endPan(touch.seconds);
+    } else if (drag && drag->isClick()) {
+        commands = tap(drag->pressed(), touch.seconds);
+    } else if (drag) {
+        commands = {StartInertia{m_trail.velocityAt(touch.seconds)}};
     }
     if (wasPinch && count < 2) {
         for (const MapCommand& each : settle(camera)) {
@@ -240,7 +216,7 @@ MapCommands MapInput::tap(ScreenPoint point, double seconds) {
 MapCommands MapInput::on(const TouchLost& /*lost*/, const Camera& /*camera*/) {
     m_fingers = 0;
     m_pinch.reset();
-    releasePointer();
+    m_drag.reset();
     return {};
 }
 

@@ -27,11 +27,10 @@ class MapInput {
     /// Whether the last Pick hit a record.
     void setPickHit(bool isHit) noexcept;
 
-    enum class Drag : std::uint8_t { none, pan, rotate };
-    /// What the pointer is dragging.
-    [[nodiscard]] Drag drag() const noexcept;
+    /// What the pointer is dragging; nothing: no button is down, or it may yet be a click.
+    [[nodiscard]] std::optional<DragKind> drag() const noexcept;
     /// Whether a button is down: nothing is hovered meanwhile.
-    [[nodiscard]] bool isPressed() const noexcept { return m_pan || m_rotate; }
+    [[nodiscard]] bool isPressed() const noexcept { return m_drag.has_value(); }
 
   private:
     struct Tap {
@@ -54,15 +53,12 @@ class MapInput {
     std::optional<MapCommands> onKey(const KeyPress& press, const Camera& camera);
     static std::optional<MapCommands> onKey(const KeyRelease& release);
 
-    MapCommands pan(ScreenPoint point, double seconds, const Camera& camera);
-    MapCommands endPan(double seconds);
+    MapCommands dragTo(ScreenPoint point, double seconds, const Camera& camera);
     MapCommands tap(ScreenPoint point, double seconds);
-    void releasePointer() noexcept;
 
     DoubleTap m_doubleTap;
-    std::optional<PanDrag> m_pan;
-    DragTrail m_trail; ///< of m_pan
-    std::optional<RotateDrag> m_rotate;
+    std::optional<Drag> m_drag; ///< of the pointer, or of one finger
+    DragTrail m_trail;          ///< of m_drag
     std::optional<Pinch> m_pinch;
     std::size_t m_fingers = 0;
     std::optional<Tap> m_lastTap;

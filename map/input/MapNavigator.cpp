@@ -104,16 +104,4 @@ void MapNavigator::resetNorth() {
     carryOut(StartRotation{0, 0});
 }
 
-Qt::CursorShape MapNavigator::dragCursor() const noexcept {
-    switch (m_input.drag()) {
-    case MapInput::Drag::pan:
-        return Qt::ClosedHandCursor;
-    case MapInput::Drag::rotate:
-        return Qt::SizeAllCursor;
-    case MapInput::Drag::none:
-        break;
-    }
-    return Qt::ArrowCursor;
-}
-
 } // namespace vasker

@@ -7,7 +7,6 @@
 
 #include <QObject>
 #include <QTimer>
-#include <Qt>
 
 #include <functional>
 #include <optional>
@@ -38,8 +37,6 @@ class MapNavigator : public QObject {
     /// Whether the user has not moved the camera for a moment.
     [[nodiscard]] bool isResting() const { return !m_rest.isActive(); }
     [[nodiscard]] const MapInput& input() const noexcept { return m_input; }
-    /// Of the pointer, while a button is down.
-    [[nodiscard]] Qt::CursorShape dragCursor() const noexcept;
 
     /// Picks the record within reach, or none; whether there is one. Set once.
     std::function<bool(const Pick&)> pick;

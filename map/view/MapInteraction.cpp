@@ -23,7 +23,7 @@ MapInteraction::MapInteraction(QQuickItem& map,
 
 bool MapInteraction::handle(const MapEvent& event) {
     const bool isHandled = m_navigator.handle(event);
-    if (m_navigator.input().drag() != MapInput::Drag::none) {
+    if (m_navigator.input().drag()) {
         m_hover.clear(); // Qt tells of no hovering while a button is pressed
     }
     refreshCursor();
@@ -70,11 +70,12 @@ void MapInteraction::openMenu(ScreenPoint point, double reach) {
 }
 
 void MapInteraction::refreshCursor() {
-    const bool isDragging = m_navigator.input().drag() != MapInput::Drag::none;
-    m_map.setKeepMouseGrab(isDragging);
-    m_map.setCursor(isDragging         ? m_navigator.dragCursor()
-                    : m_hover.record() ? Qt::PointingHandCursor
-                                       : Qt::ArrowCursor);
+    const auto drag = m_navigator.input().drag();
+    m_map.setKeepMouseGrab(drag.has_value());
+    m_map.setCursor(drag == DragKind::pan      ? Qt::ClosedHandCursor
+                    : drag == DragKind::rotate ? Qt::SizeAllCursor
+                    : m_hover.record()         ? Qt::PointingHandCursor
+                                               : Qt::ArrowCursor);
 }
 
 } // namespace vasker

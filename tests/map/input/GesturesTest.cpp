@@ -10,14 +10,14 @@ namespace {
 const Camera startCamera(canadaOverview, {960, 712});
 
 TEST(Gestures, APressThatHardlyMovesIsAClick) {
-    PanDrag drag({100, 100});
+    Drag drag(DragKind::pan, {100, 100});
     const Camera after = drag.moved(startCamera, {102, 101});
     EXPECT_TRUE(drag.isClick());
     EXPECT_EQ(after.center(), startCamera.center());
 }
 
 TEST(Gestures, ADragKeepsThePlaceUnderThePointer) {
-    PanDrag drag({100, 100});
+    Drag drag(DragKind::pan, {100, 100});
     Camera now = drag.moved(startCamera, {103, 100});
     now = drag.moved(now, {180, 130});
     EXPECT_FALSE(drag.isClick());
@@ -27,7 +27,7 @@ TEST(Gestures, ADragKeepsThePlaceUnderThePointer) {
 }
 
 TEST(Gestures, ADragThatReturnsToItsPlaceIsStillADrag) {
-    PanDrag drag({100, 100});
+    Drag drag(DragKind::pan, {100, 100});
     Camera now = drag.moved(startCamera, {150, 100});
     now = drag.moved(now, {100, 100});
     EXPECT_FALSE(drag.isClick());
@@ -51,7 +51,7 @@ TEST(Gestures, APinchKeepsThePlaceUnderBothFingers) {
 }
 
 TEST(Gestures, AFingerMayTrembleMoreThanAMouse) {
-    PanDrag drag({100, 100}, touchDragThreshold);
+    Drag drag(DragKind::pan, {100, 100}, touchDragThreshold);
     static_cast<void>(drag.moved(startCamera, {106, 106}));
     EXPECT_TRUE(drag.isClick());
     static_cast<void>(drag.moved(startCamera, {108, 108}));
@@ -84,7 +84,7 @@ TEST(Gestures, TheMapRotatesWithTheFingersWithoutAJump) {
 }
 
 TEST(Gestures, ATurningDragTurnsAcrossAndLeansUpwards) {
-    RotateDrag drag({100, 300});
+    Drag drag(DragKind::rotate, {100, 300});
     Camera now = drag.moved(startCamera, {102, 300});
     EXPECT_TRUE(drag.isClick());
     EXPECT_TRUE(now.isUpright());

@@ -64,7 +64,7 @@ TEST_F(MapInputTest, APressTakesTheFocusAndStopsTheCamera) {
 TEST_F(MapInputTest, AClickPicksWhereItWasPressed) {
     send(PointerPress{here, true, false});
     EXPECT_TRUE(send(PointerMove{nearby, 0.05}).empty());
-    EXPECT_EQ(input.drag(), MapInput::Drag::none);
+    EXPECT_EQ(input.drag(), std::nullopt);
     const MapCommands commands = send(PointerRelease{true, 0.1});
     const auto* const pick = only<Pick>(commands);
     ASSERT_NE(pick, nullptr);
@@ -76,7 +76,7 @@ TEST_F(MapInputTest, ADragKeepsWhatIsUnderThePointer) {
     const MapPoint under = camera.screenToWorld(here);
     send(PointerPress{here, true, false});
     send(PointerMove{elsewhere, 0.05});
-    EXPECT_EQ(input.drag(), MapInput::Drag::pan);
+    EXPECT_EQ(input.drag(), DragKind::pan);
     EXPECT_NEAR(camera.worldToScreen(under).x, elsewhere.x, 1e-6);
     EXPECT_NEAR(camera.worldToScreen(under).y, elsewhere.y, 1e-6);
 }
@@ -104,7 +104,7 @@ TEST_F(MapInputTest, ADragThatRestedBeforeItsEndStops) {
 TEST_F(MapInputTest, TheSecondButtonRotatesAndTilts) {
     send(PointerPress{here, false, false});
     send(PointerMove{{480, 250}, 0.05});
-    EXPECT_EQ(input.drag(), MapInput::Drag::rotate);
+    EXPECT_EQ(input.drag(), DragKind::rotate);
     EXPECT_NE(camera.pose().bearing, 0);
     EXPECT_GT(camera.pose().pitch, 0);
 }
@@ -112,7 +112,7 @@ TEST_F(MapInputTest, TheSecondButtonRotatesAndTilts) {
 TEST_F(MapInputTest, CtrlWithTheFirstButtonRotatesToo) {
     send(PointerPress{here, true, true});
     send(PointerMove{{480, 300}, 0.05});
-    EXPECT_EQ(input.drag(), MapInput::Drag::rotate);
+    EXPECT_EQ(input.drag(), DragKind::rotate);
 }
 
 TEST_F(MapInputTest, WhatIsLeftNearlyUprightIsSetUpright) {
@@ -186,7 +186,7 @@ TEST_F(MapInputTest, AFingerDragsAndATapPicks) {
     tap(here, 1, false);
     send(Touch{{here}, 5});
     send(Touch{{elsewhere}, 5.1});
-    EXPECT_EQ(input.drag(), MapInput::Drag::pan);
+    EXPECT_EQ(input.drag(), DragKind::pan);
     EXPECT_TRUE(contains<StartInertia>(send(Touch{{}, 5.2})));
 }
 
