@@ -11,13 +11,9 @@ bool isRelated(TileKey a, TileKey b) noexcept {
     return a.ancestor(a.zoom - zoom) == b.ancestor(b.zoom - zoom);
 }
 
-TileGeneration::TileGeneration(std::uint64_t generation,
-                               double ownScale,
-                               int ownZoom,
-                               const BasemapView& view)
-    : number(generation), scale(ownScale), zoom(ownZoom),
-      devicePixelsPerPixel(view.devicePixelsPerPixel), theme(view.theme), language(view.language),
-      overlayRevision(view.overlayRevision) {}
+TileGeneration::TileGeneration(double ownScale, int ownZoom, const BasemapView& view)
+    : scale(ownScale), zoom(ownZoom), devicePixelsPerPixel(view.devicePixelsPerPixel),
+      theme(view.theme), language(view.language), overlayRevision(view.overlayRevision) {}
 
 bool TileGeneration::looksLike(const BasemapView& view) const noexcept {
     return theme == view.theme && language == view.language &&
@@ -35,16 +31,13 @@ bool TileGeneration::coversBare(const std::vector<CoverTile>& cover) const {
     });
 }
 
-TileRequest TileGeneration::requestFor(TileKey key) const noexcept {
-    return {.key = key,
-            .devicePixelsPerMapPoint = std::ldexp(scale * devicePixelsPerPixel, key.zoom - zoom),
-            .devicePixelsPerPixel = devicePixelsPerPixel,
-            .theme = theme};
-}
-
 TileJob TileGeneration::jobFor(TileKey key, std::shared_ptr<TileProvider> provider) const {
     const auto known = bare.find(key);
-    return {.request = requestFor(key),
+    return {.request = {.key = key,
+                        .devicePixelsPerMapPoint =
+                            std::ldexp(scale * devicePixelsPerPixel, key.zoom - zoom),
+                        .devicePixelsPerPixel = devicePixelsPerPixel,
+                        .theme = theme},
             .language = language,
             .provider = std::move(provider),
             .overlay = overlay,

@@ -7,9 +7,9 @@
 #include "map/basemap/TileJob.h"
 #include "map/geometry/TileCover.h"
 #include "map/labels/MapLanguage.h"
-#include "map/style/TileRequest.h"
 #include "map/tileservice/ServiceTile.h"
 
+#include <atomic>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -19,7 +19,12 @@
 namespace vasker {
 
 struct TileGeneration {
-    std::uint64_t number;
+    /// A tile that the workers were asked for.
+    struct Request {
+        std::shared_ptr<std::atomic<bool>> begun;
+        bool isOutdated = false; ///< something came in after it was begun
+    };
+
     double scale; ///< logical pixels per map point
     int zoom;     ///< of its nearest tiles
     double devicePixelsPerPixel;
@@ -30,9 +35,11 @@ struct TileGeneration {
     std::map<TileKey, RasterTile> tiles;
     std::map<TileKey, RasterTile> bare; ///< painted, but for the overlay
     std::set<TileKey> outdated;         ///< of `tiles`: more is known of them now
+    std::map<TileKey, Request> requests;
+    bool wasAwaited = false; ///< a frame has waited for its overlay
 
     /// A generation for `view`, without tiles and overlay.
-    TileGeneration(std::uint64_t generation, double ownScale, int ownZoom, const BasemapView& view);
+    TileGeneration(double ownScale, int ownZoom, const BasemapView& view);
 
     /// Whether its tiles look as `view` asks, apart from scale and overlay.
     [[nodiscard]] bool looksLike(const BasemapView& view) const noexcept;
@@ -40,7 +47,6 @@ struct TileGeneration {
     [[nodiscard]] bool covers(const std::vector<CoverTile>& cover) const;
     /// The same, apart from the overlay.
     [[nodiscard]] bool coversBare(const std::vector<CoverTile>& cover) const;
-    [[nodiscard]] TileRequest requestFor(TileKey key) const noexcept;
     /// The work of one of its tiles.
     [[nodiscard]] TileJob jobFor(TileKey key, std::shared_ptr<TileProvider> provider) const;
 

@@ -60,8 +60,8 @@ void TilePyramid::prepare(const BasemapView& view) {
 
 BasemapFrame TilePyramid::compose(const BasemapView& view, std::chrono::nanoseconds now) {
     prepare(view);
-    if (m_pending && m_pending->number != m_awaited && lacksOnlyOverlay(*m_pending)) {
-        m_awaited = m_pending->number;
+    if (m_pending && !m_pending->wasAwaited && lacksOnlyOverlay(*m_pending)) {
+        m_pending->wasAwaited = true;
         m_library.workers().wait(this, overlayPatience);
         promote();
     }
@@ -86,7 +86,7 @@ bool TilePyramid::suits(const TileGeneration& generation) const {
 void TilePyramid::begin() {
     if (!m_world || !m_world->looksLike(m_view)) {
         const double scale = 0.5 * tilePixels / TileKey{worldZoom, 0, 0}.side();
-        m_world = std::make_unique<TileGeneration>(++m_lastNumber, scale, worldZoom, m_view);
+        m_world = std::make_shared<TileGeneration>(scale, worldZoom, m_view);
     }
     if (m_current && suits(*m_current)) {
         m_pending.reset();
@@ -96,7 +96,7 @@ void TilePyramid::begin() {
         return;
     }
     const double scale = m_view.camera.scale();
-    auto pending = std::make_unique<TileGeneration>(++m_lastNumber, scale, tileZoom(scale), m_view);
+    auto pending = std::make_shared<TileGeneration>(scale, tileZoom(scale), m_view);
     if (m_view.overlay) {
         pending->overlay = m_view.overlay(scale);
     }
@@ -145,6 +145,7 @@ void TilePyramid::promote() {
         return;
     }
     if (m_current && m_current->theme != m_pending->theme && m_view.fades) {
+        m_current->requests.clear();
         m_fade = Fade{std::move(m_current), std::nullopt};
     }
     m_current = std::move(m_pending);
@@ -152,12 +153,15 @@ void TilePyramid::promote() {
 
 /// Tells workers and services what is needed now.
 void TilePyramid::request() {
-    std::erase_if(m_requests, [](const auto& request) { return !request.second.begun->load(); });
+    for (TileGeneration* const each : generations()) {
+        std::erase_if(each->requests,
+                      [](const auto& entry) { return !entry.second.begun->load(); });
+    }
     std::vector<TileWorkers::Job> jobs;
-    TileGeneration& needed = m_pending ? *m_pending : *m_current;
+    const GenerationPointer& needed = m_pending ? m_pending : m_current;
     collect(needed, 0, jobs);
-    collect(*m_world, 0, jobs);
-    if (!lacksOnlyOverlay(needed)) {
+    collect(m_world, 0, jobs);
+    if (!lacksOnlyOverlay(*needed)) {
         collect(needed, paintedAhead, jobs);
     }
     if (!jobs.empty() || m_hasJobs) { // else every frame would wait for the workers' lock
@@ -165,19 +169,19 @@ void TilePyramid::request() {
         m_library.workers().setJobs(this, std::move(jobs));
     }
     std::vector<TileKey> seen;
-    std::ranges::transform(cover(needed, 0), std::back_inserter(seen), &CoverTile::key);
-    m_library.request(this, seen, needed.theme);
+    std::ranges::transform(cover(*needed, 0), std::back_inserter(seen), &CoverTile::key);
+    m_library.request(this, seen, needed->theme);
 }
 
 /// Adds a job for each tile that is missing or outdated and not being painted.
-void TilePyramid::collect(TileGeneration& generation,
+void TilePyramid::collect(const GenerationPointer& generation,
                           double margin,
                           std::vector<TileWorkers::Job>& jobs) {
-    for (const CoverTile& tile : cover(generation, margin)) {
-        if (generation.tiles.contains(tile.key) && !generation.outdated.contains(tile.key)) {
+    for (const CoverTile& tile : cover(*generation, margin)) {
+        if (generation->tiles.contains(tile.key) && !generation->outdated.contains(tile.key)) {
             continue;
         }
-        const auto [request, isNew] = m_requests.try_emplace({generation.number, tile.key});
+        const auto [request, isNew] = generation->requests.try_emplace(tile.key);
         if (isNew) {
             request->second.begun = std::make_shared<std::atomic<bool>>(false);
             jobs.push_back(job(generation, tile.key, request->second.begun));
@@ -185,26 +189,22 @@ void TilePyramid::collect(TileGeneration& generation,
     }
 }
 
-TileWorkers::Job TilePyramid::job(TileGeneration& generation,
+TileWorkers::Job TilePyramid::job(const GenerationPointer& generation,
                                   TileKey key,
                                   std::shared_ptr<std::atomic<bool>> begun) {
     return
         [this,
-         work = generation.jobFor(key, m_library.provider()),
-         number = generation.number,
+         work = generation->jobFor(key, m_library.provider()),
+         owner = std::weak_ptr(generation),
          begun = std::move(begun)](const std::stop_token& stop) mutable -> TileWorkers::Completion {
             begun->store(true);
-            return [this, number, begun, result = std::move(work).run(stop)]() mutable {
+            return [this, owner, begun, result = std::move(work).run(stop)]() mutable {
                 m_library.discard(result.undecodable);
-                takePainted(number, begun, std::move(result.tile));
+                if (const GenerationPointer alive = owner.lock()) {
+                    takePainted(*alive, begun, std::move(result.tile));
+                }
             };
         };
-}
-
-TileGeneration* TilePyramid::generation(std::uint64_t number) const {
-    const std::vector<TileGeneration*> all = generations();
-    const auto found = std::ranges::find(all, number, &TileGeneration::number);
-    return found == all.end() ? nullptr : *found;
 }
 
 std::vector<TileGeneration*> TilePyramid::generations() const {
@@ -213,34 +213,33 @@ std::vector<TileGeneration*> TilePyramid::generations() const {
     return all;
 }
 
-void TilePyramid::takePainted(std::uint64_t generationNumber,
+void TilePyramid::takePainted(TileGeneration& generation,
                               const std::shared_ptr<std::atomic<bool>>& begun,
                               RasterTile tile) {
-    const auto request = m_requests.find({generationNumber, tile.key});
-    if (request == m_requests.end() || request->second.begun != begun) {
+    const auto request = generation.requests.find(tile.key);
+    if (request == generation.requests.end() || request->second.begun != begun) {
         return; // it was begun while it was being requested anew
     }
-    const bool outdated = request->second.outdated;
-    m_requests.erase(request);
-    if (TileGeneration* const owner = generation(generationNumber)) {
-        const bool covered = covers(*owner);
-        tile.number = ++m_lastTile;
-        owner->take(std::move(tile), outdated);
-        if (!covered && covers(*owner)) {
-            Q_EMIT changed();
-        } else if (!m_news.isActive()) {
-            m_news.start();
-        }
+    const bool isOutdated = request->second.isOutdated;
+    generation.requests.erase(request);
+    const bool covered = covers(generation);
+    tile.number = ++m_lastTile;
+    generation.take(std::move(tile), isOutdated);
+    if (!covered && covers(generation)) {
+        Q_EMIT changed();
+    } else if (!m_news.isActive()) {
+        m_news.start();
     }
 }
 
 void TilePyramid::markOutdated(const ServiceTile& tile) {
     bool isConcerned = false;
-    for (TileGeneration* const each : {m_current.get(), m_pending.get()}) {
-        isConcerned = (each != nullptr && each->markOutdated(tile)) || isConcerned;
-    }
-    for (auto& [place, request] : m_requests) {
-        request.outdated = request.outdated || isRelated(place.second, tile.key);
+    for (TileGeneration* const each : generations()) {
+        // The coarse generation stays as it is.
+        isConcerned = (each != m_world.get() && each->markOutdated(tile)) || isConcerned;
+        for (auto& [key, request] : each->requests) {
+            request.isOutdated = request.isOutdated || isRelated(key, tile.key);
+        }
     }
     if (isConcerned) {
         Q_EMIT changed();

@@ -47,13 +47,9 @@ class TilePyramid : public QObject {
     void changed();
 
   private:
-    /// A tile that the workers were asked for.
-    struct Request {
-        std::shared_ptr<std::atomic<bool>> begun;
-        bool outdated = false; ///< something came in after it was begun
-    };
+    using GenerationPointer = std::shared_ptr<TileGeneration>;
     struct Fade {
-        std::unique_ptr<TileGeneration> old;
+        GenerationPointer old;
         std::optional<std::chrono::nanoseconds> since; ///< none: begins with the next frame
     };
 
@@ -66,28 +62,26 @@ class TilePyramid : public QObject {
     [[nodiscard]] bool isReadyToShow(const TileGeneration& generation);
     void promote();
     void request();
-    void collect(TileGeneration& generation, double margin, std::vector<TileWorkers::Job>& jobs);
+    void collect(const GenerationPointer& generation,
+                 double margin,
+                 std::vector<TileWorkers::Job>& jobs);
     [[nodiscard]] TileWorkers::Job
-    job(TileGeneration& generation, TileKey key, std::shared_ptr<std::atomic<bool>> begun);
-    void takePainted(std::uint64_t generation,
+    job(const GenerationPointer& generation, TileKey key, std::shared_ptr<std::atomic<bool>> begun);
+    void takePainted(TileGeneration& generation,
                      const std::shared_ptr<std::atomic<bool>>& begun,
                      RasterTile tile);
     void markOutdated(const ServiceTile& tile);
     [[nodiscard]] BasemapFrame show(std::chrono::nanoseconds now);
-    [[nodiscard]] TileGeneration* generation(std::uint64_t number) const;
     [[nodiscard]] std::vector<TileGeneration*> generations() const;
 
     TileLibrary& m_library;
     BasemapView m_view;
-    std::unique_ptr<TileGeneration> m_current; ///< in view; null before the first is ready
-    std::unique_ptr<TileGeneration> m_pending; ///< being painted, to become current; may be null
-    std::unique_ptr<TileGeneration> m_world;   ///< the coarse one below
+    GenerationPointer m_current; ///< in view; null before the first is ready
+    GenerationPointer m_pending; ///< being painted, to become current; may be null
+    GenerationPointer m_world;   ///< the coarse one below
     std::optional<Fade> m_fade;
-    std::map<std::pair<std::uint64_t, TileKey>, Request> m_requests; ///< by generation and tile
     bool m_hasJobs = false; ///< the workers may have jobs of ours that were not begun
     std::map<std::pair<int, double>, std::vector<CoverTile>> m_covers; ///< of m_view
-    std::uint64_t m_awaited = 0; ///< the generation whose overlay a frame has waited for
-    std::uint64_t m_lastNumber = 0;
     TileNumber m_lastTile = 0;
     QTimer m_news; ///< runs while there are tiles that no frame shows
 };

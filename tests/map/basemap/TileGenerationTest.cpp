@@ -17,7 +17,7 @@ TEST(TileGeneration, OnlyTilesNearTheViewKeepWhatANewOverlayIsPaintedOn) {
     constexpr TileKey near{3, 1, 1};
     constexpr TileKey far{3, 5, 5};
     constexpr TileKey farAndNew{3, 6, 5};
-    TileGeneration generation(1, 1, 3, BasemapView{});
+    TileGeneration generation(1, 3, BasemapView{});
     generation.tiles[near] = shownTile(near);
     generation.tiles[far] = shownTile(far);
     generation.tiles[farAndNew] = shownTile(farAndNew);
@@ -27,7 +27,7 @@ TEST(TileGeneration, OnlyTilesNearTheViewKeepWhatANewOverlayIsPaintedOn) {
     EXPECT_TRUE(generation.tiles[far].basemap.isNull());
     EXPECT_FALSE(generation.tiles[farAndNew].basemap.isNull());
 
-    TileGeneration next(2, 1, 3, BasemapView{});
+    TileGeneration next(1, 3, BasemapView{});
     next.takeOver(generation);
     EXPECT_TRUE(next.bare.contains(near));
     EXPECT_FALSE(next.bare.contains(far));
