@@ -22,10 +22,6 @@ std::string_view viewOf(const QByteArray& bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
 
-TileKey childOf(TileKey key, int number) {
-    return {key.zoom + 1, 2 * key.column + number % 2, 2 * key.row + number / 2};
-}
-
 void add(std::vector<Attribution>& attributions, Attribution attribution) {
     if (!attribution.text.isEmpty() &&
         std::ranges::find(attributions, attribution) == attributions.end()) {
@@ -113,7 +109,7 @@ std::vector<ServiceTile> TileProvider::requestsFor(TileKey key, BasemapTheme the
             requests.push_back({TileContent::imagery, key.ancestor(key.zoom - zoom)});
         } else {
             for (const int child : {0, 1, 2, 3}) {
-                requests.push_back({TileContent::imagery, childOf(key, child)});
+                requests.push_back({TileContent::imagery, key.child(child)});
             }
         }
     }
@@ -200,7 +196,7 @@ void TileProvider::readImagery(TileKey key, ProvidedTile& found) {
     auto archive = m_imageryArchives.take();
     std::vector<CreditedImagery> tiles;
     for (const int number : {0, 1, 2, 3}) {
-        if (auto child = imagery(childOf(key, number), archive.get(), found)) {
+        if (auto child = imagery(key.child(number), archive.get(), found)) {
             tiles.push_back(std::move(*child));
         }
     }

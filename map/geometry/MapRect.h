@@ -22,6 +22,10 @@ struct MapRect {
     /// Whether the two share a point; edges count. The null rectangle shares none.
     [[nodiscard]] bool intersects(const MapRect& other) const noexcept;
     [[nodiscard]] MapRect united(const MapRect& other) const noexcept;
+    /// As large, and `east` map points farther to the east.
+    [[nodiscard]] constexpr MapRect shifted(double east) const noexcept {
+        return {x + east, y, width, height};
+    }
     /// Smaller by `dx` on the left and on the right and by `dy` at the top and bottom; negative
     /// values make it larger.
     [[nodiscard]] constexpr MapRect inset(double dx, double dy) const noexcept {

@@ -19,12 +19,6 @@ Corners cornersOf(const Camera& camera, const MapRect& bounds) {
             camera.worldToPerspective({bounds.x, south})};
 }
 
-MapRect boundsOf(const CoverTile& tile) {
-    MapRect bounds = tile.key.bounds();
-    bounds.x += tile.offset;
-    return bounds;
-}
-
 /// Whether no edge of the view has all corners outside.
 bool isSeen(const Camera& camera, const Corners& corners, double margin) {
     const double right = camera.viewport().width + margin;
@@ -46,7 +40,7 @@ class Cover {
           m_nearest(camera.worldToPerspective(camera.visibleCorners()[2]).w) {}
 
     void add(TileKey key, double offset) {
-        const MapRect bounds = boundsOf({key, offset});
+        const MapRect bounds = key.bounds().shifted(offset);
         const Corners corners = cornersOf(m_camera, bounds);
         if (!isSeen(m_camera, corners, m_margin)) {
             return;
@@ -56,7 +50,7 @@ class Cover {
             return;
         }
         for (const int child : {0, 1, 2, 3}) {
-            add({key.zoom + 1, 2 * key.column + child % 2, 2 * key.row + child / 2}, offset);
+            add(key.child(child), offset);
         }
     }
 
@@ -110,7 +104,7 @@ int tileZoom(double scale) noexcept {
 }
 
 bool seesTile(const Camera& camera, const CoverTile& tile, double margin) {
-    return isSeen(camera, cornersOf(camera, boundsOf(tile)), margin);
+    return isSeen(camera, cornersOf(camera, tile.key.bounds().shifted(tile.offset)), margin);
 }
 
 std::vector<CoverTile> tileCover(const Camera& camera, int zoom, double margin) {

@@ -24,6 +24,10 @@ struct TileKey {
     [[nodiscard]] constexpr MapRect bounds() const noexcept {
         return {column * side(), row * side(), side(), side()};
     }
+    /// One of the four tiles of the next zoom in this one: 0 to 3, row by row.
+    [[nodiscard]] constexpr TileKey child(int number) const noexcept {
+        return {zoom + 1, 2 * column + number % 2, 2 * row + number / 2};
+    }
     /// The tile that holds this one, `levels` zooms up; 0 to zoom.
     [[nodiscard]] constexpr TileKey ancestor(int levels) const noexcept {
         return {zoom - levels, column >> levels, row >> levels};

@@ -1,6 +1,7 @@
 #include "map/records/NearRecords.h"
 
 #include "map/geometry/GreatCircle.h"
+#include "map/geometry/Segment.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,15 +14,6 @@ namespace {
 
 double squaredDistance(MapPoint a, MapPoint b) noexcept {
     return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
-}
-
-MapPoint nearestOfSegment(MapPoint from, MapPoint a, MapPoint b) noexcept {
-    const double dx = b.x - a.x;
-    const double dy = b.y - a.y;
-    const double square = dx * dx + dy * dy;
-    const double along =
-        square > 0 ? std::clamp(((from.x - a.x) * dx + (from.y - a.y) * dy) / square, 0.0, 1.0) : 0;
-    return {a.x + along * dx, a.y + along * dy};
 }
 
 /// 0 inside.
@@ -52,7 +44,10 @@ class Search {
             }
             const auto vertices = m_geometry.vertices(run);
             for (std::size_t end = 1; end < vertices.size(); ++end) {
-                const MapPoint place = nearestOfSegment(from, vertices[end - 1], vertices[end]);
+                const MapPoint a = vertices[end - 1];
+                const MapPoint b = vertices[end];
+                const double along = nearestOnSegment(from, a, b);
+                const MapPoint place{a.x + along * (b.x - a.x), a.y + along * (b.y - a.y)};
                 if (const double distance = squaredDistance(from, place); distance < least) {
                     least = distance;
                     nearest = {place.x + m_center.x - from.x, place.y};

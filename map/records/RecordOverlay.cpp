@@ -38,8 +38,7 @@ void forDotsIn(const MarkerLayout& layout,
                const Visit& visit) {
     const MapRect reached = bounds.inset(-margin, -margin);
     for (const double offset : worldCopyOffsets(reached)) {
-        MapRect around = reached;
-        around.x -= offset;
+        const MapRect around = reached.shifted(-offset);
         for (auto dot = layout.dots.rbegin(); dot != layout.dots.rend(); ++dot) {
             if (around.contains(dot->point)) {
                 visit(*dot, offset);
@@ -161,8 +160,7 @@ bool RecordOverlay::hasRoutesOf(const RecordOverlay& other, const MapRect& bound
     return std::ranges::all_of(m_loaded->geometry.runs(), [&](const RouteRun& run) {
         return m_routes[run.asset] == other.m_routes[run.asset] ||
                std::ranges::none_of(offsets, [&](double offset) {
-                   return bounds.intersects(
-                       {run.bounds.x + offset, run.bounds.y, run.bounds.width, run.bounds.height});
+                   return bounds.intersects(run.bounds.shifted(offset));
                });
     });
 }
