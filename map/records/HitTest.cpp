@@ -83,35 +83,19 @@ std::optional<AssetIndex> routeAt(ScreenPoint point,
                                   std::span<const RouteRun> runs,
                                   const HitScene& scene) {
     Nearest nearest(reach);
-    const MapRect around = areaAround(point, reach + halfWidth, scene.camera);
-    const auto tolerance = static_cast<float>(routeTolerancePixels / scene.camera.scale());
-    for (const double offset : worldCopyOffsets(around)) {
-        MapRect there = around;
-        there.x -= offset;
-        for (const RouteRun& run : runs) {
-            if (!scene.colors[run.asset] || !run.bounds.intersects(there)) {
-                continue;
-            }
-            const auto vertices = scene.geometry.vertices(run);
-            const auto detail = scene.geometry.detail(run);
-            std::optional<PerspectivePoint> last;
-            for (std::size_t i = 0; i < vertices.size(); ++i) {
-                if (detail[i] <= tolerance) {
-                    continue;
-                }
-                const PerspectivePoint next =
-                    scene.camera.worldToPerspective({vertices[i].x + offset, vertices[i].y});
-                if (last && last->w > 0 && next.w > 0) {
-                    const double distance =
-                        distanceToSegment(point,
-                                          {last->x / last->w, last->y / last->w},
-                                          {next.x / next.w, next.y / next.w});
-                    nearest.offer(run.asset, std::max(0.0, distance - halfWidth));
-                }
-                last = next;
-            }
-        }
-    }
+    LineView around = lineViewOf(scene.camera);
+    around.seen = areaAround(point, reach + halfWidth, scene.camera);
+    drawRouteLines(scene.geometry,
+                   runs,
+                   scene.colors,
+                   around,
+                   [&](AssetIndex asset, std::span<const ScreenPoint> line) {
+                       for (ScreenPoint start = line.front(); const ScreenPoint& end : line) {
+                           const double distance = distanceToSegment(point, start, end);
+                           nearest.offer(asset, std::max(0.0, distance - halfWidth));
+                           start = end;
+                       }
+                   });
     return nearest.asset();
 }
 

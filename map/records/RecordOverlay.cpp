@@ -99,8 +99,8 @@ void RecordOverlay::paintRoutes(QImage& image, const MapRect& bounds, double sca
                    m_loaded->geometry.runs(),
                    m_routes,
                    view,
-                   [&](Rgb color, std::span<const ScreenPoint> line) {
-                       const auto known = std::ranges::find(m_lineColors, color);
+                   [&](AssetIndex asset, std::span<const ScreenPoint> line) {
+                       const auto known = std::ranges::find(m_lineColors, *m_routes[asset]);
                        const auto place = static_cast<std::size_t>(known - m_lineColors.begin());
                        m_lines.cover(line, made(cores[place]), made(casings));
                    });

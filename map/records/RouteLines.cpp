@@ -52,11 +52,10 @@ pointBetween(const PerspectivePoint& a, const PerspectivePoint& b, double fracti
 /// Takes a line point by point and hands on the parts that the view shows.
 class LineCutter {
   public:
-    using Draw = std::function<void(Rgb, std::span<const ScreenPoint>)>;
-    LineCutter(const LineView& view, const Draw& draw) : m_view(view), m_draw(draw) {}
+    LineCutter(const LineView& view, const DrawLine& draw) : m_view(view), m_draw(draw) {}
 
-    void begin(Rgb color) {
-        m_color = color;
+    void begin(AssetIndex asset) {
+        m_asset = asset;
         m_hasLast = false;
     }
 
@@ -87,7 +86,7 @@ class LineCutter {
     void cut() {
         if (m_line.size() == 1 &&
             !Clip(m_line[0], {m_line[0].x + 1, m_line[0].y}, m_view).isEmpty()) {
-            m_draw(m_color, m_line);
+            m_draw(m_asset, m_line);
         }
         m_part.clear();
         for (std::size_t i = 0; i + 1 < m_line.size(); ++i) {
@@ -113,14 +112,14 @@ class LineCutter {
 
     void finishPart() {
         if (m_part.size() > 1) {
-            m_draw(m_color, m_part);
+            m_draw(m_asset, m_part);
         }
         m_part.clear();
     }
 
     const LineView& m_view;
-    const Draw& m_draw;
-    Rgb m_color{};
+    const DrawLine& m_draw;
+    AssetIndex m_asset = 0;
     std::vector<ScreenPoint> m_line;
     std::vector<ScreenPoint> m_part;
     PerspectivePoint m_last{};
@@ -129,24 +128,36 @@ class LineCutter {
 
 } // namespace
 
+LineView lineViewOf(const Camera& camera, double margin) {
+    const Viewport view = camera.viewport();
+    return {.project =
+                [&camera, margin](MapPoint point) {
+                    PerspectivePoint place = camera.worldToPerspective(point);
+                    place.x += margin * place.w;
+                    place.y += margin * place.w;
+                    return place;
+                },
+            .width = view.width + 2 * margin,
+            .height = view.height + 2 * margin,
+            .seen = camera.visibleRect(margin + lineReach),
+            .scale = camera.scale()};
+}
+
 void drawRouteLines(const RecordGeometry& geometry,
                     std::span<const RouteRun> runs,
                     const RouteColors& colors,
                     const LineView& view,
-                    const std::function<void(Rgb, std::span<const ScreenPoint>)>& draw) {
+                    const DrawLine& draw) {
     const auto tolerance = static_cast<float>(routeTolerancePixels / view.scale);
     LineCutter cutter(view, draw);
     for (const double offset : worldCopyOffsets(view.seen)) {
         for (const RouteRun& run : runs) {
-            const std::optional<Rgb>& color = colors[run.asset];
-            MapRect bounds = run.bounds;
-            bounds.x += offset;
-            if (!color || !bounds.intersects(view.seen)) {
+            if (!colors[run.asset] || !run.bounds.shifted(offset).intersects(view.seen)) {
                 continue;
             }
             const auto vertices = geometry.vertices(run);
             const auto detail = geometry.detail(run);
-            cutter.begin(*color);
+            cutter.begin(run.asset);
             for (std::size_t i = 0; i < vertices.size(); ++i) {
                 if (detail[i] > tolerance) {
                     cutter.add(view.project({vertices[i].x + offset, vertices[i].y}));

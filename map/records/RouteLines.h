@@ -32,12 +32,19 @@ struct LineView {
     double scale; ///< pixels per map point where the view is nearest
 };
 
-/// Calls `draw` with each line that `view` shows of `runs`: its places in pixels, no two alike in a
-/// row; one place for a line without extent. The places are valid during the call only.
+/// What `camera`, which outlives it, sees and `margin` pixels around that; (0, 0) is the corner of
+/// both.
+[[nodiscard]] LineView lineViewOf(const Camera& camera, double margin = 0);
+
+/// Takes a line of a record: its places in pixels, which are valid during the call only.
+using DrawLine = std::function<void(AssetIndex, std::span<const ScreenPoint>)>;
+
+/// Calls `draw` with each line that `view` shows of `runs`: no two places alike in a row; one place
+/// for a line without extent.
 void drawRouteLines(const RecordGeometry& geometry,
                     std::span<const RouteRun> runs,
                     const RouteColors& colors,
                     const LineView& view,
-                    const std::function<void(Rgb, std::span<const ScreenPoint>)>& draw);
+                    const DrawLine& draw);
 
 } // namespace vasker

@@ -131,26 +131,17 @@ LineStrip routeStrip(const RecordGeometry& geometry,
                      double margin,
                      double mostPixels) {
     LineStrip strip;
-    const Viewport view = camera.viewport();
-    const LineView screen{.project =
-                              [&camera, margin](MapPoint point) {
-                                  PerspectivePoint place = camera.worldToPerspective(point);
-                                  place.x += margin * place.w;
-                                  place.y += margin * place.w;
-                                  return place;
-                              },
-                          .width = view.width + 2 * margin,
-                          .height = view.height + 2 * margin,
-                          .seen = camera.visibleRect(margin + lineReach),
-                          .scale = camera.scale()};
-    drawRouteLines(
-        geometry, runs, colors, screen, [&](Rgb color, std::span<const ScreenPoint> line) {
-            mostPixels -= lineCost + screenLengthOf(line);
-            if (mostPixels >= 0) {
-                Pen pen(strip, color);
-                drawLine(pen, line);
-            }
-        });
+    drawRouteLines(geometry,
+                   runs,
+                   colors,
+                   lineViewOf(camera, margin),
+                   [&](AssetIndex asset, std::span<const ScreenPoint> line) {
+                       mostPixels -= lineCost + screenLengthOf(line);
+                       if (mostPixels >= 0) {
+                           Pen pen(strip, *colors[asset]);
+                           drawLine(pen, line);
+                       }
+                   });
     for (LineVertex& vertex : strip) {
         vertex.x -= static_cast<float>(margin);
         vertex.y -= static_cast<float>(margin);
