@@ -28,32 +28,25 @@ TileQuad tileQuad(const RasterTile& tile,
         return quad;
     }
     const double scale = tile.devicePixelsPerMapPoint;
-    const auto west = static_cast<double>(tile.pixels.x);
-    const auto north = static_cast<double>(tile.pixels.y);
     const double ratio = camera.scale() * devicePixelsPerPixel / scale;
-    if (camera.isUpright() && std::abs(ratio - 1) < scaleTolerance) {
-        const ScreenPoint focus = camera.focus();
-        const auto snapped = [devicePixelsPerPixel](double focusPixels, double centerPixels) {
-            return std::round(focusPixels * devicePixelsPerPixel - centerPixels);
-        };
-        const double x = west + snapped(focus.x, (camera.center().x - offset) * scale);
-        const double y = north + snapped(focus.y, camera.center().y * scale);
-        const auto corner = [devicePixelsPerPixel](double right, double down) -> PerspectivePoint {
-            return {right / devicePixelsPerPixel, down / devicePixelsPerPixel, 1};
-        };
-        quad.corners = {corner(x, y),
-                        corner(x + tile.pixels.width, y),
-                        corner(x + tile.pixels.width, y + tile.pixels.height),
-                        corner(x, y + tile.pixels.height)};
-        return quad;
-    }
-    const auto corner = [&](double right, double down) {
-        return camera.worldToPerspective({right / scale + offset, down / scale});
+    const bool keepsPixels = camera.isUpright() && std::abs(ratio - 1) < scaleTolerance;
+    const ScreenPoint focus = camera.focus();
+    const double left =
+        std::round(focus.x * devicePixelsPerPixel - (camera.center().x - offset) * scale);
+    const double top = std::round(focus.y * devicePixelsPerPixel - camera.center().y * scale);
+    const auto corner = [&](int right, int down) -> PerspectivePoint {
+        const auto x = static_cast<double>(tile.pixels.x + right);
+        const auto y = static_cast<double>(tile.pixels.y + down);
+        return keepsPixels ? PerspectivePoint{(left + x) / devicePixelsPerPixel,
+                                              (top + y) / devicePixelsPerPixel,
+                                              1}
+                           : camera.worldToPerspective({x / scale + offset, y / scale});
     };
-    quad.corners = {corner(west, north),
-                    corner(west + tile.pixels.width, north),
-                    corner(west + tile.pixels.width, north + tile.pixels.height),
-                    corner(west, north + tile.pixels.height)};
+    const PixelRect& size = tile.pixels;
+    quad.corners = {corner(0, 0),
+                    corner(size.width, 0),
+                    corner(size.width, size.height),
+                    corner(0, size.height)};
     return quad;
 }
 

@@ -224,26 +224,25 @@ void TileProvider::readImagery(TileKey key, ProvidedTile& found) {
 }
 
 std::optional<TileProvider::CreditedImagery>
-TileProvider::imagery(TileKey key, TileArchive* archive, ProvidedTile& found) {
+TileProvider::imagery(TileKey key, TileArchive* archive, ProvidedTile& provided) {
+    const auto credited = [key](const QByteArray& bytes, const Attribution& attribution) {
+        QImage image = decodedImagery(bytes);
+        return image.isNull()
+                   ? std::nullopt
+                   : std::optional(CreditedImagery{{key, std::move(image)}, attribution});
+    };
     const ServiceTile sent{TileContent::imagery, key};
     if (const auto held = received(sent)) {
-        if (QImage image = decodedImagery(held->bytes); !image.isNull()) {
-            Attribution attribution = attributionOf(sent);
-            return CreditedImagery{{key, std::move(image)}, std::move(attribution)};
+        if (auto found = credited(held->bytes, attributionOf(sent))) {
+            return found;
         }
-        forget(sent, held->revision, found);
+        forget(sent, held->revision, provided);
     }
     const auto stored = archive != nullptr ? archive->tile(key) : std::nullopt;
-    if (!stored) {
-        return std::nullopt;
-    }
-    QImage image = decodedImagery(
-        QByteArray::fromRawData(stored->data(), static_cast<qsizetype>(stored->size())));
-    if (image.isNull()) {
-        return std::nullopt;
-    }
-    Attribution attribution{QString::fromStdString(archive->attribution()), {}};
-    return CreditedImagery{{key, std::move(image)}, std::move(attribution)};
+    return stored ? credited(QByteArray::fromRawData(stored->data(),
+                                                     static_cast<qsizetype>(stored->size())),
+                             {QString::fromStdString(archive->attribution()), {}})
+                  : std::nullopt;
 }
 
 /// What was received has a source.
