@@ -15,18 +15,7 @@ BasemapTheme usualTheme(const QString& basemap, bool dark) noexcept {
 }
 
 BasemapTheme withHighContrast(BasemapTheme theme) noexcept {
-    switch (theme) {
-    case BasemapTheme::light:
-        return BasemapTheme::lightHighContrast;
-    case BasemapTheme::dark:
-        return BasemapTheme::darkHighContrast;
-    case BasemapTheme::satellite:
-        return BasemapTheme::satelliteHighContrast;
-    case BasemapTheme::hybrid:
-        return BasemapTheme::hybridHighContrast;
-    default:
-        return theme;
-    }
+    return static_cast<BasemapTheme>(static_cast<std::size_t>(theme) + basemapThemeCount / 2);
 }
 
 } // namespace

@@ -13,6 +13,7 @@ enum class BasemapTheme : std::uint8_t {
     dark,
     satellite,
     hybrid,
+    // The same in high contrast, in the same order.
     lightHighContrast,
     darkHighContrast,
     satelliteHighContrast,
