@@ -180,7 +180,7 @@ AssetIndex RecordListModel::recordIn(int row) const {
 }
 
 const OpenMapRelease::Asset& RecordListModel::asset(int row) const {
-    return m_records.loaded->index.release().assets[recordIn(row)];
+    return m_records.asset(recordIn(row));
 }
 
 QString RecordListModel::markup(const OpenMapRelease::Asset& asset) const {

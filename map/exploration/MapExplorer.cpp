@@ -82,8 +82,7 @@ bool MapExplorer::handleKey(const QKeyEvent& key) {
     }
     if (opens && m_current && modifiers == Qt::NoModifier) {
         if (!key.isAutoRepeat()) {
-            Q_EMIT picked(QString::fromStdString(
-                m_map->records().loaded->index.release().assets[*m_current].id));
+            Q_EMIT picked(QString::fromStdString(m_map->records().asset(*m_current).id));
         }
         return true;
     }
@@ -129,7 +128,7 @@ void MapExplorer::stand(const NearRecord& near) {
     m_current = near.asset;
     const Camera camera = m_map->resolvedCamera();
     m_map->hover()->hold(near.asset, camera.worldToScreen(near.place), camera);
-    tell(near);
+    Q_EMIT spoken(PlaceText::record(m_map->records().asset(near.asset), near));
 }
 
 void MapExplorer::leave() {
@@ -145,7 +144,7 @@ void MapExplorer::followView() {
         return;
     }
     leave();
-    if (m_isKeyMove && m_map->hasActiveFocus()) {
+    if (m_isKeyMove) {
         m_rest.start();
     }
 }
@@ -168,11 +167,6 @@ void MapExplorer::tellCenter() {
     if (std::hypot(seen.x - center.x, seen.y - center.y) <= nearPixels) {
         stand(inView.front());
     }
-}
-
-void MapExplorer::tell(const NearRecord& near) {
-    Q_EMIT spoken(
-        PlaceText::record(m_map->records().loaded->index.release().assets[near.asset], near));
 }
 
 } // namespace vasker

@@ -48,7 +48,6 @@ class MapExplorer : public QObject {
     void leave();
     void followView();
     void tellCenter();
-    void tell(const NearRecord& near);
 
     MapView* m_map = nullptr;
     std::optional<AssetIndex> m_current;

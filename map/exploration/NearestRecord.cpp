@@ -29,7 +29,7 @@ void NearestRecord::setMap(MapView* map) {
 
 void NearestRecord::go() {
     if (m_record) {
-        Q_EMIT moved(framing(m_map->records().loaded->index.release().assets[*m_record]));
+        Q_EMIT moved(framing(m_map->records().asset(*m_record)));
     }
 }
 
@@ -38,8 +38,7 @@ void NearestRecord::refresh() {
     const RecordSet& records = m_map->records();
     const auto near = isAnyInView(records, camera) ? std::nullopt : nearestRecord(records, camera);
     m_record = near ? std::optional(near->asset) : std::nullopt;
-    m_text = near ? PlaceText::nearest(records.loaded->index.release().assets[near->asset], *near)
-                  : QString();
+    m_text = near ? PlaceText::nearest(records.asset(near->asset), *near) : QString();
     m_degrees = near ? near->degrees - camera.pose().bearing : 0;
     Q_EMIT changed();
 }

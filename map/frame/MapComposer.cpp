@@ -57,7 +57,7 @@ std::vector<RecordLabel> MapComposer::recordLabels(const RecordFrame& records,
     for (const ShownPin& pin : records.shownPins) {
         RecordLabel label{pin.asset, pin.box, {}, pin.isHighlighted, pin.rank};
         if (pin.asset != state.unlabelled) {
-            label.text = QString::fromStdString(m_records.asset(pin.asset).name);
+            label.text = QString::fromStdString(m_records.records().asset(pin.asset).name);
         }
         labels.push_back(std::move(label));
     }

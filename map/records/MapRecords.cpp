@@ -71,16 +71,12 @@ void MapRecords::findHighlighted() {
     m_hoveredStrip.drop();
 }
 
-const OpenMapRelease::Asset& MapRecords::asset(AssetIndex index) const {
-    return m_records.loaded->index.release().assets[index];
-}
-
 QString MapRecords::idOf(std::optional<AssetIndex> index) const {
-    return index ? QString::fromStdString(asset(*index).id) : QString();
+    return index ? QString::fromStdString(m_records.asset(*index).id) : QString();
 }
 
 std::optional<Marker> MapRecords::markerOf(std::optional<AssetIndex> index) const {
-    if (!index || asset(*index).hasRoute()) {
+    if (!index || m_records.asset(*index).hasRoute()) {
         return std::nullopt;
     }
     return Marker{*index, m_records.loaded->geometry.points()[*index]};
@@ -125,7 +121,7 @@ void MapRecords::placeRoute(LineLayer& layer,
                             HeldStrip& held,
                             std::optional<AssetIndex> index,
                             const Camera& camera) const {
-    if (index && asset(*index).hasRoute()) {
+    if (index && m_records.asset(*index).hasRoute()) {
         const RecordGeometry& geometry = m_records.loaded->geometry;
         const HeldStrip::Placed placed =
             held.shown(geometry, geometry.runsOf(*index), m_routeColors, camera);

@@ -41,7 +41,6 @@ class MapRecords {
     [[nodiscard]] const QString& hovered() const noexcept { return m_hovered; }
 
     [[nodiscard]] const RecordSet& records() const noexcept { return m_records; }
-    [[nodiscard]] const OpenMapRelease::Asset& asset(AssetIndex index) const;
     /// Empty for no record.
     [[nodiscard]] QString idOf(std::optional<AssetIndex> index) const;
 

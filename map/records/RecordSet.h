@@ -22,6 +22,10 @@ struct RecordSet {
     std::shared_ptr<const LoadedRelease> loaded;             ///< null before anything is loaded
     std::shared_ptr<const std::vector<AssetIndex>> filtered; ///< in name order; null with `loaded`
 
+    /// One of all records; `loaded` is not null.
+    [[nodiscard]] const OpenMapRelease::Asset& asset(AssetIndex index) const {
+        return loaded->index.release().assets[index];
+    }
     friend bool operator==(const RecordSet&, const RecordSet&) = default;
 };
 

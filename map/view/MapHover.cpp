@@ -33,11 +33,11 @@ void MapHover::clear() {
 }
 
 QString MapHover::name() const {
-    return m_record ? paragraphText(m_records.asset(*m_record).name) : QString();
+    return m_record ? paragraphText(m_records.records().asset(*m_record).name) : QString();
 }
 
 QString MapHover::caption() const {
-    return m_record ? categoryLine(m_records.asset(*m_record)) : QString();
+    return m_record ? categoryLine(m_records.records().asset(*m_record)) : QString();
 }
 
 } // namespace vasker
