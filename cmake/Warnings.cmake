@@ -24,7 +24,7 @@ target_compile_definitions(vasker_qt_rules INTERFACE QT_NO_CAST_FROM_ASCII QT_NO
 # A target's code that Qt's tools generate is not ours to mend.
 function(vasker_quiet_generated_code target)
     get_target_property(sources ${target} SOURCES)
-    list(FILTER sources INCLUDE REGEX "_qmltyperegistrations.cpp$")
+    list(FILTER sources INCLUDE REGEX "_(qmltyperegistrations|qmlcache_loader).cpp$")
     set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
     foreach(generated IN ITEMS ${target}_qmlcache ${target}plugin ${target}plugin_init)
         if(TARGET ${generated})
