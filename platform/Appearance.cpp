@@ -15,6 +15,7 @@
 #include <QMap>
 #include <QPalette>
 #include <QQmlEngine>
+#include <QStyleHints>
 
 #include <algorithm>
 
@@ -31,6 +32,12 @@ const QString gnomeContrastGroup = QStringLiteral("org.gnome.desktop.a11y.interf
 using SettingsByGroup = QMap<QString, QVariantMap>;
 
 ColorScheme systemScheme() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    const Qt::ColorScheme scheme = QGuiApplication::styleHints()->colorScheme();
+    if (scheme != Qt::ColorScheme::Unknown) {
+        return scheme == Qt::ColorScheme::Dark ? ColorScheme::dark : ColorScheme::light;
+    }
+#endif
     const QPalette palette = QGuiApplication::palette();
     const bool lightText = palette.color(QPalette::WindowText).lightness() >
                            palette.color(QPalette::Window).lightness();
@@ -59,6 +66,12 @@ constexpr double mostTextScale = 2;
 
 Appearance::Appearance(const QDBusConnection& bus, QObject* parent) : QObject(parent), m_bus(bus) {
     qGuiApp->installEventFilter(this);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    connect(QGuiApplication::styleHints(),
+            &QStyleHints::colorSchemeChanged,
+            this,
+            &Appearance::changed);
+#endif
     if (!m_bus.isConnected()) {
         return;
     }
