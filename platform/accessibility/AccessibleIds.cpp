@@ -9,6 +9,8 @@
 #include <QDBusMetaType>
 #include <QDBusVariant>
 #include <QMap>
+#include <QQmlEngine>
+#include <QQmlProperty>
 #include <QTimer>
 
 namespace vasker {
@@ -128,11 +130,13 @@ Attributes attributesOf(const QAccessibleInterface& control) {
 QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
     const QString group = question.interface();
     const QString method = question.member();
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
     const QString id = identifier(control);
     if (!id.isEmpty() && group == propertiesInterface && method == u"Get" &&
         question.arguments() == QVariantList{accessible, QStringLiteral("AccessibleId")}) {
         return QVariant::fromValue(QDBusVariant(id));
     }
+#endif
     if (group == accessible && method == u"GetAttributes") {
         const Attributes attributes = attributesOf(control);
         return attributes.isEmpty() ? QVariant() : QVariant::fromValue(attributes);
@@ -155,10 +159,30 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
     return group == editableText ? edit(control, method, question.arguments()) : QVariant();
 }
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+// Qt asks for the interface of a control once, when a tool first comes to it, by the name of its
+// class and of each base. It has one of its own, which tells the identifier that is given here.
+QAccessibleInterface* identify(const QString& type, QObject* control) {
+    if (type == QLatin1StringView(control->metaObject()->className()) &&
+        control->objectName().startsWith(AccessibleIds::prefix)) {
+        const auto tell = [control] {
+            QQmlProperty(control, QStringLiteral("Accessible.id"), qmlContext(control))
+                .write(control->objectName());
+        };
+        QObject::connect(control, &QObject::objectNameChanged, control, tell);
+        tell();
+    }
+    return nullptr;
+}
+#endif
+
 } // namespace
 
 AccessibleIds::AccessibleIds() {
     qDBusRegisterMetaType<Attributes>();
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessible::installFactory(identify);
+#endif
     QAccessible::installActivationObserver(this);
     if (QAccessible::isActive()) {
         takePlace();
@@ -166,6 +190,9 @@ AccessibleIds::AccessibleIds() {
 }
 
 AccessibleIds::~AccessibleIds() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessible::removeFactory(identify);
+#endif
     QAccessible::removeActivationObserver(this);
     QDBusConnection bus(bridgeConnection);
     if (bus.isConnected() && bus.objectRegisteredAt(controlTree) == this) {

@@ -4,9 +4,10 @@
 // are in pixels of the screen; lets assistive tools set texts, and keeps them from pressing what is
 // disabled.
 //
-// Qt's bridge to that bus does none of it. This object takes the bridge's place there, answers
-// what the bridge does not know, and hands all else on to it. It relies on the names under which
-// the bridge is found; where it is not found so, everything stays as Qt has it.
+// Qt's bridge to that bus does none of it, apart from identifiers since Qt 6.8, which it is given
+// here. This object takes the bridge's place there, answers what the bridge does not know, and hands
+// all else on to it. It relies on the names under which the bridge is found; where it is not found
+// so, everything stays as Qt has it.
 
 #include <QAccessible>
 #include <QDBusConnection>

@@ -19,8 +19,10 @@ namespace vasker {
 
 namespace {
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
 /// ATSPI_LIVE_POLITE.
 constexpr int polite = 1;
+#endif
 
 constexpr std::chrono::milliseconds retryTime{250};
 constexpr int tries = 20;
@@ -99,6 +101,12 @@ void Announcer::send() {
 }
 
 bool Announcer::signal(const QDBusConnection& bus, const QString& text) const {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    Q_UNUSED(bus); // the bridge's
+    QAccessibleAnnouncementEvent event(window(), text);
+    QAccessible::updateAccessibility(&event);
+    return true;
+#else
     QAccessibleInterface* const source = QAccessible::queryAccessibleInterface(window());
     if (source == nullptr) {
         return false;
@@ -108,6 +116,7 @@ bool Announcer::signal(const QDBusConnection& bus, const QString& text) const {
         path, QStringLiteral("org.a11y.atspi.Event.Object"), QStringLiteral("Announcement"));
     message << QString() << polite << 0 << QVariant::fromValue(QDBusVariant(text)) << QVariantMap();
     return bus.send(message);
+#endif
 }
 
 void Announcer::showUnlessHeard(const QDBusConnection& bus, const QString& text) {

@@ -61,6 +61,38 @@ class Registry : public QDBusVirtualObject {
     int questions = 0;
 };
 
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+// Hears announcements as Qt's bridge does, which puts them on the bus.
+class Listener : public QObject {
+    Q_OBJECT
+
+  public:
+    Listener() {
+        listening = this;
+        QAccessible::setActive(true);
+        QAccessible::installUpdateHandler(hear);
+    }
+    ~Listener() override {
+        QAccessible::installUpdateHandler(nullptr);
+        QAccessible::setActive(false);
+    }
+    QStringList heard;
+    bool isPolite = true;
+    QAccessibleInterface* source = nullptr;
+
+  private:
+    static void hear(QAccessibleEvent* event) {
+        if (event->type() == QAccessible::Announcement) {
+            const auto* const announcement = static_cast<QAccessibleAnnouncementEvent*>(event);
+            listening->heard.append(announcement->message());
+            listening->isPolite &=
+                announcement->politeness() == QAccessible::AnnouncementPoliteness::Polite;
+            listening->source = announcement->accessibleInterface();
+        }
+    }
+    inline static Listener* listening = nullptr;
+};
+#else
 // Hears announcements as a screen reader does.
 class Listener : public QObject {
     Q_OBJECT
@@ -76,19 +108,21 @@ class Listener : public QObject {
                                                   SLOT(hear(QDBusMessage))));
     }
     QStringList heard;
-    QList<int> politeness;
-    QString source;
-    QString signature;
+    bool isPolite = true;
+    QAccessibleInterface* source = nullptr;
 
   public Q_SLOTS:
     void hear(const QDBusMessage& message) {
         const QVariantList arguments = message.arguments();
         heard.append(arguments.value(3).value<QDBusVariant>().variant().toString());
-        politeness.append(arguments.value(1).toInt());
-        source = message.path();
-        signature = message.signature();
+        isPolite &= arguments.value(1).toInt() == 1 && message.signature() == u"siiva{sv}";
+        const QString tree = QStringLiteral("/org/a11y/atspi/accessible/");
+        source = message.path().startsWith(tree)
+                     ? QAccessible::accessibleInterface(message.path().mid(tree.size()).toUInt())
+                     : nullptr;
     }
 };
+#endif
 
 class AnnouncerTest : public testing::Test {
   protected:
@@ -114,11 +148,8 @@ TEST_F(AnnouncerTest, ATextIsAnnouncedPolitelyForItsWindow) {
     announce("12 records");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !reader.heard.isEmpty(); }));
     EXPECT_EQ(reader.heard, QStringList{QStringLiteral("12 records")});
-    EXPECT_EQ(reader.politeness, QList<int>{1});
-    EXPECT_EQ(reader.signature, QStringLiteral("siiva{sv}"));
-    EXPECT_EQ(reader.source,
-              QStringLiteral("/org/a11y/atspi/accessible/%1")
-                  .arg(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&window))));
+    EXPECT_TRUE(reader.isPolite);
+    EXPECT_EQ(reader.source, QAccessible::queryAccessibleInterface(&window));
 }
 
 TEST_F(AnnouncerTest, AnEmptyTextIsNone) {
