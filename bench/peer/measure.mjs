@@ -63,6 +63,7 @@ const browser = await puppeteer.launch({
     executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
     args: ["--use-gl=angle", "--use-angle=swiftshader", "--enable-unsafe-swiftshader", "--window-size=960,748"],
     defaultViewport: { width: 960, height: 748 },
+    protocolTimeout: 0, // the gestures take minutes on a slow machine
 });
 try {
     const page = await browser.newPage();
