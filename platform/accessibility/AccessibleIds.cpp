@@ -160,17 +160,18 @@ QVariant answer(const QDBusMessage& question, QAccessibleInterface& control) {
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-// Qt asks for the interface of a control once, when a tool first comes to it, by the name of its
-// class and of each base. It has one of its own, which tells the identifier that is given here.
+// Qt asks for the interface of a control once, by the name of its class and of each base, and has
+// one of its own. What that is to tell is set later: here, setting it would make Qt ask again.
 QAccessibleInterface* identify(const QString& type, QObject* control) {
-    if (type == QLatin1StringView(control->metaObject()->className()) &&
-        control->objectName().startsWith(AccessibleIds::prefix)) {
+    if (type == QLatin1StringView(control->metaObject()->className())) {
         const auto tell = [control] {
-            QQmlProperty(control, QStringLiteral("Accessible.id"), qmlContext(control))
-                .write(control->objectName());
+            if (control->objectName().startsWith(AccessibleIds::prefix)) {
+                QQmlProperty(control, QStringLiteral("Accessible.id"), qmlContext(control))
+                    .write(control->objectName());
+            }
         };
         QObject::connect(control, &QObject::objectNameChanged, control, tell);
-        tell();
+        QMetaObject::invokeMethod(control, tell, Qt::QueuedConnection);
     }
     return nullptr;
 }
