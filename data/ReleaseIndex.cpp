@@ -77,17 +77,16 @@ std::vector<std::uint32_t> ReleaseIndex::matchingRanks(std::string_view query) c
     return all;
 }
 
-std::vector<std::size_t> ReleaseIndex::counts(std::string_view query) const {
+std::vector<std::size_t> ReleaseIndex::counts(std::span<const std::uint32_t> ranks) const {
     std::vector<std::size_t> counts(m_kinds.size());
-    for (const std::uint32_t rank : matchingRanks(query)) {
+    for (const std::uint32_t rank : ranks) {
         ++counts[m_kindIndices[rank]];
     }
     return counts;
 }
 
-std::vector<AssetIndex> ReleaseIndex::filtered(std::string_view query,
-                                               std::string_view kind) const {
-    std::vector<std::uint32_t> ranks = matchingRanks(query);
+std::vector<AssetIndex> ReleaseIndex::ofKind(std::vector<std::uint32_t> ranks,
+                                             std::string_view kind) const {
     if (kind != "all") {
         const auto index =
             static_cast<std::uint32_t>(std::ranges::find(m_kinds, kind) - m_kinds.begin());

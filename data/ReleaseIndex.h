@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -31,13 +32,23 @@ class ReleaseIndex {
     [[nodiscard]] const OpenMapRelease& release() const noexcept { return *m_release; }
     [[nodiscard]] const TextLocale& locale() const noexcept { return m_locale; }
 
-    /// Returns the records that match `query` and are of `kind` ("all" stands for every kind), in
-    /// name order. Records whose names are equal in that order are in file order.
-    [[nodiscard]] std::vector<AssetIndex> filtered(std::string_view query,
-                                                   std::string_view kind) const;
+    /// Returns the ranks of the records that match `query`, ascending. A rank is a place in name
+    /// order; records whose names are equal in that order are in file order.
+    [[nodiscard]] std::vector<std::uint32_t> matchingRanks(std::string_view query) const;
 
-    /// Returns for each of kinds() how many records of this kind match `query`.
-    [[nodiscard]] std::vector<std::size_t> counts(std::string_view query) const;
+    /// Returns the records of `ranks` that are of `kind` ("all" stands for every kind), in the same
+    /// order.
+    [[nodiscard]] std::vector<AssetIndex> ofKind(std::vector<std::uint32_t> ranks,
+                                                 std::string_view kind) const;
+
+    /// Returns for each of kinds() how many records of `ranks` are of this kind.
+    [[nodiscard]] std::vector<std::size_t> counts(std::span<const std::uint32_t> ranks) const;
+
+    /// Returns the records that match `query` and are of `kind`, in name order.
+    [[nodiscard]] std::vector<AssetIndex> filtered(std::string_view query,
+                                                   std::string_view kind) const {
+        return ofKind(matchingRanks(query), kind);
+    }
 
     /// Returns the first text of `record` that contains `foldedQuery`, a query after folded(). The
     /// text lives as long as the release. Nothing where filtered() leaves the record out, and for
@@ -55,9 +66,6 @@ class ReleaseIndex {
     [[nodiscard]] const FoldedTexts& texts() const noexcept { return m_texts; }
 
   private:
-    /// A rank is a place in name order. Returns those of the matching records, ascending.
-    [[nodiscard]] std::vector<std::uint32_t> matchingRanks(std::string_view query) const;
-
     std::shared_ptr<const OpenMapRelease> m_release; ///< owns the texts that m_byID refers to
     TextLocale m_locale;
     std::vector<std::string> m_kinds;

@@ -80,7 +80,7 @@ void checkIndex(std::string_view query,
     const ReleaseIndex index(release, locale);
     require(index.kinds() == kinds(*release));
     require(index.filtered(query, "all") == filtered(*release, query, "all", locale));
-    const std::vector<std::size_t> counts = index.counts(query);
+    const std::vector<std::size_t> counts = index.counts(index.matchingRanks(query));
     for (std::size_t kind = 0; kind < counts.size(); ++kind) {
         const auto found = index.filtered(query, index.kinds()[kind]);
         require(found.size() == counts[kind] || index.kinds()[kind] == "all");

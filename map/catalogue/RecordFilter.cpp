@@ -9,8 +9,8 @@ RecordFilter::RecordFilter(std::shared_ptr<const LoadedRelease> loaded, QObject*
     for (const std::string& kind : m_loaded->index.kinds()) {
         m_kinds.append(QString::fromStdString(kind));
     }
+    search();
     updateRecords();
-    updateCounts();
 }
 
 void RecordFilter::setQuery(const QString& query) {
@@ -18,13 +18,13 @@ void RecordFilter::setQuery(const QString& query) {
         return;
     }
     m_query = query;
-    const bool otherRecords = updateRecords();
-    const bool otherCounts = updateCounts();
-    if (otherRecords) {
+    const QList<int> counts = m_counts;
+    search();
+    if (updateRecords()) {
         Q_EMIT recordsChanged();
     }
     Q_EMIT queryChanged();
-    if (otherCounts) {
+    if (counts != m_counts) {
         Q_EMIT countsChanged();
     }
     Q_EMIT changed();
@@ -35,30 +35,28 @@ void RecordFilter::setKind(const QString& kind) {
         return;
     }
     m_kind = kind;
-    const bool otherRecords = updateRecords();
-    if (otherRecords) {
+    if (updateRecords()) {
         Q_EMIT recordsChanged();
     }
     Q_EMIT kindChanged();
     Q_EMIT changed();
 }
 
+void RecordFilter::search() {
+    m_matches = m_loaded->index.matchingRanks(m_query.toStdString());
+    m_counts.clear();
+    for (const std::size_t count : m_loaded->index.counts(m_matches)) {
+        m_counts.append(static_cast<int>(count));
+    }
+}
+
 bool RecordFilter::updateRecords() {
-    std::vector<AssetIndex> filtered =
-        m_loaded->index.filtered(m_query.toStdString(), m_kind.toStdString());
+    std::vector<AssetIndex> filtered = m_loaded->index.ofKind(m_matches, m_kind.toStdString());
     if (m_filtered && *m_filtered == filtered) {
         return false;
     }
     m_filtered = std::make_shared<const std::vector<AssetIndex>>(std::move(filtered));
     return true;
-}
-
-bool RecordFilter::updateCounts() {
-    QList<int> counts;
-    for (const std::size_t count : m_loaded->index.counts(m_query.toStdString())) {
-        counts.append(static_cast<int>(count));
-    }
-    return std::exchange(m_counts, counts) != counts;
 }
 
 } // namespace vasker

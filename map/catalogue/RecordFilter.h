@@ -9,6 +9,7 @@
 #include <QString>
 #include <QtQmlIntegration>
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -53,13 +54,15 @@ class RecordFilter : public QObject {
     void changed();
 
   private:
+    /// Finds what matches the query, and counts it by kind.
+    void search();
     /// Returns whether there are others than before.
     bool updateRecords();
-    bool updateCounts();
 
     std::shared_ptr<const LoadedRelease> m_loaded;
     QString m_query;
     QString m_kind;
+    std::vector<std::uint32_t> m_matches; ///< of m_query, as ReleaseIndex ranks them
     QList<QString> m_kinds;
     QList<int> m_counts;
     std::shared_ptr<const std::vector<AssetIndex>> m_filtered;
