@@ -5,12 +5,18 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QtQmlIntegration>
+#include <qqml.h>
 
 #include <string_view>
 
 namespace vasker {
 
 struct FoundText {
+    Q_GADGET
+    QML_VALUE_TYPE(foundText)
+    Q_PROPERTY(QString markup MEMBER markup)
+    Q_PROPERTY(QString spoken MEMBER spoken)
     Q_DECLARE_TR_FUNCTIONS(vasker::FoundText)
 
   public:

@@ -52,9 +52,8 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
     case TintRole:
         return static_cast<int>(color(record.kind));
     case FoundRole:
-        return FoundText::of(m_records.loaded->index, recordIn(index.row()), m_foldedQuery).markup;
-    case FoundTextRole:
-        return FoundText::of(m_records.loaded->index, recordIn(index.row()), m_foldedQuery).spoken;
+        return QVariant::fromValue(
+            FoundText::of(m_records.loaded->index, recordIn(index.row()), m_foldedQuery));
     case AccessibleRole:
         return tr("%1, %2, source period %3")
             .arg(paragraphText(record.name), categoryText(record.kind), lineText(record.asOf));
@@ -72,7 +71,6 @@ QHash<int, QByteArray> RecordListModel::roleNames() const {
             {SymbolRole, "symbol"},
             {TintRole, "tint"},
             {FoundRole, "found"},
-            {FoundTextRole, "foundText"},
             {AccessibleRole, "accessibleText"}};
 }
 
@@ -100,8 +98,7 @@ void RecordListModel::show(const RecordSet& records, const QString& query) {
     } else if (isOtherQuery) {
         foldQuery();
         if (!isEmpty()) {
-            Q_EMIT dataChanged(
-                index(0), index(rowCount() - 1), {MarkupRole, FoundRole, FoundTextRole});
+            Q_EMIT dataChanged(index(0), index(rowCount() - 1), {MarkupRole, FoundRole});
         }
     }
     if (isOtherQuery) {

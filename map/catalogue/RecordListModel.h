@@ -17,11 +17,9 @@ namespace vasker {
 class RecordListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
-    /// Where records and query come from; null: they are set one by one.
+    /// Where records and query come from; null: there are records without a query.
     Q_PROPERTY(vasker::RecordFilter* filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(vasker::RecordSet records READ records WRITE setRecords NOTIFY recordsChanged)
-    /// What was searched for; decides which part of a name is set in bold.
-    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
     /// The id of the picked record; empty: none.
     Q_PROPERTY(QString selection READ selection WRITE setSelection NOTIFY selectionChanged)
     /// The row of the picked record, -1 where it has none.
@@ -39,8 +37,7 @@ class RecordListModel : public QAbstractListModel {
         CategoryRole,   ///< `category`: the category's label and the source period
         SymbolRole,     ///< `symbol`: the icon's name
         TintRole,       ///< `tint`: the number of a PaletteColor
-        FoundRole,      ///< `found`: where else the match is, as styled text, or empty
-        FoundTextRole,  ///< `foundText`: the same in a sentence for assistive tools
+        FoundRole,      ///< `found`: where else the match is, a FoundText
         AccessibleRole, ///< `accessibleText`: the row in one sentence for assistive tools
     };
 
@@ -54,9 +51,8 @@ class RecordListModel : public QAbstractListModel {
     void setFilter(RecordFilter* filter);
     [[nodiscard]] const RecordSet& records() const noexcept { return m_records; }
     void setRecords(const RecordSet& records) { show(records, m_query); }
-    [[nodiscard]] const QString& query() const noexcept { return m_query; }
-    void setQuery(const QString& query) { show(m_records, query); }
-    /// Sets both, and announces each row once.
+    /// Sets the records and what was searched for, which decides which part of a name is set in
+    /// bold; announces each row once.
     void show(const RecordSet& records, const QString& query);
     [[nodiscard]] const QString& selection() const noexcept { return m_selection; }
     void setSelection(const QString& selection);

@@ -16,8 +16,7 @@ T.ItemDelegate {
     required property string category
     required property string symbol
     required property int tint
-    required property string found
-    required property string foundText
+    required property foundText found
     required property string accessibleText
 
     // How many rows the list has, and which of them this is, for assistive tools.
@@ -44,7 +43,7 @@ T.ItemDelegate {
     Accessible.role: Accessible.ListItem
     Accessible.ignored: root.kept
     Accessible.name: root.accessibleText
-    Accessible.description: root.foundText
+    Accessible.description: root.found.spoken
     Accessible.selectable: true
     Accessible.selected: root.selected
     Accessible.focusable: true
@@ -131,9 +130,9 @@ T.ItemDelegate {
             text: root.category
         }
         CaptionLine {
-            visible: root.found.length > 0
+            visible: root.found.markup.length > 0
             textFormat: Text.StyledText
-            text: root.found
+            text: root.found.markup
         }
     }
     // In an item of its own: a handler makes its item take every button of the mouse.
