@@ -11,20 +11,21 @@
 namespace vasker {
 
 void MapRecords::setRecords(const RecordSet& records) {
-    if (records.loaded != m_records.loaded) {
-        m_pins.forget();
-    }
+    const bool isOtherRelease = records.loaded != m_records.loaded;
     m_records = records;
     m_markers = m_records.loaded ? markersByPriority(m_records) : std::vector<Marker>();
     m_layouts.clear();
-    refreshColors();
+    if (isOtherRelease) {
+        refreshColors();
+    }
+    refreshShown();
     findHighlighted();
 }
 
 void MapRecords::setTheme(BasemapTheme theme) {
     m_theme = theme;
-    m_pins.forget();
     refreshColors();
+    refreshShown();
 }
 
 void MapRecords::setSelection(const QString& id) {
@@ -38,21 +39,25 @@ void MapRecords::setHovered(const QString& id) {
 }
 
 void MapRecords::refreshColors() {
+    m_pins.reset();
+    m_colors.clear();
+    if (m_records.loaded) {
+        const MapTheme& theme = mapTheme(m_theme);
+        for (const auto& asset : m_records.loaded->index.release().assets) {
+            m_colors.push_back(rgbOf(theme.record(color(asset.kind))));
+        }
+    }
+}
+
+void MapRecords::refreshShown() {
     m_selectedStrip.drop();
     m_hoveredStrip.drop();
-    m_colors.clear();
-    m_routeColors.clear();
     ++m_revision;
-    if (!m_records.loaded) {
-        return;
-    }
-    const MapTheme& theme = mapTheme(m_theme);
-    for (const auto& asset : m_records.loaded->index.release().assets) {
-        m_colors.push_back(rgbOf(theme.record(color(asset.kind))));
-    }
-    m_routeColors.resize(m_colors.size());
-    for (const AssetIndex asset : *m_records.filtered) {
-        m_routeColors[asset] = m_colors[asset];
+    m_routeColors.assign(m_colors.size(), std::nullopt);
+    if (m_records.loaded) {
+        for (const AssetIndex asset : *m_records.filtered) {
+            m_routeColors[asset] = m_colors[asset];
+        }
     }
 }
 
@@ -189,8 +194,10 @@ RecordFrame MapRecords::compose(const Camera& camera,
         m_markerFrame = markerFrame(
             *shown, {markerOf(m_hoveredAsset), markerOf(m_selectedAsset)}, drawing, camera);
         makeWay(m_markerFrame, names);
-        frame.pins.sheets.push_back(
-            m_pins.sprites(m_markerFrame, *m_records.loaded, m_theme, devicePixels));
+        if (!m_pins || m_pins->image().devicePixelRatio() != devicePixels) {
+            m_pins.emplace(m_records.loaded->index.kinds(), m_theme, devicePixels);
+        }
+        frame.pins.sheets.push_back(pinSprites(m_markerFrame, *m_records.loaded, *m_pins));
         frame.shownPins = shownPins(m_markerFrame);
         frame.dots = dotBoxes(m_markerFrame);
     }

@@ -73,6 +73,7 @@ class MapRecords {
 
   private:
     void refreshColors();
+    void refreshShown();
     void findHighlighted();
     [[nodiscard]] std::shared_ptr<const MarkerLayout> layout(double scale);
     [[nodiscard]] const MarkerLayout* layoutOf(const TileOverlay* painted) const;
@@ -99,8 +100,8 @@ class MapRecords {
     std::vector<std::weak_ptr<const RecordOverlay>> m_overlays; ///< those that were made and live
     HeldStrip m_selectedStrip;
     HeldStrip m_hoveredStrip;
-    MarkerFrame m_markerFrame; ///< as last composed
-    RecordPins m_pins;
+    MarkerFrame m_markerFrame;      ///< as last composed
+    std::optional<PinAtlas> m_pins; ///< none: to be made
 };
 
 } // namespace vasker

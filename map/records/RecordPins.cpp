@@ -97,18 +97,11 @@ pinShapes(const MarkerFrame& frame, const LoadedRelease& release, BasemapTheme t
     return shapes;
 }
 
-SpriteSheet RecordPins::sprites(const MarkerFrame& frame,
-                                const LoadedRelease& release,
-                                BasemapTheme theme,
-                                double devicePixels) {
-    if (!m_atlas || m_devicePixels != devicePixels) {
-        m_atlas.emplace(release.index.kinds(), theme, devicePixels);
-        m_devicePixels = devicePixels;
-    }
-    SpriteSheet sheet{m_atlas->image(), {}};
+SpriteSheet
+pinSprites(const MarkerFrame& frame, const LoadedRelease& release, const PinAtlas& atlas) {
+    SpriteSheet sheet{atlas.image(), {}};
     forEachPin(frame, [&](const PlacedMarker& pin, PinState state) {
-        sheet.sprites.push_back(
-            {cornerOf(pin, state), m_atlas->region(kindOf(pin, release), state)});
+        sheet.sprites.push_back({cornerOf(pin, state), atlas.region(kindOf(pin, release), state)});
     });
     return sheet;
 }

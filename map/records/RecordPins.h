@@ -10,7 +10,6 @@
 #include "map/records/MarkerFrame.h"
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -37,20 +36,8 @@ void makeWay(MarkerFrame& frame, std::span<const ScreenRect> names);
 [[nodiscard]] std::vector<Shape>
 pinShapes(const MarkerFrame& frame, const LoadedRelease& release, BasemapTheme theme);
 
-class RecordPins {
-  public:
-    /// The pins at `devicePixels` per logical pixel. The atlas lasts until forget() or until
-    /// another density is asked for.
-    [[nodiscard]] SpriteSheet sprites(const MarkerFrame& frame,
-                                      const LoadedRelease& release,
-                                      BasemapTheme theme,
-                                      double devicePixels);
-    /// The release or the theme is another one.
-    void forget() { m_atlas.reset(); }
-
-  private:
-    std::optional<PinAtlas> m_atlas; ///< none: to be made; for the density below
-    double m_devicePixels = 0;
-};
+/// The pins as sprites of `atlas`, which was made for the kinds of `release`.
+[[nodiscard]] SpriteSheet
+pinSprites(const MarkerFrame& frame, const LoadedRelease& release, const PinAtlas& atlas);
 
 } // namespace vasker
