@@ -18,11 +18,4 @@ void PointGrid::insert(MapPoint point) {
     m_points.push_back(point);
 }
 
-std::size_t PointGrid::bucketOf(std::int64_t column, std::int64_t row) const {
-    // Two odd constants (from the golden ratio and from the square root of two) mix the two axes.
-    const std::uint64_t mixed = static_cast<std::uint64_t>(column) * 0x9E37'79B9'7F4A'7C15U ^
-                                static_cast<std::uint64_t>(row) * 0xB504'F333'F9DE'6485U;
-    return (mixed >> 32U) & (m_first.size() - 1);
-}
-
 } // namespace vasker

@@ -18,8 +18,9 @@ class PointGrid {
 
     void insert(MapPoint point);
 
-    /// Whether `test` is true for any point that stands nearer than a cell's size to `place`,
-    /// across and down. Points farther away are offered to `test` now and then.
+    /// Whether `test(point, number)` is true for any point that stands nearer than a cell's size to
+    /// `place`, across and down. Points are numbered from 0 as they were inserted; some are offered
+    /// twice, and some that are farther away.
     template <typename Test>
     [[nodiscard]] bool anyNear(MapPoint place, Test test) const {
         const std::int64_t column = columnOf(place);
@@ -27,7 +28,7 @@ class PointGrid {
         for (std::int64_t r = row - 1; r <= row + 1; ++r) {
             for (std::int64_t c = column - 1; c <= column + 1; ++c) {
                 for (std::uint32_t i = m_first[bucketOf(c, r)]; i != none; i = m_next[i]) {
-                    if (test(m_points[i])) {
+                    if (test(m_points[i], std::size_t{i})) {
                         return true;
                     }
                 }
@@ -45,7 +46,12 @@ class PointGrid {
     [[nodiscard]] std::int64_t rowOf(MapPoint point) const {
         return static_cast<std::int64_t>(std::floor(point.y / m_cellHeight));
     }
-    [[nodiscard]] std::size_t bucketOf(std::int64_t column, std::int64_t row) const;
+    [[nodiscard]] std::size_t bucketOf(std::int64_t column, std::int64_t row) const {
+        // Two odd constants (from the golden ratio and from the square root of two) mix the axes.
+        const std::uint64_t mixed = static_cast<std::uint64_t>(column) * 0x9E37'79B9'7F4A'7C15U ^
+                                    static_cast<std::uint64_t>(row) * 0xB504'F333'F9DE'6485U;
+        return (mixed >> 32U) & (m_first.size() - 1);
+    }
 
     double m_cellWidth;
     double m_cellHeight;

@@ -20,7 +20,7 @@ class PinSpacing {
 
     /// Places a pin at `point` if there is room.
     bool place(MapPoint point) {
-        const bool isCrowded = m_placed.anyNear(point, [&](MapPoint other) {
+        const bool isCrowded = m_placed.anyNear(point, [&](MapPoint other, std::size_t) {
             return std::abs(point.x - other.x) < m_width && std::abs(point.y - other.y) < m_height;
         });
         if (!isCrowded) {
@@ -40,7 +40,7 @@ class PinSpacing {
 class DotCover {
   public:
     DotCover(double scale, std::size_t expected)
-        : m_scale(scale), m_drawn(gridFor(scale, expected)), m_quiet(gridFor(scale, expected)) {
+        : m_scale(scale), m_drawn(largest / scale, largest / scale, expected) {
         for (std::size_t i = 0; i < m_circle.size(); ++i) {
             const double angle = 2 * std::numbers::pi * static_cast<double>(i) /
                                  static_cast<double>(m_circle.size());
@@ -53,34 +53,29 @@ class DotCover {
         const MapPoint point = marker.point;
         const double radius = (dotRadiusOf(marker) + dotCasing) / m_scale;
         m_near.clear();
-        collect(m_drawn, point, dotRadius);
-        collect(m_quiet, point, quietDotRadius);
+        static_cast<void>(m_drawn.anyNear(point, [&](MapPoint other, std::size_t number) {
+            m_near.push_back({other, m_radii[number]});
+            return false;
+        }));
         const bool isHidden =
             isCovered(point) && std::all_of(m_circle.begin(), m_circle.end(), [&](MapPoint offset) {
                 return isCovered({point.x + radius * offset.x, point.y + radius * offset.y});
             });
         if (!isHidden) {
-            (marker.isQuiet ? m_quiet : m_drawn).insert(point);
+            m_drawn.insert(point);
+            m_radii.push_back(radius);
         }
         return !isHidden;
     }
 
   private:
+    static constexpr double largest = 2 * (dotRadius + dotCasing); ///< dot, in logical pixels
+
     struct Disc {
         MapPoint center;
         double radius; ///< map points
     };
 
-    [[nodiscard]] static PointGrid gridFor(double scale, std::size_t expected) {
-        const double width = 2 * (dotRadius + dotCasing) / scale;
-        return {width, width, expected};
-    }
-    void collect(const PointGrid& drawn, MapPoint place, double radius) {
-        static_cast<void>(drawn.anyNear(place, [&](MapPoint other) {
-            m_near.push_back({other, (radius + dotCasing) / m_scale});
-            return false;
-        }));
-    }
     [[nodiscard]] bool isCovered(MapPoint place) {
         const auto covers = [&](const Disc& dot) {
             const double dx = place.x - dot.center.x;
@@ -98,8 +93,8 @@ class DotCover {
     double m_scale; ///< logical pixels per map point
     std::array<MapPoint, 32> m_circle{};
     PointGrid m_drawn;
-    PointGrid m_quiet;
-    std::vector<Disc> m_near; ///< the drawn dots around the one in question
+    std::vector<double> m_radii; ///< of the drawn dots, map points
+    std::vector<Disc> m_near;    ///< the drawn dots around the one in question
 };
 
 } // namespace

@@ -25,12 +25,17 @@ TEST(PointGrid, FindsExactlyThePointsWithinACell) {
         for (const MapPoint point : points) {
             expected = expected || isNear(point);
         }
-        ASSERT_EQ(grid.anyNear(asked, isNear), expected);
+        ASSERT_EQ(grid.anyNear(asked,
+                               [&](MapPoint point, std::size_t number) {
+                                   EXPECT_EQ(point, points[number]);
+                                   return isNear(point);
+                               }),
+                  expected);
     }
 }
 
 TEST(PointGrid, AnEmptyGridHasNothingNear) {
-    EXPECT_FALSE(PointGrid(1, 1, 0).anyNear({0, 0}, [](MapPoint) { return true; }));
+    EXPECT_FALSE(PointGrid(1, 1, 0).anyNear({0, 0}, [](MapPoint, std::size_t) { return true; }));
 }
 
 TEST(PointGrid, TakesMorePointsThanExpected) {
@@ -38,7 +43,9 @@ TEST(PointGrid, TakesMorePointsThanExpected) {
     for (int i = 0; i < 100; ++i) {
         grid.insert({i * 10.0, 0});
     }
-    EXPECT_TRUE(grid.anyNear({990, 0}, [](MapPoint point) { return point.x == 990; }));
+    EXPECT_TRUE(grid.anyNear({990, 0}, [](MapPoint point, std::size_t number) {
+        return point.x == 990 && number == 99;
+    }));
 }
 
 } // namespace
