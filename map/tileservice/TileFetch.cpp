@@ -19,14 +19,12 @@ TileFetch::TileFetch(QNetworkAccessManager& network,
     // Where the network's thread waits, since nothing is read before the end; it may wait a little
     // earlier, and too much must be seen to be too much.
     reply->setReadBufferSize(2 * m_mostBytes + 100'000);
-    QObject::connect(reply, &QNetworkReply::metaDataChanged, &m_time, [this] {
+    const auto hear = [this] {
         m_silence.start();
         checkLength();
-    });
-    QObject::connect(reply, &QNetworkReply::readyRead, &m_time, [this] {
-        m_silence.start();
-        checkLength();
-    });
+    };
+    QObject::connect(reply, &QNetworkReply::metaDataChanged, &m_time, hear);
+    QObject::connect(reply, &QNetworkReply::readyRead, &m_time, hear);
     QObject::connect(reply, &QNetworkReply::finished, &m_time, [this] {
         const QNetworkReply::NetworkError error = m_reply->error();
         // Of the errors only those of the content, that is of the status, come with a whole

@@ -216,12 +216,13 @@ void TileService::settle(const ServiceTile& tile, Request& request) {
         break;
     case TileVerdict::busy:
     case TileVerdict::refused:
-        m_hosts.failed(
-            request.address, request.started, Clock::now(), retryAfter(response.retryAfter, now));
-        settleFailure(tile, request, found);
-        break;
     case TileVerdict::unreachable:
-        m_hosts.unreachable(request.address, request.started, Clock::now());
+        m_hosts.failed(request.address,
+                       request.started,
+                       Clock::now(),
+                       retryAfter(response.retryAfter, now),
+                       found == TileVerdict::unreachable ? TileServiceHosts::Failure::noResponse
+                                                         : TileServiceHosts::Failure::response);
         settleFailure(tile, request, found);
         break;
     }

@@ -31,32 +31,20 @@ void TileServiceHosts::succeeded(const QUrl& address) {
 void TileServiceHosts::failed(const QUrl& address,
                               Clock::time_point started,
                               Clock::time_point now,
-                              std::optional<std::chrono::seconds> asked) {
-    fail(address, started, now, asked, false);
-}
-
-void TileServiceHosts::unreachable(const QUrl& address,
-                                   Clock::time_point started,
-                                   Clock::time_point now) {
-    fail(address, started, now, std::nullopt, true);
-}
-
-void TileServiceHosts::fail(const QUrl& address,
-                            Clock::time_point started,
-                            Clock::time_point now,
-                            std::optional<std::chrono::seconds> asked,
-                            bool isUnreachable) {
+                              std::optional<std::chrono::seconds> asked,
+                              Failure failure) {
     Host& host = m_hosts[address.authority()];
     if (host.failures == 0 || started >= host.failedAt) {
         ++host.failures;
         host.failedAt = now;
-        host.isUnreachable = isUnreachable;
+        host.failure = failure;
     }
     host.delayedUntil = std::max(host.delayedUntil, now + retryDelay(host.failures, asked, m_rule));
 }
 
 void TileServiceHosts::networkReturned() {
-    std::erase_if(m_hosts, [](const auto& entry) { return entry.second.isUnreachable; });
+    std::erase_if(m_hosts,
+                  [](const auto& entry) { return entry.second.failure == Failure::noResponse; });
 }
 
 } // namespace vasker

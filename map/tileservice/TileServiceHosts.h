@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include <chrono>
+#include <cstdint>
 #include <map>
 #include <optional>
 
@@ -25,30 +26,25 @@ class TileServiceHosts {
     [[nodiscard]] Clock::time_point delayedUntil(const QUrl& address) const;
 
     void succeeded(const QUrl& address);
-    /// A request that was started at `started` failed at `now`. Requests that ran together and fail
-    /// together are one failure.
+    enum class Failure : std::uint8_t { response, noResponse };
+    /// A request that was started at `started` failed at `now`; the service `asked` for a pause.
+    /// Requests that ran together and fail together are one failure.
     void failed(const QUrl& address,
                 Clock::time_point started,
                 Clock::time_point now,
-                std::optional<std::chrono::seconds> asked);
+                std::optional<std::chrono::seconds> asked,
+                Failure failure = Failure::response);
     /// Ends the pauses that were due to missing responses; called when the network is back.
     void networkReturned();
-    /// As failed(), where there was no response at all.
-    void unreachable(const QUrl& address, Clock::time_point started, Clock::time_point now);
 
   private:
     struct Host {
         int failures = 0;
-        bool isUnreachable = false;
+        Failure failure = Failure::response;
         Clock::time_point failedAt;
         Clock::time_point delayedUntil;
     };
     [[nodiscard]] const Host* host(const QUrl& address) const;
-    void fail(const QUrl& address,
-              Clock::time_point started,
-              Clock::time_point now,
-              std::optional<std::chrono::seconds> asked,
-              bool isUnreachable);
 
     RetryRule m_rule;
     std::map<QString, Host> m_hosts; ///< those that failed last; as many as there are sources

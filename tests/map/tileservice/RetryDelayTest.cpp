@@ -89,7 +89,7 @@ TEST_F(TileServiceHostsTest, ASuccessEndsIt) {
 }
 
 TEST_F(TileServiceHostsTest, TheNetworkEndsOnlyThePausesThatItMade) {
-    hosts.unreachable(one, at(0s), at(0s));
+    hosts.failed(one, at(0s), at(0s), std::nullopt, TileServiceHosts::Failure::noResponse);
     hosts.failed(otherHost, at(0s), at(0s), 100s);
     hosts.networkReturned();
     EXPECT_LT(hosts.delayedUntil(one), at(0s));
