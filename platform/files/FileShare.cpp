@@ -55,11 +55,6 @@ void FileShare::saveCopy(const QString& path, QQuickWindow* window) {
                   [path](const QString& target) { return copyWhole(path, target); });
 }
 
-void FileShare::copyTo(const QString& path, const QUrl& place) {
-    setMessage({});
-    m_saving.saveAt(place, [path](const QString& target) { return copyWhole(path, target); });
-}
-
 void FileShare::showInFolder(const QString& path) {
     setMessage({});
     if (!m_bus.isConnected()) {

@@ -35,9 +35,6 @@ class FileShare : public QObject {
 
     /// Lets the user say where, then saves a copy of the file at `path` there.
     Q_INVOKABLE void saveCopy(const QString& path, QQuickWindow* window);
-    /// Saves a copy of the file at `path` at `place`, byte for byte. Other programs see what was
-    /// there before or the whole copy, never a part; after a failure, what was there before.
-    void copyTo(const QString& path, const QUrl& place);
     /// Shows the file at `path` in the file manager, else opens its folder.
     Q_INVOKABLE void showInFolder(const QString& path);
     /// Puts the file at `path` on the clipboard, for file managers to paste; texts get its path.

@@ -1,5 +1,6 @@
 #include "platform/files/FileShare.h"
 
+#include "platform/files/FileCopy.h"
 #include "tests/platform/PlayedDesktop.h"
 
 #include <QClipboard>
@@ -7,6 +8,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -34,6 +36,14 @@ class SharedFile {
 QByteArray bytesAt(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+/// What is said of a copy of the file at `path` that was saved at `place`.
+QString saidOfCopy(const QString& path, const QUrl& place) {
+    FileSaving saving(noBus());
+    QSignalSpy ended(&saving, &FileSaving::ended);
+    saving.saveAt(place, [path](const QString& target) { return copyWhole(path, target); });
+    return ended.isEmpty() && !ended.wait() ? QString() : ended[0][1].toString();
 }
 
 TEST(FileShare, ACopyIsSavedWhereThePortalSays) {
@@ -79,18 +89,15 @@ TEST(FileShare, ACopyTakesThePlaceOfAnotherFile) {
     ASSERT_TRUE(there.open(QIODevice::WriteOnly));
     there.write("what was there, and is longer", 29);
     there.close();
-    FileShare share(noBus());
-    share.copyTo(file.path(), QUrl::fromLocalFile(place));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
+    EXPECT_EQ(saidOfCopy(file.path(), QUrl::fromLocalFile(place)),
+              QStringLiteral("Saved to ") + place);
     EXPECT_EQ(bytesAt(place), file.bytes);
 }
 
 TEST(FileShare, ACopyOntoItselfChangesNothing) {
     const SharedFile file;
-    FileShare share(noBus());
-    share.copyTo(file.path(), QUrl::fromLocalFile(file.path()));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
-    EXPECT_EQ(share.message(), QStringLiteral("Saved to ") + file.path());
+    EXPECT_EQ(saidOfCopy(file.path(), QUrl::fromLocalFile(file.path())),
+              QStringLiteral("Saved to ") + file.path());
     EXPECT_EQ(bytesAt(file.path()), file.bytes);
 }
 
@@ -101,23 +108,19 @@ TEST(FileShare, WhatIsThereStaysWhereACopyFails) {
     ASSERT_TRUE(there.open(QIODevice::WriteOnly));
     there.write("there", 5);
     there.close();
-    FileShare share(noBus());
-    share.copyTo(file.beside(QStringLiteral("absent")), QUrl::fromLocalFile(place));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
-    EXPECT_TRUE(share.message().startsWith(QStringLiteral("The file could not be saved: ")));
+    EXPECT_TRUE(saidOfCopy(file.beside(QStringLiteral("absent")), QUrl::fromLocalFile(place))
+                    .startsWith(QStringLiteral("The file could not be saved: ")));
     EXPECT_EQ(bytesAt(place), QByteArray("there"));
 }
 
 TEST(FileShare, APlaceThatCannotBeWrittenIsToldOf) {
     const SharedFile file;
-    FileShare share(noBus());
     for (const QUrl& place : {QUrl::fromLocalFile(file.beside(QStringLiteral("absent/copy"))),
                               QUrl::fromLocalFile(file.folder.path()),
                               QUrl(QStringLiteral("sftp://example.org/copy")),
                               QUrl()}) {
-        share.copyTo(file.path(), place);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !share.message().isEmpty(); }));
-        EXPECT_TRUE(share.message().startsWith(QStringLiteral("The file could not be saved: ")));
+        EXPECT_TRUE(saidOfCopy(file.path(), place)
+                        .startsWith(QStringLiteral("The file could not be saved: ")));
     }
     EXPECT_EQ(QDir(file.folder.path()).count(), 3U);
 }
