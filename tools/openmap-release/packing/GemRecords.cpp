@@ -5,6 +5,7 @@
 #include "tools/openmap-release/packing/FactWriter.h"
 
 #include <cmath>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -20,22 +21,30 @@ std::vector<double> distancesAlong(const OpenMapRelease::Route& route) {
     return distances;
 }
 
+/// What a terminal's and a pipeline's record have in common; `row` is a GemTerminal or a
+/// GemPipeline.
+OpenMapRelease::Asset
+recordOf(const auto& row, std::string_view kind, TableRole table, const Citations& citations) {
+    const Citation& citation = citations.at(table);
+    OpenMapRelease::Asset asset;
+    asset.id = "GEM-" + row.id;
+    asset.name = row.name;
+    asset.kind = kind;
+    asset.jurisdiction = row.jurisdiction;
+    asset.sourceID = citation.sourceID;
+    asset.status = row.status;
+    asset.asOf = citation.period;
+    asset.reportedCompany = row.owner;
+    FactWriter(asset, citations).add(table, row.facts);
+    return asset;
+}
+
 } // namespace
 
 OpenMapRelease::Asset terminalRecord(const GemTerminal& terminal, const Citations& citations) {
-    const Citation& citation = citations.at(TableRole::terminals);
-    OpenMapRelease::Asset asset;
-    asset.id = "GEM-" + terminal.id;
-    asset.name = terminal.name;
-    asset.kind = "lng_plant";
-    asset.jurisdiction = terminal.jurisdiction;
-    asset.sourceID = citation.sourceID;
-    asset.status = terminal.status;
-    asset.asOf = citation.period;
-    asset.reportedCompany = terminal.owner;
+    OpenMapRelease::Asset asset = recordOf(terminal, "lng_plant", TableRole::terminals, citations);
     asset.longitude = terminal.position.value().longitude;
     asset.latitude = terminal.position.value().latitude;
-    FactWriter(asset, citations).add(TableRole::terminals, terminal.facts);
     return asset;
 }
 
@@ -44,23 +53,13 @@ OpenMapRelease::Asset pipelineRecord(const GemPipeline& pipeline,
                                      TableRole table,
                                      const std::string& routesPeriod,
                                      const Citations& citations) {
-    const Citation& citation = citations.at(table);
-    OpenMapRelease::Asset asset;
-    asset.id = "GEM-" + pipeline.id;
-    asset.name = pipeline.name;
-    asset.kind = "pipeline";
-    asset.jurisdiction = pipeline.jurisdiction;
-    asset.sourceID = citation.sourceID;
-    asset.status = pipeline.status;
-    asset.asOf = citation.period;
-    asset.reportedCompany = pipeline.owner;
+    OpenMapRelease::Asset asset = recordOf(pipeline, "pipeline", table, citations);
     asset.routes = std::move(routes.routes);
     const OpenMapRelease::Position middle = middleVertex(asset.routes);
     asset.longitude = middle.longitude;
     asset.latitude = middle.latitude;
-    const FactWriter facts(asset, citations);
-    facts.add(table, pipeline.facts);
-    facts.add(table, routesPeriod, "Route basis", "GEM route repository, " + routesText(asset));
+    FactWriter(asset, citations)
+        .add(table, routesPeriod, "Route basis", "GEM route repository, " + routesText(asset));
     return asset;
 }
 
