@@ -8,9 +8,8 @@
 // Any thread.
 //
 // - `schemaVersion` is an integer of 64 bits; 1.0 and 1e0 are of the wrong type.
-// - Coordinates are any JSON numbers. The library refuses integers beyond 64 bits and numbers
-// beyond
-//   the range of a double.
+// - Coordinates are any JSON numbers, of which the library refuses integers beyond 64 bits and
+//   numbers that no double holds.
 // - A position that has not two numbers is read as {NaN, NaN}, which JSON cannot express, so that
 //   ReleaseRules refuses it in its turn.
 // - Of a repeated key only the last value counts; the others only have to be JSON.

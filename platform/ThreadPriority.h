@@ -1,4 +1,5 @@
 #pragma once
+// How much of the processor a thread gets beside others.
 
 namespace vasker {
 

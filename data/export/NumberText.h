@@ -1,4 +1,6 @@
 #pragma once
+// Numbers as exported files and the release tool write them.
+
 #include <array>
 #include <charconv>
 #include <string>

@@ -59,7 +59,10 @@ void TileLibrary::setOffline(bool isOffline) {
 }
 
 void TileLibrary::discard(const std::vector<ServiceTile>& tiles) {
-    for (const ServiceTile& tile : m_service != nullptr ? tiles : std::vector<ServiceTile>()) {
+    if (m_service == nullptr) {
+        return;
+    }
+    for (const ServiceTile& tile : tiles) {
         QMetaObject::invokeMethod(m_service,
                                   [service = m_service, tile] { service->discard(tile); });
     }

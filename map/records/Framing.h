@@ -1,4 +1,6 @@
 #pragma once
+// What the camera shows of a record that was picked.
+
 #include "data/OpenMapRelease.h"
 #include "map/geometry/Camera.h"
 

@@ -1,4 +1,6 @@
 #pragma once
+// The refusal of a file that is to be packed.
+
 #include <cstddef>
 #include <stdexcept>
 #include <string>

@@ -1,4 +1,6 @@
 #pragma once
+// Ids of the National Pollutant Release Inventory.
+
 #include <algorithm>
 #include <string>
 

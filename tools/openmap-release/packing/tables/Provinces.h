@@ -1,4 +1,6 @@
 #pragma once
+// The provinces and territories of Canada.
+
 #include <optional>
 #include <string_view>
 
