@@ -10,6 +10,7 @@
 #include <bitset>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
@@ -132,11 +133,24 @@ class Place {
     std::size_t m_index = 0;
 };
 
-/// The JSON library's error together with the place of the value.
-class LocatedError final : public simdjson::simdjson_error, public OpenMapRelease::Located {
+/// The JSON library's error.
+class LibraryError : public simdjson::simdjson_error {
+  public:
+    using simdjson_error::simdjson_error;
+
+    /// Without the name of the error, with which the texts of newer versions begin.
+    [[nodiscard]] const char* what() const noexcept override {
+        const char* const text = simdjson_error::what();
+        const char* const end = text + std::strspn(text, "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_");
+        return std::strncmp(end, ": ", 2) == 0 ? end + 2 : text;
+    }
+};
+
+/// It together with the place of the value.
+class LocatedError final : public LibraryError, public OpenMapRelease::Located {
   public:
     LocatedError(simdjson::error_code error, const Place& place)
-        : simdjson_error(error), Located(place.text()) {}
+        : LibraryError(error), Located(place.text()) {}
 };
 
 template <typename Type>
@@ -291,7 +305,7 @@ Record readTree(const std::string& paddedJson, Context& context) {
         if (error == simdjson::MEMALLOC) {
             throw std::bad_alloc();
         }
-        throw simdjson::simdjson_error(error);
+        throw LibraryError(error);
     }
     Record record;
     readInto(record, root, Place(context));
@@ -300,6 +314,9 @@ Record readTree(const std::string& paddedJson, Context& context) {
 
 template <typename Record>
 Record read(const std::string& paddedJson, Context& context) {
+    if (paddedJson.starts_with("\xEF\xBB\xBF")) { // which newer versions of the library pass over
+        throw LibraryError(simdjson::TAPE_ERROR);
+    }
     std::optional<Record> record = readStream<Record>(paddedJson, context);
     return record ? std::move(*record) : readTree<Record>(paddedJson, context);
 }

@@ -83,7 +83,18 @@ TEST(ReleaseReader, CoordinatesMayBeAnyJSONNumber) {
 TEST(ReleaseReader, ANumberBeyondTheRangeOfTheLibraryIsItsError) {
     const std::string text = "Problem while parsing a number";
     EXPECT_EQ(assetOutcome(assetWithRoutes("[[[1e400, 0]]]")), text);
-    EXPECT_EQ(assetOutcome(assetWithRoutes("[[[" + std::string(5'000'000, '9') + ", 0]]]")), text);
+    // Newer versions of the library have their own text for an integer of more than 64 bits.
+    const std::string huge =
+        assetOutcome(assetWithRoutes("[[[" + std::string(5'000'000, '9') + ", 0]]]"));
+    EXPECT_TRUE(huge == text ||
+                huge == "Big integer value that cannot be represented using 64 bits")
+        << huge;
+}
+
+TEST(ReleaseReader, AByteOrderMarkIsNoJSON) {
+    EXPECT_EQ(releaseOutcome("\xEF\xBB\xBF" + encode(makeRelease())),
+              "The JSON document has an improper structure: missing or superfluous commas, braces, "
+              "missing keys, etc.");
 }
 
 TEST(ReleaseReader, APositionThatIsNoPairIsReadAsNoNumbers) {
