@@ -16,11 +16,7 @@ namespace {
 
 class ControlGlyphs : public testing::Test {
   protected:
-    static void SetUpTestSuite() {
-        s_before = QGuiApplication::font();
-        installInterfaceFont();
-    }
-    static void TearDownTestSuite() { QGuiApplication::setFont(s_before); }
+    static void SetUpTestSuite() { installInterfaceFont(); }
 
     static QString around(char32_t character) {
         return u'a' + QString::fromUcs4(&character, 1) + u'b';
@@ -33,8 +29,6 @@ class ControlGlyphs : public testing::Test {
         painter.drawText(QPointF(10, 25), text);
         return image;
     }
-
-    static inline QFont s_before;
 };
 
 TEST_F(ControlGlyphs, WhatIsToBeObeyedShowsNothing) {
@@ -46,6 +40,19 @@ TEST_F(ControlGlyphs, WhatIsToBeObeyedShowsNothing) {
     for (const char32_t character : invisible) {
         EXPECT_EQ(drawn(around(character)), letters) << std::hex << std::uint32_t{character};
     }
+}
+
+TEST_F(ControlGlyphs, AnotherFontOfTheDesktopChangesTheSizeAlone) {
+    const QFont usual = QGuiApplication::font();
+    QFont desktops(QStringLiteral("DejaVu Sans"));
+    desktops.setPixelSize(22);
+    QGuiApplication::setFont(desktops);
+    const QFont font = QGuiApplication::font();
+    EXPECT_EQ(font.pixelSize(), 22);
+    EXPECT_EQ(font.families().constFirst(), usual.families().constFirst());
+    EXPECT_EQ(font.families().constLast(), usual.families().constLast());
+    EXPECT_TRUE(font.families().contains(QStringLiteral("DejaVu Sans")));
+    QGuiApplication::setFont(usual);
 }
 
 TEST_F(ControlGlyphs, WhatIsToBeSeenShows) {

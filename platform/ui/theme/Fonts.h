@@ -4,7 +4,8 @@
 namespace vasker {
 
 /// Makes Inter, or the nearest to it that is installed, the application's font, in which control
-/// characters show nothing. Needs a QGuiApplication; called before the first window.
+/// characters show nothing; its size is that of the desktop's font. Needs a QGuiApplication; called
+/// before the first window.
 void installInterfaceFont();
 
 } // namespace vasker
