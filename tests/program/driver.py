@@ -110,6 +110,12 @@ class Control:
             return False
 
 
+def identifier(node):
+    """Empty where it has none, for which newer versions of Qt tell the names of classes."""
+    id = node.get_accessible_id() or ""
+    return "" if id.startswith("QGuiApplication.") else id
+
+
 def read(node, parent=None, depth=0):
     """The tree below a node; None where it is gone by now."""
     try:
@@ -119,7 +125,7 @@ def read(node, parent=None, depth=0):
             parent,
             OLDER_ROLES.get(role, role),
             node.get_name() or "",
-            node.get_accessible_id() or "",
+            identifier(node),
             node.get_description() or "",
             frozenset(each.value_nick for each in node.get_state_set().get_states()),
         )
