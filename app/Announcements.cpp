@@ -85,8 +85,7 @@ void Announcements::tellPicked(const QString& id) {
     const ReleaseRecord record = m_root->workspace()->recordOf(id);
     if (record.asset) {
         const OpenMapRelease::Asset& asset = record.release->assets[*record.asset];
-        Q_EMIT spoken(
-            tr("Picked: %1, %2").arg(paragraphText(asset.name), categoryText(asset.kind)));
+        Q_EMIT spoken(tr("Picked: %1, %2").arg(nameText(asset.name), categoryText(asset.kind)));
     }
 }
 

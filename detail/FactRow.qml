@@ -13,25 +13,24 @@ SectionRow {
     Accessible.role: Accessible.Grouping
     Accessible.name: root.fact.spokenText
 
-    Label {
+    WholeText {
         width: parent.width
-        wrapMode: Text.Wrap
         textStyle: Theme.type.caption
         color: Theme.colors.text2
-        text: root.fact.label
+        content: root.fact.label
         spoken: true
         Accessible.role: Accessible.Paragraph
     }
-    SelectableText {
+    SelectableWholeText {
         // A number has no direction: Qt would align it at the far edge of a mirrored window. A text that
         // sets its own width is laid out twice.
         anchors.left: parent.left
-        width: LayoutMirroring.enabled ? Math.min(Math.ceil(implicitWidth), parent.width) : parent.width
+        width: LayoutMirroring.enabled && !isLong ? Math.min(Math.ceil(implicitWidth), parent.width) : parent.width
         horizontalAlignment: TextEdit.AlignLeft
         textStyle: root.fact.found ? Theme.type.headline : Theme.type.body
-        text: root.fact.value
+        content: root.fact.value
         Accessible.description: root.fact.found ? qsTr("Found by the search") : ""
-        activeFocusOnTab: false
+        isTabStop: false
         keyTarget: root.keyTarget
     }
     LinkText {

@@ -16,10 +16,10 @@ std::optional<QString> linkAddress(std::string_view text) {
 }
 
 OpenMapCredit OpenMapCredit::of(const OpenMapRelease::Source& source) {
-    return {.publisher = paragraphText(source.publisher),
-            .attribution = paragraphText(source.attribution),
-            .conditions = paragraphText(source.conditions),
-            .modifications = paragraphText(source.modifications),
+    return {.publisher = wholeText(source.publisher),
+            .attribution = wholeText(source.attribution),
+            .conditions = wholeText(source.conditions),
+            .modifications = wholeText(source.modifications),
             .sourceLink = linkAddress(source.sourceURL),
             .licenceLink = linkAddress(source.licenceURL)};
 }

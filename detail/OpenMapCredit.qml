@@ -11,9 +11,8 @@ SectionRow {
     padding: 15
     spacing: 6
 
-    component Words: Label {
+    component Words: WholeText {
         width: parent.width
-        wrapMode: Text.Wrap
         textStyle: Theme.type.caption
         color: Theme.colors.text2
         spoken: true
@@ -23,18 +22,18 @@ SectionRow {
     Words {
         textStyle: Theme.type.publisher
         color: Theme.colors.text
-        text: root.credit.publisher
+        content: root.credit.publisher
     }
     Words {
         textStyle: Theme.type.footnote
         color: Theme.colors.text
-        text: root.credit.attribution
+        content: root.credit.attribution
     }
     Words {
-        text: root.credit.conditions
+        content: root.credit.conditions
     }
     Words {
-        text: root.credit.modifications
+        content: root.credit.modifications
     }
     Flow {
         width: parent.width

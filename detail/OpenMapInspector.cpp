@@ -50,10 +50,10 @@ OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
                                       const std::optional<SearchedText>& found) {
     using Field = SearchedText::Field;
     const auto isFoundBy = [&](Field field) { return found && found->field == field; };
-    OpenMapInspector inspector{.name = paragraphText(asset.name),
+    OpenMapInspector inspector{.name = wholeText(asset.name),
                                .subtitle = recordSubtitle(asset),
-                               .period = lineText(asset.asOf),
-                               .status = lineText(asset.status),
+                               .period = wholeText(asset.asOf),
+                               .status = wholeText(asset.status),
                                .company = {},
                                .idFound = isFoundBy(Field::id),
                                .companyFound = isFoundBy(Field::company),
@@ -64,12 +64,12 @@ OpenMapInspector OpenMapInspector::of(const OpenMapRelease& release,
                                .credits = {},
                                .location = locationText(asset)};
     if (asset.reportedCompany) {
-        inspector.company = lineText(*asset.reportedCompany);
+        inspector.company = wholeText(*asset.reportedCompany);
     }
     inspector.facts.reserve(asset.facts.size());
     for (const Fact& fact : asset.facts) {
         inspector.facts.push_back({.label = factLabel(fact.label),
-                                   .value = toQString(fact.value),
+                                   .value = wholeText(fact.value),
                                    .link = provenance(release, fact)});
     }
     if (isFoundBy(Field::fact)) {

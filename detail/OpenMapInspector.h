@@ -7,7 +7,6 @@
 #include "data/SearchedTexts.h"
 #include "detail/OpenMapCredit.h"
 #include "platform/ValueList.h"
-#include "platform/ui/text/TextPieces.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -31,8 +30,6 @@ struct OpenMapFact {
     /// Both empty: there is no link.
     Q_PROPERTY(QString linkTitle READ linkTitle CONSTANT)
     Q_PROPERTY(QString linkAddress READ linkAddress CONSTANT)
-    /// Whether a text of it is more than is laid out at once.
-    Q_PROPERTY(bool isLong READ isLong CONSTANT)
     Q_PROPERTY(bool found MEMBER found CONSTANT)
 
   public:
@@ -50,7 +47,6 @@ struct OpenMapFact {
     [[nodiscard]] QString spokenText() const;
     [[nodiscard]] QString linkTitle() const { return link ? link->title : QString(); }
     [[nodiscard]] QString linkAddress() const { return link ? link->address : QString(); }
-    [[nodiscard]] bool isLong() const { return isLongText(label) || isLongText(value); }
 
     friend bool operator==(const OpenMapFact&, const OpenMapFact&) = default;
 };

@@ -15,7 +15,7 @@ Item {
     signal menuRequested(point place)
 
     function takeFocus(): void {
-        name.forceActiveFocus(Qt.TabFocusReason);
+        name.takeFocus();
     }
     function requestMenuAtFocus(): void {
         const holder = list.holds(list.focused) ? list.focused : name;
@@ -56,21 +56,21 @@ Item {
                 padding: 12
                 spacing: 4
 
-                SelectableText {
+                SelectableWholeText {
                     id: name
 
                     width: parent.width
                     horizontalAlignment: TextEdit.AlignLeft
                     textStyle: Theme.type.title2
-                    text: root.content.name
+                    content: root.content.name
                     keyTarget: list
                 }
-                SelectableText {
+                SelectableWholeText {
                     width: parent.width
                     horizontalAlignment: TextEdit.AlignLeft
                     textStyle: root.content.idFound ? Theme.type.captionMedium : Theme.type.caption
                     color: Theme.colors.text2
-                    text: root.content.subtitle
+                    content: root.content.subtitle
                     Accessible.description: root.content.idFound ? qsTr("Found by the search") : ""
                     keyTarget: list
                 }
@@ -106,7 +106,7 @@ Item {
 
                     width: parent?.width ?? 0
                     active: index < factSteps.made
-                    Component.onCompleted: setSource(modelData.isLong ? "LongFactRow.qml" : "FactRow.qml", {
+                    Component.onCompleted: setSource("FactRow.qml", {
                         "fact": modelData,
                         "separated": index > 0,
                         "width": width,

@@ -26,7 +26,7 @@ QStringList toStringList(const std::vector<std::string>& texts) {
     QStringList list;
     list.reserve(static_cast<qsizetype>(texts.size()));
     for (const std::string& text : texts) {
-        list.append(paragraphText(text));
+        list.append(wholeText(text));
     }
     return list;
 }
@@ -42,10 +42,10 @@ QString translatedOnly(const char* text) {
 OpenMapSources OpenMapSources::of(const OpenMapRelease& release) {
     const auto routes = std::ranges::count_if(release.assets, &OpenMapRelease::Asset::hasRoute);
     OpenMapSources sources{
-        .coverageName = paragraphText(release.coverageName),
+        .coverageName = wholeText(release.coverageName),
         .counts = tr("%1 records · %2 routes").arg(release.assets.size()).arg(routes),
         .identity = tr("%1 · packaged %2")
-                        .arg(lineText(release.releaseID),
+                        .arg(wholeText(release.releaseID),
                              dateOf(QString::fromStdString(release.generatedAt))),
         .note = tr("The packaged date is not the observation date. Each record shows its source "
                    "period."),

@@ -114,7 +114,7 @@ bool isNumber(QStringView text) {
 } // namespace
 
 QString factLabel(std::string_view label) {
-    QString text = toQString(label);
+    QString text = wholeText(label);
     // A text with a zero character is none of ours, and translate() would cut it there.
     if (text.contains(QChar(0))) {
         return text;

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
 
 namespace vasker {
@@ -45,7 +46,29 @@ namespace {
 
 QString upTo(std::size_t most, std::string_view utf8) {
     const std::string_view shown = beginningOf(utf8, most);
-    return shown.size() == utf8.size() ? toQString(utf8) : toQString(shown) + QChar(u'…');
+    return shown.size() == utf8.size() ? wholeText(utf8) : wholeText(shown) + QChar(u'…');
+}
+
+bool isLineBreak(QChar unit) {
+    constexpr char16_t verticalTab = 0x0B;
+    constexpr char16_t formFeed = 0x0C;
+    constexpr char16_t nextLine = 0x85;
+    return unit == u'\n' || unit == u'\r' || unit == verticalTab || unit == formFeed ||
+           unit == nextLine || unit == QChar::LineSeparator || unit == QChar::ParagraphSeparator;
+}
+
+QString withLineFeeds(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    std::replace_if(text.begin(), text.end(), isLineBreak, QChar(u'\n'));
+    return text;
+}
+
+QString wholeCategoryText(std::string_view kind) {
+    const std::string label = OpenMapRelease::Asset::categoryLabel(kind);
+    // A text with a zero character is none of ours, and translate() would cut it there.
+    const bool isOurs = label.find('\0') == std::string::npos;
+    return withLineFeeds(isOurs ? QCoreApplication::translate("Category", label.c_str())
+                                : toQString(label));
 }
 
 } // namespace
@@ -54,12 +77,16 @@ QString toQString(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+QString wholeText(std::string_view utf8) {
+    return withLineFeeds(toQString(utf8));
+}
+
 QString lineText(std::string_view utf8) {
     return upTo(mostLineBytes, utf8);
 }
 
-QString paragraphText(std::string_view utf8) {
-    return upTo(mostParagraphBytes, utf8);
+QString nameText(std::string_view utf8) {
+    return upTo(mostNameBytes, utf8);
 }
 
 QString joined(const QString& first, const QString& second) {
@@ -67,13 +94,7 @@ QString joined(const QString& first, const QString& second) {
 }
 
 QString categoryText(std::string_view kind) {
-    if (kind.size() > mostLineBytes) {
-        return lineText(kind);
-    }
-    const std::string label = OpenMapRelease::Asset::categoryLabel(kind);
-    // A text with a zero character is none of ours, and translate() would cut it there.
-    const bool isOurs = label.find('\0') == std::string::npos;
-    return isOurs ? QCoreApplication::translate("Category", label.c_str()) : toQString(label);
+    return kind.size() > mostLineBytes ? lineText(kind) : wholeCategoryText(kind);
 }
 
 QString categoryLine(const OpenMapRelease::Asset& asset) {
@@ -81,11 +102,11 @@ QString categoryLine(const OpenMapRelease::Asset& asset) {
 }
 
 QString recordSubtitle(const OpenMapRelease::Asset& asset) {
-    return joined(categoryText(asset.kind), lineText(asset.id));
+    return joined(wholeCategoryText(asset.kind), wholeText(asset.id));
 }
 
 QString sourceLine(const OpenMapRelease::Source& source, const OpenMapRelease::Fact& fact) {
-    return joined(lineText(source.shortName()), lineText(fact.asOf));
+    return joined(wholeText(source.shortName()), wholeText(fact.asOf));
 }
 
 } // namespace vasker

@@ -40,7 +40,7 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
         return toQString(record.id);
     case NameRole:
     case Qt::DisplayRole:
-        return paragraphText(record.name);
+        return nameText(record.name);
     case MarkupRole:
         return markup(record);
     case UnitRole:
@@ -56,7 +56,7 @@ QVariant RecordListModel::data(const QModelIndex& index, int role) const {
             FoundText::of(m_records.loaded->index, recordIn(index.row()), m_foldedQuery));
     case AccessibleRole:
         return tr("%1, %2, source period %3")
-            .arg(paragraphText(record.name), categoryText(record.kind), lineText(record.asOf));
+            .arg(nameText(record.name), categoryText(record.kind), lineText(record.asOf));
     default:
         return {};
     }
@@ -184,7 +184,7 @@ QString RecordListModel::markup(const OpenMapRelease::Asset& asset) const {
     if (m_foldedQuery.empty()) {
         return {};
     }
-    const QString name = paragraphText(asset.name);
+    const QString name = nameText(asset.name);
     const auto part = matchedPart(name, m_foldedQuery, m_records.loaded->index.locale());
     return part ? nameMarkup(name, *part) : QString();
 }

@@ -69,14 +69,14 @@ QString PlaceText::way(double metres, double degrees) {
 QString PlaceText::record(const OpenMapRelease::Asset& asset, const NearRecord& near) {
     //: %1: the record's name, %2: its category, %3: distance and direction
     return tr("%1, %2, %3")
-        .arg(paragraphText(asset.name),
+        .arg(nameText(asset.name),
              inSentence(categoryText(asset.kind)),
              way(near.metres, near.degrees));
 }
 
 QString PlaceText::nearest(const OpenMapRelease::Asset& asset, const NearRecord& near) {
     //: The record nearest to a map that shows none. %1: its name, %2: distance and direction
-    return tr("Nearest: %1, %2").arg(paragraphText(asset.name), way(near.metres, near.degrees));
+    return tr("Nearest: %1, %2").arg(nameText(asset.name), way(near.metres, near.degrees));
 }
 
 QString PlaceText::center(MapPoint center, std::span<const PlaceLabel> labels) {

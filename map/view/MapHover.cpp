@@ -33,7 +33,7 @@ void MapHover::clear() {
 }
 
 QString MapHover::name() const {
-    return m_record ? paragraphText(m_records.records().asset(*m_record).name) : QString();
+    return m_record ? nameText(m_records.records().asset(*m_record).name) : QString();
 }
 
 QString MapHover::caption() const {

@@ -5,18 +5,17 @@ import Vasker.Platform
 Link {
     id: root
 
-    implicitWidth: label.implicitWidth + 4 + arrow.width
+    implicitWidth: label.isLong ? parent?.width ?? 0 : label.implicitWidth + 4 + arrow.width
     implicitHeight: label.height
 
-    Label {
+    WholeText {
         id: label
 
         anchors.left: parent.left
-        width: Math.min(implicitWidth, root.width - 4 - arrow.width)
-        wrapMode: Text.Wrap
+        width: label.isLong ? root.width - 4 - arrow.width : Math.min(implicitWidth, root.width - 4 - arrow.width)
         textStyle: Theme.type.captionMedium
         color: Theme.colors.accent
-        text: root.text
+        content: root.text
     }
     Icon {
         id: arrow

@@ -80,18 +80,22 @@ TEST(OpenMapSources, ListsLimitationsInOrderAndAsStored) {
     EXPECT_TRUE(OpenMapSources::of(release).limitations.isEmpty());
 }
 
-TEST(OpenMapSources, ShowsAScreenfulOfTextsWithoutABound) {
+TEST(OpenMapSources, ShowsTextsOfAnyLengthWhole) {
     const std::string endless(1'000'000, 'x');
+    const QString whole(1'000'000, u'x');
     OpenMapRelease release = makeRelease();
-    release.coverageName = release.releaseID = endless;
-    release.limitations = {endless};
-    release.sources[0].publisher = release.sources[0].attribution = endless;
+    release.coverageName = release.releaseID = release.limitations.front() = endless;
+    release.sources.front().publisher = release.sources.front().attribution = endless;
+    release.sources.front().conditions = release.sources.front().modifications = endless;
     const OpenMapSources sources = OpenMapSources::of(release);
-    EXPECT_EQ(sources.coverageName.size(), 40'001);
-    EXPECT_LT(sources.identity.size(), 11'000);
-    EXPECT_EQ(sources.limitations.front().size(), 40'001);
-    EXPECT_EQ(sources.credits.front().publisher.size(), 40'001);
-    EXPECT_EQ(sources.credits.front().attribution.size(), 40'001);
+    EXPECT_EQ(sources.coverageName, whole);
+    EXPECT_EQ(sources.identity, whole + QStringLiteral(" · packaged 2025-11-20"));
+    EXPECT_EQ(sources.limitations.front(), whole);
+    const OpenMapCredit& credit = sources.credits.front();
+    EXPECT_EQ(credit.publisher, whole);
+    EXPECT_EQ(credit.attribution, whole);
+    EXPECT_EQ(credit.conditions, whole);
+    EXPECT_EQ(credit.modifications, whole);
 }
 
 TEST(OpenMapSources, CreditsEverySourceInOrderAlsoThoseThatNoRecordCites) {

@@ -20,7 +20,7 @@ SectionRow {
 
         // Half of the list, whose edges are 34 away on both sides.
         readonly property real half: (width + 68) / 2
-        readonly property bool stacked: valueText.implicitWidth > half || labelText.implicitWidth + 16 + valueText.implicitWidth > width
+        readonly property bool stacked: valueText.isLong || valueText.implicitWidth > half || labelText.implicitWidth + 16 + valueText.implicitWidth > width
 
         width: parent.width
         height: valueText.y + valueText.height
@@ -33,16 +33,15 @@ SectionRow {
             wrapMode: Text.Wrap
             text: root.label
         }
-        Label {
+        WholeText {
             id: valueText
 
             y: pair.stacked ? labelText.height + 2 : 0
             anchors.right: parent.right
             width: pair.stacked ? parent.width : implicitWidth
-            wrapMode: Text.Wrap
             textStyle: root.found ? Theme.type.headline : Theme.type.body
             color: Theme.colors.text2
-            text: root.value
+            content: root.value
         }
     }
 }

@@ -9,12 +9,11 @@ SectionRow {
     property textStyle textStyle: Theme.type.footnote
     property color color: Theme.colors.text
 
-    Label {
+    WholeText {
         width: parent.width
-        wrapMode: Text.Wrap
         textStyle: root.textStyle
         color: root.color
-        text: root.text
+        content: root.text
         spoken: true
     }
 }

@@ -3,7 +3,7 @@ import QtQuick
 import Vasker.Platform
 
 // A text of any length that can be selected and copied as a whole, taken literally. Only what is in
-// view of `scroller` is laid out.
+// view of the list that scrolls it is laid out.
 PiecedTextItem {
     id: root
 

@@ -66,6 +66,17 @@ void PiecedText::setScroller(QQuickItem* flickable) {
     Q_EMIT scrollerChanged();
 }
 
+void PiecedText::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemSceneChange) {
+        QQuickItem* around = data.window == nullptr ? nullptr : parentItem();
+        while (around != nullptr && !around->inherits("QQuickFlickable")) {
+            around = around->parentItem();
+        }
+        setScroller(around);
+    }
+    QQuickItem::itemChange(change, data);
+}
+
 void PiecedText::cut() {
     m_pieces = cutIntoPieces(m_text);
     m_selection = {};

@@ -20,8 +20,8 @@ class PiecedText : public QQuickItem {
     QML_NAMED_ELEMENT(PiecedTextItem)
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(vasker::TextStyle textStyle READ textStyle WRITE setTextStyle NOTIFY styleChanged)
-    /// The Flickable that scrolls it; null: nothing is in view.
-    Q_PROPERTY(QQuickItem* scroller READ scroller WRITE setScroller NOTIFY scrollerChanged)
+    /// The Flickable around it, which scrolls it; null: nothing is in view.
+    Q_PROPERTY(QQuickItem* scroller READ scroller NOTIFY scrollerChanged)
     /// The pieces in view, in order; see ShownPieces.
     Q_PROPERTY(vasker::ShownPieces* shown READ shown CONSTANT)
     Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
@@ -34,7 +34,6 @@ class PiecedText : public QQuickItem {
     [[nodiscard]] const TextStyle& textStyle() const noexcept { return m_style; }
     void setTextStyle(const TextStyle& style);
     [[nodiscard]] QQuickItem* scroller() const noexcept { return m_scroller; }
-    void setScroller(QQuickItem* flickable);
     [[nodiscard]] ShownPieces* shown() noexcept { return &m_shown; }
     [[nodiscard]] QString selectedText() const { return m_selection.of(m_text); }
 
@@ -64,9 +63,11 @@ class PiecedText : public QQuickItem {
 
   protected:
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
     void updatePolish() override;
 
   private:
+    void setScroller(QQuickItem* flickable);
     void cut();
     void estimate();
     void place();

@@ -90,8 +90,8 @@ TestCase {
         verify(Date.now() - before < 500);
         const list = Walk.list(view);
         const longTexts = () => Walk.all(view, child => child.rowAt !== undefined);
-        const edits = () => Walk.all(view, child => child.positionAt !== undefined && child.textFormat !== undefined);
-        tryVerify(() => longTexts().length === 100, 20000);
+        const edits = () => Walk.all(view, child => child.positionAt !== undefined && child.textFormat !== undefined && child.text.length > 0);
+        tryVerify(() => longTexts().length === 50, 20000);
         for (const place of [0.3, 0.7, 0.1]) {
             list.scrollTo(place * list.contentHeight);
             waitForRendering(view);
@@ -104,7 +104,7 @@ TestCase {
     }
     function test_a_huge_value_is_copied_whole(): void {
         const view = open(Releases.withFiftyHugeFacts("A word, and another one. "));
-        const value = Walk.all(view, child => child.rowAt !== undefined)[1];
+        const value = Walk.all(view, child => child.rowAt !== undefined)[0];
         value.forceActiveFocus();
         keyClick(Qt.Key_A, Qt.ControlModifier);
         keyClick(Qt.Key_C, Qt.ControlModifier);

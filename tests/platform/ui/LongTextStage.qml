@@ -27,6 +27,5 @@ GroupedList {
 
         width: parent.width
         text: root.shownText
-        scroller: root
     }
 }

@@ -1,0 +1,35 @@
+import QtQuick
+import Vasker.Platform
+
+// A text of any length, whole and wrapped, that can be selected and copied. Of a long one only what is in
+// view is laid out.
+SelectableText {
+    id: root
+
+    required property string content
+    readonly property bool isLong: TextLength.isLong(root.content)
+    property bool isTabStop: true
+
+    function takeFocus(): void {
+        const holder = root.isLong ? pieces.item : root;
+        holder.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    height: root.isLong ? pieces.height : root.implicitHeight
+    activeFocusOnTab: root.isTabStop && !root.isLong
+    Accessible.ignored: root.isLong || !root.visible
+    text: root.isLong ? "" : root.content
+
+    Loader {
+        id: pieces
+
+        active: root.isLong
+        width: root.width
+        sourceComponent: LongText {
+            textStyle: root.textStyle
+            color: root.color
+            text: root.content
+            Accessible.description: root.Accessible.description
+        }
+    }
+}
