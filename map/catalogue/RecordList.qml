@@ -109,7 +109,12 @@ ListView {
             root.forceActiveFocus(Qt.MouseFocusReason);
             root.picked(recordId);
         }
-        onMenuRequested: place => root.menuRequested(recordId, this, place)
+        // When the menu closes, the keyboard is here.
+        onMenuRequested: place => {
+            root.currentIndex = index;
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.menuRequested(recordId, this, place);
+        }
     }
 
     TypeAhead {

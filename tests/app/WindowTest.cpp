@@ -126,6 +126,24 @@ TEST_F(Window, AClickOnARowPicksItsRecord) {
     EXPECT_EQ(selection(), "A-3");
 }
 
+TEST_F(Window, TheMenuOfARowGivesTheKeyboardToThatRow) {
+    openRecords();
+    const QQuickItem* const row = item("open-map-record-A-3");
+    ASSERT_NE(row, nullptr);
+    const QPointF middle(row->width() / 2, row->height() / 2);
+    QTest::mouseClick(m_window, Qt::RightButton, Qt::NoModifier, row->mapToScene(middle).toPoint());
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return withText(m_window->contentItem(), QStringLiteral("Copy citation")) != nullptr;
+    }));
+    EXPECT_FALSE(item("open-map-records")->hasActiveFocus());
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(item("open-map-records")->hasActiveFocus());
+    EXPECT_TRUE(row->property("current").toBool());
+    EXPECT_EQ(selection(), "");
+    key(Qt::Key_Return);
+    EXPECT_EQ(selection(), "A-3");
+}
+
 TEST_F(Window, ARowCanBePressedByAssistiveTools) {
     openRecords();
     press(item("open-map-record-A-2"));
