@@ -13,7 +13,7 @@ Menu {
 
     title: qsTr("Layer")
     // Large texts need more room than the column has.
-    width: Math.max(anchor.width, Math.round((Theme.columnWidth - 24) * Theme.iconScale))
+    width: Math.max(anchor.width, Math.round((Theme.columnWidth - 24) * Theme.textScale))
     model: kinds
     labels: kinds.labels
     firstRow: Math.max(0, kinds.currentRow)

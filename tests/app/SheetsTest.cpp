@@ -208,7 +208,7 @@ TEST_F(Sheets, TheListOfCategoriesHasRoomForLargeText) {
     };
     EXPECT_LT(rowWidth(), picker->width());
     setTextScale(2);
-    EXPECT_GT(rowWidth(), 1.4 * picker->width());
+    EXPECT_GT(rowWidth(), 1.9 * picker->width());
 }
 
 TEST_F(Sheets, AnUnknownSelectionOpensNothing) {
