@@ -35,6 +35,18 @@ Window {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
+    // How it was shown before it filled the screen.
+    property int visibilityBefore: Window.Windowed
+    readonly property bool fullScreen: visibility === Window.FullScreen
+
+    function toggleFullScreen(): void {
+        if (window.fullScreen) {
+            window.visibility = window.visibilityBefore;
+        } else {
+            window.visibilityBefore = window.visibility;
+            window.visibility = Window.FullScreen;
+        }
+    }
     function showWorkspace(): void {
         if (root.screen === OpenMapRoot.Ready) {
             view.setSource("WorkspaceView.qml", {
@@ -47,6 +59,7 @@ Window {
     }
 
     Component.onCompleted: showWorkspace()
+    onFullScreenChanged: announcer.announce(fullScreen ? qsTr("Full screen") : qsTr("Full screen ended"))
 
     Backdrop {
         anchors.fill: parent
@@ -120,6 +133,7 @@ Window {
         onHelpWanted: window.root.sheets.request(SheetStack.Guide)
         onShortcutsWanted: window.root.sheets.request(SheetStack.Shortcuts)
         onMenuWanted: (view.item as WorkspaceView)?.headerBar.openMenu()
+        onFullScreenWanted: window.toggleFullScreen()
         onNewWanted: window.application.openWindow()
         onCloseWanted: window.close()
         onQuitWanted: window.application.closeAllWindows()

@@ -21,6 +21,7 @@ const std::array windowKeys{
     WindowKey{Qt::Key_F1, Qt::NoModifier, &WindowKeys::helpWanted, true},
     WindowKey{Qt::Key_Question, Qt::ControlModifier, &WindowKeys::shortcutsWanted, true},
     WindowKey{Qt::Key_F10, Qt::NoModifier, &WindowKeys::menuWanted, true},
+    WindowKey{Qt::Key_F11, Qt::NoModifier, &WindowKeys::fullScreenWanted, false},
     WindowKey{Qt::Key_N, Qt::ControlModifier, &WindowKeys::newWanted, false},
     WindowKey{Qt::Key_W, Qt::ControlModifier, &WindowKeys::closeWanted, false},
     WindowKey{Qt::Key_Q, Qt::ControlModifier, &WindowKeys::quitWanted, false}};

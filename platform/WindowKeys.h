@@ -1,7 +1,7 @@
 #pragma once
-// The keys of a window that work whatever is open in it: F1, Ctrl+?, F10, Ctrl+N, Ctrl+W and
-// Ctrl+Q. A menu keeps shortcuts from all that lies below it; these are heard by the window itself,
-// and close the menu first, which gives the keyboard back.
+// The keys of a window that work whatever is open in it: F1, Ctrl+?, F10, F11, Ctrl+N,
+// Ctrl+W and Ctrl+Q. A menu keeps shortcuts from all that lies below it; these are heard by the
+// window itself, and close the menu first, which gives the keyboard back.
 //
 // It also lets shortcuts through where a text has the keyboard that can only be read: Qt 6.4 would
 // take every key for the text's own.
@@ -33,6 +33,7 @@ class WindowKeys : public QObject {
     void shortcutsWanted();
     /// Not sent where the key has closed a menu.
     void menuWanted();
+    void fullScreenWanted();
     void newWanted();
     void closeWanted();
     void quitWanted();

@@ -26,6 +26,7 @@ WindowSheet {
                 qsTr("User guide"), "F1",
                 qsTr("Keyboard shortcuts"), "Ctrl+?",
                 qsTr("Main menu"), "F10",
+                qsTr("Full screen, and back"), "F11",
                 qsTr("Next control, previous control"), qsTr("Tab, Shift+Tab"),
                 qsTr("Press a button, open a menu"), qsTr("Enter or Space")
             ]

@@ -595,6 +595,14 @@
         <source>Vasker Beta</source>
         <translation>Vasker Beta</translation>
     </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Plein écran</translation>
+    </message>
+    <message>
+        <source>Full screen ended</source>
+        <translation>Fin du plein écran</translation>
+    </message>
 </context>
 <context>
     <name>MapOptionsMenu</name>
@@ -1023,6 +1031,10 @@
     <message>
         <source>Ctrl+Up, Ctrl+Down</source>
         <translation>Ctrl+Haut, Ctrl+Bas</translation>
+    </message>
+    <message>
+        <source>Full screen, and back</source>
+        <translation>Plein écran, et retour</translation>
     </message>
     <message>
         <source>Another row of a menu</source>

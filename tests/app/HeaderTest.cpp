@@ -253,6 +253,32 @@ TEST_F(Header, F1ClosesAMenuThatIsOpenAndF10DoesOnlyThat) {
     }
 }
 
+TEST_F(Header, F11FillsTheScreenAndThenLeavesTheWindowAsItWas) {
+    openRecords();
+    for (const auto before : {QWindow::Windowed, QWindow::Maximized}) {
+        m_window->setVisibility(before);
+        key(Qt::Key_F11);
+        EXPECT_EQ(m_window->visibility(), QWindow::FullScreen);
+        key(Qt::Key_F11);
+        EXPECT_EQ(m_window->visibility(), before);
+    }
+}
+
+TEST_F(Header, F11WorksOverASheetAndClosesAMenu) {
+    openRecords();
+    key(Qt::Key_F1);
+    key(Qt::Key_F11);
+    EXPECT_EQ(m_window->visibility(), QWindow::FullScreen);
+    EXPECT_NE(item("open-map-guide"), nullptr);
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return item("open-map-guide") == nullptr; }));
+    EXPECT_EQ(m_window->visibility(), QWindow::FullScreen);
+    EXPECT_FALSE(openMenu("open-map-options").empty());
+    key(Qt::Key_F11);
+    EXPECT_EQ(m_window->visibility(), QWindow::Windowed);
+    EXPECT_FALSE(item("open-map-options")->property("opened").toBool());
+}
+
 TEST_F(Header, TheGuideIsThereOnTheFailureScreenToo) {
     open("{}");
     key(Qt::Key_F1);
