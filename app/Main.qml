@@ -130,12 +130,12 @@ Window {
     }
     WindowKeys {
         window: window
-        onHelpWanted: window.root.sheets.request(SheetStack.Guide)
-        onShortcutsWanted: window.root.sheets.request(SheetStack.Shortcuts)
-        onMenuWanted: (view.item as WorkspaceView)?.headerBar.openMenu()
-        onFullScreenWanted: window.toggleFullScreen()
-        onNewWanted: window.application.openWindow()
-        onCloseWanted: window.close()
-        onQuitWanted: window.application.closeAllWindows()
+        onHelpRequested: window.root.sheets.request(SheetStack.Guide)
+        onShortcutsRequested: window.root.sheets.request(SheetStack.Shortcuts)
+        onMenuRequested: (view.item as WorkspaceView)?.headerBar.openMenu()
+        onFullScreenRequested: window.toggleFullScreen()
+        onNewRequested: window.application.openWindow()
+        onCloseRequested: window.close()
+        onQuitRequested: window.application.closeAllWindows()
     }
 }

@@ -84,7 +84,7 @@ int run(int argc, char** argv) {
                                vasker::Preferences::userPath(),
                                vasker::OpenMapApp::userCachePath());
     QObject::connect(&activation,
-                     &DesktopActivation::windowWanted,
+                     &DesktopActivation::windowRequested,
                      &windows,
                      &vasker::OpenMapApp::openWindowInFront);
     // From the last window on, a request is for whoever comes next.

@@ -11,7 +11,7 @@ Item {
     readonly property openMapInspector content: root.record.inspector
     readonly property bool scrolled: list.scrolled
 
-    // The record's menu is wanted, at a place in this view.
+    // The record's menu is requested, at a place in this view.
     signal menuRequested(point place)
 
     function takeFocus(): void {

@@ -22,7 +22,7 @@ Item {
 
         promptCount: root.content.promptLimitations
         count: root.content.limitations.length
-        wanted: limitations.y + limitations.height < list.contentY + 2 * list.height
+        requested: limitations.y + limitations.height < list.contentY + 2 * list.height
         onMadeChanged: rows.fill()
         Component.onCompleted: rows.fill()
     }

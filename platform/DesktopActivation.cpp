@@ -107,7 +107,7 @@ ApplicationInterface::ApplicationInterface(DesktopActivation* activation)
     : QDBusAbstractAdaptor(activation), m_activation(activation) {}
 
 void ApplicationInterface::Activate(const QVariantMap& platformData) {
-    Q_EMIT m_activation->windowWanted(tokenIn(platformData));
+    Q_EMIT m_activation->windowRequested(tokenIn(platformData));
 }
 
 void ApplicationInterface::Open(const QStringList&, const QVariantMap& platformData) {

@@ -53,7 +53,7 @@ class DesktopActivation : public QObject {
 
   Q_SIGNALS:
     /// Another window is requested. The caller waits until this has been dealt with.
-    void windowWanted(const vasker::LaunchToken& token);
+    void windowRequested(const vasker::LaunchToken& token);
 
   private:
     [[nodiscard]] bool ask(const LaunchToken& token, std::chrono::milliseconds patience);

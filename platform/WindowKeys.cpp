@@ -13,18 +13,18 @@ namespace {
 struct WindowKey {
     Qt::Key key = Qt::Key_unknown;
     Qt::KeyboardModifiers modifiers;
-    void (WindowKeys::*wanted)() = nullptr;
+    void (WindowKeys::*requested)() = nullptr;
     bool opensSomething = false; ///< in this window
 };
 
 const std::array windowKeys{
-    WindowKey{Qt::Key_F1, Qt::NoModifier, &WindowKeys::helpWanted, true},
-    WindowKey{Qt::Key_Question, Qt::ControlModifier, &WindowKeys::shortcutsWanted, true},
-    WindowKey{Qt::Key_F10, Qt::NoModifier, &WindowKeys::menuWanted, true},
-    WindowKey{Qt::Key_F11, Qt::NoModifier, &WindowKeys::fullScreenWanted, false},
-    WindowKey{Qt::Key_N, Qt::ControlModifier, &WindowKeys::newWanted, false},
-    WindowKey{Qt::Key_W, Qt::ControlModifier, &WindowKeys::closeWanted, false},
-    WindowKey{Qt::Key_Q, Qt::ControlModifier, &WindowKeys::quitWanted, false}};
+    WindowKey{Qt::Key_F1, Qt::NoModifier, &WindowKeys::helpRequested, true},
+    WindowKey{Qt::Key_Question, Qt::ControlModifier, &WindowKeys::shortcutsRequested, true},
+    WindowKey{Qt::Key_F10, Qt::NoModifier, &WindowKeys::menuRequested, true},
+    WindowKey{Qt::Key_F11, Qt::NoModifier, &WindowKeys::fullScreenRequested, false},
+    WindowKey{Qt::Key_N, Qt::ControlModifier, &WindowKeys::newRequested, false},
+    WindowKey{Qt::Key_W, Qt::ControlModifier, &WindowKeys::closeRequested, false},
+    WindowKey{Qt::Key_Q, Qt::ControlModifier, &WindowKeys::quitRequested, false}};
 
 } // namespace
 
@@ -51,13 +51,13 @@ bool WindowKeys::readsAText() const {
 }
 
 bool WindowKeys::handle(const QKeyEvent& key) {
-    const auto wanted = std::ranges::find_if(windowKeys, [&key](const WindowKey& each) {
+    const auto found = std::ranges::find_if(windowKeys, [&key](const WindowKey& each) {
         // On many keyboards a question mark takes Shift.
         const Qt::KeyboardModifiers held =
             key.key() == Qt::Key_Question ? key.modifiers() & ~Qt::ShiftModifier : key.modifiers();
         return each.key == key.key() && each.modifiers == held;
     });
-    if (wanted == windowKeys.end()) {
+    if (found == windowKeys.end()) {
         return false;
     }
     if (key.isAutoRepeat()) {
@@ -68,9 +68,10 @@ bool WindowKeys::handle(const QKeyEvent& key) {
     if (isMenu) {
         QMetaObject::invokeMethod(over, "close");
     }
-    const bool isHeard = over == nullptr || (isMenu && wanted->wanted != &WindowKeys::menuWanted);
-    if (isHeard || !wanted->opensSomething) {
-        Q_EMIT(this->*wanted->wanted)();
+    const bool isHeard =
+        over == nullptr || (isMenu && found->requested != &WindowKeys::menuRequested);
+    if (isHeard || !found->opensSomething) {
+        Q_EMIT(this->*found->requested)();
     }
     return true;
 }

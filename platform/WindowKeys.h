@@ -29,14 +29,14 @@ class WindowKeys : public QObject {
   Q_SIGNALS:
     /// Each once for a press, however long the key is held. The first three are not sent while a
     /// dialog of the toolkit is open: nothing opens above that.
-    void helpWanted();
-    void shortcutsWanted();
+    void helpRequested();
+    void shortcutsRequested();
     /// Not sent where the key has closed a menu.
-    void menuWanted();
-    void fullScreenWanted();
-    void newWanted();
-    void closeWanted();
-    void quitWanted();
+    void menuRequested();
+    void fullScreenRequested();
+    void newRequested();
+    void closeRequested();
+    void quitRequested();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

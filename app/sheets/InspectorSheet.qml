@@ -10,8 +10,8 @@ WindowSheet {
 
     required property OpenMapWorkspace workspace
     // How much of the window it takes from either edge on, in logical pixels.
-    readonly property real coveredAtEnd: wanted && placement === Sheet.Trailing ? preferredWidth + 16 : 0
-    readonly property real coveredAtStart: wanted && placement === Sheet.Leading ? preferredWidth + 16 : 0
+    readonly property real coveredAtEnd: requested && placement === Sheet.Trailing ? preferredWidth + 16 : 0
+    readonly property real coveredAtStart: requested && placement === Sheet.Leading ? preferredWidth + 16 : 0
 
     signal menuRequested(Item over, point place)
 

@@ -9,7 +9,7 @@ Sheet {
     // A value of SheetStack.Sheet.
     required property int kind
 
-    wanted: sheets.shown === kind || sheets.shownHelp === kind
+    requested: sheets.shown === kind || sheets.shownHelp === kind
     onDismissed: sheets.dismiss(kind)
     onClosed: sheets.setClosed(kind)
 }

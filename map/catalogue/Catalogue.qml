@@ -94,10 +94,10 @@ Item {
         Loader {
             id: list
 
-            readonly property bool wanted: !recordModel.empty
+            readonly property bool needed: !recordModel.empty
 
             anchors.fill: parent
-            onWantedChanged: wanted ? setSource("RecordList.qml", {
+            onNeededChanged: needed ? setSource("RecordList.qml", {
                 "records": recordModel
             }) : setSource("")
         }

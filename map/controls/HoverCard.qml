@@ -11,7 +11,7 @@ Item {
     required property string caption
     required property real mapWidth
 
-    readonly property bool wanted: root.name.length > 0
+    readonly property bool needed: root.name.length > 0
     readonly property real gap: 14
 
     width: texts.width + 22
@@ -22,7 +22,7 @@ Item {
     enabled: false
     Accessible.ignored: true
 
-    onWantedChanged: if (!wanted) {
+    onNeededChanged: if (!needed) {
         hide();
     }
     // Later: where a timer starts, all that is animated takes a step, and a map that moves under the
@@ -30,7 +30,7 @@ Item {
     onNameChanged: Qt.callLater(root.prepare) // qmllint disable
 
     function prepare(): void {
-        if (wanted && !visible) {
+        if (needed && !visible) {
             delay.restart();
         }
     }

@@ -31,7 +31,7 @@ class Activation : public testing::Test {
     void becomeFirst() {
         ASSERT_EQ(m_first.start({}), Outcome::first);
         QObject::connect(&m_first,
-                         &DesktopActivation::windowWanted,
+                         &DesktopActivation::windowRequested,
                          &m_first,
                          [this](const LaunchToken& token) { m_wanted.push_back(token); });
     }
@@ -73,10 +73,10 @@ TEST_F(Activation, ASecondStartHandsItsTokenToTheFirst) {
 
 TEST_F(Activation, OfTwoStartsAtOnceOneIsFirstAndTheOtherAsksIt) {
     DesktopActivation second(connection(), name);
-    int wanted = 0;
+    int requested = 0;
     std::vector<std::future<Outcome>> starts;
     for (DesktopActivation* each : {&m_first, &second}) {
-        QObject::connect(each, &DesktopActivation::windowWanted, each, [&] { ++wanted; });
+        QObject::connect(each, &DesktopActivation::windowRequested, each, [&] { ++requested; });
         starts.push_back(std::async(std::launch::async, [each] { return each->start({}); }));
     }
     std::vector<Outcome> outcomes;
@@ -87,7 +87,7 @@ TEST_F(Activation, OfTwoStartsAtOnceOneIsFirstAndTheOtherAsksIt) {
     }
     std::sort(outcomes.begin(), outcomes.end());
     EXPECT_EQ(outcomes, (std::vector<Outcome>{Outcome::first, Outcome::handedOver}));
-    EXPECT_EQ(wanted, 1);
+    EXPECT_EQ(requested, 1);
 }
 
 TEST_F(Activation, LaunchersOpenWindowsByEveryMethodOfTheInterface) {

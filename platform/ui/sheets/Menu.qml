@@ -38,8 +38,8 @@ T.Menu {
     readonly property MenuList list: contentItem as MenuList
     readonly property bool rightToLeft: anchor.LayoutMirroring.enabled
     readonly property real begin: Math.round(Math.max(4, corner.x + width > parent.width - 4 ? corner.x + span - width : corner.x))
-    readonly property real wanted: Math.min(Math.min(list.implicitHeight, mostHeight) + topPadding + 6, parent.height - 16)
-    readonly property bool goesUp: corner.y + wanted > parent.height - 8 && (span === 0 || corner.y - gap - wanted >= 8)
+    readonly property real neededHeight: Math.min(Math.min(list.implicitHeight, mostHeight) + topPadding + 6, parent.height - 16)
+    readonly property bool goesUp: corner.y + neededHeight > parent.height - 8 && (span === 0 || corner.y - gap - neededHeight >= 8)
 
     function toggle(): void {
         root.shown ? root.close() : root.open();
@@ -59,9 +59,9 @@ T.Menu {
 
     parent: anchor.Window.contentItem
     x: rightToLeft ? parent.width - begin - width : begin
-    y: Math.round(goesUp ? Math.max(8, corner.y - gap - wanted) : corner.y)
+    y: Math.round(goesUp ? Math.max(8, corner.y - gap - neededHeight) : corner.y)
     width: Math.min(Math.max(216, list.widestRow() + 12), parent.width - 8)
-    height: Math.min(wanted, parent.height - y - 8)
+    height: Math.min(neededHeight, parent.height - y - 8)
     padding: 6
     topPadding: heading.length > 0 ? 16 + Theme.type.captionMedium.lineHeight : 6
     modal: true

@@ -4,7 +4,7 @@ import QtQuick.Window
 import Vasker.Platform
 
 // A surface over the whole of its window, to be finished with before anything else. It slides in
-// when it is wanted and takes the focus; when it is not wanted any more it slides out and gives the
+// when it is requested and takes the focus; when it is not requested any more it slides out and gives the
 // focus back. What lies behind belongs into a Backdrop that is covered while `onScreen`.
 FocusScope {
     id: root
@@ -20,7 +20,7 @@ FocusScope {
     // Made when the sheet opens, gone after it has closed. It may take the focus when it is
     // completed; else the focus is on "Done".
     required property Component content
-    property bool wanted: false
+    property bool requested: false
     property int placement: Sheet.Centered
     property real preferredWidth: 560
     property real preferredHeight: Math.max(0, height - 80)
@@ -72,7 +72,7 @@ FocusScope {
         motion.start();
     }
     function settle(): void {
-        if (root.wanted || !root.onScreen) {
+        if (root.requested || !root.onScreen) {
             return;
         }
         const before = root.focusedBefore;
@@ -93,7 +93,7 @@ FocusScope {
     enabled: false
     z: 50
 
-    onWantedChanged: wanted ? enter() : leave()
+    onRequestedChanged: requested ? enter() : leave()
     Keys.onEscapePressed: root.dismissed()
 
     NumberAnimation {

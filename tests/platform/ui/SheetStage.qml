@@ -64,7 +64,7 @@ Item {
             anchors.topMargin: 60
             onClicked: {
                 stage.presses += 1;
-                sheet.wanted = stage.opener;
+                sheet.requested = stage.opener;
             }
             onWheel: stage.wheels += 1
         }
@@ -74,7 +74,7 @@ Item {
 
         title: "Sources & coverage"
         preferredWidth: 640
-        onDismissed: wanted = false
+        onDismissed: requested = false
         content: Column {
             Component.onCompleted: first.focusText()
 

@@ -13,11 +13,11 @@ SheetStage {
             stage.reset();
         }
         function cleanup(): void {
-            stage.sheet.wanted = false;
+            stage.sheet.requested = false;
             tryVerify(() => !stage.sheet.onScreen);
         }
         function open(): void {
-            stage.sheet.wanted = true;
+            stage.sheet.requested = true;
             tryVerify(() => stage.sheet.shown === 1);
         }
 
@@ -25,14 +25,14 @@ SheetStage {
             compare(stage.named("First"), null);
             open();
             verify(stage.named("First") !== null);
-            stage.sheet.wanted = false;
+            stage.sheet.requested = false;
             verify(stage.named("First") !== null);
             tryVerify(() => !stage.sheet.onScreen);
             compare(stage.named("First"), null);
         }
         function test_it_says_that_it_has_closed_only_when_it_is_gone(): void {
             open();
-            stage.sheet.wanted = false;
+            stage.sheet.requested = false;
             compare(stage.closings.count, 0);
             verify(stage.sheet.onScreen);
             tryCompare(stage.closings, "count", 1);
@@ -65,7 +65,7 @@ SheetStage {
         function test_it_is_closed_by(data: var): void {
             open();
             data.close();
-            verify(!stage.sheet.wanted);
+            verify(!stage.sheet.requested);
             tryCompare(stage.closings, "count", 1);
             compare(stage.presses, 0);
         }
@@ -73,26 +73,26 @@ SheetStage {
             open();
             keyClick("g");
             keyClick(Qt.Key_Escape);
-            verify(stage.sheet.wanted);
+            verify(stage.sheet.requested);
             keyClick(Qt.Key_Escape);
-            verify(!stage.sheet.wanted);
+            verify(!stage.sheet.requested);
         }
         function test_a_click_on_it_does_not_close_it(): void {
             open();
             mouseClick(stage, 450, 400);
-            verify(stage.sheet.wanted);
+            verify(stage.sheet.requested);
         }
         function test_a_double_click_on_what_opens_it_leaves_it_open(): void {
             stage.opener = true;
             mouseDoubleClickSequence(stage, 20, 400);
             tryVerify(() => stage.sheet.shown === 1);
-            verify(stage.sheet.wanted);
+            verify(stage.sheet.requested);
         }
         function test_the_focus_moves_in_and_comes_back(): void {
             compare(stage.focusedName(), "Behind");
             open();
             compare(stage.focusedName(), "First");
-            stage.sheet.wanted = false;
+            stage.sheet.requested = false;
             tryVerify(() => !stage.sheet.onScreen);
             compare(stage.focusedName(), "Behind");
         }
@@ -125,9 +125,9 @@ SheetStage {
         }
         function test_wanted_again_while_it_leaves_it_comes_back_and_has_not_closed(): void {
             open();
-            stage.sheet.wanted = false;
+            stage.sheet.requested = false;
             wait(20);
-            stage.sheet.wanted = true;
+            stage.sheet.requested = true;
             tryVerify(() => stage.sheet.shown === 1);
             compare(stage.closings.count, 0);
             compare(stage.focusedName(), "First");

@@ -13,11 +13,11 @@ SheetStage {
             stage.reset();
         }
         function cleanup(): void {
-            stage.sheet.wanted = false;
+            stage.sheet.requested = false;
             tryVerify(() => !stage.sheet.onScreen);
         }
         function open(): void {
-            stage.sheet.wanted = true;
+            stage.sheet.requested = true;
             tryVerify(() => stage.sheet.shown === 1);
         }
 
@@ -76,7 +76,7 @@ SheetStage {
             compare(stage.frame().y, 40);
             data.shrink();
             tryVerify(() => stage.frame().height === 310);
-            verify(stage.sheet.wanted);
+            verify(stage.sheet.requested);
         }
         function test_a_short_drag_settles_where_it_began(): void {
             openAtBottom();
