@@ -10,10 +10,12 @@
 #include <unicode/normalizer2.h>
 #include <unicode/unistr.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 using namespace vasker;
@@ -59,11 +61,14 @@ void checkFolding(std::string_view text, const TextLocale& locale) {
 
 void checkOrder(const std::vector<std::string_view>& names, const TextLocale& locale) {
     const NameOrder order(locale);
-    for (std::size_t at = 1; at < names.size(); ++at) {
-        const std::string_view a = names[at - 1];
-        const std::string_view b = names[at];
-        require(order.precedes(a, b) == (order.sortKey(a) < order.sortKey(b)));
-        require(order.precedes(b, a) == (order.sortKey(b) < order.sortKey(a)));
+    std::string_view before;
+    std::string keyBefore = order.sortKey(before);
+    for (const std::string_view name : names) {
+        const std::string key = order.sortKey(name);
+        require(order.precedes(before, name) == (keyBefore < key));
+        require(order.precedes(name, before) == (key < keyBefore));
+        before = name;
+        keyBefore = key;
     }
 }
 
@@ -79,12 +84,17 @@ void checkIndex(std::string_view query,
     }
     const ReleaseIndex index(release, locale);
     require(index.kinds() == kinds(*release));
-    require(index.filtered(query, "all") == filtered(*release, query, "all", locale));
+    const std::vector<AssetIndex> found = filtered(*release, query, "all", locale);
+    require(index.filtered(query, "all") == found);
     const std::vector<std::size_t> counts = index.counts(index.matchingRanks(query));
     for (std::size_t kind = 0; kind < counts.size(); ++kind) {
-        const auto found = index.filtered(query, index.kinds()[kind]);
-        require(found.size() == counts[kind] || index.kinds()[kind] == "all");
+        const auto isOfKind = [&](AssetIndex each) {
+            return release->assets[each].kind == index.kinds()[kind];
+        };
+        require(std::cmp_equal(counts[kind], std::ranges::count_if(found, isOfKind)));
     }
+    const std::string& kind = index.kinds().back();
+    require(index.filtered(query, kind) == filtered(*release, query, kind, locale));
 }
 
 } // namespace
