@@ -11,8 +11,11 @@ SelectableText {
     property bool isTabStop: true
 
     function takeFocus(): void {
-        const holder = root.isLong ? pieces.item : root;
-        holder.forceActiveFocus(Qt.TabFocusReason);
+        if (root.isLong) {
+            (pieces.item as Item).forceActiveFocus(Qt.TabFocusReason);
+        } else {
+            root.forceActiveFocus(Qt.TabFocusReason);
+        }
     }
 
     height: root.isLong ? pieces.height : root.implicitHeight
@@ -20,16 +23,17 @@ SelectableText {
     Accessible.ignored: root.isLong || !root.visible
     text: root.isLong ? "" : root.content
 
+    // Not a bound component, as in WholeText.
     Loader {
         id: pieces
 
         active: root.isLong
         width: root.width
         sourceComponent: LongText {
-            textStyle: root.textStyle
-            color: root.color
-            text: root.content
-            Accessible.description: root.Accessible.description
+            textStyle: root.textStyle // qmllint disable
+            color: root.color // qmllint disable
+            text: root.content // qmllint disable
+            Accessible.description: root.Accessible.description // qmllint disable
         }
     }
 }

@@ -12,15 +12,16 @@ Label {
     wrapMode: Text.Wrap
     text: root.isLong ? "" : root.content
 
+    // Not a bound component: other types derive from this one, see HoverTip.
     Loader {
         id: pieces
 
         active: root.isLong
         width: root.width
         sourceComponent: LongLabel {
-            textStyle: root.textStyle
-            color: root.color
-            text: root.content
+            textStyle: root.textStyle // qmllint disable
+            color: root.color // qmllint disable
+            text: root.content // qmllint disable
         }
     }
 }

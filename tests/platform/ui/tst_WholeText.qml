@@ -14,58 +14,9 @@ TestCase {
     Component {
         id: maker
 
-        GroupedList {
-            id: list
-
-            property string shown
-            property alias note: note
-            property alias labelled: labelled
-            property alias selectable: selectable
-            property alias link: link
-
-            width: 400
-            height: 300
-
-            Section {
-                NoteRow {
-                    id: note
-
-                    text: list.shown
-                }
-                LabelledRow {
-                    id: labelled
-
-                    label: "Label"
-                    value: list.shown
-                }
-                SectionRow {
-                    SelectableWholeText {
-                        id: selectable
-
-                        width: parent.width
-                        content: list.shown
-                        keyTarget: list
-                    }
-                    LinkText {
-                        id: link
-
-                        width: Math.min(implicitWidth, parent.width)
-                        text: list.shown
-                        address: "https://data.example.ca/"
-                    }
-                }
-            }
-        }
+        WholeTextStage {}
     }
 
-    // Below `item`, whatever shows a part of a text.
-    function texts(item: Item): var {
-        let found = item.textFormat !== undefined && item.text.length > 0 ? [item] : [];
-        for (let i = 0; i < item.children.length; ++i) {
-            found = found.concat(texts(item.children[i]));
-        }
-        return found;
-    }
     function show(text: string): Item {
         const list = createTemporaryObject(maker, test, {
             "shown": text
@@ -73,19 +24,6 @@ TestCase {
         waitForRendering(list);
         return list;
     }
-    function longLabel(item: Item): Item {
-        if (item.shown !== undefined && item.rowAt !== undefined) {
-            return item;
-        }
-        for (let i = 0; i < item.children.length; ++i) {
-            const found = longLabel(item.children[i]);
-            if (found !== null) {
-                return found;
-            }
-        }
-        return null;
-    }
-
     function test_a_text_of_up_to_a_piece_is_one_text_data(): list<var> {
         return [
             {
@@ -112,9 +50,9 @@ TestCase {
     }
     function test_a_text_of_up_to_a_piece_is_one_text(data): void {
         const list = show(data.text);
-        verify(longLabel(list) === null);
-        texts(list.note).forEach(each => compare(each.text, data.text));
-        compare(texts(list.note).length, data.text.length > 0 ? 1 : 0);
+        verify(list.pieced(list) === null);
+        list.texts(list.note).forEach(each => compare(each.text, data.text));
+        compare(list.texts(list.note).length, data.text.length > 0 ? 1 : 0);
     }
     function test_a_longer_text_is_laid_out_in_pieces_data(): list<var> {
         return [
@@ -131,9 +69,9 @@ TestCase {
     function test_a_longer_text_is_laid_out_in_pieces(data): void {
         const list = show(data.text);
         for (const row of [list.note, list.labelled, list.selectable, list.link]) {
-            compare(longLabel(row).text, data.text);
+            compare(list.pieced(row).text, data.text);
         }
-        compare(longLabel(list.note).Accessible.name, data.text);
+        compare(list.pieced(list.note).Accessible.name, data.text);
     }
     function test_of_a_megabyte_only_what_is_in_view_is_laid_out(): void {
         const text = "A word, and another one. ".repeat(40000);
@@ -143,7 +81,7 @@ TestCase {
         for (const place of [0, 0.1, 0.3, 0.5, 0.9, 1]) {
             list.scrollTo(place * list.contentHeight);
             waitForRendering(list);
-            const shown = texts(list).reduce((sum, each) => sum + each.text.length, 0);
+            const shown = list.texts(list).reduce((sum, each) => sum + each.text.length, 0);
             verify(shown > 0 && shown < 10000, shown);
         }
     }
@@ -152,7 +90,7 @@ TestCase {
         const line = Theme.type.footnote.lineHeight;
         list.scrollTo(40 * line);
         waitForRendering(list);
-        const laidOut = texts(list.note);
+        const laidOut = list.texts(list.note);
         verify(laidOut.length > 1);
         laidOut.forEach(each => compare(each.height % line, 0));
         compare(laidOut[1].y - laidOut[0].y, 40 * line);
@@ -160,7 +98,7 @@ TestCase {
     function test_a_note_cannot_be_selected_however_long_it_is(): void {
         for (const length of [100, 10000]) {
             const list = show("x".repeat(length));
-            texts(list.note).forEach(each => verify(each.selectByKeyboard === undefined));
+            list.texts(list.note).forEach(each => verify(each.selectByKeyboard === undefined));
         }
     }
     function test_a_selectable_text_is_copied_whole_data(): list<var> {
@@ -184,14 +122,14 @@ TestCase {
     }
     function test_a_long_value_stands_below_its_label(): void {
         const list = show("x".repeat(10000));
-        const value = longLabel(list.labelled);
+        const value = list.pieced(list.labelled);
         compare(value.width, 400 - 40 - 28);
         verify(value.mapToItem(list.labelled, 0, 0).y >= Theme.type.body.lineHeight);
     }
     function test_a_long_link_is_as_wide_as_its_row(): void {
         const list = show("x ".repeat(10000));
         compare(list.link.width, 400 - 40 - 28);
-        verify(longLabel(list.link).width < list.link.width);
+        verify(list.pieced(list.link).width < list.link.width);
         verify(list.link.height > 1000);
     }
 }
