@@ -93,9 +93,10 @@ def is_painted_whole_on_a_screen_of_scale_2(executable):
 
 
 def stands_without_a_driver(executable):
+    """Newer versions of Mesa have the drivers in their library: there, none can be missing."""
     expect_a_map_and_a_record(
         executable,
-        by_opengl=False,
+        by_opengl=None if any(Path("/usr/lib").glob("*/libgallium-*")) else False,
         QSG_RHI_BACKEND="opengl",
         LIBGL_DRIVERS_PATH="/nonexistent",
         LIBGL_ALWAYS_SOFTWARE="1",

@@ -1,6 +1,8 @@
 """The workspace around the map: header bar, basemap, windows."""
 
+import shutil
 import subprocess
+import tempfile
 import time
 
 from bundle import RELEASE, program_with_release
@@ -159,12 +161,15 @@ def a_small_window_keeps_every_tool_in_reach(executable):
 
 
 def a_locale_from_right_to_left_mirrors_the_window(executable):
-    """With a locale that nobody has: the texts stay English."""
-    mirrored = {"LC_ALL": None, "LC_CTYPE": "C.UTF-8", "LC_MESSAGES": "ar_XA.UTF-8"}
+    """With a locale that nobody else has: the texts stay English."""
     order = ["open-map-layer", "open-map-options", "open-map-reset", "open-map-sources", "open-map-menu"]
-    for environment, expected in [({}, order), (mirrored, order[::-1])]:
-        with program_with_release(executable, RELEASE) as copy, Program(copy, **environment) as program:
-            program.see(name="2 of 2 records")
-            found = sorted(order, key=lambda id: program.see(id=id).box()[0])
-            if found != expected:
-                raise Missed(f"from left to right: {found}")
+    with tempfile.TemporaryDirectory() as locales:
+        for locale in ("C.utf8", "ar_XA.utf8"):
+            shutil.copytree("/usr/lib/locale/C.utf8", f"{locales}/{locale}")
+        mirrored = {"LC_ALL": None, "LC_CTYPE": "C.UTF-8", "LC_MESSAGES": "ar_XA.UTF-8", "LOCPATH": locales}
+        for environment, expected in [({}, order), (mirrored, order[::-1])]:
+            with program_with_release(executable, RELEASE) as copy, Program(copy, **environment) as program:
+                program.see(name="2 of 2 records")
+                found = sorted(order, key=lambda id: program.see(id=id).box()[0])
+                if found != expected:
+                    raise Missed(f"from left to right: {found}")
