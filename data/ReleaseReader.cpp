@@ -1,6 +1,7 @@
 #include "data/ReleaseReader.h"
 
 #include "data/Cancelled.h"
+#include "data/JsonError.h"
 #include "data/ReleaseFields.h"
 #include "data/ReleaseRules.h"
 
@@ -10,7 +11,6 @@
 #include <bitset>
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
@@ -133,24 +133,11 @@ class Place {
     std::size_t m_index = 0;
 };
 
-/// The JSON library's error.
-class LibraryError : public simdjson::simdjson_error {
-  public:
-    using simdjson_error::simdjson_error;
-
-    /// Without the name of the error, with which the texts of newer versions begin.
-    [[nodiscard]] const char* what() const noexcept override {
-        const char* const text = simdjson_error::what();
-        const char* const end = text + std::strspn(text, "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_");
-        return std::strncmp(end, ": ", 2) == 0 ? end + 2 : text;
-    }
-};
-
-/// It together with the place of the value.
-class LocatedError final : public LibraryError, public OpenMapRelease::Located {
+/// The JSON library's error together with the place of the value.
+class LocatedError final : public JsonError, public OpenMapRelease::Located {
   public:
     LocatedError(simdjson::error_code error, const Place& place)
-        : LibraryError(error), Located(place.text()) {}
+        : JsonError(simdjson::error_message(error)), Located(place.text()) {}
 };
 
 template <typename Type>
@@ -305,7 +292,7 @@ Record readTree(const std::string& paddedJson, Context& context) {
         if (error == simdjson::MEMALLOC) {
             throw std::bad_alloc();
         }
-        throw LibraryError(error);
+        throw JsonError(simdjson::error_message(error));
     }
     Record record;
     readInto(record, root, Place(context));
@@ -315,7 +302,7 @@ Record readTree(const std::string& paddedJson, Context& context) {
 template <typename Record>
 Record read(const std::string& paddedJson, Context& context) {
     if (paddedJson.starts_with("\xEF\xBB\xBF")) { // which newer versions of the library pass over
-        throw LibraryError(simdjson::TAPE_ERROR);
+        throw JsonError(simdjson::error_message(simdjson::TAPE_ERROR));
     }
     std::optional<Record> record = readStream<Record>(paddedJson, context);
     return record ? std::move(*record) : readTree<Record>(paddedJson, context);

@@ -92,9 +92,8 @@ TEST(ReleaseReader, ANumberBeyondTheRangeOfTheLibraryIsItsError) {
 }
 
 TEST(ReleaseReader, AByteOrderMarkIsNoJSON) {
-    EXPECT_EQ(releaseOutcome("\xEF\xBB\xBF" + encode(makeRelease())),
-              "The JSON document has an improper structure: missing or superfluous commas, braces, "
-              "missing keys, etc.");
+    EXPECT_TRUE(releaseOutcome("\xEF\xBB\xBF" + encode(makeRelease()))
+                    .starts_with("The JSON document has an improper structure: "));
 }
 
 TEST(ReleaseReader, APositionThatIsNoPairIsReadAsNoNumbers) {
@@ -349,6 +348,8 @@ std::string everythingOf(const std::string& json) {
 /// An unknown key makes the reader take another way.
 TEST(ReleaseReader, AnUnknownKeyDoesNotChangeWhatIsRead) {
     const std::string json = encode(makeRelease());
+    // Newer versions of the library end so, and may tell another error where more text follows.
+    const std::string_view fatal = "This is a fatal and unrecoverable error.";
     for (std::size_t at = 1; at + 1 < json.size(); ++at) {
         for (const std::string change : {"",
                                          " ",
@@ -370,7 +371,12 @@ TEST(ReleaseReader, AnUnknownKeyDoesNotChangeWhatIsRead) {
             std::string changed = json;
             changed.replace(at, 1, change);
             const std::string withKey = changed.substr(0, changed.size() - 1) + R"(,"~":0})";
-            ASSERT_EQ(everythingOf(changed), everythingOf(withKey)) << changed;
+            const std::string expected = everythingOf(changed);
+            const std::string found = everythingOf(withKey);
+            const bool isNoJSON = expected.ends_with(fatal) && !found.starts_with('{');
+            ASSERT_TRUE(expected == found || isNoJSON) << changed << '\n'
+                                                       << expected << '\n'
+                                                       << found;
         }
     }
 }
