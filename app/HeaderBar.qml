@@ -22,7 +22,7 @@ Rectangle {
     // The main menu, unless a sheet keeps it out of reach.
     function openMenu(): void {
         if (root.sheets.current === SheetStack.NoSheet) {
-            primary.menu.open();
+            primary.menu.show();
         }
     }
 

@@ -23,7 +23,7 @@ T.ComboBox {
     Keys.onPressed: event => {
         event.accepted = [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Down, Qt.Key_Up].includes(event.key);
         if (event.accepted && !event.isAutoRepeat) {
-            root.popup.open();
+            (root.popup as Menu).show();
         }
     }
 

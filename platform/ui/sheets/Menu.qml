@@ -24,6 +24,7 @@ T.Menu {
     property int firstRow: -1
     // From when it opens until it is to close.
     property bool shown: false
+    property bool again: false
 
     // The item at whose `place` it opens; null: at the anchor.
     property Item over: null
@@ -42,7 +43,12 @@ T.Menu {
     readonly property bool goesUp: corner.y + neededHeight > parent.height - 8 && (span === 0 || corner.y - gap - neededHeight >= 8)
 
     function toggle(): void {
-        root.shown ? root.close() : root.open();
+        root.shown ? root.close() : root.show();
+    }
+    // Unlike open(), also while it fades out; Qt 6.8 and newer do not interrupt that.
+    function show(): void {
+        root.open();
+        root.again = !root.shown;
     }
     // Keeps pointer and shortcuts from all that lies below, but not while it fades out.
     function block(): void {
@@ -54,7 +60,7 @@ T.Menu {
     function openAt(item: Item, place: point): void {
         root.over = item;
         root.place = place;
-        root.open();
+        root.show();
     }
 
     parent: anchor.Window.contentItem
@@ -86,7 +92,7 @@ T.Menu {
         afterThat.start();
         root.before?.forceActiveFocus(Qt.PopupFocusReason);
     }
-    onClosed: root.block()
+    onClosed: root.again ? root.show() : root.block()
 
     // Takes the pointer from what lies below.
     T.Overlay.modal: MouseArea {

@@ -14,7 +14,7 @@ ListView {
     function go(from: int, step: int): void {
         for (let turns = 0; turns < root.count; ++turns) {
             const row = (from + turns * step + root.count) % root.count;
-            if (root.itemAtIndex(row)?.visible ?? true) {
+            if ((root.itemAtIndex(row) ?? root.menu.itemAt(row))?.visible ?? true) {
                 root.currentIndex = row;
                 return;
             }

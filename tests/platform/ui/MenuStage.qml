@@ -44,6 +44,12 @@ Item {
         heading: title
 
         MenuRow {
+            label: "Nowhere"
+            visible: false
+            height: 0
+            onPicked: stage.picked = label
+        }
+        MenuRow {
             label: "Map"
             choice: true
             onPicked: stage.picked = label

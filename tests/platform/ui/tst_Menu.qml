@@ -28,6 +28,15 @@ MenuStage {
             verify(stage.menu.shown);
             compare(stage.current(), "Map");
         }
+        function test_it_opens_again_while_it_fades_out(): void {
+            keyClick(Qt.Key_Return);
+            keyClick(Qt.Key_Escape);
+            verify(stage.menu.visible);
+            verify(!stage.menu.shown);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => stage.menu.opened);
+            compare(stage.current(), "Map");
+        }
         function test_a_key_that_is_held_opens_it_and_picks_nothing_data(): var {
             return [Qt.Key_Return, Qt.Key_Enter, Qt.Key_Space].map(key => ({
                         key: key
