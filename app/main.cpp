@@ -37,8 +37,11 @@ bool startedByBus() {
 /// wrong.
 constexpr QLatin1String animationNoise("QUnifiedTimer::stopAnimationDriver: driver is not running");
 
+/// Where Qt 6.8 says so whenever a tool asks after a control that is gone by now.
+constexpr QLatin1String accessibilityNoise("qt.accessibility.atspi");
+
 void print(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (text != animationNoise) {
+    if (text != animationNoise && QLatin1String(context.category) != accessibilityNoise) {
         std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
     }
 }
