@@ -97,7 +97,7 @@ class TileProvider {
     void readImagery(TileKey key, ProvidedTile& found);
     [[nodiscard]] bool readReceivedVector(TileKey key, ProvidedTile& found);
     [[nodiscard]] std::optional<CreditedImagery>
-    imagery(TileKey key, TileArchive* archive, ProvidedTile& found);
+    imagery(TileKey key, TileArchive* archive, ProvidedTile& provided);
     [[nodiscard]] Attribution attributionOf(const ServiceTile& tile) const;
 
     TileSources m_sources;

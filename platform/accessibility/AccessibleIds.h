@@ -5,9 +5,9 @@
 // disabled.
 //
 // Qt's bridge to that bus does none of it, apart from identifiers since Qt 6.8, which it is given
-// here. This object takes the bridge's place there, answers what the bridge does not know, and hands
-// all else on to it. It relies on the names under which the bridge is found; where it is not found
-// so, everything stays as Qt has it.
+// here. This object takes the bridge's place there, answers what the bridge does not know, and
+// hands all else on to it. It relies on the names under which the bridge is found; where it is not
+// found so, everything stays as Qt has it.
 
 #include <QAccessible>
 #include <QDBusConnection>

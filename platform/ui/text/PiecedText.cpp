@@ -68,7 +68,7 @@ void PiecedText::setScroller(QQuickItem* flickable) {
 
 void PiecedText::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemSceneChange) {
-        QQuickItem* around = data.window == nullptr ? nullptr : parentItem();
+        QQuickItem* around = window() == nullptr ? nullptr : parentItem();
         while (around != nullptr && !around->inherits("QQuickFlickable")) {
             around = around->parentItem();
         }
