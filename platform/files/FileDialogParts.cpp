@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQmlProperty>
 #include <QQuickItem>
@@ -111,9 +112,7 @@ void keepFocus(const QQuickWindow& window, QQuickItem& field, const QQuickItem& 
     opening->start(openingTime);
 }
 
-} // namespace
-
-void completeFileDialog(const QQuickWindow& window, const QFont& font) {
+void completeIn(const QQuickWindow& window, const QFont& font) {
     const auto findNamed = [&window](const char* name) {
         return findPart(window.contentItem(), [name](const QQuickItem& item) {
             return item.objectName() == QLatin1String(name);
@@ -137,6 +136,19 @@ void completeFileDialog(const QQuickWindow& window, const QFont& font) {
         completeFolders(*bar);
     }
     keepFocus(window, *field, *files);
+}
+
+} // namespace
+
+void completeFileDialog(const QQuickWindow& window, const QFont& font) {
+    completeIn(window, font);
+    // From Qt 6.8 on it has a window of its own.
+    for (const QWindow* const each : QGuiApplication::topLevelWindows()) {
+        const auto* const dialog = qobject_cast<const QQuickWindow*>(each);
+        if (dialog != nullptr && dialog->transientParent() == &window) {
+            completeIn(*dialog, font);
+        }
+    }
 }
 
 } // namespace vasker
