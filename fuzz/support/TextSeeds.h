@@ -11,10 +11,18 @@ struct TextSeed {
     std::string_view text;
 };
 
-inline constexpr std::array<TextSeed, 16> textSeeds{{
+inline constexpr std::array<TextSeed, 17> textSeeds{{
     {"text", "0ion\nStation 9\nSTATION 10\nMontr\u00e9al"},
     {"text", "1\u0130\n\u0131I\u0130i\ni\u0307"},
     {"text", "2x\u0302\nx\u0302\u0323\u0345"},
+    // A run of marks so long that it is put in order by their classes at once.
+    {"text",
+     "0o"
+     "\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165"
+     "\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165"
+     "\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165"
+     "\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165"
+     "\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165\u0302\u0323\u0f73\U0001d165"},
     {"date-time", "2024-02-29T23:59:59Z"},
     {"date-time", "1900-12-31T00:00:00-05:30"},
     {"web-address", "https://example.ca:8443/a%20b?c=d#e"},
