@@ -9,27 +9,35 @@ SelectableText {
     required property string content
     readonly property bool isLong: TextLength.isLong(root.content)
     property bool isTabStop: true
+    property LongText pieces: null
 
     function takeFocus(): void {
         if (root.isLong) {
-            (pieces.item as Item).forceActiveFocus(Qt.TabFocusReason);
+            root.pieces.forceActiveFocus(Qt.TabFocusReason);
         } else {
             root.forceActiveFocus(Qt.TabFocusReason);
         }
     }
 
-    height: root.isLong ? pieces.height : root.implicitHeight
     activeFocusOnTab: root.isTabStop && !root.isLong
     Accessible.ignored: root.isLong || !root.visible
     text: root.isLong ? "" : root.content
+    // As in WholeText.
+    onIsLongChanged: {
+        if (root.isLong) {
+            root.pieces = maker.createObject(root) as LongText;
+            root.height = Qt.binding(() => root.pieces.height);
+        } else {
+            root.height = undefined;
+            root.pieces.destroy();
+        }
+    }
 
-    // Not a bound component, as in WholeText.
-    Loader {
-        id: pieces
+    Component {
+        id: maker
 
-        active: root.isLong
-        width: root.width
-        sourceComponent: LongText {
+        LongText {
+            width: root.width // qmllint disable
             textStyle: root.textStyle // qmllint disable
             color: root.color // qmllint disable
             text: root.content // qmllint disable

@@ -7,18 +7,27 @@ Label {
 
     required property string content
     readonly property bool isLong: TextLength.isLong(root.content)
+    property LongLabel pieces: null
 
-    height: root.isLong ? pieces.height : root.implicitHeight
     wrapMode: Text.Wrap
     text: root.isLong ? "" : root.content
+    // Few texts are long, and a sheet has many: no loader in each.
+    onIsLongChanged: {
+        if (root.isLong) {
+            root.pieces = maker.createObject(root) as LongLabel;
+            root.height = Qt.binding(() => root.pieces.height);
+        } else {
+            root.height = undefined;
+            root.pieces.destroy();
+        }
+    }
 
     // Not a bound component: other types derive from this one, see HoverTip.
-    Loader {
-        id: pieces
+    Component {
+        id: maker
 
-        active: root.isLong
-        width: root.width
-        sourceComponent: LongLabel {
+        LongLabel {
+            width: root.width // qmllint disable
             textStyle: root.textStyle // qmllint disable
             color: root.color // qmllint disable
             text: root.content // qmllint disable
