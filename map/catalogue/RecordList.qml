@@ -23,8 +23,8 @@ ListView {
     model: root.records
     clip: true
     reuseItems: true
-    // Screen readers count the rows that have been made: of a short list, let that be all.
-    cacheBuffer: AssistiveTools.present && count <= 100 ? 20000 : 320
+    // Screen readers count the rows that have been made: of a short list, let that be all. 0: not filled yet.
+    cacheBuffer: AssistiveTools.present && count > 0 && count <= 100 ? 20000 : 320
     boundsBehavior: Flickable.StopAtBounds
     pixelAligned: true
     T.ScrollBar.vertical: ScrollBar {}
